@@ -1,0 +1,87 @@
+#include "rex/Assert.h"
+
+#include <cstdio>
+#include <cstdlib>
+#include <exception>
+#include <iostream>
+#include <map>
+
+namespace Rex {
+
+namespace {
+
+struct FailureHooks {
+   std::map< int, std::function< void() > > hooks;
+   int next = 1;
+   bool running = false;
+   std::terminate_handler previousTerminate = nullptr;
+};
+
+FailureHooks & failureHooks() {
+   static auto * hooks = new FailureHooks; // outlives every static object that may fail in its destructor
+   return *hooks;
+}
+
+void runFailureHooks() {
+   auto & state = failureHooks();
+   if ( state.running ) {
+      return;
+   }
+   state.running = true;
+   for ( auto hook = state.hooks.rbegin(); hook != state.hooks.rend(); ++hook ) {
+      hook->second();
+   }
+}
+
+[[noreturn]] void terminateWithHooks() {
+   runFailureHooks();
+   if ( failureHooks().previousTerminate ) {
+      failureHooks().previousTerminate();
+   }
+   std::abort();
+}
+
+} // namespace
+
+void assertionFailed( char const * text, AssertionSite const & site ) {
+   std::cout.flush();
+   std::fprintf( stderr,
+                 "%s: %s:%u: %s: Assertion `%s' failed.\n",
+                 program_invocation_short_name,
+                 site.file,
+                 site.line,
+                 site.function,
+                 text );
+   runFailureHooks();
+   std::abort();
+}
+
+SassertHelper::~SassertHelper() {
+   std::string const message = message_.str();
+   std::fprintf( stderr, "%s\n", message.c_str() );
+   std::string const text = std::string( "\"" ) + text_ + "\" == nullptr";
+   assertionFailed( text.c_str(), site_ );
+}
+
+int atFailure( std::function< void() > hook ) {
+   auto & state = failureHooks();
+   if ( !state.previousTerminate ) {
+      state.previousTerminate = std::set_terminate( terminateWithHooks );
+   }
+   state.hooks.emplace( state.next, std::move( hook ) );
+   return state.next++;
+}
+
+void failureHookDel( int hook ) {
+   failureHooks().hooks.erase( hook );
+}
+
+void throwMutatorArgNullPointerException( char const * type, char const * attribute ) {
+   throw MutatorArgNullPointerException( std::string( "null argument to " ) + type + "::" + attribute );
+}
+
+void Impl::throwBadOptionalAccess() {
+   throw BadOptionalAccess( "bad optional access" );
+}
+
+} // namespace Rex
