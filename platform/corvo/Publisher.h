@@ -1,0 +1,120 @@
+// Publishers and subscribers: how a change of an attribute reaches those who follow it.
+//
+//    class Follower : public Corvo::Node {
+//       Corvo::Subscriber slot_;
+//       static void statusDispatch( Corvo::Publisher *, Corvo::Subscriber * slot, short attribute, void const * key,
+//                                   void const * value );
+//    };
+//    slot_.dispatchIs( statusDispatch, this );
+//    status->publisher()->subscriberAdd( slot_, false );
+//
+// Subscribers hear a change in the order in which they subscribed. A callback may do anything: remove itself or
+// others, add others (they hear the next change), destroy the publisher, publish again.
+//
+// Threading: the agent's scheduler thread.
+#pragma once
+
+#include "corvo/Node.h"
+
+namespace Corvo {
+
+class Publisher;
+
+// One slot of a follower. It is empty while unsubscribed and holds the dispatch function while subscribed.
+// Destroying it unsubscribes it.
+class Subscriber {
+ public:
+   // `key` names the entry of a keyed attribute and points to a value of the key's type; it is null for single
+   // attributes. `value` points to the new value, or is null where there is none.
+   using Dispatch = void ( * )( Publisher *, Subscriber *, short attribute, void const * key, void const * value );
+
+   Subscriber() = default;
+   Subscriber( Subscriber const & ) = delete;
+   Subscriber & operator=( Subscriber const & ) = delete;
+   ~Subscriber();
+
+   // Fills the slot. The owner is handed back by owner().
+   void dispatchIs( Dispatch dispatch, void * owner ) {
+      dispatch_ = dispatch;
+      owner_ = owner;
+   }
+   bool isEmpty() const { return publisher_ == nullptr; }
+
+   template< class Owner >
+   Owner * owner() const {
+      return static_cast< Owner * >( owner_ );
+   }
+
+ private:
+   friend class Publisher;
+   Publisher * publisher_ = nullptr;
+   Subscriber * next_ = nullptr;
+   Subscriber * previous_ = nullptr;
+   U64 serial_ = 0;
+   Dispatch dispatch_ = nullptr;
+   void * owner_ = nullptr;
+};
+
+// A change that is being announced. The innermost one is what a driver operation is the consequence of.
+struct Notification {
+   Publisher const * publisher; // null once it has been destroyed by a callback
+   short attribute;
+   void const * key;
+   Notification const * outer; // the announcement during which this one began, or null
+};
+
+class Publisher {
+ public:
+   explicit Publisher( Node const & node ) : node_( &node ) {}
+   Publisher( Publisher const & ) = delete;
+   Publisher & operator=( Publisher const & ) = delete;
+   ~Publisher();
+
+   // The node whose changes are announced here.
+   Node const & node() const { return *node_; }
+
+   // Appends a filled slot. A slot that is subscribed already, here or elsewhere: assertion text "isEmpty".
+   // With `replay` its dispatch function is called once for each attribute of the node's type, with a null key, until
+   // it unsubscribes; the publisher and the slot must outlive the call.
+   void subscriberAdd( Subscriber & subscriber, bool replay );
+   // Takes a slot out and empties it; nothing happens if it is not subscribed here.
+   void subscriberDel( Subscriber & subscriber );
+   bool hasSubscribers() const { return first_ != nullptr; }
+
+   void publish( short attribute, void const * key = nullptr, void const * value = nullptr ) {
+      if ( first_ ) {
+         announce( attribute, key, value );
+      }
+   }
+
+   // The innermost announcement under way, or null.
+   static Notification const * current();
+
+   // True while the database carries out another agent's write, and false again in what that write sets off here:
+   // only such a write may change a write-protected node.
+   static bool foreignWrite() { return foreignWrite_; }
+   class ForeignWrite {
+    public:
+      ForeignWrite() : before_( foreignWrite_ ) { foreignWrite_ = true; }
+      ForeignWrite( ForeignWrite const & ) = delete;
+      ForeignWrite & operator=( ForeignWrite const & ) = delete;
+      ~ForeignWrite() { foreignWrite_ = before_; }
+
+    private:
+      bool before_;
+   };
+
+ private:
+   struct Cursor;
+   void announce( short attribute, void const * key, void const * value );
+   void unlink( Subscriber & subscriber );
+
+   Node const * node_;
+   Subscriber * first_ = nullptr;
+   Subscriber * last_ = nullptr;
+   U64 serial_ = 0;
+   static Cursor * top_;
+   static bool foreignWrite_;
+};
+
+} // namespace Corvo

@@ -1,0 +1,158 @@
+#include "rex/Entity.h"
+
+namespace Rex {
+
+namespace {
+
+// The name in `names` that differs least from `wanted`, for a message; empty if none is near.
+std::string nearest( std::string const & wanted, std::vector< Attribute const * > const & among ) {
+   std::string best;
+   std::size_t bestDistance = wanted.size() / 3 + 1;
+   for ( auto const * attribute : among ) {
+      std::string const candidate = attribute->name;
+      std::vector< std::size_t > row( candidate.size() + 1 );
+      for ( std::size_t j = 0; j <= candidate.size(); ++j ) {
+         row[j] = j;
+      }
+      for ( std::size_t i = 1; i <= wanted.size(); ++i ) {
+         std::size_t diagonal = row[0];
+         row[0] = i;
+         for ( std::size_t j = 1; j <= candidate.size(); ++j ) {
+            std::size_t const above = row[j];
+            std::size_t const changed = diagonal + ( wanted[i - 1] == candidate[j - 1] ? 0 : 1 );
+            row[j] = std::min( { above + 1, row[j - 1] + 1, changed } );
+            diagonal = above;
+         }
+      }
+      if ( row.back() < bestDistance ) {
+         bestDistance = row.back();
+         best = candidate;
+      }
+   }
+   return best;
+}
+
+} // namespace
+
+Entity::~Entity() = default;
+
+TypeData const & Entity::rexType() {
+   static TypeData const type{ "Rex::Entity", nullptr };
+   return type;
+}
+
+void Entity::parentIs( Entity * parent ) {
+   if ( parent_ != parent ) {
+      parent_ = parent;
+      if ( parent && parent->isWriteProtected() != isWriteProtected() ) {
+         writeProtectedIs( parent->isWriteProtected() );
+      }
+      handleParent();
+   }
+}
+
+void Entity::writeProtectedIs( bool writeProtected ) {
+   nodeFlagSet( Corvo::NodeFlag::writeProtected, writeProtected );
+   for ( auto const * attribute : typeData().attributes() ) {
+      attribute->forEachChild( *this, [=]( Entity & child ) { child.writeProtectedIs( writeProtected ); } );
+   }
+}
+
+void Entity::writeRefused() const {
+   SassertHelper( "writable" ) << typeData().name() << " " << name() << " is mounted for reading";
+   __builtin_unreachable();
+}
+
+Value Entity::value() const {
+   Value::Object object;
+   for ( auto const * attribute : typeData().attributes() ) {
+      object.emplace( attribute->name, attribute->value( *this ) );
+   }
+   return object;
+}
+
+void Attribute::entryIs( Entity &, std::string const &, Value const & ) const {
+   throw ValueError( "", std::string( name ) + " has no entries: leave the key out" );
+}
+
+bool Attribute::entryDel( Entity &, std::string const & ) const {
+   throw ValueError( "", std::string( name ) + " has no entries: leave the key out" );
+}
+
+Corvo::Ptr< Entity > Attribute::child( Entity const &, std::string const & ) const {
+   return nullptr;
+}
+
+void Attribute::forEachChild( Entity const &, std::function< void( Entity & ) > const & ) const {}
+
+std::string Attribute::keyText( void const * ) const {
+   return {};
+}
+
+std::vector< Attribute const * > TypeData::attributes() const {
+   auto all = base_ ? base_->attributes() : std::vector< Attribute const * >{};
+   for ( auto const & attribute : own_ ) {
+      all.push_back( attribute.get() );
+   }
+   return all;
+}
+
+Attribute const * TypeData::attribute( std::string_view name ) const {
+   for ( auto const & attribute : own_ ) {
+      if ( attribute->name == name ) {
+         return attribute.get();
+      }
+   }
+   return base_ ? base_->attribute( name ) : nullptr;
+}
+
+Attribute const * TypeData::attribute( short id ) const {
+   for ( auto const & attribute : own_ ) {
+      if ( attribute->id == id ) {
+         return attribute.get();
+      }
+   }
+   return base_ ? base_->attribute( id ) : nullptr;
+}
+
+Attribute const & attributeOf( TypeData const & type, std::string const & name ) {
+   if ( auto const * attribute = type.attribute( name ) ) {
+      return *attribute;
+   }
+   auto const near = nearest( name, type.attributes() );
+   throw ValueError( "",
+                     type.name() + " has no attribute \"" + name + "\"" +
+                        ( near.empty() ? "" : "; did you mean \"" + near + "\"?" ) );
+}
+
+Value::Object const & Impl::objectOf( Value const & value ) {
+   if ( auto const * object = value.object() ) {
+      return *object;
+   }
+   throwWrongKind( "an object", value );
+}
+
+void Entity::attributesIs( Value const & value ) {
+   for ( auto const & [name, part] : Impl::objectOf( value ) ) {
+      try {
+         attributeOf( typeData(), name ).valueIs( *this, part );
+      } catch ( ValueError const & error ) {
+         throw error.below( name );
+      }
+   }
+}
+
+std::string stepTo( Entity const & parent, Entity const & child ) {
+   for ( auto const * attribute : parent.typeData().attributes() ) {
+      if ( attribute->kind == Attribute::Kind::entity && attribute->child( parent, "" ).get() == &child ) {
+         return attribute->name;
+      }
+      if ( attribute->kind == Attribute::Kind::collection && attribute->elementType() == &child.typeData() &&
+           attribute->child( parent, child.name() ).get() == &child ) {
+         return std::string( attribute->name ) + "/" + child.name();
+      }
+   }
+   return {};
+}
+
+} // namespace Rex

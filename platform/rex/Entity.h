@@ -1,0 +1,344 @@
+// Entities: nodes with attributes that announce their changes. One line declares an attribute; getter, setter,
+// change notification, JSON form and text form follow from it.
+//
+//    namespace Evpn {
+//    class EvpnStatus : public Rex::Entity {
+//       REX_ENTITY( EvpnStatus, Rex::Entity );
+//       REX_ATTRIBUTE( bool, vxlanEnabled, 0x102, false );
+//       REX_ATTRIBUTE( bool, evpnDciEnabled, 0x106, false );
+//    };
+//    }
+//    REX_DEFINE( Evpn::EvpnStatus, "Evpn::EvpnStatus" );      // in one source file
+//
+//    status->evpnDciEnabledIs( true );                         // announces 0x106, if it was false
+//
+// The lines, and what each declares:
+//
+//    REX_KEY( name )                          name() const: the key of an entity of a collection, whose base is
+//                                             Rex::KeyedEntity< Key >. Not an attribute: it never changes.
+//    REX_ATTRIBUTE( Type, name, id, default ) name() const, nameIs( value )
+//    REX_ENTITY_ATTRIBUTE( Type, name, id )   the same with a Corvo::Ptr< Type >, null at first
+//    REX_MAP( Key, Type, name, id )           an ordered map of values: name() const, name( key ) const (the value, or
+//    a
+//                                             default one), nameHas( key ), nameIs( key, value ), nameDel( key )
+//    REX_COLLECTION( Type, name, id )         entities by their key, in the order of insertion: name() const for
+//                                             walking, name( key ) const (null if absent), nameHas( key ),
+//                                             nameIs( entity ) (replaces), nameDel( key ) (returns what was removed)
+//    REX_ORDERED_COLLECTION( Type, name, id ) the same, walked in the order of the keys
+//
+// Setting an attribute to the value it has announces nothing. A change of an entry of a map or collection is announced
+// with a pointer to its key. A null entity given to a collection throws the null-argument exception.
+//
+// Threading: the agent's scheduler thread.
+#pragma once
+
+#include "corvo/Ptr.h"
+#include "corvo/Publisher.h"
+#include "rex/HashMap2018.h"
+#include "rex/Type.h"
+
+#include <map>
+#include <optional>
+#include <utility>
+
+namespace Rex {
+
+class Entity : public Corvo::Node {
+ public:
+   ~Entity() override;
+   Corvo::Publisher * publisher() const override { return &publisher_; }
+   TypeData const & typeData() const override { return rexType(); }
+   static TypeData const & rexType();
+
+   // The entity below which this one hangs, or null. It is not kept alive by it.
+   Entity * parent() const { return parent_; }
+   void parentIs( Entity * parent );
+   // Called when the parent has changed.
+   virtual void handleParent() {}
+   // Its name among its siblings: the text of its key, empty without one.
+   virtual Corvo::String name() const { return {}; }
+
+   // All attributes, by name, as a value of kind object.
+   virtual Value value() const;
+   // Sets the attributes that `value`, an object, names. Throws ValueError for an unknown attribute or a wrong value;
+   // the attributes before it are set then.
+   virtual void attributesIs( Value const & value );
+
+   // Visits the entities directly below this one.
+   virtual void forEachChild( std::function< void( Entity & ) > const & visit ) const;
+
+   // Marks this entity, and all below it, now and later, as mounted for reading: a write that isn't another agent's
+   // ends the process by assertion.
+   void writeProtectedIs( bool writeProtected );
+
+ protected:
+   Entity() : publisher_( *this ) {}
+
+   void writeCheck() const {
+      if ( isWriteProtected() && !Corvo::Publisher::foreignWrite() ) [[unlikely]] {
+         writeRefused();
+      }
+   }
+   template< class T >
+   void assign( T & attribute, T const & value, short id ) {
+      if ( !( attribute == value ) ) {
+         writeCheck();
+         attribute = value;
+         publisher_.publish( id, nullptr, &attribute );
+      }
+   }
+
+ private:
+   template< class, template< class, class > class >
+   friend class CollectionAttribute;
+   [[noreturn]] void writeRefused() const;
+
+   mutable Corvo::Publisher publisher_;
+   Entity * parent_ = nullptr;
+};
+
+// An entity that stands in a collection under a key, which it is made with.
+template< class Key >
+class KeyedEntity : public Entity {
+ public:
+   using RexKey = Key;
+   explicit KeyedEntity( Key const & key ) : key_( key ) {}
+   Key const & rexKey() const { return key_; }
+   Corvo::String name() const override { return Codec< Key >::toKey( key_ ); }
+
+ private:
+   Key const key_;
+};
+
+// The step from a parent to one of its children, as paths have it: `<attribute>/<key>` for an entity of a collection,
+// `<attribute>` for one that an attribute holds; empty if it holds no such child.
+std::string stepTo( Entity const & parent, Entity const & child );
+
+// A map attribute's contents.
+template< class Key, class Type >
+class MapAttribute {
+ public:
+   std::map< Key, Type > const & all() const { return map_; }
+   bool has( Key const & key ) const { return map_.contains( key ); }
+   Type get( Key const & key ) const {
+      auto const found = map_.find( key );
+      return found == map_.end() ? Type{} : found->second;
+   }
+   void set( Corvo::Publisher & publisher, short id, Key const & key, Type const & value ) {
+      auto const [at, isNew] = map_.try_emplace( key, value );
+      if ( !isNew ) {
+         if ( at->second == value ) {
+            return;
+         }
+         at->second = value;
+      }
+      Key const copy = key;
+      publisher.publish( id, &copy, &at->second );
+   }
+   bool del( Corvo::Publisher & publisher, short id, Key const & key ) {
+      Key const copy = key;
+      if ( map_.erase( copy ) == 0 ) {
+         return false;
+      }
+      publisher.publish( id, &copy, nullptr );
+      return true;
+   }
+
+ private:
+   std::map< Key, Type > map_;
+};
+
+// An ordered map with the operations of HashMap2018 that a collection needs.
+template< class Key, class Type >
+class OrderedMap {
+ public:
+   auto begin() const { return map_.begin(); }
+   auto end() const { return map_.end(); }
+   std::size_t size() const { return map_.size(); }
+   bool empty() const { return map_.empty(); }
+   bool has( Key const & key ) const { return map_.contains( key ); }
+   Type get( Key const & key ) const {
+      auto const found = map_.find( key );
+      return found == map_.end() ? Type{} : found->second;
+   }
+   void set( Key const & key, Type value ) { map_[key] = std::move( value ); }
+   Type del( Key const & key ) {
+      auto node = map_.extract( key );
+      return node ? std::move( node.mapped() ) : Type{};
+   }
+
+ private:
+   std::map< Key, Type > map_;
+};
+
+// A collection attribute's contents: entities by key, hanging below their owner.
+template< class Type, template< class, class > class Container >
+class CollectionAttribute {
+ public:
+   using Key = typename Type::RexKey;
+   using Entities = Container< Key, Corvo::Ptr< Type > >;
+
+   ~CollectionAttribute() {
+      for ( auto const & [key, entity] : entities_ ) {
+         entity->parentIs( nullptr );
+      }
+   }
+   Entities const & all() const { return entities_; }
+   void set( Entity & owner, short id, Corvo::Ptr< Type > const & entity, char const * name ) {
+      if ( !entity ) {
+         throwMutatorArgNullPointerException( owner.typeData().name().c_str(), name );
+      }
+      Key const key = entity->rexKey();
+      owner.writeCheck();
+      auto const old = entities_.get( key );
+      if ( old == entity ) {
+         return;
+      }
+      if ( old ) {
+         old->parentIs( nullptr );
+      }
+      entity->parentIs( &owner );
+      entities_.set( key, entity );
+      owner.publisher()->publish( id, &key, entity.get() );
+   }
+   Corvo::Ptr< Type > del( Entity & owner, short id, Key const & key ) {
+      Key const copy = key;
+      owner.writeCheck();
+      Corvo::Ptr< Type > const old = entities_.del( copy );
+      if ( old ) {
+         old->parentIs( nullptr );
+         owner.publisher()->publish( id, &copy, nullptr );
+      }
+      return old;
+   }
+
+ private:
+   Entities entities_;
+};
+
+} // namespace Rex
+
+#include "rex/EntityAttributes.h"
+
+#define REX_ENTITY( Class, Base )                                                                                      \
+ public:                                                                                                               \
+   using RexSelf = Class;                                                                                              \
+   using RexBase = Base;                                                                                               \
+   using RexBase::RexBase;                                                                                             \
+   static constexpr int rexFirstLine = __LINE__;                                                                       \
+   static ::Rex::TypeData const & rexType();                                                                           \
+   ::Rex::TypeData const & typeData() const override {                                                                 \
+      return rexType();                                                                                                \
+   }                                                                                                                   \
+   static_assert( true )
+
+#define REX_KEY( keyName )                                                                                             \
+ public:                                                                                                               \
+   RexKey const & keyName() const {                                                                                    \
+      return rexKey();                                                                                                 \
+   }                                                                                                                   \
+   static_assert( true )
+
+#define REX_ATTRIBUTE( Type, attr, id, ... )                                                                           \
+ public:                                                                                                               \
+   Type const & attr() const {                                                                                         \
+      return attr##_;                                                                                                  \
+   }                                                                                                                   \
+   void attr##Is( Type const & value ) {                                                                               \
+      assign( attr##_, value, id );                                                                                    \
+   }                                                                                                                   \
+   static void rexDeclare( ::Rex::Impl::Line< __LINE__ >, ::Rex::TypeData & type ) {                                   \
+      type.attributeAdd( ::Rex::Impl::scalar< RexSelf, Type, &RexSelf::attr, &RexSelf::attr##Is >( id, #attr ) );      \
+   }                                                                                                                   \
+                                                                                                                       \
+ private:                                                                                                              \
+   Type attr##_{ __VA_ARGS__ };                                                                                        \
+   static_assert( true )
+
+#define REX_ENTITY_ATTRIBUTE( Type, attr, id )                                                                         \
+ public:                                                                                                               \
+   ::Corvo::Ptr< Type > const & attr() const {                                                                         \
+      return attr##_;                                                                                                  \
+   }                                                                                                                   \
+   void attr##Is( ::Corvo::Ptr< Type > const & value ) {                                                               \
+      if ( attr##_ && attr##_ != value ) {                                                                             \
+         attr##_->parentIs( nullptr );                                                                                 \
+      }                                                                                                                \
+      if ( value ) {                                                                                                   \
+         value->parentIs( this );                                                                                      \
+      }                                                                                                                \
+      assign( attr##_, value, id );                                                                                    \
+   }                                                                                                                   \
+   static void rexDeclare( ::Rex::Impl::Line< __LINE__ >, ::Rex::TypeData & type ) {                                   \
+      type.attributeAdd( ::Rex::Impl::entity< RexSelf, Type, &RexSelf::attr, &RexSelf::attr##Is >( id, #attr ) );      \
+   }                                                                                                                   \
+                                                                                                                       \
+ private:                                                                                                              \
+   ::Corvo::Ptr< Type > attr##_;                                                                                       \
+   static_assert( true )
+
+#define REX_MAP( Key, Type, attr, id )                                                                                 \
+ public:                                                                                                               \
+   std::map< Key, Type > const & attr() const {                                                                        \
+      return attr##_.all();                                                                                            \
+   }                                                                                                                   \
+   Type attr( Key const & key ) const {                                                                                \
+      return attr##_.get( key );                                                                                       \
+   }                                                                                                                   \
+   bool attr##Has( Key const & key ) const {                                                                           \
+      return attr##_.has( key );                                                                                       \
+   }                                                                                                                   \
+   void attr##Is( Key const & key, Type const & value ) {                                                              \
+      writeCheck();                                                                                                    \
+      attr##_.set( *publisher(), id, key, value );                                                                     \
+   }                                                                                                                   \
+   bool attr##Del( Key const & key ) {                                                                                 \
+      writeCheck();                                                                                                    \
+      return attr##_.del( *publisher(), id, key );                                                                     \
+   }                                                                                                                   \
+   static void rexDeclare( ::Rex::Impl::Line< __LINE__ >, ::Rex::TypeData & type ) {                                   \
+      type.attributeAdd(                                                                                               \
+         ::Rex::Impl::map< RexSelf, Key, Type, &RexSelf::attr##_, &RexSelf::attr##Is, &RexSelf::attr##Del >(           \
+            id, #attr ) );                                                                                             \
+   }                                                                                                                   \
+                                                                                                                       \
+ private:                                                                                                              \
+   ::Rex::MapAttribute< Key, Type > attr##_;                                                                           \
+   static_assert( true )
+
+#define REX_COLLECTION_OF( Container, Type, attr, id )                                                                 \
+ public:                                                                                                               \
+   ::Rex::CollectionAttribute< Type, Container >::Entities const & attr() const {                                      \
+      return attr##_.all();                                                                                            \
+   }                                                                                                                   \
+   ::Corvo::Ptr< Type > attr( Type::RexKey const & key ) const {                                                       \
+      return attr##_.all().get( key );                                                                                 \
+   }                                                                                                                   \
+   bool attr##Has( Type::RexKey const & key ) const {                                                                  \
+      return attr##_.all().has( key );                                                                                 \
+   }                                                                                                                   \
+   void attr##Is( ::Corvo::Ptr< Type > const & entity ) {                                                              \
+      attr##_.set( *this, id, entity, #attr );                                                                         \
+   }                                                                                                                   \
+   ::Corvo::Ptr< Type > attr##Del( Type::RexKey const & key ) {                                                        \
+      return attr##_.del( *this, id, key );                                                                            \
+   }                                                                                                                   \
+   static void rexDeclare( ::Rex::Impl::Line< __LINE__ >, ::Rex::TypeData & type ) {                                   \
+      type.attributeAdd(                                                                                               \
+         ::Rex::Impl::collection< RexSelf, Type, &RexSelf::attr##_, &RexSelf::attr##Is, &RexSelf::attr##Del >(         \
+            id, #attr ) );                                                                                             \
+   }                                                                                                                   \
+                                                                                                                       \
+ private:                                                                                                              \
+   ::Rex::CollectionAttribute< Type, Container > attr##_;                                                              \
+   static_assert( true )
+
+#define REX_COLLECTION( Type, attr, id ) REX_COLLECTION_OF( ::Rex::HashMap2018, Type, attr, id )
+#define REX_ORDERED_COLLECTION( Type, attr, id ) REX_COLLECTION_OF( ::Rex::OrderedMap, Type, attr, id )
+
+#define REX_DEFINE( Class, typeName )                                                                                  \
+   ::Rex::TypeData const & Class::rexType() {                                                                          \
+      static ::Rex::TypeData const & type = ::Rex::Impl::declaredType< Class >( typeName );                            \
+      return type;                                                                                                     \
+   }                                                                                                                   \
+   static_assert( true )

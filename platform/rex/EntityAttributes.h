@@ -1,0 +1,200 @@
+// The attributes of rex/Entity.h as data. Included by it alone.
+#pragma once
+
+namespace Rex {
+
+// The attribute of this name. Throws ValueError, with a name that is near, if the type has none.
+Attribute const & attributeOf( TypeData const & type, std::string const & name );
+
+namespace Impl {
+
+template< int Number >
+struct Line {};
+
+template< class T >
+Corvo::Ptr< T > entityFromValue( std::string const & key, Value const & value ) {
+   Corvo::Ptr< T > entity;
+   if constexpr ( requires { typename T::RexKey; } ) {
+      entity = Corvo::makePtr< T >( Codec< typename T::RexKey >::fromKey( key ) );
+   } else {
+      entity = Corvo::makePtr< T >();
+   }
+   entity->attributesIs( value );
+   return entity;
+}
+
+template< class Self, class Type, auto Get, auto Set >
+class ScalarAttribute : public Attribute {
+ public:
+   ScalarAttribute( short number, char const * text ) : Attribute( number, Kind::scalar, text ) {}
+   Value value( Entity const & of ) const override {
+      return Codec< Type >::toValue( ( static_cast< Self const & >( of ).*Get )() );
+   }
+   void valueIs( Entity & of, Value const & value ) const override {
+      ( static_cast< Self & >( of ).*Set )( Codec< Type >::fromValue( value ) );
+   }
+};
+
+template< class Self, class Type, auto Get, auto Set >
+class EntityAttribute : public Attribute {
+ public:
+   EntityAttribute( short number, char const * text ) : Attribute( number, Kind::entity, text ) {}
+   TypeData const * elementType() const override { return &Type::rexType(); }
+   Value value( Entity const & of ) const override {
+      auto const & entity = ( static_cast< Self const & >( of ).*Get )();
+      return entity ? entity->value() : Value();
+   }
+   void valueIs( Entity & of, Value const & value ) const override {
+      ( static_cast< Self & >( of ).*Set )( value.isNull() ? nullptr : entityFromValue< Type >( "", value ) );
+   }
+   Corvo::Ptr< Entity > child( Entity const & of, std::string const & ) const override {
+      return ( static_cast< Self const & >( of ).*Get )();
+   }
+   void forEachChild( Entity const & of, std::function< void( Entity & ) > const & visit ) const override {
+      if ( auto const & entity = ( static_cast< Self const & >( of ).*Get )() ) {
+         visit( *entity );
+      }
+   }
+};
+
+Value::Object const & objectOf( Value const & value );
+
+template< class Self, class Key, class Type, auto Member, auto Set, auto Del >
+class MapAttributeData : public Attribute {
+ public:
+   MapAttributeData( short number, char const * text ) : Attribute( number, Kind::map, text ) {}
+   Value value( Entity const & of ) const override {
+      Value::Object object;
+      for ( auto const & [key, entry] : ( static_cast< Self const & >( of ).*Member ).all() ) {
+         object.emplace( Codec< Key >::toKey( key ), Codec< Type >::toValue( entry ) );
+      }
+      return object;
+   }
+   void valueIs( Entity & of, Value const & value ) const override {
+      std::map< Key, Type > wanted;
+      for ( auto const & [key, entry] : objectOf( value ) ) {
+         try {
+            wanted.emplace( Codec< Key >::fromKey( key ), Codec< Type >::fromValue( entry ) );
+         } catch ( ValueError const & error ) {
+            throw error.below( key );
+         }
+      }
+      auto & self = static_cast< Self & >( of );
+      auto const present = ( self.*Member ).all();
+      for ( auto const & [key, entry] : present ) {
+         if ( !wanted.contains( key ) ) {
+            ( self.*Del )( key );
+         }
+      }
+      for ( auto const & [key, entry] : wanted ) {
+         ( self.*Set )( key, entry );
+      }
+   }
+   void entryIs( Entity & of, std::string const & key, Value const & value ) const override {
+      ( static_cast< Self & >( of ).*Set )( Codec< Key >::fromKey( key ), Codec< Type >::fromValue( value ) );
+   }
+   bool entryDel( Entity & of, std::string const & key ) const override {
+      return ( static_cast< Self & >( of ).*Del )( Codec< Key >::fromKey( key ) );
+   }
+   std::string keyText( void const * key ) const override {
+      return Codec< Key >::toKey( *static_cast< Key const * >( key ) );
+   }
+};
+
+template< class Self, class Type, auto Member, auto Set, auto Del >
+class CollectionAttributeData : public Attribute {
+   using Key = typename Type::RexKey;
+
+ public:
+   CollectionAttributeData( short number, char const * text ) : Attribute( number, Kind::collection, text ) {}
+   TypeData const * elementType() const override { return &Type::rexType(); }
+   Value value( Entity const & of ) const override {
+      Value::Object object;
+      for ( auto const & [key, entity] : ( static_cast< Self const & >( of ).*Member ).all() ) {
+         object.emplace( Codec< Key >::toKey( key ), entity->value() );
+      }
+      return object;
+   }
+   void valueIs( Entity & of, Value const & value ) const override {
+      std::map< std::string, Corvo::Ptr< Type > > wanted;
+      for ( auto const & [key, entry] : objectOf( value ) ) {
+         try {
+            wanted.emplace( key, entityFromValue< Type >( key, entry ) );
+         } catch ( ValueError const & error ) {
+            throw error.below( key );
+         }
+      }
+      auto & self = static_cast< Self & >( of );
+      std::vector< Key > gone;
+      for ( auto const & [key, entity] : ( self.*Member ).all() ) {
+         if ( !wanted.contains( Codec< Key >::toKey( key ) ) ) {
+            gone.push_back( key );
+         }
+      }
+      for ( auto const & key : gone ) {
+         ( self.*Del )( key );
+      }
+      for ( auto const & [key, entity] : wanted ) {
+         ( self.*Set )( entity );
+      }
+   }
+   void entryIs( Entity & of, std::string const & key, Value const & value ) const override {
+      ( static_cast< Self & >( of ).*Set )( entityFromValue< Type >( key, value ) );
+   }
+   bool entryDel( Entity & of, std::string const & key ) const override {
+      return ( static_cast< Self & >( of ).*Del )( Codec< Key >::fromKey( key ) ) != nullptr;
+   }
+   Corvo::Ptr< Entity > child( Entity const & of, std::string const & key ) const override {
+      return ( static_cast< Self const & >( of ).*Member ).all().get( Codec< Key >::fromKey( key ) );
+   }
+   void forEachChild( Entity const & of, std::function< void( Entity & ) > const & visit ) const override {
+      for ( auto const & [key, entity] : ( static_cast< Self const & >( of ).*Member ).all() ) {
+         visit( *entity );
+      }
+   }
+   std::string keyText( void const * key ) const override {
+      return Codec< Key >::toKey( *static_cast< Key const * >( key ) );
+   }
+};
+
+template< class Self, class Type, auto Get, auto Set >
+std::unique_ptr< Attribute > scalar( short id, char const * name ) {
+   return std::make_unique< ScalarAttribute< Self, Type, Get, Set > >( id, name );
+}
+template< class Self, class Type, auto Get, auto Set >
+std::unique_ptr< Attribute > entity( short id, char const * name ) {
+   return std::make_unique< EntityAttribute< Self, Type, Get, Set > >( id, name );
+}
+template< class Self, class Key, class Type, auto Member, auto Set, auto Del >
+std::unique_ptr< Attribute > map( short id, char const * name ) {
+   return std::make_unique< MapAttributeData< Self, Key, Type, Member, Set, Del > >( id, name );
+}
+template< class Self, class Type, auto Member, auto Set, auto Del >
+std::unique_ptr< Attribute > collection( short id, char const * name ) {
+   return std::make_unique< CollectionAttributeData< Self, Type, Member, Set, Del > >( id, name );
+}
+
+// A type's declaration fits on a page: its attributes are told apart by their lines, which are tried in turn.
+constexpr int linesOfAPage = 64;
+
+template< class T, int Number >
+void declareLine( TypeData & type ) {
+   if constexpr ( requires { T::rexDeclare( Line< Number >{}, type ); } ) {
+      T::rexDeclare( Line< Number >{}, type );
+   }
+}
+
+template< class T, int... Lines >
+void declareLines( TypeData & type, std::integer_sequence< int, Lines... > ) {
+   ( declareLine< T, T::rexFirstLine + Lines >( type ), ... );
+}
+
+template< class T >
+TypeData const & declaredType( char const * name ) {
+   auto * type = new TypeData( name, &T::RexBase::rexType() ); // one for each type, for the life of the process
+   declareLines< T >( *type, std::make_integer_sequence< int, linesOfAPage >{} );
+   return *type;
+}
+
+} // namespace Impl
+} // namespace Rex

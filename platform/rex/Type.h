@@ -1,0 +1,72 @@
+// Types of entities and their attributes, as data: what the scenario reader, the state dump and the cause of an
+// operation are made of. Written by the macros of rex/Entity.h; nobody fills these in by hand.
+//
+// Threading: a type is built at its first use, on the agent's scheduler thread.
+#pragma once
+
+#include "corvo/Ptr.h"
+#include "rex/Value.h"
+
+#include <functional>
+#include <memory>
+#include <string_view>
+#include <vector>
+
+namespace Rex {
+
+class Entity;
+
+// One attribute of a type. All operations take an entity of that type.
+class Attribute {
+ public:
+   // scalar: one value. entity: one entity, or none. map: values by key. collection: entities by key.
+   enum class Kind : U8 { scalar, entity, map, collection };
+
+   short const id;
+   Kind const kind;
+   char const * const name;
+
+   Attribute( short id_, Kind kind_, char const * name_ ) : id( id_ ), kind( kind_ ), name( name_ ) {}
+   virtual ~Attribute() = default;
+
+   // The type of the entities that it holds; null for scalars and maps.
+   virtual TypeData const * elementType() const { return nullptr; }
+
+   virtual Value value( Entity const & of ) const = 0;
+   // Sets the attribute, announcing what changes. A map or collection becomes equal to the object that is given;
+   // an entity is made anew from it. Throws ValueError before anything has changed.
+   virtual void valueIs( Entity & of, Value const & value ) const = 0;
+   // Sets or removes one entry of a map or collection. entryDel says whether there was one. Throws ValueError.
+   virtual void entryIs( Entity & of, std::string const & key, Value const & value ) const;
+   virtual bool entryDel( Entity & of, std::string const & key ) const;
+   // The entity that it holds, under `key` in a collection; null if there is none.
+   virtual Corvo::Ptr< Entity > child( Entity const & of, std::string const & key ) const;
+   // Visits the entities that it holds.
+   virtual void forEachChild( Entity const & of, std::function< void( Entity & ) > const & visit ) const;
+   // The text of a notification's key.
+   virtual std::string keyText( void const * key ) const;
+};
+
+class TypeData {
+ public:
+   TypeData( std::string name, TypeData const * base ) : name_( std::move( name ) ), base_( base ) {}
+   TypeData( TypeData const & ) = delete;
+   TypeData & operator=( TypeData const & ) = delete;
+
+   std::string const & name() const { return name_; }
+   TypeData const * base() const { return base_; }
+   // Those of the bases first, each in declaration order.
+   std::vector< Attribute const * > attributes() const;
+   // Null if the type has none of this name or number.
+   Attribute const * attribute( std::string_view name ) const;
+   Attribute const * attribute( short id ) const;
+
+   void attributeAdd( std::unique_ptr< Attribute > attribute ) { own_.push_back( std::move( attribute ) ); }
+
+ private:
+   std::string name_;
+   TypeData const * base_;
+   std::vector< std::unique_ptr< Attribute > > own_;
+};
+
+} // namespace Rex

@@ -1,0 +1,114 @@
+#include "rex/Value.h"
+
+#include <algorithm>
+#include <charconv>
+#include <cstdio>
+
+namespace Rex {
+
+namespace {
+
+std::string quoted( std::string const & text ) {
+   std::string out = "\"";
+   for ( char const c : text ) {
+      if ( c == '"' || c == '\\' ) {
+         out += '\\';
+         out += c;
+      } else if ( static_cast< unsigned char >( c ) < 0x20 ) {
+         char escape[8];
+         std::snprintf( escape, sizeof escape, "\\u%04x", static_cast< unsigned >( c ) );
+         out += escape;
+      } else {
+         out += c;
+      }
+   }
+   return out + "\"";
+}
+
+} // namespace
+
+std::string kindOf( Value const & value ) {
+   return value.isNull()    ? "null"
+          : value.boolean() ? "a boolean"
+          : value.integer() ? "a number"
+          : value.text()    ? "a string"
+          : value.list()    ? "a list"
+                            : "an object";
+}
+
+std::string toText( Value const & value ) {
+   if ( auto const * boolean = value.boolean() ) {
+      return *boolean ? "true" : "false";
+   }
+   if ( auto const * integer = value.integer() ) {
+      return std::to_string( *integer );
+   }
+   if ( auto const * text = value.text() ) {
+      return quoted( *text );
+   }
+   std::string out;
+   if ( auto const * list = value.list() ) {
+      for ( auto const & element : *list ) {
+         out += ( out.empty() ? "" : ", " ) + toText( element );
+      }
+      return "[" + out + "]";
+   }
+   if ( auto const * object = value.object() ) {
+      for ( auto const & [key, element] : *object ) {
+         out += ( out.empty() ? "" : ", " ) + quoted( key ) + ": " + toText( element );
+      }
+      return "{" + out + "}";
+   }
+   return "null";
+}
+
+std::string pointerStep( std::string const & key ) {
+   std::string out = "/";
+   for ( char const c : key ) {
+      out += c == '~' ? "~0" : c == '/' ? "~1" : std::string( 1, c );
+   }
+   return out;
+}
+
+ValueError ValueError::below( std::string const & key ) const {
+   return { pointerStep( key ) + place_, what() };
+}
+
+void throwWrongKind( std::string const & wanted, Value const & got ) {
+   bool const small = !got.list() && !got.object() && !got.isNull();
+   throw ValueError( "", "expected " + wanted + ", got " + ( small ? toText( got ) : kindOf( got ) ) );
+}
+
+bool Codec< bool >::fromValue( Value const & value ) {
+   if ( auto const * boolean = value.boolean() ) {
+      return *boolean;
+   }
+   throwWrongKind( "true or false", value );
+}
+
+std::string Codec< std::string >::fromValue( Value const & value ) {
+   if ( auto const * text = value.text() ) {
+      return *text;
+   }
+   throwWrongKind( "a string", value );
+}
+
+std::uint64_t Impl::unsignedFromValue( Value const & value, std::uint64_t highest ) {
+   auto const * integer = value.integer();
+   if ( !integer || *integer < 0 || static_cast< std::uint64_t >( *integer ) > highest ) {
+      throwWrongKind( "a number from 0 to " + std::to_string( highest ), value );
+   }
+   return static_cast< std::uint64_t >( *integer );
+}
+
+std::uint64_t Impl::unsignedFromKey( std::string const & key, std::uint64_t highest ) {
+   std::uint64_t number = 0;
+   auto const [end, error] = std::from_chars( key.data(), key.data() + key.size(), number );
+   bool const canonical = error == std::errc{} && end == key.data() + key.size() && std::to_string( number ) == key;
+   if ( !canonical || number > highest ) {
+      throw ValueError( "", "expected a key from 0 to " + std::to_string( highest ) + ", got \"" + key + "\"" );
+   }
+   return number;
+}
+
+} // namespace Rex

@@ -1,0 +1,122 @@
+// Value: the neutral form of state at the edge of the program (scenario files, dumps, the text form), and the codecs
+// that turn attribute types into it and back.
+//
+// Threading: values are plain data.
+#pragma once
+
+#include "corvo/Types.h"
+
+#include <concepts>
+#include <cstdint>
+#include <limits>
+#include <map>
+#include <stdexcept>
+#include <string>
+#include <type_traits>
+#include <variant>
+#include <vector>
+
+namespace Rex {
+
+// Null, boolean, integer, text, list or object.
+class Value {
+ public:
+   using List = std::vector< Value >;
+   using Object = std::map< std::string, Value >;
+
+   Value() = default;
+   Value( std::nullptr_t ) {}                                      // NOLINT(google-explicit-constructor)
+   Value( bool value ) : value_( value ) {}                        // NOLINT(google-explicit-constructor)
+   Value( std::string value ) : value_( std::move( value ) ) {}    // NOLINT(google-explicit-constructor)
+   Value( char const * value ) : value_( std::string( value ) ) {} // NOLINT(google-explicit-constructor)
+   Value( List value ) : value_( std::move( value ) ) {}           // NOLINT(google-explicit-constructor)
+   Value( Object value ) : value_( std::move( value ) ) {}         // NOLINT(google-explicit-constructor)
+   template< std::integral T >
+   requires( !std::same_as< T, bool > ) Value( T value )
+      : value_( static_cast< std::int64_t >( value ) ) {} // NOLINT(google-explicit-constructor)
+
+   bool isNull() const { return std::holds_alternative< std::monostate >( value_ ); }
+   bool const * boolean() const { return std::get_if< bool >( &value_ ); }
+   std::int64_t const * integer() const { return std::get_if< std::int64_t >( &value_ ); }
+   std::string const * text() const { return std::get_if< std::string >( &value_ ); }
+   List const * list() const { return std::get_if< List >( &value_ ); }
+   Object const * object() const { return std::get_if< Object >( &value_ ); }
+   Object * object() { return std::get_if< Object >( &value_ ); }
+
+   friend bool operator==( Value const &, Value const & ) = default;
+
+ private:
+   std::variant< std::monostate, bool, std::int64_t, std::string, List, Object > value_;
+};
+
+// What a value is, for messages: "null", "a boolean", "a number", "a string", "a list", "an object".
+std::string kindOf( Value const & value );
+// On one line, as JSON writes it.
+std::string toText( Value const & value );
+
+// A value that doesn't fit. `place` is the JSON pointer from the value that was given to the part that is wrong,
+// empty for the value itself.
+class ValueError : public std::runtime_error {
+ public:
+   ValueError( std::string place, std::string const & what )
+      : std::runtime_error( what ), place_( std::move( place ) ) {}
+   std::string const & place() const { return place_; }
+   // The same error seen from one level further up.
+   ValueError below( std::string const & key ) const;
+
+ private:
+   std::string place_;
+};
+
+// A step of a JSON pointer, with its escapes.
+std::string pointerStep( std::string const & key );
+
+[[noreturn]] void throwWrongKind( std::string const & wanted, Value const & got );
+
+// How a type is written as a value, and as the key of an object. A specialisation has
+//    static Value toValue( T const & ); static T fromValue( Value const & );
+// and, where the type is a key,
+//    static std::string toKey( T const & ); static T fromKey( std::string const & );
+// The from-functions throw ValueError.
+template< class T >
+struct Codec;
+
+template<>
+struct Codec< bool > {
+   static Value toValue( bool value ) { return value; }
+   static bool fromValue( Value const & value );
+};
+
+template<>
+struct Codec< std::string > {
+   static Value toValue( std::string const & value ) { return value; }
+   static std::string fromValue( Value const & value );
+   static std::string toKey( std::string const & key ) { return key; }
+   static std::string fromKey( std::string const & key ) { return key; }
+};
+
+namespace Impl {
+std::uint64_t unsignedFromValue( Value const & value, std::uint64_t highest );
+std::uint64_t unsignedFromKey( std::string const & key, std::uint64_t highest );
+} // namespace Impl
+
+template< std::unsigned_integral T >
+struct Codec< T > {
+   static constexpr std::uint64_t highest = std::numeric_limits< T >::max();
+   static Value toValue( T value ) { return value; }
+   static T fromValue( Value const & value ) { return static_cast< T >( Impl::unsignedFromValue( value, highest ) ); }
+   static std::string toKey( T key ) { return std::to_string( key ); }
+   static T fromKey( std::string const & key ) { return static_cast< T >( Impl::unsignedFromKey( key, highest ) ); }
+};
+
+// Value types that wrap one number (FapId, SlotId, ...): a member `value`.
+template< class T >
+requires( std::is_class_v< T > && std::unsigned_integral< decltype( T::value ) > ) struct Codec< T > {
+   using Number = decltype( T::value );
+   static Value toValue( T number ) { return number.value; }
+   static T fromValue( Value const & value ) { return T{ Codec< Number >::fromValue( value ) }; }
+   static std::string toKey( T key ) { return std::to_string( key.value ); }
+   static T fromKey( std::string const & key ) { return T{ Codec< Number >::fromKey( key ) }; }
+};
+
+} // namespace Rex
