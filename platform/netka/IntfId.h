@@ -43,7 +43,9 @@ struct std::hash< Netka::IntfId > {
 template<>
 struct Rex::Codec< Netka::IntfId > {
    static Value toValue( Netka::IntfId id ) { return id.stringValue(); }
-   static Netka::IntfId fromValue( Value const & value ) { return Netka::IntfId( Codec< std::string >::fromValue( value ) ); }
+   static Netka::IntfId fromValue( Value const & value ) {
+      return Netka::IntfId( Codec< std::string >::fromValue( value ) );
+   }
    static std::string toKey( Netka::IntfId id ) { return id.stringValue(); }
    static Netka::IntfId fromKey( std::string const & key ) { return Netka::IntfId( key ); }
 };

@@ -36,7 +36,7 @@ Corvo::Ptr< Entity > Dir::newEntity( Corvo::String const & name ) const {
 }
 
 void Dir::forEachChild( std::function< void( Entity & ) > const & visit ) const {
-   for ( auto const & [ name, entity ] : entries_ ) {
+   for ( auto const & [name, entity] : entries_ ) {
       visit( *entity );
    }
 }

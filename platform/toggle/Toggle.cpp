@@ -35,11 +35,11 @@ std::map< std::string, bool > readFile( std::filesystem::path const & path ) {
    std::ifstream in( path );
    try {
       std::map< std::string, bool > toggles;
-      for ( auto const & [ name, value ] : nlohmann::json::parse( in ).items() ) {
+      for ( auto const & [name, value] : nlohmann::json::parse( in ).items() ) {
          if ( !value.is_boolean() ) {
             throw std::runtime_error( path.string() + ": /" + name + ": a toggle is true or false" );
          }
-         toggles[ name ] = value.get< bool >();
+         toggles[name] = value.get< bool >();
       }
       return toggles;
    } catch ( nlohmann::json::exception const & error ) {
@@ -73,7 +73,7 @@ Settings readFolder( std::string const & folder ) {
       if ( entry.path().extension() != ".json" ) {
          continue;
       }
-      settings[ entry.path().filename() ] = readFile( entry.path() );
+      settings[entry.path().filename()] = readFile( entry.path() );
    }
    return settings;
 }
@@ -88,7 +88,7 @@ bool getToggleState( char const * name, char const * file, bool defaultState ) {
    auto & the = Toggle::state();
    std::lock_guard const lock( the.mutex );
    bool const result = Toggle::stateOf( the.settings, name, file, defaultState );
-   bool const known = std::any_of( the.readings.begin(), the.readings.end(), [ & ]( Toggle::Reading const & reading ) {
+   bool const known = std::any_of( the.readings.begin(), the.readings.end(), [&]( Toggle::Reading const & reading ) {
       return reading.name == name && reading.file == file;
    } );
    if ( !known ) {

@@ -1,0 +1,39 @@
+#include "sal/SwitchControlSal.h"
+
+#include "rex/Assert.h"
+
+namespace DaceSal {
+
+namespace {
+
+class DriverControlSal : public SwitchControlSal {
+ public:
+   explicit DriverControlSal( SchanDriver & driver ) : driver_( driver ) {}
+
+   int switchControlSet( U16 unit, U32 control, U32 value, U32, std::source_location origin ) override {
+      bool const changed = driver_.control( ChipId{ unit }, control, value );
+      if ( auto * listener = operationListener() ) {
+         Operation operation;
+         operation.kind = Operation::Kind::control;
+         operation.changed = changed;
+         operation.chip = ChipId{ unit };
+         operation.controlNumber = control;
+         operation.controlValue = value;
+         operation.origin = origin;
+         listener->operation( operation );
+      }
+      return 0;
+   }
+
+ private:
+   SchanDriver & driver_;
+};
+
+} // namespace
+
+Corvo::Ptr< SwitchControlSal > switchControlSalFactory( void * sdkHandle, Corvo::Ptr< SalGlobalConfig > const & ) {
+   Rex::sassert( sdkHandle != nullptr, "sdkHandle" );
+   return Corvo::makePtr< DriverControlSal >( *static_cast< SchanDriver * >( sdkHandle ) );
+}
+
+} // namespace DaceSal
