@@ -101,7 +101,7 @@ class MounterBase : public Stordb::Mounter {
 namespace DaceFapNi {
 
 class MounterBase : public Agent::MounterPlugin::MounterBase {
-   REX_ENTITY( MounterBase, Rex::Entity );
+   REX_ENTITY( MounterBase, Agent::MounterPlugin::MounterBase );
 
  public:
    explicit MounterBase( Corvo::String const & mounterName ) : name_( mounterName ) {}

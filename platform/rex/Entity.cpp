@@ -53,8 +53,12 @@ void Entity::parentIs( Entity * parent ) {
 
 void Entity::writeProtectedIs( bool writeProtected ) {
    nodeFlagSet( Corvo::NodeFlag::writeProtected, writeProtected );
+   forEachChild( [=]( Entity & child ) { child.writeProtectedIs( writeProtected ); } );
+}
+
+void Entity::forEachChild( std::function< void( Entity & ) > const & visit ) const {
    for ( auto const * attribute : typeData().attributes() ) {
-      attribute->forEachChild( *this, [=]( Entity & child ) { child.writeProtectedIs( writeProtected ); } );
+      attribute->forEachChild( *this, visit );
    }
 }
 

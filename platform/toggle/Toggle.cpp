@@ -34,14 +34,7 @@ bool stateOf( Settings const & settings, std::string const & name, std::string c
 std::map< std::string, bool > readFile( std::filesystem::path const & path ) {
    std::ifstream in( path );
    try {
-      std::map< std::string, bool > toggles;
-      for ( auto const & [name, value] : nlohmann::json::parse( in ).items() ) {
-         if ( !value.is_boolean() ) {
-            throw std::runtime_error( path.string() + ": /" + name + ": a toggle is true or false" );
-         }
-         toggles[name] = value.get< bool >();
-      }
-      return toggles;
+      return nlohmann::json::parse( in ).get< std::map< std::string, bool > >();
    } catch ( nlohmann::json::exception const & error ) {
       throw std::runtime_error( path.string() + ": expected an object of toggle names and booleans: " + error.what() );
    }

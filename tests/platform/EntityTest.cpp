@@ -1,0 +1,111 @@
+#include "state/Interfaces.h"
+#include "state/Overlays.h"
+#include "state/Routing.h"
+
+#include <gtest/gtest.h>
+
+namespace {
+
+struct Listener {
+   Corvo::Subscriber slot;
+   std::vector< std::string > heard;
+   explicit Listener( Rex::Entity & entity ) {
+      slot.dispatchIs( dispatch, this );
+      entity.publisher()->subscriberAdd( slot, false );
+   }
+   static void
+   dispatch( Corvo::Publisher * publisher, Corvo::Subscriber * slot, short id, void const * key, void const * ) {
+      auto const * attribute = publisher->node().typeData().attribute( id );
+      std::string text = attribute ? attribute->name : "?";
+      if ( key ) {
+         text += " " + attribute->keyText( key );
+      }
+      slot->owner< Listener >()->heard.push_back( text );
+   }
+};
+
+using Heard = std::vector< std::string >;
+
+TEST( Entity, SettingAnAttributeAnnouncesItOnce ) {
+   auto const status = Corvo::makePtr< Evpn::EvpnStatus >();
+   Listener listener( *status );
+   status->evpnDciEnabledIs( true );
+   status->evpnDciEnabledIs( true );
+   EXPECT_TRUE( status->evpnDciEnabled() );
+   EXPECT_EQ( listener.heard, Heard{ "evpnDciEnabled" } );
+}
+
+TEST( Entity, AttributesAreKnownByNameAndNumberInDeclarationOrder ) {
+   auto const & type = Evpn::EvpnStatus::rexType();
+   EXPECT_EQ( type.name(), "Evpn::EvpnStatus" );
+   ASSERT_EQ( type.attributes().size(), 3U );
+   EXPECT_STREQ( type.attributes()[0]->name, "vxlanEnabled" );
+   EXPECT_EQ( type.attribute( "evpnDciEnabled" )->id, 0x106 );
+   EXPECT_STREQ( type.attribute( short{ 0x103 } )->name, "mplsEnabled" );
+   EXPECT_EQ( type.attribute( "nothing" ), nullptr );
+}
+
+TEST( Entity, AttributesOfTheBaseComeFirst ) {
+   auto const attributes = Interface::EthPhyIntfConfig::rexType().attributes();
+   ASSERT_EQ( attributes.size(), 3U );
+   EXPECT_STREQ( attributes[0]->name, "enabled" );
+   EXPECT_STREQ( attributes[2]->name, "addr" );
+}
+
+TEST( Entity, CollectionAnnouncesTheKeyOfWhatComesAndGoes ) {
+   auto const dir = Corvo::makePtr< Vxlan::VtiStatusDir >();
+   Listener listener( *dir );
+   auto const vti = Corvo::makePtr< Vxlan::VtiStatus >( Netka::IntfId( "Vxlan1" ) );
+   dir->vtiStatusIs( vti );
+   EXPECT_EQ( vti->parent(), dir.get() );
+   EXPECT_EQ( dir->vtiStatus( Netka::IntfId( "Vxlan1" ) ), vti );
+   EXPECT_EQ( dir->vtiStatusDel( Netka::IntfId( "Vxlan1" ) ), vti );
+   EXPECT_EQ( vti->parent(), nullptr );
+   EXPECT_EQ( listener.heard, ( Heard{ "vtiStatus Vxlan1", "vtiStatus Vxlan1" } ) );
+}
+
+TEST( Entity, ValueRoundTrip ) {
+   auto const from = Corvo::makePtr< Interface::AllEthPhyIntfConfigDir >();
+   Rex::Value const value = Rex::Value::Object{
+      { "intfConfig",
+        Rex::Value::Object{
+           { "Ethernet1",
+             Rex::Value::Object{ { "addr", "02:00:00:00:00:01" }, { "enabled", false }, { "mtu", 9000 } } } } } };
+   from->attributesIs( value );
+   auto const config = from->intfConfig( Netka::IntfId( "Ethernet1" ) );
+   ASSERT_TRUE( config );
+   EXPECT_EQ( config->mtu(), 9000U );
+   EXPECT_FALSE( config->enabled() );
+   EXPECT_EQ( from->value(), value );
+}
+
+TEST( Entity, WrongAttributeIsRefusedWithItsPlaceAndANearName ) {
+   auto const dir = Corvo::makePtr< Interface::AllEthPhyIntfConfigDir >();
+   Rex::Value const value = Rex::Value::Object{
+      { "intfConfig", Rex::Value::Object{ { "Ethernet1", Rex::Value::Object{ { "enabld", true } } } } } };
+   try {
+      dir->attributesIs( value );
+      FAIL();
+   } catch ( Rex::ValueError const & error ) {
+      EXPECT_EQ( error.place(), "/intfConfig/Ethernet1/enabld" );
+      EXPECT_STREQ( error.what(),
+                    "Interface::EthPhyIntfConfig has no attribute \"enabld\"; did you mean \"enabled\"?" );
+   }
+   EXPECT_TRUE( dir->intfConfig().empty() );
+}
+
+TEST( Entity, NullEntityThrowsTheNullArgumentException ) {
+   auto const dir = Corvo::makePtr< Vxlan::VtiStatusDir >();
+   EXPECT_THROW( dir->vtiStatusIs( nullptr ), Rex::MutatorArgNullPointerException );
+}
+
+TEST( EntityDeath, WriteProtectedEntityRefusesOurOwnWritesOnly ) {
+   auto const status = Corvo::makePtr< Evpn::EvpnStatus >();
+   status->writeProtectedIs( true );
+   EXPECT_DEATH( status->vxlanEnabledIs( true ), "Evpn::EvpnStatus  is mounted for reading" );
+   Corvo::Publisher::ForeignWrite const foreign;
+   status->vxlanEnabledIs( true );
+   EXPECT_TRUE( status->vxlanEnabled() );
+}
+
+} // namespace
