@@ -1,0 +1,73 @@
+#include "simulator/Chip.h"
+
+#include "rex/Assert.h"
+
+#include <algorithm>
+#include <new>
+
+namespace Simulator {
+
+namespace {
+
+std::string placeText( ChipId id, std::string const & name, SchanAddress const & at ) {
+   std::ostringstream text;
+   text << "chip " << id.value << " (" << name << ") block " << at.selectorA << "/" << at.selectorB << " address 0x"
+        << std::hex << at.address;
+   return text.str();
+}
+
+} // namespace
+
+bool Chip::Entry::copiesDiffer() const {
+   for ( U32 copy = 1; copy < copies(); ++copy ) {
+      if ( !std::ranges::equal( words( 0 ), words( copy ) ) ) {
+         return true;
+      }
+   }
+   return false;
+}
+
+Chip::Chip( ChipId id, std::string name, AddressMap const & map )
+   : map_( map ), memory_( static_cast< U32 * >( std::calloc( std::max( map.words(), 1u ), sizeof( U32 ) ) ) ),
+     valued_( map.entries() / 64 + 1 ), id_( id ), name_( std::move( name ) ) {
+   static constexpr AddressMap::Range nowhere{};
+   latest_ = map.ranges().empty() ? &nowhere : map.ranges().data();
+   if ( !memory_ ) {
+      throw std::bad_alloc();
+   }
+}
+
+bool Chip::controlIs( U32 control, U32 value ) {
+   auto const [at, isNew] = controls_.try_emplace( control, value );
+   bool const changed = isNew || at->second != value;
+   at->second = value;
+   return changed;
+}
+
+void Chip::fill( SchanAddress const & at, std::span< U32 const > words ) {
+   Found const found = find( at, words.size() );
+   for ( U32 copy = 0; copy < found.range.copies; ++copy ) {
+      std::memcpy( wordsOf( found.range, found.index, copy ), words.data(), words.size_bytes() );
+   }
+   mark( found.range, found.index );
+}
+
+Chip::Entry Chip::entry( SchanAddress const & at ) const {
+   Found const found = find( at );
+   U32 const number = found.range.firstEntry + found.index;
+   return Entry( found.range, wordsOf( found.range, found.index, 0 ), valued_[number / 64] >> number % 64 & 1 );
+}
+
+void Chip::refuseAddress( SchanAddress const & at ) const {
+   Rex::SassertHelper( "range" ) << placeText( id_, name_, at )
+                                 << ( map_.hasBlock( at.selectorA, at.selectorB )
+                                         ? ": nothing is at this address of the block; no chip operation was made"
+                                         : ": the chip has no such block; no chip operation was made" );
+}
+
+void Chip::refuseWidth( SchanAddress const & at, U32 width, std::size_t words ) const {
+   Rex::SassertHelper( "range.width == words" ) << placeText( id_, name_, at ) << ": the entry is " << width
+                                                << " words wide, not " << words << "; no chip operation was made";
+}
+
+} // namespace Simulator

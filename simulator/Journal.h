@@ -1,0 +1,136 @@
+// The journal: every driver operation, reads included, with the function, the place in the source and the cause that
+// made it.
+//
+//    Journal journal{ [&] { return switch.cause(); } };
+//    journal.fileIs( "journal.jsonl" );
+//    DaceSal::operationListenerIs( &journal );
+//    ...
+//    for ( Journal::Row const & row : journal.rows() ) { ... }
+//
+// An operation costs a short binary record; text is made when the journal is flushed: when the owner says so, when the
+// journal ends, and when the process fails, so that the file is complete up to the last operation. The names of
+// functions and files are copied when they are first seen: a journal outlives the plug-in that it tells of.
+//
+// Threading: the agent's scheduler thread.
+#pragma once
+
+#include "sal/Driver.h"
+
+#include <cstdio>
+#include <functional>
+#include <map>
+#include <optional>
+#include <string>
+#include <unordered_map>
+#include <vector>
+
+namespace Simulator {
+
+class Journal final : public DaceSal::OperationListener {
+ public:
+   using Kind = DaceSal::Operation::Kind;
+   using Scope = DaceSal::Operation::Scope;
+
+   // One operation. Valid until the journal hears of the next one.
+   struct Row {
+      U64 seq; // from 1
+      U32 event;
+      Kind kind;
+      U16 fap;
+      std::string_view function;
+      std::string_view source; // file and line
+      std::string_view cause;
+      bool changed; // reads: false
+
+      // Reads and writes.
+      std::string_view table;
+      U8 variant;
+      int array;
+      std::optional< U32 > entry; // none for a register
+      Scope scope;
+      int core; // with Scope::core
+      std::span< U32 const > words;
+
+      // Controls.
+      U32 control;
+      U32 value;
+   };
+
+   // `cause` tells what is being dispatched; it is asked at each operation.
+   explicit Journal( std::function< std::string() > cause );
+   ~Journal() override;
+   Journal( Journal const & ) = delete;
+   Journal & operator=( Journal const & ) = delete;
+
+   // The number of the event that what follows belongs to; 0 at the start.
+   void eventIs( U32 event ) { event_ = event; }
+
+   // Writes the journal to a file, one JSON object a line, at each flush from now on. A file that can't be made:
+   // std::runtime_error, "<path>: <reason>".
+   void fileIs( std::string const & path );
+   // Brings the rows since the last flush to the file. A file that can't be written: std::runtime_error.
+   void flush();
+
+   std::size_t size() const { return records_.size(); }
+   Row row( std::size_t index ) const;
+   std::vector< Row > rows() const;
+
+   // The row as a line of the file, without the line's end.
+   static std::string json( Row const & row );
+
+   void operation( DaceSal::Operation const & operation ) override;
+
+ private:
+   struct Origin {
+      std::string function;
+      std::string source;
+   };
+   struct OriginKey {
+      char const * function;
+      char const * file;
+      U32 line;
+      bool operator==( OriginKey const & ) const = default;
+   };
+   struct OriginHash {
+      std::size_t operator()( OriginKey const & key ) const;
+   };
+   // An operation as it is kept. What is only there for some kinds shares its place with what the others have.
+   struct Record {
+      std::size_t words; // index of the first, among the words of all
+      U32 event;
+      U32 origin;
+      U32 cause;
+      U32 entryOrControl;
+      U32 value;
+      int array;
+      int core;
+      U16 fap;
+      U16 table;
+      U16 width;
+      U8 variant;
+      Kind kind;
+      Scope scope;
+      bool changed;
+      bool isRegister;
+   };
+
+   U32 originNumber( std::source_location const & at );
+   U32 causeNumber( std::string cause );
+   void flushAtFailure();
+
+   std::function< std::string() > cause_;
+   U32 event_ = 0;
+   std::vector< Record > records_;
+   std::vector< U32 > words_;
+   std::vector< Origin > origins_;
+   std::unordered_map< OriginKey, U32, OriginHash > originNumbers_;
+   std::vector< std::string const * > causes_; // the keys of the numbers
+   std::map< std::string, U32 > causeNumbers_;
+
+   std::FILE * file_ = nullptr;
+   std::string path_;
+   std::size_t flushed_ = 0; // rows
+   int failureHook_ = 0;
+};
+
+} // namespace Simulator
