@@ -66,6 +66,7 @@ class PluginBase {
     public:
       explicit PluginBaseInitCaller( PluginBase * plugin ) : plugin_( plugin ) {}
       void operator()( Context * context ) override { plugin_->init( context ); }
+      void release() override { plugin_->release(); }
 
     private:
       PluginBase * plugin_;
@@ -73,6 +74,8 @@ class PluginBase {
 
    virtual ~PluginBase() = default;
    virtual void init( Context * context ) = 0;
+   // Drops what init made: the agent goes down while the library stays loaded.
+   virtual void release() {}
 };
 
 class MounterBase : public Stordb::Mounter {

@@ -22,6 +22,8 @@ class TaskScheduler : public Corvo::Node {
    bool runOne();
    // Runs until nothing is left to do; returns the number of tasks that were run.
    U32 runUntilIdle();
+   // Drops what is left to do: the agent goes down.
+   void clear() { std::deque< Task >().swap( tasks_ ); }
    std::size_t pending() const { return tasks_.size(); }
 
  private:

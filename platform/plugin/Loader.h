@@ -2,7 +2,8 @@
 // all plug-ins.
 //
 // A library registers in its static initialiser: it makes a static plug-in object, puts a caller in front of the
-// loader's list, and calls registerPlugin. The agent then runs the callers; each ends in the plug-in's init.
+// loader's list, and calls registerPlugin. The agent then runs the callers; each ends in the plug-in's init. When the
+// agent goes down it has the plug-ins release what they made, after which they can be entered again.
 //
 // Threading: libraries are loaded, and plug-ins initialised, on the agent's scheduler thread.
 #pragma once
@@ -20,6 +21,8 @@ class LoaderInitCaller {
  public:
    virtual ~LoaderInitCaller() = default;
    virtual void operator()() = 0;
+   // The agent goes down: the plug-in drops what it made for its context.
+   virtual void release() {}
 };
 
 // What a plug-in object embeds: calls init of the plug-in with a context.
@@ -28,6 +31,7 @@ class PluginInitCaller {
  public:
    virtual ~PluginInitCaller() = default;
    virtual void operator()( Context * context ) = 0;
+   virtual void release() {}
 };
 
 namespace Impl {
@@ -72,6 +76,7 @@ class Loader : public Impl::LoaderImpl {
       LoaderInitCallerWithContext( Loader & loader, PluginInitCaller< Context > & plugin )
          : loader_( loader ), plugin_( plugin ) {}
       void operator()() override { plugin_( loader_.context() ); }
+      void release() override { plugin_.release(); }
 
     private:
       Loader & loader_;
@@ -93,6 +98,13 @@ class Loader : public Impl::LoaderImpl {
       for ( auto & caller : initCallers_ ) {
          caller();
       }
+   }
+   // Has all plug-ins drop what they made, in the order in which they were entered, and forgets the context.
+   void releasePlugins() {
+      for ( auto & caller : initCallers_ ) {
+         caller.release();
+      }
+      context_ = nullptr;
    }
 
  private:

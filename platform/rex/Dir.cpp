@@ -4,6 +4,12 @@ REX_DEFINE( Rex::Dir, "Rex::Dir" );
 
 namespace Rex {
 
+Dir::~Dir() {
+   for ( auto const & [name, entity] : entries_ ) {
+      entity->parentIs( nullptr );
+   }
+}
+
 void Dir::entityIs( Corvo::String const & name, Corvo::Ptr< Entity > const & entity ) {
    if ( !entity ) {
       throwMutatorArgNullPointerException( "Rex::Dir", "entityPtr" );

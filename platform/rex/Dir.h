@@ -23,6 +23,8 @@ class Dir : public Entity {
    Dir( TypeData const & elementType, Factory factory )
       : elementType_( &elementType ), factory_( std::move( factory ) ) {}
 
+   ~Dir() override;
+
    // The entry of this name, or null.
    Corvo::Ptr< Entity > entityPtr( Corvo::String const & name ) const { return entries_.get( name ); }
    OrderedMap< Corvo::String, Corvo::Ptr< Entity > > const & entries() const { return entries_; }

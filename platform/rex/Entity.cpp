@@ -1,38 +1,7 @@
-#include "rex/Entity.h"
+#include "rex/Dir.h"
+#include "rex/Nearest.h"
 
 namespace Rex {
-
-namespace {
-
-// The name in `names` that differs least from `wanted`, for a message; empty if none is near.
-std::string nearest( std::string const & wanted, std::vector< Attribute const * > const & among ) {
-   std::string best;
-   std::size_t bestDistance = wanted.size() / 3 + 1;
-   for ( auto const * attribute : among ) {
-      std::string const candidate = attribute->name;
-      std::vector< std::size_t > row( candidate.size() + 1 );
-      for ( std::size_t j = 0; j <= candidate.size(); ++j ) {
-         row[j] = j;
-      }
-      for ( std::size_t i = 1; i <= wanted.size(); ++i ) {
-         std::size_t diagonal = row[0];
-         row[0] = i;
-         for ( std::size_t j = 1; j <= candidate.size(); ++j ) {
-            std::size_t const above = row[j];
-            std::size_t const changed = diagonal + ( wanted[i - 1] == candidate[j - 1] ? 0 : 1 );
-            row[j] = std::min( { above + 1, row[j - 1] + 1, changed } );
-            diagonal = above;
-         }
-      }
-      if ( row.back() < bestDistance ) {
-         bestDistance = row.back();
-         best = candidate;
-      }
-   }
-   return best;
-}
-
-} // namespace
 
 Entity::~Entity() = default;
 
@@ -76,11 +45,11 @@ Value Entity::value() const {
 }
 
 void Attribute::entryIs( Entity &, std::string const &, Value const & ) const {
-   throw ValueError( "", std::string( name ) + " has no entries: leave the key out" );
+   throw ValueError( "", std::string( name ) + " has no entries: leave the key out" ).below( "key" );
 }
 
 bool Attribute::entryDel( Entity &, std::string const & ) const {
-   throw ValueError( "", std::string( name ) + " has no entries: leave the key out" );
+   throw ValueError( "", std::string( name ) + " has no entries: leave the key out" ).below( "key" );
 }
 
 Corvo::Ptr< Entity > Attribute::child( Entity const &, std::string const & ) const {
@@ -123,10 +92,11 @@ Attribute const & attributeOf( TypeData const & type, std::string const & name )
    if ( auto const * attribute = type.attribute( name ) ) {
       return *attribute;
    }
-   auto const near = nearest( name, type.attributes() );
-   throw ValueError( "",
-                     type.name() + " has no attribute \"" + name + "\"" +
-                        ( near.empty() ? "" : "; did you mean \"" + near + "\"?" ) );
+   std::vector< std::string > names;
+   for ( auto const * attribute : type.attributes() ) {
+      names.emplace_back( attribute->name );
+   }
+   throw ValueError( "", type.name() + " has no attribute \"" + name + "\"" + didYouMean( name, names ) );
 }
 
 Value::Object const & Impl::objectOf( Value const & value ) {
@@ -147,6 +117,14 @@ void Entity::attributesIs( Value const & value ) {
 }
 
 std::string stepTo( Entity const & parent, Entity const & child ) {
+   if ( auto const * dir = dynamic_cast< Dir const * >( &parent ) ) {
+      for ( auto const & [name, entity] : dir->entries() ) {
+         if ( entity.get() == &child ) {
+            return name;
+         }
+      }
+      return {};
+   }
    for ( auto const * attribute : parent.typeData().attributes() ) {
       if ( attribute->kind == Attribute::Kind::entity && attribute->child( parent, "" ).get() == &child ) {
          return attribute->name;

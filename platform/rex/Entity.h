@@ -111,7 +111,7 @@ class KeyedEntity : public Entity {
 };
 
 // The step from a parent to one of its children, as paths have it: `<attribute>/<key>` for an entity of a collection,
-// `<attribute>` for one that an attribute holds; empty if it holds no such child.
+// `<attribute>` for one that an attribute holds, `<name>` for one in a directory; empty if it holds no such child.
 std::string stepTo( Entity const & parent, Entity const & child );
 
 // A map attribute's contents.

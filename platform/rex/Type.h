@@ -36,7 +36,8 @@ class Attribute {
    // Sets the attribute, announcing what changes. A map or collection becomes equal to the object that is given;
    // an entity is made anew from it. Throws ValueError before anything has changed.
    virtual void valueIs( Entity & of, Value const & value ) const = 0;
-   // Sets or removes one entry of a map or collection. entryDel says whether there was one. Throws ValueError.
+   // Sets or removes one entry of a map or collection. entryDel says whether there was one. Throws ValueError, its
+   // place "/key" or below "/value".
    virtual void entryIs( Entity & of, std::string const & key, Value const & value ) const;
    virtual bool entryDel( Entity & of, std::string const & key ) const;
    // The entity that it holds, under `key` in a collection; null if there is none.
