@@ -1,0 +1,33 @@
+#include "generator/Formats.h"
+
+#include <algorithm>
+
+Formats::Formats( Model::Table const & table ) {
+   for ( auto const & [pair, layout] : table.layouts ) {
+      std::vector< std::optional< Place > > row;
+      for ( auto const & name : table.fieldNames ) {
+         Model::Field const * field = layout.field( name );
+         row.push_back( field ? std::optional( Place{ field->offset, field->width } ) : std::nullopt );
+      }
+      auto found = std::find( rows.begin(), rows.end(), row );
+      if ( found == rows.end() ) {
+         found = rows.insert( rows.end(), row );
+      }
+      formatOf[pair] = static_cast< unsigned >( found - rows.begin() );
+   }
+}
+
+std::optional< Place > Formats::onePlace( unsigned field ) const {
+   bool const alike =
+      std::all_of( rows.begin(), rows.end(), [&]( auto const & row ) { return row[field] == rows[0][field]; } );
+   return alike ? rows[0][field] : std::nullopt;
+}
+
+bool Formats::allAtOnePlace() const {
+   for ( unsigned field = 0; field < rows[0].size(); ++field ) {
+      if ( !onePlace( field ) ) {
+         return false;
+      }
+   }
+   return true;
+}

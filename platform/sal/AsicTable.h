@@ -1,0 +1,102 @@
+// Memories and registers of a chip, read and written over the S-channel. An accessor is a short-lived view:
+//
+//    Hardware::IppdFerTrapCfg::WithStorage trapCfg( chipType );    // a register; the buffer is its own, and zero
+//    trapCfg.doReadAny( fapId, 3 );                                // array element 3, from any copy
+//    trapCfg.cpuSnoopCodeNIs( 0x21 );                              // change a field
+//    trapCfg.doWriteAll( fapId, 3 );                               // to all copies of that chip
+//
+//    U8 buf[8] = {};                                               // or over a buffer of the caller's
+//    Hardware::EnablersVectors vectors( chipType, buf, sizeof buf, false, 1 );
+//    vectors.routingEnableVectorIs( 4 );
+//    vectors.doWriteAll( fapId, 3, 7 );                            // a memory: array index, then entry
+//
+// Each operation moves width() words between the buffer and the address that getSchanAddress yields, and tells the
+// listener of the process, with the place it was called from. It ends the process by assertion where the buffer is
+// shorter ("len_ >= <bytes>"), where an address is out of range (the texts of getSchanAddress), and where no driver is
+// installed ("schanDriver").
+//
+// Threading: the agent's scheduler thread.
+#pragma once
+
+#include "sal/BcmAsicBase.h"
+#include "sal/Driver.h"
+
+namespace DaceSal::AsicUtils {
+
+using ::AsicUtils::MetaInfo;
+
+// The transfer that both kinds share.
+class DaceSalAsicTransfer {
+ public:
+   DaceSalAsicTransfer() = delete;
+
+   // What an operation is about.
+   struct Place {
+      MetaInfo const & meta;
+      ::AsicUtils::BcmAsicBase const & accessor;
+      U8 chipType;
+      U8 variant;
+      U8 * buf;
+      U16 len;
+      ChipId chip;
+      int arrayIndex;
+      U32 entry;
+      std::source_location origin;
+   };
+   static void readAny( Place const & place );
+   static void writeAll( Place const & place );
+   static void writeCore( Place const & place, int core );
+};
+
+// A register: one entry, possibly an array of them.
+class DaceSalAsicRegBase : public ::AsicUtils::BcmAsicBase {
+ public:
+   using BcmAsicBase::BcmAsicBase;
+
+   bool isTable() const override;
+   U32 maxIdentifier() const override;
+   U16 regWidth() const;
+   U32 addrStride() const;
+
+   // Reads the register from one of its copies into the buffer. Returns 0.
+   int doReadAny( ChipId chip, int arrayIndex, std::source_location origin = std::source_location::current() );
+   // Writes the buffer to all copies.
+   void doWriteAll( ChipId chip, int arrayIndex, std::source_location origin = std::source_location::current() ) const;
+
+ private:
+   DaceSalAsicTransfer::Place place( ChipId chip, int arrayIndex, std::source_location const & origin ) const;
+};
+
+// A memory.
+class DaceSalAsicTableBase : public ::AsicUtils::BcmAsicBase {
+ public:
+   using BcmAsicBase::BcmAsicBase;
+
+   U32 entries() const override;
+   bool isTable() const override;
+   U32 tableVariantCount() const override;
+   ::AsicUtils::EntrySpans entrySpans() const override;
+   U16 tableWidth() const;
+   bool isPrimary() const;
+
+   // Reads an entry from one of its copies into the buffer. Returns 0.
+   int
+   doReadAny( ChipId chip, int arrayIndex, int entry, std::source_location origin = std::source_location::current() );
+   // Writes the buffer to all copies of the entry.
+   void doWriteAll( ChipId chip,
+                    int arrayIndex,
+                    int entry,
+                    std::source_location origin = std::source_location::current() ) const;
+   // Writes the buffer to the copy of one core. A core without a copy of its own ends the process.
+   void doWriteCore( ChipId chip,
+                     int arrayIndex,
+                     int core,
+                     int entry,
+                     std::source_location origin = std::source_location::current() ) const;
+
+ private:
+   DaceSalAsicTransfer::Place
+   place( ChipId chip, int arrayIndex, int entry, std::source_location const & origin ) const;
+};
+
+} // namespace DaceSal::AsicUtils
