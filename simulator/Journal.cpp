@@ -175,6 +175,7 @@ U32 Journal::causeNumber( std::string cause ) {
 Journal::Row Journal::row( std::size_t index ) const {
    Record const & record = records_[index];
    bool const isControl = record.kind == Kind::control;
+   U32 const * const words = words_.data() + record.words;
    Row row{ .seq = index + 1,
             .event = record.event,
             .kind = record.kind,
@@ -189,7 +190,7 @@ Journal::Row Journal::row( std::size_t index ) const {
             .entry = std::nullopt,
             .scope = record.scope,
             .core = record.core,
-            .words = { words_.data() + record.words, record.width },
+            .words = { words, words + record.width },
             .control = isControl ? record.entryOrControl : 0,
             .value = record.value };
    if ( !isControl ) {

@@ -17,6 +17,7 @@
 #include "sal/Driver.h"
 
 #include <cstdio>
+#include <deque>
 #include <functional>
 #include <map>
 #include <optional>
@@ -31,7 +32,7 @@ class Journal final : public DaceSal::OperationListener {
    using Kind = DaceSal::Operation::Kind;
    using Scope = DaceSal::Operation::Scope;
 
-   // One operation. Valid until the journal hears of the next one.
+   // One operation. Its names are the journal's: valid while the journal is.
    struct Row {
       U64 seq; // from 1
       U32 event;
@@ -49,7 +50,7 @@ class Journal final : public DaceSal::OperationListener {
       std::optional< U32 > entry; // none for a register
       Scope scope;
       int core; // with Scope::core
-      std::span< U32 const > words;
+      std::vector< U32 > words;
 
       // Controls.
       U32 control;
@@ -122,7 +123,7 @@ class Journal final : public DaceSal::OperationListener {
    U32 event_ = 0;
    std::vector< Record > records_;
    std::vector< U32 > words_;
-   std::vector< Origin > origins_;
+   std::deque< Origin > origins_;
    std::unordered_map< OriginKey, U32, OriginHash > originNumbers_;
    std::vector< std::string const * > causes_; // the keys of the numbers
    std::map< std::string, U32 > causeNumbers_;

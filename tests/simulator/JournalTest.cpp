@@ -144,12 +144,25 @@ TEST_F( JournalTest, answersToTests ) {
    EXPECT_EQ( rows[0].entry, 7u );
    EXPECT_EQ( rows[0].array, 3 );
    EXPECT_EQ( rows[0].variant, 1 );
-   EXPECT_EQ( std::vector< U32 >( rows[0].words.begin(), rows[0].words.end() ), ( std::vector< U32 >{ 1, 2 } ) );
+   EXPECT_EQ( rows[0].words, ( std::vector< U32 >{ 1, 2 } ) );
    EXPECT_EQ( rows[1].kind, Kind::control );
    EXPECT_EQ( rows[1].fap, 1 );
    EXPECT_EQ( rows[1].control, 65u );
    EXPECT_EQ( rows[1].value, 9u );
    EXPECT_FALSE( rows[1].entry.has_value() );
+}
+
+TEST_F( JournalTest, keepsItsAnswersWhileItGrows ) {
+   writeVector( 7, { 1, 2 } );
+   auto const before = journal.row( 0 );
+   for ( U32 entry = 0; entry < 1000; ++entry ) {
+      cause = "cause " + std::to_string( entry );
+      writeVector( entry % 32, { entry, 0 } );
+   }
+   EXPECT_EQ( before.cause, "chip-init" );
+   EXPECT_EQ( before.table, "EnablersVectors" );
+   EXPECT_EQ( before.words, ( std::vector< U32 >{ 1, 2 } ) );
+   EXPECT_EQ( Journal::json( before ), Journal::json( journal.row( 0 ) ) );
 }
 
 TEST_F( JournalTest, escapesWhatJsonCannotHold ) {
