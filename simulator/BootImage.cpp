@@ -116,7 +116,7 @@ void bootTable( Chip & chip, ChipType chipType, Catalogue::Table const & table, 
    auto const * const special = std::ranges::find( deliberate, table.name, []( auto const & it ) { return it.table; } );
    std::vector< U32 > const mask = fieldMask( layout );
    std::vector< U32 > words( layout.width );
-   for ( U32 const array : arrayIndices( table, layout ) ) {
+   for ( U32 const array : arrayIndices( layout ) ) {
       for ( U32 entry = 0; entry < entryCount( layout ); ++entry ) {
          Noise const noise( table.name, { layout.chipType, layout.variant, array, entry } );
          for ( std::size_t word = 0; word < words.size(); ++word ) {

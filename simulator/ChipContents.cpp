@@ -73,7 +73,7 @@ class Fitter {
    void
    variant( Catalogue::Table const & table, U8 variant, VariantContents const & arrays, std::string const & place ) {
       Catalogue::Layout const & layout = *Catalogue::layout( table, chip_, variant );
-      U32 const first = firstArrayIndex( table, layout );
+      U32 const first = layout.arrayIndexFirst;
       for ( auto const & [array, entries] : arrays ) {
          if ( array < first || array - first >= layout.arrayElements ) {
             throw ContentsError( place / array,
@@ -124,7 +124,7 @@ Contents contentsOf( Chip const & chip, ChipType chipType ) {
          if ( !table.hasMemory || layout.chipType != static_cast< U8 >( chipType ) ) {
             continue;
          }
-         for ( U32 const array : arrayIndices( table, layout ) ) {
+         for ( U32 const array : arrayIndices( layout ) ) {
             ArrayContents entries;
             for ( U32 entry = 0; entry < entryCount( layout ); ++entry ) {
                Chip::Entry const found = chip.entry( addressOf( layout, array, entry ) );

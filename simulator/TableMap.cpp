@@ -21,7 +21,7 @@ std::unique_ptr< AddressMap > makeAddressMap( U8 chipType ) {
          for ( Catalogue::Selector const selector : layout.selectors ) {
             blocks.push_back( Block{ selector.a, selector.b } );
          }
-         for ( U32 const array : arrayIndices( table, layout ) ) {
+         for ( U32 const array : arrayIndices( layout ) ) {
             ranges.push_back( { .blocks = blocks,
                                 .base = addressOf( layout, array, 0 ).address,
                                 .count = entryCount( layout ),
@@ -41,12 +41,6 @@ AddressMap const & addressMap( Hardware::ChipType chipType ) {
       map = makeAddressMap( static_cast< U8 >( chipType ) );
    }
    return *map;
-}
-
-U32 firstArrayIndex( Catalogue::Table const & table, Catalogue::Layout const & layout ) {
-   std::string_view const name = table.name;
-   bool const countsOn = name == "InLifProfileCsFlagsLsb" || name == "InLifProfileCsFlagsMsb";
-   return countsOn && layout.variant == 1 && layout.arrayElements > 1 ? 3 : layout.arrayIndexMin;
 }
 
 U64 fieldBits( std::span< U32 const > words, Catalogue::Field const & field ) {

@@ -1,7 +1,7 @@
 // Where the tables of the catalogue lie on a chip: the one place where tables become blocks and addresses.
 //
 //    Catalogue::Layout const & layout = *Catalogue::layout( table, chip, variant );
-//    for ( U32 const array : arrayIndices( table, layout ) ) {
+//    for ( U32 const array : arrayIndices( layout ) ) {
 //       chip.read( addressOf( layout, array, entry ), words );
 //    }
 #pragma once
@@ -17,12 +17,9 @@ namespace Simulator {
 // The addresses of a kind of chip: of every table that has a memory of its own. Built once for each kind.
 AddressMap const & addressMap( Hardware::ChipType chipType );
 
-// The array indices by which callers reach a table. They begin at the catalogue's first index, but for the second
-// variant of the in-LIF context-selection registers where it has two elements: those go on counting behind the three of
-// the first variant.
-U32 firstArrayIndex( Catalogue::Table const & table, Catalogue::Layout const & layout );
-inline auto arrayIndices( Catalogue::Table const & table, Catalogue::Layout const & layout ) {
-   U32 const first = firstArrayIndex( table, layout );
+// The array indices by which callers reach a table.
+inline auto arrayIndices( Catalogue::Layout const & layout ) {
+   U32 const first = layout.arrayIndexFirst;
    return std::views::iota( first, first + layout.arrayElements );
 }
 

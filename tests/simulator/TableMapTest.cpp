@@ -38,10 +38,10 @@ TEST( TableMap, putsTablesWhereTheChipHasThem ) {
 TEST( TableMap, countsOnFromTheFirstVariantInTheContextSelectionRegistersOfTwoChips ) {
    for ( char const * const name : { "InLifProfileCsFlagsLsb", "InLifProfileCsFlagsMsb" } ) {
       Catalogue::Table const & table = *Catalogue::table( name );
-      EXPECT_EQ( firstArrayIndex( table, *Catalogue::layout( table, 10, 1 ) ), 0u );
-      EXPECT_EQ( firstArrayIndex( table, *Catalogue::layout( table, 12, 1 ) ), 3u );
-      EXPECT_EQ( firstArrayIndex( table, *Catalogue::layout( table, 14, 1 ) ), 3u );
-      EXPECT_EQ( firstArrayIndex( table, *Catalogue::layout( table, 14, 0 ) ), 0u );
+      EXPECT_EQ( *arrayIndices( *Catalogue::layout( table, 10, 1 ) ).begin(), 0u );
+      EXPECT_EQ( *arrayIndices( *Catalogue::layout( table, 12, 1 ) ).begin(), 3u );
+      EXPECT_EQ( *arrayIndices( *Catalogue::layout( table, 14, 1 ) ).begin(), 3u );
+      EXPECT_EQ( *arrayIndices( *Catalogue::layout( table, 14, 0 ) ).begin(), 0u );
    }
    AddressMap const & map = addressMap( ChipType::BCM88850_A0 );
    EXPECT_EQ( map.find( 4, 14, 0x1ca ), nullptr );
