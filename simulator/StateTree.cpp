@@ -1,0 +1,346 @@
+#include "simulator/StateTree.h"
+
+#include "rex/Nearest.h"
+#include "state/Routing.h"
+
+#include <array>
+
+namespace Simulator {
+
+namespace {
+
+using Corvo::Ptr;
+using Rex::Attribute;
+using Rex::ValueError;
+using Home = StateRoot::Home;
+using Kind = StateRoot::Kind;
+
+template< class T >
+Ptr< Rex::Entity > make() {
+   return Corvo::makePtr< T >();
+}
+
+// A directory whose entries other agents make by name.
+template< class T >
+Ptr< Rex::Entity > makeDir() {
+   return Corvo::makePtr< Rex::Dir >( T::rexType(), []( Corvo::String const & ) { return make< T >(); } );
+}
+
+Ptr< Rex::Entity > makeTaskScheduler() {
+   return Corvo::makePtr< DaceFapNi::TaskScheduler >( nullptr );
+}
+
+constexpr std::array roots{
+   StateRoot{ Home::database, "hardware/dace/fap/status", make< Rex::Dir >, Kind::given },
+   StateRoot{ Home::database, "bridging/config", make< Bridging::Config > },
+   StateRoot{ Home::database, "bridging/hwcapabilities", make< Bridging::HwCapabilities > },
+   StateRoot{ Home::database, "routerMac/hwCapability", make< RouterMac::HwCapability > },
+   StateRoot{ Home::cell, "interface/status/eth/phy/local", make< Interface::EthPhyIntfStatusLocalDir > },
+   StateRoot{ Home::database, "routing/mpls/routingInfo/status", make< Mpls::RoutingInfo > },
+   StateRoot{ Home::database, "routing/mpls/config", make< Mpls::Config > },
+   StateRoot{ Home::database, "interface/status/eth/vxlan", make< Vxlan::VtiStatusDir > },
+   StateRoot{ Home::database, "vxlan/ecnConfig", make< Vxlan::EcnConfig > },
+   StateRoot{ Home::database, "evpn/status", make< Evpn::EvpnStatus > },
+   StateRoot{ Home::database, "interface/config/global", make< Interface::GlobalIntfConfig > },
+   StateRoot{ Home::database, "hardware/dace/lag/daceLagStatus", make< Hardware::DaceLag::Status > },
+   StateRoot{ Home::database, "routing/hardware/route/status", make< Routing::Hardware::RouteStatus > },
+   StateRoot{ Home::database, "interface/hardware/capability", make< Interface::Hardware::Capability > },
+   StateRoot{ Home::database, "routing/hardware/mpls/capability", make< Mpls::Hardware::Capability > },
+   StateRoot{ Home::database, "interface/status/subintf", make< Interface::SubIntfStatusDir > },
+   StateRoot{ Home::cell, "interface/status/subintf/local", make< Interface::SubIntfStatusLocalDir > },
+   StateRoot{ Home::database, "l3/tunnel/udpDestinationPortConfig", make< L3::Tunnel::UdpDestinationPortConfig > },
+   StateRoot{ Home::database, "routing/nexthopgroup/input/config", makeDir< L3::Tunnel::UdpDestinationPortConfig > },
+   StateRoot{ Home::database, "routing/tunneldecap/input/cli", make< Tunnel::Decap::ConfigInput > },
+   StateRoot{ Home::database, "routing/tunneldecap/input/dynamic", makeDir< Tunnel::Decap::ConfigInput > },
+   StateRoot{ Home::database, "routing/hardware/config", make< Routing::Hardware::Config > },
+
+   StateRoot{ Home::readOnly, "agentGlobalState", make< DaceFapNi::AgentGlobalState > },
+   StateRoot{ Home::readOnly, "sliceSmStateData", make< DaceFapNi::SliceSmStateInfo > },
+   StateRoot{ Home::readOnly, "phySmStateData", make< DaceFapNi::PhySmStateInfo > },
+   StateRoot{ Home::writeAllowed, "phySmStateSharedStatus", make< DaceFapNi::PhySmStateSharedStatus > },
+   StateRoot{ Home::readOnly, "driverSetupSmStateInfo", make< DaceFapNi::DriverSetupSmStateInfo > },
+   StateRoot{ Home::readOnly, "portStateInfo", make< DaceFapNi::PortStateInfo > },
+   StateRoot{ Home::writeAllowed, "chipInitConfigDir", make< DaceFapNi::ChipInitConfigDir >, Kind::machinery },
+   StateRoot{ Home::readOnly, "agentSdkState", make< DaceFapNi::AgentSdkState >, Kind::machinery },
+   StateRoot{ Home::writeAllowed, "agentScheduler", makeTaskScheduler, Kind::machinery },
+};
+
+Corvo::String databasePath( StateRoot const & root ) {
+   return root.home == Home::cell ? Cell::path( root.name, 0 ) : root.name;
+}
+
+[[noreturn]] void refusePath( std::string const & text ) {
+   throw ValueError( "/path", text );
+}
+
+// The ways to split `rest` in a head and what follows it, the shortest head first: a key may hold slashes itself.
+template< class Visit >
+bool anySplit( std::string const & rest, Visit const & visit ) {
+   for ( auto at = rest.find( '/' ); at != std::string::npos; at = rest.find( '/', at + 1 ) ) {
+      if ( visit( rest.substr( 0, at ), rest.substr( at + 1 ) ) ) {
+         return true;
+      }
+   }
+   return visit( rest, std::string() );
+}
+
+// The entity under a key, or null; also where the text can't be a key.
+Ptr< Rex::Entity > childUnder( Attribute const & attribute, Rex::Entity const & of, std::string const & key ) {
+   try {
+      return attribute.child( of, key );
+   } catch ( ValueError const & ) {
+      return nullptr;
+   }
+}
+
+void checkMayChange( StateRoot const & root ) {
+   if ( root.kind == Kind::given ) {
+      refusePath( root.path() + " is told by the description of the switch and can't be set" );
+   }
+   if ( root.kind == Kind::machinery ) {
+      refusePath( root.path() + " has no attributes that can be set" );
+   }
+}
+
+template< class Change >
+decltype( auto ) under( std::string const & place, Change const & change ) {
+   try {
+      return change();
+   } catch ( ValueError const & error ) {
+      throw error.below( place );
+   }
+}
+
+Attribute const & attributeAt( Rex::Entity const & entity, std::string const & attribute ) {
+   return under( "attribute", [&]() -> Attribute const & { return attributeOf( entity.typeData(), attribute ); } );
+}
+
+} // namespace
+
+std::span< StateRoot const > stateRoots() {
+   return roots;
+}
+
+StateTree::StateTree()
+   : database_( Corvo::makePtr< Stordb::Database >() ),
+     shared_( Corvo::makePtr< Agent::MounterPlugin::LocalSharedState >() ) {
+   for ( auto const & root : roots ) {
+      rootEntityIs( root, root.make() );
+   }
+}
+
+StateTree::~StateTree() {
+   // What plug-ins have stored in the shared objects may hold the map that they stand in.
+   shared_->readOnlyDb().clear();
+   shared_->writeAllowedDb().clear();
+}
+
+Ptr< Rex::Entity > StateTree::rootEntity( StateRoot const & root ) const {
+   switch ( root.home ) {
+   case Home::database:
+   case Home::cell:
+      return database_->entity( databasePath( root ) );
+   case Home::readOnly: {
+      // What is shared for reading is changed by its owner, whom this tree stands for.
+      auto const entity = shared_->readOnlyDb().get( root.name );
+      return const_cast< Rex::Entity * >( entity.get() );
+   }
+   case Home::writeAllowed:
+      return shared_->writeAllowedDb().get( root.name );
+   }
+   return nullptr;
+}
+
+void StateTree::rootEntityIs( StateRoot const & root, Ptr< Rex::Entity > const & entity ) {
+   rootOfEntity_.erase( rootEntity( root ).get() );
+   switch ( root.home ) {
+   case Home::database:
+   case Home::cell:
+      if ( entity ) {
+         database_->entityIs( databasePath( root ), entity );
+      } else {
+         database_->entityDel( databasePath( root ) );
+      }
+      break;
+   case Home::readOnly:
+      shared_->readOnlyDb().del( root.name );
+      if ( entity ) {
+         shared_->readOnlyDb().set( root.name, entity );
+      }
+      break;
+   case Home::writeAllowed:
+      shared_->writeAllowedDb().del( root.name );
+      if ( entity ) {
+         shared_->writeAllowedDb().set( root.name, entity );
+      }
+      break;
+   }
+   if ( entity ) {
+      rootOfEntity_[entity.get()] = &root;
+   }
+}
+
+void StateTree::rootIs( std::string const & path, Ptr< Rex::Entity > const & entity ) {
+   rootEntityIs( rootOf( path ), entity );
+}
+
+StateRoot const & StateTree::rootOf( std::string const & path ) {
+   StateRoot const * longest = nullptr;
+   std::vector< std::string > known;
+   for ( auto const & root : roots ) {
+      std::string const candidate = root.path();
+      bool const leads = path == candidate || path.starts_with( candidate + "/" );
+      if ( leads && ( !longest || candidate.size() > longest->path().size() ) ) {
+         longest = &root;
+      }
+      known.push_back( candidate );
+   }
+   if ( !longest ) {
+      refusePath( "there is no path \"" + path + "\"" + Rex::didYouMean( path, known ) );
+   }
+   return *longest;
+}
+
+bool StateTree::enter( Place & place, Place const & next, std::string const & rest ) {
+   Place attempt = next;
+   if ( !attempt.entity || !( rest.empty() || descend( attempt, rest ) ) ) {
+      return false;
+   }
+   place = attempt;
+   return true;
+}
+
+bool StateTree::descend( Place & place, std::string const & rest ) {
+   auto const owner = place.entity;
+   if ( auto const dir = Corvo::ptrCast< Rex::Dir >( owner ) ) {
+      bool const found = anySplit( rest, [&]( std::string const & name, std::string const & tail ) {
+         return enter( place, { place.root, dir->entityPtr( name ), owner, name, {} }, tail );
+      } );
+      if ( !found && dir->elementType() && !rest.empty() && rest.find( '/' ) == std::string::npos ) {
+         place = { place.root, nullptr, owner, rest, {} }; // an entry that can be made
+         return true;
+      }
+      return found;
+   }
+   auto const end = std::min( rest.find( '/' ), rest.size() );
+   std::string const name = rest.substr( 0, end );
+   std::string const below = rest.substr( std::min( end + 1, rest.size() ) );
+   auto const * attribute = owner->typeData().attribute( name );
+   if ( !attribute ) {
+      return false;
+   }
+   switch ( attribute->kind ) {
+   case Attribute::Kind::entity:
+      return enter( place, { place.root, attribute->child( *owner, {} ), owner, name, {} }, below );
+   case Attribute::Kind::collection:
+      return anySplit( below, [&]( std::string const & key, std::string const & tail ) {
+         return enter( place, { place.root, childUnder( *attribute, *owner, key ), owner, name, key }, tail );
+      } );
+   case Attribute::Kind::scalar:
+   case Attribute::Kind::map:
+      break;
+   }
+   return false;
+}
+
+StateTree::Place StateTree::find( std::string const & path ) const {
+   auto const & root = rootOf( path );
+   std::string const rootPath = root.path();
+   Place place{ &root, rootEntity( root ), nullptr, {}, {} };
+   if ( path.size() > rootPath.size() ) {
+      std::string const rest = path.substr( rootPath.size() + 1 );
+      if ( !place.entity || !descend( place, rest ) ) {
+         refusePath( rootPath + " holds nothing at \"" + rest + "\"" );
+      }
+   }
+   return place;
+}
+
+Ptr< Rex::Entity > StateTree::entity( std::string const & path ) const {
+   return find( path ).entity;
+}
+
+template< class Change >
+void StateTree::changeAt( std::string const & path, Change const & change ) {
+   Place const place = find( path );
+   checkMayChange( *place.root );
+   if ( place.entity ) {
+      change( *place.entity );
+      return;
+   }
+   auto const dir = Corvo::ptrCast< Rex::Dir >( place.owner );
+   if ( !dir ) {
+      refusePath( "nothing stands at " + path + ", which was left out" );
+   }
+   auto const entity = dir->newEntity( place.step );
+   change( *entity );
+   dir->entityIs( place.step, entity );
+}
+
+void StateTree::attributeIs( std::string const & path, std::string const & attribute, Rex::Value const & value ) {
+   changeAt( path, [&]( Rex::Entity & entity ) {
+      auto const & found = attributeAt( entity, attribute );
+      under( "value", [&] { found.valueIs( entity, value ); } );
+   } );
+}
+
+void StateTree::attributesIs( std::string const & path, Rex::Value const & value ) {
+   changeAt( path, [&]( Rex::Entity & entity ) { under( "value", [&] { entity.attributesIs( value ); } ); } );
+}
+
+void StateTree::entryIs( std::string const & path,
+                         std::string const & attribute,
+                         std::string const & key,
+                         Rex::Value const & value ) {
+   changeAt( path, [&]( Rex::Entity & entity ) { attributeAt( entity, attribute ).entryIs( entity, key, value ); } );
+}
+
+void StateTree::entryDel( std::string const & path, std::string const & attribute, std::string const & key ) {
+   Place const place = find( path );
+   if ( !place.entity ) {
+      refusePath( "nothing stands at " + path );
+   }
+   if ( !attributeAt( *place.entity, attribute ).entryDel( *place.entity, key ) ) {
+      throw ValueError( "/key", path + " has no entry \"" + key + "\" in " + attribute );
+   }
+}
+
+void StateTree::entityDel( std::string const & path ) {
+   Place const place = find( path );
+   if ( !place.entity ) {
+      refusePath( "nothing stands at " + path );
+   }
+   if ( !place.owner ) {
+      rootEntityIs( *place.root, nullptr );
+   } else if ( auto const dir = Corvo::ptrCast< Rex::Dir >( place.owner ) ) {
+      dir->entityDel( place.step );
+   } else if ( auto const & attribute = attributeOf( place.owner->typeData(), place.step );
+               attribute.kind == Attribute::Kind::entity ) {
+      attribute.valueIs( *place.owner, nullptr );
+   } else {
+      attribute.entryDel( *place.owner, place.key );
+   }
+}
+
+std::string StateTree::pathOf( Rex::Entity const & entity ) const {
+   if ( auto const root = rootOfEntity_.find( &entity ); root != rootOfEntity_.end() ) {
+      return root->second->path();
+   }
+   auto const * parent = entity.parent();
+   auto const above = parent ? pathOf( *parent ) : std::string();
+   auto const step = above.empty() ? std::string() : stepTo( *parent, entity );
+   return step.empty() ? std::string() : above + "/" + step;
+}
+
+Rex::Value StateTree::value() const {
+   Rex::Value::Object all;
+   for ( auto const & root : roots ) {
+      if ( root.kind != Kind::machinery ) {
+         auto const entity = rootEntity( root );
+         all.emplace( root.path(), entity ? entity->value() : Rex::Value() );
+      }
+   }
+   return all;
+}
+
+} // namespace Simulator
