@@ -1,0 +1,233 @@
+#include "simulator/SimulatedSwitch.h"
+
+#include "simulator/BootImage.h"
+#include "simulator/TableMap.h"
+
+#include <dlfcn.h>
+
+namespace Simulator {
+
+namespace {
+
+using Corvo::makePtr;
+using Hardware::Dace::FapPortId;
+using Hardware::Dace::Cell::CellStatus;
+using Hardware::Dace::Cell::FapStatus;
+
+// The state in which a slice is up: the first of the two in which plug-ins run.
+constexpr DaceFapNi::SliceState sliceUp{ 31 };
+
+// A state of a slice that nobody has told anything about.
+constexpr DaceFapNi::SliceState sliceDown{ 0 };
+
+SwitchDescription checked( SwitchDescription description ) {
+   if ( DaceSal::schanDriver() ) {
+      throw std::logic_error( "there is a switch in this process already" );
+   }
+   std::map< U16, FapDescription const * > byNumber;
+   for ( auto & fap : description.faps ) {
+      auto const number = fap.fapId.value();
+      if ( !byNumber.emplace( number, &fap ).second ) {
+         throw std::logic_error( "two FAPs have the number " + std::to_string( number ) );
+      }
+      if ( fap.name.empty() ) {
+         fap.name = "Fap" + std::to_string( number );
+      }
+   }
+   Toggle::settingsIs( description.toggles );
+   return description;
+}
+
+void loadLibrary( std::string const & path ) {
+   // Never unloaded: its plug-in stays registered with the loader.
+   if ( !::dlopen( path.c_str(), RTLD_NOW | RTLD_LOCAL ) ) {
+      throw LibraryError( ::dlerror() );
+   }
+}
+
+} // namespace
+
+SimulatedSwitch::SimulatedSwitch( SwitchDescription description )
+   : description_( checked( std::move( description ) ) ), journal_( [this] { return cause(); } ),
+     scheduler_( makePtr< Orb::TaskScheduler >() ),
+     entityManager_( makePtr< Stordb::EntityManager >( state_.database(), scheduler_ ) ),
+     context_( makePtr< Agent::MounterPlugin::MounterContext >( entityManager_, state_.shared() ) ) {
+   makeChips();
+   shareObjects();
+   publishCell();
+   DaceSal::schanDriverIs( &driver_ );
+   if ( description_.journalled ) {
+      DaceSal::operationListenerIs( &journal_ );
+   }
+}
+
+SimulatedSwitch::~SimulatedSwitch() {
+   stop();
+}
+
+void SimulatedSwitch::makeChips() {
+   for ( auto const & fap : description_.faps ) {
+      auto const chipType = fap.revision.chipType();
+      // A chip of another family has no address that is known here.
+      if ( auto const * name = Hardware::chipTypeName( chipType ) ) {
+         boot( driver_.chipIs( fap.fapId, name, addressMap( chipType ) ), chipType );
+      }
+   }
+}
+
+void SimulatedSwitch::shareObjects() {
+   auto const global = makePtr< DaceFapNi::AgentGlobalState >();
+   global->sliceNameIs( description_.sliceName );
+   state_.rootIs( "shared/agentGlobalState", global );
+
+   auto const slice = makePtr< DaceFapNi::SliceSmStateInfo >();
+   if ( !description_.faps.empty() ) {
+      slice->revisionIs( description_.faps.front().revision );
+   }
+   state_.rootIs( "shared/sliceSmStateData", slice );
+
+   auto const phy = makePtr< DaceFapNi::PhySmStateInfo >();
+   phy->allEthPhyIntfConfigDirIs( makePtr< Interface::AllEthPhyIntfConfigDir >() );
+   state_.rootIs( "shared/phySmStateData", phy );
+
+   auto const phyShared = makePtr< DaceFapNi::PhySmStateSharedStatus >();
+   phyShared->allEthPhyIntfStatusDirIs( makePtr< Interface::AllEthPhyIntfStatusDir >() );
+   state_.rootIs( "shared/phySmStateSharedStatus", phyShared );
+
+   auto * const sdkHandle = static_cast< DaceSal::SchanDriver * >( &driver_ );
+   state_.rootIs( "shared/agentSdkState",
+                  makePtr< DaceFapNi::AgentSdkState >( sdkHandle, makePtr< DaceSal::SalGlobalConfig >() ) );
+   state_.rootIs( "shared/agentScheduler", makePtr< DaceFapNi::TaskScheduler >( scheduler_ ) );
+}
+
+void SimulatedSwitch::publishCell() {
+   cellStatus_ = makePtr< CellStatus >();
+   for ( auto const & fap : description_.faps ) {
+      auto const status = makePtr< FapStatus >( fap.fapId );
+      status->fapNameIs( fap.name );
+      status->revisionIs( fap.revision );
+      status->coresIs( fap.cores );
+      for ( auto const & [systemPort, fapPort] : fap.ports ) {
+         status->portsIs( systemPort, FapPortId{ fapPort } );
+      }
+      cellStatus_->fapStatusIs( status );
+   }
+   entity< Rex::Dir >( "hardware/dace/fap/status" )->entityIs( description_.sliceName, cellStatus_ );
+}
+
+void SimulatedSwitch::start( std::string const & pluginPath ) {
+   loadLibrary( pluginPath );
+   start();
+}
+
+void SimulatedSwitch::start() {
+   Rex::sassert( phase_ == Phase::made, "phase_ == Phase::made" );
+   phase_ = Phase::starting;
+   auto & loader = DaceFapNi::defaultPluginLoader();
+   loader.contextIs( context_.get() );
+   loader.initPlugins();
+   initChips();
+   auto const slice = entity< DaceFapNi::SliceSmStateInfo >( "shared/sliceSmStateData" );
+   if ( slice && slice->sliceState() == sliceDown ) {
+      slice->sliceStateIs( sliceUp );
+   }
+   scheduler_->runUntilIdle();
+   phase_ = Phase::running;
+}
+
+void SimulatedSwitch::initChips() {
+   auto const configs = state_.shared()->writeAllowed< DaceFapNi::ChipInitConfigDir >( "chipInitConfigDir" );
+   if ( !configs ) {
+      return;
+   }
+   phase_ = Phase::chipInit;
+   for ( auto const & [fapId, fapStatus] : cellStatus_->fapStatus() ) {
+      configs->initChip( fapStatus );
+   }
+   phase_ = Phase::starting;
+}
+
+void SimulatedSwitch::stop() {
+   if ( phase_ == Phase::stopped ) {
+      return;
+   }
+   phase_ = Phase::stopped;
+   DaceFapNi::defaultPluginLoader().releasePlugins();
+   scheduler_->clear();
+   if ( DaceSal::operationListener() == &journal_ ) {
+      DaceSal::operationListenerIs( nullptr );
+   }
+   DaceSal::schanDriverIs( nullptr );
+}
+
+void SimulatedSwitch::change( std::function< void() > const & what, std::string const & cause ) {
+   bool const isEvent = phase_ == Phase::running;
+   if ( isEvent ) {
+      eventCause_ = cause;
+      journal_.eventIs( ++event_ );
+   }
+   try {
+      Corvo::Publisher::ForeignWrite const foreign;
+      what();
+   } catch ( Rex::ValueError const & ) {
+      if ( isEvent ) {
+         journal_.eventIs( --event_ );
+      }
+      throw;
+   }
+   if ( isEvent ) {
+      scheduler_->runUntilIdle();
+   }
+}
+
+void SimulatedSwitch::set( std::string const & path, std::string const & attribute, Rex::Value const & value ) {
+   change( [&] { state_.attributeIs( path, attribute, value ); }, path + " " + attribute );
+}
+
+void SimulatedSwitch::setAttributes( std::string const & path, Rex::Value const & attributes ) {
+   change( [&] { state_.attributesIs( path, attributes ); }, path );
+}
+
+void SimulatedSwitch::setEntry( std::string const & path,
+                                std::string const & attribute,
+                                std::string const & key,
+                                Rex::Value const & value ) {
+   change( [&] { state_.entryIs( path, attribute, key, value ); }, path + " " + attribute );
+}
+
+void SimulatedSwitch::deleteEntry( std::string const & path, std::string const & attribute, std::string const & key ) {
+   change( [&] { state_.entryDel( path, attribute, key ); }, path + " " + attribute );
+}
+
+void SimulatedSwitch::deleteEntity( std::string const & path ) {
+   change( [&] { state_.entityDel( path ); }, path );
+}
+
+std::string SimulatedSwitch::cause() const {
+   if ( phase_ == Phase::chipInit ) {
+      return "chip-init";
+   }
+   for ( auto const * notification = Corvo::Publisher::current(); notification; notification = notification->outer ) {
+      if ( auto text = causeOf( *notification ); !text.empty() ) {
+         return text;
+      }
+   }
+   return event_ == 0 ? "start" : eventCause_;
+}
+
+std::string SimulatedSwitch::causeOf( Corvo::Notification const & notification ) const {
+   auto const * publisher = notification.publisher;
+   auto const * entity = publisher ? dynamic_cast< Rex::Entity const * >( &publisher->node() ) : nullptr;
+   auto const path = entity ? state_.pathOf( *entity ) : std::string();
+   if ( path.empty() ) {
+      return {};
+   }
+   if ( auto const * attribute = entity->typeData().attribute( notification.attribute ) ) {
+      return path + " " + attribute->name;
+   }
+   // A directory announces its entries, by name.
+   auto const * name = static_cast< std::string const * >( notification.key );
+   return dynamic_cast< Rex::Dir const * >( entity ) && name ? path + " " + *name : path;
+}
+
+} // namespace Simulator
