@@ -26,7 +26,7 @@ void Mount::handleFlags( Corvo::String const & mode ) {
 }
 
 MountGroup::MountGroup( Corvo::Ptr< EntityManager > const & entityManager, Corvo::Ptr< Mounter > const & mounter )
-   : entityManager_( entityManager ), mounter_( mounter ) {}
+   : entityManager_( entityManager ), mounter_( mounter->self_ ) {}
 
 MountGroup::~MountGroup() = default;
 
@@ -48,9 +48,9 @@ void MountGroup::doClose( bool, Corvo::String const &, Rex::Seconds ) {
             status.code = code; // the first that failed tells
          }
       }
-      auto const mounter = self->mounter_;
-      auto const entityManager = self->entityManager_;
-      mounter->doStordbMountsComplete( status, entityManager );
+      if ( auto const mounter = self->mounter_.lock() ) {
+         ( *mounter )->doStordbMountsComplete( status, self->entityManager_ );
+      }
    } );
 }
 

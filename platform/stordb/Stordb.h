@@ -77,6 +77,7 @@ constexpr MountStatus mountSuccess() {
    return {};
 }
 
+// The requests of one mounter. It doesn't keep the mounter alive: a mounter that is gone hears no report.
 class MountGroup : public Corvo::Node {
  public:
    MountGroup( Corvo::Ptr< EntityManager > const & entityManager, Corvo::Ptr< Mounter > const & mounter );
@@ -93,7 +94,7 @@ class MountGroup : public Corvo::Node {
 
  private:
    Corvo::Ptr< EntityManager > entityManager_;
-   Corvo::Ptr< Mounter > mounter_;
+   std::weak_ptr< Mounter * > mounter_;
    std::vector< Mount > mounts_;
    bool isOpen_ = true;
 };
@@ -159,6 +160,10 @@ class Mounter : public Rex::Entity {
    virtual void doStordbMountsComplete( MountStatus status, Corvo::Ptr< EntityManager > const & entityManager );
    virtual void doMountsComplete( MountStatus status, Corvo::Ptr< EntityManager > const & entityManager ) = 0;
    virtual void handleMountStatus( MountStatus ) {}
+
+ private:
+   friend class MountGroup;
+   std::shared_ptr< Mounter * > const self_ = std::make_shared< Mounter * >( this ); // gone with the mounter
 };
 
 } // namespace Stordb

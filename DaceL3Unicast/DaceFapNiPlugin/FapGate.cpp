@@ -1,0 +1,43 @@
+#include "FapGate.h"
+
+#include "Toggles.h"
+#include "rex/Assert.h"
+
+namespace DaceFapNi {
+
+namespace {
+
+// The last chip type of each FAP type, in ascending order.
+constexpr struct {
+   U8 lastChipType;
+   U8 fapType;
+} fapTypeRows[] = {
+   // clang-format off
+   {  0, 0 },
+   {  3, 1 },
+   {  8, 2 },
+   { 16, 3 },
+   { 25, 4 },
+   // clang-format on
+};
+
+} // namespace
+
+Hardware::Dace::FapType chipTypeToFapType( Hardware::ChipType chipType ) {
+   for ( auto const & row : fapTypeRows ) {
+      if ( static_cast< U8 >( chipType ) <= row.lastChipType ) {
+         return Hardware::Dace::FapType{ row.fapType };
+      }
+   }
+   Rex::SassertHelper( "false" ) << "Unhandled chipType " << chipType;
+   __builtin_unreachable();
+}
+
+bool isServed( Hardware::Dace::FapType fapType ) {
+   if ( fapType == fapTypeJericho3 ) {
+      return false;
+   }
+   return !( fapType == fapTypeJericho2 && toggleArmOrderedSwTableEnabled() && toggleJ2DaceL3NiEnabled() );
+}
+
+} // namespace DaceFapNi

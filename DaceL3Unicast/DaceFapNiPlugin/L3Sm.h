@@ -1,0 +1,95 @@
+// L3Sm: the central state machine of the plug-in, and the home of the static programming that runs once for each chip.
+//
+// Two paths reach the chips:
+//    - initChip: the chip-init list, run by the platform's chip-init callback, with no L3Sm object involved;
+//    - an L3Sm object: once both interface directories exist it builds its children, runs the second programming list,
+//      and from then on follows its inputs.
+// Both lists stand in L3SmProgramming.cpp. A subject of the programming has a file of its own, named at its functions.
+//
+// Life: built (an interface directory is missing) -> initialized -> destroyed. There is no way back.
+//
+// Threading: the agent's scheduler thread.
+#pragma once
+
+#include "Child.h"
+#include "L3SmArguments.h"
+#include "corvo/Watched.h"
+#include "rex/HashMap2018.h"
+
+namespace DaceFapNi {
+
+class L3IntfSm;
+
+class L3Sm : public Corvo::Node {
+ public:
+   using FapStatusPtr = Corvo::Ptr< Hardware::Dace::Cell::FapStatus const >;
+   using SwitchControlSalPtr = Corvo::Ptr< DaceSal::SwitchControlSal >;
+
+   // Subscribes to the inputs, and runs handleInitialized.
+   explicit L3Sm( L3SmArguments const & arguments );
+   ~L3Sm() override;
+   // Makes an L3Sm and activates it.
+   static Corvo::Ptr< L3Sm > L3SmIs( L3SmArguments const & arguments );
+
+   // Idempotent. Subscribes to or unsubscribes from every input, and passes the value to every child and reactor.
+   void hasNotificationActiveIs( bool active );
+   // Idempotent. Passes the value to the nested reactors; children carry their own flags.
+   virtual void rexDoZombieReactors( bool zombie );
+
+   // May run many times, acts once: when both interface directories exist.
+   void handleInitialized();
+   void handleAllEthPhyIntfDir() { handleInitialized(); }
+   bool initialized() const { return initialized_; }
+
+   // The chip-init list, for one FAP, in its order.
+   static void initChip( FapStatusPtr const & fapStatus, SwitchControlSalPtr const & sal );
+
+   // --- L3SmIpTraps.cpp: strengths of the header-check traps, and three trap registers
+   static void initIpTraps( FapStatusPtr const & fapStatus );
+   static void initIpTrapsFwd( FapStatusPtr const & fapStatus );
+   static void initIpTrapsVtt( FapStatusPtr const & fapStatus );
+   static void initSplitHorizonTrapParamCfgReg( FapStatusPtr const & fapStatus );
+   static void initIppbProgTrapCfgReg( FapStatusPtr const & fapStatus );
+   static void initIppdFerTrapCfgReg( FapStatusPtr const & fapStatus );
+
+   // --- L3SmUrpf.cpp: what happens to packets whose source check fails
+   void handleUrpfFailFwdConfig( U32 trapIndex, bool enable );
+   void handleLooseUrpfFailFwdConfig();
+   void handleStrictUrpfFailFwdConfig();
+
+   L3SmArguments const & arguments() const { return in_; }
+
+ private:
+   struct DispatchRow {
+      short attribute;
+      void ( L3Sm::*handler )();
+   };
+   // The dispatch function of an input: runs the handlers that its rows name, unless the machine is a zombie.
+   template< auto const & rows >
+   static void dispatch( Corvo::Publisher *, Corvo::Subscriber * slot, short attribute, void const *, void const * );
+
+   static DispatchRow const phySmStateSharedStatusRows[];
+   static DispatchRow const phySmStateRows[];
+   static DispatchRow const routingHwConfigRows[];
+
+   void buildChildren();
+   void programInitialState();
+
+   L3SmArguments const in_;
+   // The subscribed inputs, in the order of their attributes.
+   Corvo::Watched< PhySmStateSharedStatus > phySmStateSharedStatus_;
+   Corvo::Watched< PhySmStateInfo const > phySmState_;
+   Corvo::Watched< Mpls::RoutingInfo const > mplsRoutingInfo_;
+   Corvo::Watched< Vxlan::VtiStatusDir > vtiStatusDir_;
+   Corvo::Watched< Evpn::EvpnStatus const > evpnStatus_;
+   Corvo::Watched< Hardware::DaceLag::Status const > daceLagStatus_;
+   Corvo::Watched< Routing::Hardware::PrefixLensInExactMatch const > mergedPrefixLensInExactMatchV4_;
+   Corvo::Watched< Routing::Hardware::Config const > routingHwConfig_;
+   Corvo::Watched< DriverSetupSmStateInfo const > driverSetupSmStateInfo_;
+   bool initialized_ = false;
+};
+
+// Makes an L3Sm and activates it.
+Corvo::Ptr< L3Sm > l3SmFactory( L3SmArguments const & arguments );
+
+} // namespace DaceFapNi
