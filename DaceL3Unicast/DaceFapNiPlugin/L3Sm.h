@@ -18,8 +18,6 @@
 
 namespace DaceFapNi {
 
-class L3IntfSm;
-
 class L3Sm : public Corvo::Node {
  public:
    using FapStatusPtr = Corvo::Ptr< Hardware::Dace::Cell::FapStatus const >;
@@ -44,7 +42,35 @@ class L3Sm : public Corvo::Node {
    // The chip-init list, for one FAP, in its order.
    static void initChip( FapStatusPtr const & fapStatus, SwitchControlSalPtr const & sal );
 
-   // --- L3SmIpTraps.cpp: strengths of the header-check traps, and three trap registers
+   // Static programming, once for each chip. Each subject has its own file.
+
+   // L3SmRouting.cpp: which forwarding domains route, and for which kinds of traffic
+   static void initEnablersVectors( FapStatusPtr const & fapStatus );
+   static void initVsiProfileTable( FapStatusPtr const & fapStatus );
+   static void initSviLearning( FapStatusPtr const & fapStatus );
+   static void initIppbFlpbResContextEnablersReg( FapStatusPtr const & fapStatus );
+   void initUnknownDaProfileTable();
+
+   // L3SmInLifProfiles.cpp: RPF mode and context selection by in-LIF profile
+   static void clearInLifProfileCsMapMsb( FapStatusPtr const & fapStatus );
+   static void clearInLifProfileCsMapLsb( FapStatusPtr const & fapStatus );
+   static void initInLifProfileTable( FapStatusPtr const & fapStatus );
+   static void initIppcInLifProfileCsMapping( FapStatusPtr const & fapStatus );
+   static void setupVplsVlanAwareCsProfile( FapStatusPtr const & fapStatus );
+   static void setupAegisSetSecondaryVrfCsProfile( FapStatusPtr const & fapStatus );
+   static void setupVxlanUdpEspCsProfile( FapStatusPtr const & fapStatus );
+
+   // L3SmLifOrientation.cpp: orientation and same-interface filter by LIF profile
+   static void initInlifOrientationMapTable( FapStatusPtr const & fapStatus );
+   static void initOutlifOrientationMap( FapStatusPtr const & fapStatus );
+
+   // L3SmKaps.cpp: VRF fallback, KAPS defaults and strengths
+   static void initVrfFallbackMapping( FapStatusPtr const & fapStatus );
+   static void initKapsInterfaceDefault( FapStatusPtr const & fapStatus );
+   static void initKapsStrengthMapping( FapStatusPtr const & fapStatus );
+   static void verifyKapsStrengthMapping( FapStatusPtr const & fapStatus );
+
+   // L3SmIpTraps.cpp: strengths of the header-check traps, and three trap registers
    static void initIpTraps( FapStatusPtr const & fapStatus );
    static void initIpTrapsFwd( FapStatusPtr const & fapStatus );
    static void initIpTrapsVtt( FapStatusPtr const & fapStatus );
@@ -52,10 +78,55 @@ class L3Sm : public Corvo::Node {
    static void initIppbProgTrapCfgReg( FapStatusPtr const & fapStatus );
    static void initIppdFerTrapCfgReg( FapStatusPtr const & fapStatus );
 
-   // --- L3SmUrpf.cpp: what happens to packets whose source check fails
+   // L3SmEgressLimits.cpp: the recycle path of MTU failures, and the limits of the egress
+   static void disableIngressTermination( FapStatusPtr const & fapStatus );
+   static void initIppeRecycFwdProfileMappingReg( FapStatusPtr const & fapStatus );
+   static void initMtuRecycleLog( FapStatusPtr const & fapStatus, SwitchControlSalPtr const & sal );
+   static void initEtppCfgFwdDoNotTtlDecrement( FapStatusPtr const & fapStatus );
+   static void initFlpRpfFormatConfig( FapStatusPtr const & fapStatus );
+   static void initLifMcBridgeFallbackAllowReg( FapStatusPtr const & fapStatus );
+   static void doCopyFwdDomainConfigToLifStatsForEtpsArpAc( FapStatusPtr const & fapStatus,
+                                                            SwitchControlSalPtr const & sal );
+   static void doSetupVxlanMcastEtppDoubleOutLifSwap( FapStatusPtr const & fapStatus, SwitchControlSalPtr const & sal );
+   void initEgressOutrifMaxValueReg();
+
+   // L3SmWellKnownLifs.cpp: well-known LIFs and destinations, set through numbered controls
+   static void initMplsDefaultFwdResult( FapStatusPtr const & fapStatus, SwitchControlSalPtr const & sal );
+   static void initSaProcedureFwd2RoutingCtxs( FapStatusPtr const & fapStatus, SwitchControlSalPtr const & sal );
+   static void doSetupVtt5DefaultLif( FapStatusPtr const & fapStatus, SwitchControlSalPtr const & sal );
+   static void doSetupVxlanDefaultVsi( FapStatusPtr const & fapStatus, SwitchControlSalPtr const & sal );
+   static void doSetupVxlanVtt5DefaultLif( FapStatusPtr const & fapStatus, SwitchControlSalPtr const & sal );
+   static void doSetupVtt5VniToVrfDummyLif( FapStatusPtr const & fapStatus, SwitchControlSalPtr const & sal );
+   static void doSetupVxlanMcastSgiProgram( FapStatusPtr const & fapStatus, SwitchControlSalPtr const & sal );
+   static void doSetupVxlanSipMissLif( FapStatusPtr const & fapStatus, SwitchControlSalPtr const & sal );
+
+   // Handlers: programming that follows the inputs. Each recomputes everything and writes every FAP.
+
+   // L3SmUrpf.cpp: what happens to packets whose source check fails
    void handleUrpfFailFwdConfig( U32 trapIndex, bool enable );
    void handleLooseUrpfFailFwdConfig();
    void handleStrictUrpfFailFwdConfig();
+
+   // L3SmExactMatch.cpp: lookup strengths that follow the prefix lengths in the exact-match engine
+   void handlePrefixLensInExactMatch();
+
+   // L3SmMpls.cpp: MPLS forwarding contexts
+   void setupMplsFwdContext();
+   void setupMplsLookupFbIpFwdContext();
+   static void setupMplsPopFheiFormat( FapStatusPtr const & fapStatus );
+
+   // L3SmEvpn.cpp: EVPN encapsulation, DCI gateway, decapsulation of all routes
+   void handleEvpnEncapType();
+   void handleEvpnDciGateway();
+   void handleDecapRouteAll();
+
+   // L3SmSlotLoadBalance.cpp: GUE termination by the load-balance configuration of the own slot
+   class NestedSm_SlotLoadBalance;
+   Corvo::Ptr< NestedSm_SlotLoadBalance >
+   slotLoadBalanceIs( Corvo::Ptr< Hardware::Dace::LoadBalanceHwConfig const > const & config );
+   Corvo::Ptr< NestedSm_SlotLoadBalance > slotLoadBalanceDel( Fru::SlotId slot );
+   void slotLoadBalanceDelAll();
+   void doSetupSlotGueLoadBalance() const;
 
    L3SmArguments const & arguments() const { return in_; }
 
