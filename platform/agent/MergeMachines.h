@@ -66,10 +66,6 @@ class NexthopGroupCliDynamicConfigUdpDestPortMergeSm : public Corvo::Node {
                                                      Corvo::Ptr< Config const > const & cli,
                                                      Corvo::Ptr< Rex::Dir const > const & dynamic,
                                                      Oxa::SmControl const & control );
-   bool builtFrom( Corvo::Ptr< Config > const & output,
-                   Corvo::Ptr< Config const > const & cli,
-                   Corvo::Ptr< Rex::Dir const > const & dynamic,
-                   Oxa::SmControl const & control ) const;
    // Idempotent. Turning on merges at once.
    void hasNotificationActiveIs( bool active );
 
@@ -80,7 +76,6 @@ class NexthopGroupCliDynamicConfigUdpDestPortMergeSm : public Corvo::Node {
    Corvo::Ptr< Config > output_;
    Corvo::Watched< Config const > cli_;
    Corvo::Ptr< Rex::Dir const > dynamic_;
-   Oxa::SmControl control_;
    Rex::DirFollower follower_;
 };
 
@@ -101,22 +96,17 @@ class DecapGroupConfigMergeSm : public Corvo::Node {
                               Corvo::Ptr< ConfigInput const > const & cli,
                               Corvo::Ptr< Rex::Dir const > const & dynamic,
                               Corvo::Ptr< Stordb::EntityManager > const & entityManager );
-   bool builtFrom( Corvo::Ptr< Config > const & output,
-                   Corvo::Ptr< ConfigInput const > const & cli,
-                   Corvo::Ptr< Rex::Dir const > const & dynamic,
-                   Corvo::Ptr< Stordb::EntityManager > const & entityManager ) const;
    // Idempotent. Turning on merges at once.
    void hasNotificationActiveIs( bool active );
 
  private:
    class InputFollower;
-   void merge();
-   void followInputs();
+   // Follows what the inputs hold now, and makes the output equal to it.
+   void changed();
 
    Corvo::Ptr< Config > output_;
    Corvo::Ptr< ConfigInput const > cli_;
    Corvo::Ptr< Rex::Dir const > dynamic_;
-   Corvo::Ptr< Stordb::EntityManager > entityManager_;
    Rex::DirFollower follower_;
    std::vector< Corvo::Ptr< InputFollower > > inputs_;
 };
@@ -136,9 +126,6 @@ class PrefixLensInExactMatchMergerSm : public Corvo::Node {
    PrefixLensInExactMatchMergerSmIs( Corvo::Ptr< RouteStatusGen const > const & routeStatus,
                                      Corvo::Ptr< PrefixLensInExactMatch > const & output,
                                      Oxa::SmControl const & control );
-   bool builtFrom( Corvo::Ptr< RouteStatusGen const > const & routeStatus,
-                   Corvo::Ptr< PrefixLensInExactMatch > const & output,
-                   Oxa::SmControl const & control ) const;
    // Idempotent. Turning on merges at once.
    void hasNotificationActiveIs( bool active );
 
@@ -148,7 +135,6 @@ class PrefixLensInExactMatchMergerSm : public Corvo::Node {
 
    Corvo::Watched< RouteStatusGen const > routeStatus_;
    Corvo::Ptr< PrefixLensInExactMatch > output_;
-   Oxa::SmControl control_;
 };
 
 } // namespace Routing::Hardware
