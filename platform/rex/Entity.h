@@ -25,6 +25,8 @@
 //                                             walking, name( key ) const (null if absent), nameHas( key ),
 //                                             nameIs( entity ) (replaces), nameDel( key ) (returns what was removed)
 //    REX_ORDERED_COLLECTION( Type, name, id ) the same, walked in the order of the keys
+//    REX_REFERENCES( Type, name, id )         a collection of entities that hang elsewhere: it changes neither their
+//                                             parent nor their protection, and a null entity is not entered
 //
 // Setting an attribute to the value it has announces nothing. A change of an entry of a map or collection is announced
 // with a pointer to its key. A null entity given to a collection throws the null-argument exception.
@@ -216,6 +218,34 @@ class CollectionAttribute {
    Entities entities_;
 };
 
+// The contents of an attribute that refers to entities which hang elsewhere.
+template< class Type >
+class ReferencesAttribute {
+ public:
+   using Key = typename Type::RexKey;
+   using Entities = HashMap2018< Key, Corvo::Ptr< Type > >;
+
+   Entities const & all() const { return entities_; }
+   void set( Corvo::Publisher & publisher, short id, Corvo::Ptr< Type > const & entity ) {
+      if ( entity && entities_.get( entity->rexKey() ) != entity ) {
+         Key const key = entity->rexKey();
+         entities_.set( key, entity );
+         publisher.publish( id, &key, entity.get() );
+      }
+   }
+   Corvo::Ptr< Type > del( Corvo::Publisher & publisher, short id, Key const & key ) {
+      Key const copy = key;
+      Corvo::Ptr< Type > const old = entities_.del( copy );
+      if ( old ) {
+         publisher.publish( id, &copy, nullptr );
+      }
+      return old;
+   }
+
+ private:
+   Entities entities_;
+};
+
 } // namespace Rex
 
 #include "rex/EntityAttributes.h"
@@ -335,6 +365,33 @@ class CollectionAttribute {
 
 #define REX_COLLECTION( Type, attr, id ) REX_COLLECTION_OF( ::Rex::HashMap2018, Type, attr, id )
 #define REX_ORDERED_COLLECTION( Type, attr, id ) REX_COLLECTION_OF( ::Rex::OrderedMap, Type, attr, id )
+
+#define REX_REFERENCES( Type, attr, id )                                                                               \
+ public:                                                                                                               \
+   ::Rex::ReferencesAttribute< Type >::Entities const & attr() const {                                                 \
+      return attr##_.all();                                                                                            \
+   }                                                                                                                   \
+   ::Corvo::Ptr< Type > attr( ::Rex::ReferencesAttribute< Type >::Key const & key ) const {                            \
+      return attr##_.all().get( key );                                                                                 \
+   }                                                                                                                   \
+   bool attr##Has( ::Rex::ReferencesAttribute< Type >::Key const & key ) const {                                       \
+      return attr##_.all().has( key );                                                                                 \
+   }                                                                                                                   \
+   void attr##Is( ::Corvo::Ptr< Type > const & entity ) {                                                              \
+      writeCheck();                                                                                                    \
+      attr##_.set( *publisher(), id, entity );                                                                         \
+   }                                                                                                                   \
+   ::Corvo::Ptr< Type > attr##Del( ::Rex::ReferencesAttribute< Type >::Key const & key ) {                             \
+      writeCheck();                                                                                                    \
+      return attr##_.del( *publisher(), id, key );                                                                     \
+   }                                                                                                                   \
+   static void rexDeclare( ::Rex::Impl::Line< __LINE__ >, ::Rex::TypeData & type ) {                                   \
+      type.attributeAdd( ::Rex::Impl::references< RexSelf, Type, &RexSelf::attr##_ >( id, #attr ) );                   \
+   }                                                                                                                   \
+                                                                                                                       \
+ private:                                                                                                              \
+   ::Rex::ReferencesAttribute< Type > attr##_;                                                                         \
+   static_assert( true )
 
 #define REX_DEFINE( Class, typeName )                                                                                  \
    ::Rex::TypeData const & Class::rexType() {                                                                          \

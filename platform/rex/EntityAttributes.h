@@ -179,6 +179,33 @@ class CollectionAttributeData : public Attribute {
    }
 };
 
+// Entities that hang elsewhere can be read here; they are set where they hang.
+template< class Self, class Type, auto Member >
+class ReferencesAttributeData : public Attribute {
+   using Key = typename Type::RexKey;
+
+ public:
+   ReferencesAttributeData( short number, char const * text ) : Attribute( number, Kind::collection, text ) {}
+   Value value( Entity const & of ) const override {
+      Value::Object object;
+      for ( auto const & [key, entity] : ( static_cast< Self const & >( of ).*Member ).all() ) {
+         object.emplace( Codec< Key >::toKey( key ), entity->value() );
+      }
+      return object;
+   }
+   void valueIs( Entity &, Value const & ) const override { throw refusal(); }
+   void entryIs( Entity &, std::string const &, Value const & ) const override { throw refusal(); }
+   bool entryDel( Entity &, std::string const & ) const override { throw refusal(); }
+   std::string keyText( void const * key ) const override {
+      return Codec< Key >::toKey( *static_cast< Key const * >( key ) );
+   }
+
+ private:
+   ValueError refusal() const {
+      return { "", std::string( name ) + " refers to entities that stand elsewhere: set them there" };
+   }
+};
+
 template< class Self, class Type, auto Get, auto Set >
 std::unique_ptr< Attribute > scalar( short id, char const * name ) {
    return std::make_unique< ScalarAttribute< Self, Type, Get, Set > >( id, name );
@@ -194,6 +221,11 @@ std::unique_ptr< Attribute > map( short id, char const * name ) {
 template< class Self, class Type, auto Member, auto Set, auto Del >
 std::unique_ptr< Attribute > collection( short id, char const * name ) {
    return std::make_unique< CollectionAttributeData< Self, Type, Member, Set, Del > >( id, name );
+}
+
+template< class Self, class Type, auto Member >
+std::unique_ptr< Attribute > references( short id, char const * name ) {
+   return std::make_unique< ReferencesAttributeData< Self, Type, Member > >( id, name );
 }
 
 // A type's declaration fits on a page: its attributes are told apart by their lines, which are tried in turn.
