@@ -13,11 +13,6 @@ Node::~Node() {
 }
 
 void Node::lastUserGone() const {
-   destroy();
-}
-
-void Node::destroy() const {
-   users_ = 1;
    delete this;
 }
 

@@ -6,7 +6,7 @@ NotifieeConst::~NotifieeConst() = default;
 
 void NotifieeConst::lastUserGone() const {
    onZeroReferences();
-   destroy();
+   delete this;
 }
 
 void NotifieeConst::onAttribute( AttributeId, void const * ) {}
