@@ -41,6 +41,13 @@ class Child {
          build, [] {}, args... );
    }
 
+   // Switches the child's notifications, if there is a child.
+   void activeIs( bool active ) const {
+      if ( child_ ) {
+         child_->hasNotificationActiveIs( active );
+      }
+   }
+
    // Clears the attribute and returns what it held.
    Corvo::Ptr< T > take() {
       builtFrom_.reset();

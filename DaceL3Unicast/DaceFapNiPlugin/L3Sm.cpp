@@ -44,6 +44,7 @@ L3Sm::~L3Sm() {
    phySmStateSharedStatus_.unsubscribe();
    phySmState_.unsubscribe();
    routingHwConfig_.unsubscribe();
+   childrenActiveIs( false );
 }
 
 Corvo::Ptr< L3Sm > L3Sm::L3SmIs( L3SmArguments const & arguments ) {
@@ -64,6 +65,14 @@ void L3Sm::hasNotificationActiveIs( bool active ) {
    phySmStateSharedStatus_.activeIs( active, dispatch< phySmStateSharedStatusRows >, this );
    phySmState_.activeIs( active, dispatch< phySmStateRows >, this );
    routingHwConfig_.activeIs( active, dispatch< routingHwConfigRows >, this );
+   childrenActiveIs( active );
+}
+
+void L3Sm::childrenActiveIs( bool active ) {
+   vtiStatusDirSm_.activeIs( active );
+   vxlanSplitHorizonCfgSm_.activeIs( active );
+   vxlanQosSm_.activeIs( active );
+   nexthopGroupSm_.activeIs( active );
 }
 
 void L3Sm::rexDoZombieReactors( bool zombie ) {
@@ -88,6 +97,17 @@ void L3Sm::handleInitialized() {
 }
 
 // In the order of their attributes; each reads its inputs' present state as it is built.
-void L3Sm::buildChildren() {}
+void L3Sm::buildChildren() {
+   vtiStatusDirSmIs( "vtiStatusDirSm", in_.vtiStatusDir, in_.hwCapabilities, in_.cellStatus, in_.switchControlSal )
+      ->initializedIs( true );
+   vxlanSplitHorizonCfgSmIs( in_.vtiStatusDir, in_.evpnStatus, in_.cellStatus );
+   vxlanQosSmIs( in_.vxlanEcnConfig, in_.cellStatus );
+   nexthopGroupSmIs( in_.cellStatus, in_.dgConfig, in_.udpDestPortConfig, in_.switchControlSal );
+}
+
+// Writes no table itself: it has the flood destination of unknown traffic written, with or without VTIs.
+void L3Sm::initUnknownDaProfileTable() {
+   vtiStatusDirSm()->doSetupRemoteVxlanDomain( Netka::IntfId( "" ), false );
+}
 
 } // namespace DaceFapNi

@@ -12,7 +12,11 @@
 #pragma once
 
 #include "Child.h"
+#include "GueNexthopGroupSm.h"
 #include "L3SmArguments.h"
+#include "VtiStatusDirSm.h"
+#include "VxlanQosSm.h"
+#include "VxlanSplitHorizonSm.h"
 #include "corvo/Watched.h"
 #include "rex/HashMap2018.h"
 
@@ -130,6 +134,25 @@ class L3Sm : public Corvo::Node {
 
    L3SmArguments const & arguments() const { return in_; }
 
+   // The child state machines, null until they are built; Child.h tells what setters and removers do, the child's
+   // constructor what its arguments are.
+   Corvo::Ptr< DaceL3UnicastVtiStatusDirSm > const & vtiStatusDirSm() const { return vtiStatusDirSm_.get(); }
+   Corvo::Ptr< VxlanSplitHorizonCfgSm > const & vxlanSplitHorizonCfgSm() const { return vxlanSplitHorizonCfgSm_.get(); }
+   Corvo::Ptr< VxlanQosSm > const & vxlanQosSm() const { return vxlanQosSm_.get(); }
+   Corvo::Ptr< GueNexthopGroupSm > const & nexthopGroupSm() const { return nexthopGroupSm_.get(); }
+   auto vtiStatusDirSmIs( auto const &... args ) {
+      return vtiStatusDirSm_.is( daceL3UnicastVtiStatusDirSmFactory, args... );
+   }
+   auto vxlanSplitHorizonCfgSmIs( auto const &... args ) {
+      return vxlanSplitHorizonCfgSm_.is( vxlanSplitHorizonCfgSmFactory, args... );
+   }
+   auto vxlanQosSmIs( auto const &... args ) { return vxlanQosSm_.is( vxlanQosSmFactory, args... ); }
+   auto nexthopGroupSmIs( auto const &... args ) { return nexthopGroupSm_.is( gueNexthopGroupSmFactory, args... ); }
+   auto vtiStatusDirSmDel() { return vtiStatusDirSm_.del(); }
+   auto vxlanSplitHorizonCfgSmDel() { return vxlanSplitHorizonCfgSm_.del(); }
+   auto vxlanQosSmDel() { return vxlanQosSm_.del(); }
+   auto nexthopGroupSmDel() { return nexthopGroupSm_.del(); }
+
  private:
    struct DispatchRow {
       short attribute;
@@ -145,6 +168,8 @@ class L3Sm : public Corvo::Node {
 
    void buildChildren();
    void programInitialState();
+   // Passes the value to the children, in the order of their attributes.
+   void childrenActiveIs( bool active );
 
    L3SmArguments const in_;
    // The subscribed inputs, in the order of their attributes.
@@ -157,6 +182,16 @@ class L3Sm : public Corvo::Node {
    Corvo::Watched< Routing::Hardware::PrefixLensInExactMatch const > mergedPrefixLensInExactMatchV4_;
    Corvo::Watched< Routing::Hardware::Config const > routingHwConfig_;
    Corvo::Watched< DriverSetupSmStateInfo const > driverSetupSmStateInfo_;
+   // The children, in the order of their attributes.
+   // clang-format off
+   Child< DaceL3UnicastVtiStatusDirSm, Corvo::String, Corvo::Ptr< Vxlan::VtiStatusDir const >,
+          Corvo::Ptr< Bridging::HwCapabilities const >, CellStatusPtr, SwitchControlSalPtr > vtiStatusDirSm_;
+   Child< VxlanSplitHorizonCfgSm, Corvo::Ptr< Vxlan::VtiStatusDir const >, Corvo::Ptr< Evpn::EvpnStatus const >,
+          CellStatusPtr > vxlanSplitHorizonCfgSm_;
+   Child< VxlanQosSm, Corvo::Ptr< Vxlan::EcnConfig const >, CellStatusPtr > vxlanQosSm_;
+   Child< GueNexthopGroupSm, CellStatusPtr, Corvo::Ptr< Tunnel::Decap::Config const >,
+          Corvo::Ptr< L3::Tunnel::UdpDestinationPortConfig const >, SwitchControlSalPtr > nexthopGroupSm_;
+   // clang-format on
    bool initialized_ = false;
 };
 

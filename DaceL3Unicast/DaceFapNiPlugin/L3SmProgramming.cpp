@@ -14,6 +14,7 @@ void L3Sm::initChip( FapStatusPtr const & fapStatus, SwitchControlSalPtr const &
 
 // For all FAPs, when the machine becomes initialized and its children are built.
 void L3Sm::programInitialState() {
+   initUnknownDaProfileTable();
    handleLooseUrpfFailFwdConfig();
    handleStrictUrpfFailFwdConfig();
 }
