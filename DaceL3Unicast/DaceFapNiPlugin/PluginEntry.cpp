@@ -13,6 +13,7 @@ class Plugin : public PluginBase< MounterContext > {
       mounter_ = Corvo::makePtr< Mounter >();
       mounter_->init( context );
    }
+   void release() override { mounter_ = nullptr; }
    PluginBaseInitCaller & initCaller() { return initCaller_; }
 
  private:

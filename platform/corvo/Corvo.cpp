@@ -13,6 +13,11 @@ Node::~Node() {
 }
 
 void Node::lastUserGone() const {
+   destroy();
+}
+
+void Node::destroy() const {
+   users_ = 1;
    delete this;
 }
 

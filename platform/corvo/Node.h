@@ -69,6 +69,9 @@ class Node {
  protected:
    Node() { count( live_, 1 ); }
 
+   // Deletes the node. It is its own user meanwhile, so that its destructor may hand out references to itself.
+   void destroy() const;
+
  private:
    bool flag( NodeFlag which ) const { return ( flags_ & static_cast< U8 >( which ) ) != 0; }
    static U32 count( U32 & counter, U32 step ) {

@@ -6,7 +6,7 @@ NotifieeConst::~NotifieeConst() = default;
 
 void NotifieeConst::lastUserGone() const {
    onZeroReferences();
-   delete this;
+   destroy();
 }
 
 void NotifieeConst::onAttribute( AttributeId, void const * ) {}
