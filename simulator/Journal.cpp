@@ -4,6 +4,7 @@
 #include "rex/Assert.h"
 #include "simulator/FunctionName.h"
 
+#include <algorithm>
 #include <array>
 #include <cerrno>
 #include <charconv>
@@ -59,6 +60,29 @@ void addWord( std::string & line, U32 word ) {
    line += '"';
 }
 
+void addGates( std::string & line, std::vector< Journal::Gate > const & gates ) {
+   char const * separator = "[{\"function\": ";
+   for ( Journal::Gate const & gate : gates ) {
+      line += separator;
+      separator = ", {\"function\": ";
+      addQuoted( line, gate.function );
+      line += ", \"source\": ";
+      addQuoted( line, gate.source );
+      line += ", \"reason\": ";
+      addQuoted( line, gate.reason );
+      if ( gate.fap ) {
+         line += ", \"fap\": ";
+         add( line, *gate.fap );
+      }
+      line += ", \"event\": ";
+      add( line, gate.event );
+      line += ", \"cause\": ";
+      addQuoted( line, gate.cause );
+      line += "}";
+   }
+   line += "]";
+}
+
 constexpr std::string_view kindNames[] = { "read", "write", "control" };
 constexpr std::string_view scopeNames[] = { "any", "all", "core" };
 
@@ -82,6 +106,9 @@ Journal::~Journal() {
    if ( DaceSal::operationListener() == this ) {
       DaceSal::operationListenerIs( nullptr );
    }
+   if ( Rex::gateListener() == this ) {
+      Rex::gateListenerIs( nullptr );
+   }
    flushAtFailure();
    if ( file_ ) {
       std::fclose( file_ );
@@ -99,6 +126,7 @@ void Journal::fileIs( std::string const & path ) {
    file_ = file;
    path_ = path;
    flushed_ = 0;
+   toldAhead_ = 0;
 }
 
 void Journal::flush() {
@@ -109,7 +137,10 @@ void Journal::flush() {
    while ( flushed_ < records_.size() ) {
       text.clear();
       for ( ; flushed_ < records_.size() && text.size() < flushBytes; ++flushed_ ) {
-         text += json( row( flushed_ ) );
+         Row next = row( flushed_ );
+         next.gates.erase( next.gates.begin(), next.gates.begin() + toldAhead_ );
+         toldAhead_ = static_cast< std::ptrdiff_t >( next.gatesAfter.size() );
+         text += json( next );
          text += '\n';
       }
       if ( std::fwrite( text.data(), 1, text.size(), file_ ) != text.size() ) {
@@ -162,14 +193,40 @@ U32 Journal::originNumber( std::source_location const & at ) {
 }
 
 U32 Journal::causeNumber( std::string cause ) {
-   if ( !records_.empty() && *causes_[records_.back().cause] == cause ) {
-      return records_.back().cause;
+   if ( latestCause_ < causes_.size() && *causes_[latestCause_] == cause ) {
+      return latestCause_;
    }
    auto const [known, isNew] = causeNumbers_.try_emplace( std::move( cause ), static_cast< U32 >( causes_.size() ) );
    if ( isNew ) {
       causes_.push_back( &known->first );
    }
-   return known->second;
+   return latestCause_ = known->second;
+}
+
+void Journal::chipIs( U16 fap, Hardware::ChipType chipType ) {
+   chips_[fap] = Hardware::chipTypeName( chipType );
+}
+
+void Journal::gateClosed( Rex::ClosedGate const & gate ) {
+   gates_.push_back( GateRecord{ .before = records_.size(),
+                                 .origin = originNumber( gate.origin ),
+                                 .cause = causeNumber( cause_() ),
+                                 .event = event_,
+                                 .reason = std::string( gate.reason ),
+                                 .fap = gate.fap } );
+}
+
+std::vector< Journal::Gate > Journal::gatesBefore( std::size_t operation ) const {
+   std::vector< Gate > gates;
+   for ( GateRecord const & record : std::ranges::equal_range( gates_, operation, {}, &GateRecord::before ) ) {
+      gates.push_back( Gate{ .function = origins_[record.origin].function,
+                             .source = origins_[record.origin].source,
+                             .reason = record.reason,
+                             .fap = record.fap,
+                             .event = record.event,
+                             .cause = *causes_[record.cause] } );
+   }
+   return gates;
 }
 
 Journal::Row Journal::row( std::size_t index ) const {
@@ -198,6 +255,13 @@ Journal::Row Journal::row( std::size_t index ) const {
       if ( !record.isRegister ) {
          row.entry = record.entryOrControl;
       }
+   }
+   if ( auto const chip = chips_.find( record.fap ); chip != chips_.end() ) {
+      row.chip = chip->second;
+   }
+   row.gates = gatesBefore( index );
+   if ( index + 1 == records_.size() ) {
+      row.gatesAfter = gatesBefore( index + 1 );
    }
    return row;
 }
@@ -258,6 +322,16 @@ std::string Journal::json( Row const & row ) {
    text( "function", row.function );
    text( "source", row.source );
    text( "cause", row.cause );
+   if ( row.chip ) {
+      text( "chip", row.chip );
+   }
+   for ( auto const & [name, gates] :
+         { std::pair( "gates", &row.gates ), std::pair( "gatesAfter", &row.gatesAfter ) } ) {
+      if ( !gates->empty() ) {
+         key( name, std::string_view{} );
+         addGates( line, *gates );
+      }
+   }
    line += '}';
    return line;
 }

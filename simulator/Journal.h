@@ -7,6 +7,9 @@
 //    ...
 //    for ( Journal::Row const & row : journal.rows() ) { ... }
 //
+// A gate that a function of the plug-in found closed (rex/Gate.h) is told with the next operation, or with the last one
+// where none follows.
+//
 // An operation costs a short binary record; text is made when the journal is flushed: when the owner says so, when the
 // journal ends, and when the process fails, so that the file is complete up to the last operation. The names of
 // functions and files are copied when they are first seen: a journal outlives the plug-in that it tells of.
@@ -14,6 +17,8 @@
 // Threading: the agent's scheduler thread.
 #pragma once
 
+#include "constants/ChipType.h"
+#include "rex/Gate.h"
 #include "sal/Driver.h"
 
 #include <cstdio>
@@ -27,10 +32,20 @@
 
 namespace Simulator {
 
-class Journal final : public DaceSal::OperationListener {
+class Journal final : public DaceSal::OperationListener, public Rex::GateListener {
  public:
    using Kind = DaceSal::Operation::Kind;
    using Scope = DaceSal::Operation::Scope;
+
+   // A condition that kept a function from running. Its names are the journal's.
+   struct Gate {
+      std::string_view function;
+      std::string_view source;
+      std::string_view reason;
+      std::optional< U16 > fap;
+      U32 event;
+      std::string_view cause;
+   };
 
    // One operation. Its names are the journal's: valid while the journal is.
    struct Row {
@@ -55,6 +70,10 @@ class Journal final : public DaceSal::OperationListener {
       // Controls.
       U32 control;
       U32 value;
+
+      char const * chip = nullptr;         // kind of chip, where the journal was told
+      std::vector< Gate > gates = {};      // found closed since the operation before
+      std::vector< Gate > gatesAfter = {}; // the last operation: those found closed since
    };
 
    // `cause` tells what is being dispatched; it is asked at each operation.
@@ -65,6 +84,9 @@ class Journal final : public DaceSal::OperationListener {
 
    // The number of the event that what follows belongs to; 0 at the start.
    void eventIs( U32 event ) { event_ = event; }
+
+   // What kind of chip a FAP is, so that a reader can decode the words of its operations.
+   void chipIs( U16 fap, Hardware::ChipType chipType );
 
    // Writes the journal to a file, one JSON object a line, at each flush from now on. A file that can't be made:
    // std::runtime_error, "<path>: <reason>".
@@ -80,6 +102,7 @@ class Journal final : public DaceSal::OperationListener {
    static std::string json( Row const & row );
 
    void operation( DaceSal::Operation const & operation ) override;
+   void gateClosed( Rex::ClosedGate const & gate ) override;
 
  private:
    struct Origin {
@@ -115,6 +138,17 @@ class Journal final : public DaceSal::OperationListener {
       bool isRegister;
    };
 
+   struct GateRecord {
+      std::size_t before; // index of the operation that follows
+      U32 origin;
+      U32 cause;
+      U32 event;
+      std::string reason;
+      std::optional< U16 > fap;
+   };
+
+   // The gates that were found closed just before an operation.
+   std::vector< Gate > gatesBefore( std::size_t operation ) const;
    U32 originNumber( std::source_location const & at );
    U32 causeNumber( std::string cause );
    void flushAtFailure();
@@ -127,10 +161,14 @@ class Journal final : public DaceSal::OperationListener {
    std::unordered_map< OriginKey, U32, OriginHash > originNumbers_;
    std::vector< std::string const * > causes_; // the keys of the numbers
    std::map< std::string, U32 > causeNumbers_;
+   U32 latestCause_ = 0;
+   std::deque< GateRecord > gates_; // in order
+   std::map< U16, char const * > chips_;
 
    std::FILE * file_ = nullptr;
    std::string path_;
-   std::size_t flushed_ = 0; // rows
+   std::size_t flushed_ = 0;      // rows
+   std::ptrdiff_t toldAhead_ = 0; // gates before the next row that stand in the file already
    int failureHook_ = 0;
 };
 

@@ -58,6 +58,7 @@ SimulatedSwitch::SimulatedSwitch( SwitchDescription description )
    DaceSal::schanDriverIs( &driver_ );
    if ( description_.journalled ) {
       DaceSal::operationListenerIs( &journal_ );
+      Rex::gateListenerIs( &journal_ );
    }
 }
 
@@ -71,6 +72,7 @@ void SimulatedSwitch::makeChips() {
       // A chip of another family has no address that is known here.
       if ( auto const * name = Hardware::chipTypeName( chipType ) ) {
          boot( driver_.chipIs( fap.fapId, name, addressMap( chipType ) ), chipType );
+         journal_.chipIs( fap.fapId.value(), chipType );
       }
    }
 }
@@ -156,6 +158,9 @@ void SimulatedSwitch::stop() {
    scheduler_->clear();
    if ( DaceSal::operationListener() == &journal_ ) {
       DaceSal::operationListenerIs( nullptr );
+   }
+   if ( Rex::gateListener() == &journal_ ) {
+      Rex::gateListenerIs( nullptr );
    }
    DaceSal::schanDriverIs( nullptr );
 }

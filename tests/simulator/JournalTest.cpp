@@ -259,4 +259,59 @@ TEST_F( JournalDeathTest, isCompleteUpToTheLastOperationWhenAnExceptionIsNotCaug
    EXPECT_NE( file().find( "\"control\": 65" ), std::string::npos );
 }
 
+TEST_F( JournalTest, tellsTheGatesThatWereFoundClosedWithTheNextOperation ) {
+   Rex::gateListenerIs( &journal );
+   cause = "evpn/status vxlanEnabled";
+   EXPECT_TRUE( Rex::gate( true, "this one is open" ) );
+   EXPECT_FALSE( Rex::gate( false, "the toggle \"X\" is off" ) );
+   EXPECT_FALSE( Rex::gate( false, "the chip lacks the context", U16{ 3 } ) );
+   control( 1, 2, true );
+   control( 1, 3, true );
+
+   auto const gates = journal.row( 0 ).gates;
+   ASSERT_EQ( gates.size(), 2u );
+   EXPECT_EQ( gates[0].reason, "the toggle \"X\" is off" );
+   EXPECT_EQ( gates[0].fap, std::nullopt );
+   EXPECT_EQ( gates[1].fap, U16{ 3 } );
+   EXPECT_EQ( gates[1].cause, "evpn/status vxlanEnabled" );
+   EXPECT_TRUE( gates[0].source.starts_with( "JournalTest.cpp:" ) );
+   EXPECT_TRUE( journal.row( 1 ).gates.empty() );
+
+   std::string const line = Journal::json( journal.row( 0 ) );
+   EXPECT_NE(
+      line.find( R"("reason": "the toggle \"X\" is off", "event": 0, "cause": "evpn/status vxlanEnabled"}, {)" ),
+      std::string::npos )
+      << line;
+   EXPECT_NE( line.find( R"("reason": "the chip lacks the context", "fap": 3, "event": 0)" ), std::string::npos )
+      << line;
+}
+
+TEST_F( JournalTest, tellsTheLastGatesWithTheLastOperationAndEachGateOnce ) {
+   Rex::gateListenerIs( &journal );
+   journal.fileIs( path );
+   control( 1, 2, true );
+   Rex::gate( false, "first" );
+   journal.flush();
+   control( 1, 3, true );
+   Rex::gate( false, "second" );
+   journal.flush();
+
+   std::string const text = file();
+   EXPECT_EQ( text.find( "first" ), text.rfind( "first" ) );
+   EXPECT_NE( text.find( R"("gatesAfter": [{"function": )" ), std::string::npos );
+   EXPECT_EQ( text.find( R"("gates": )" ), std::string::npos ) << text;
+   EXPECT_EQ( text.find( "second" ), text.rfind( "second" ) );
+   EXPECT_EQ( journal.row( 1 ).gates.size(), 1u );
+   EXPECT_EQ( journal.row( 1 ).gatesAfter.size(), 1u );
+}
+
+TEST_F( JournalTest, namesTheKindOfChipWhereItIsKnown ) {
+   journal.chipIs( 1, Hardware::ChipType::BCM88800_A0 );
+   control( 1, 2, true );
+   writeVector( 5, { 1, 0 } );
+
+   EXPECT_TRUE( Journal::json( journal.row( 0 ) ).ends_with( R"("cause": "chip-init", "chip": "BCM88800_A0"})" ) );
+   EXPECT_EQ( journal.row( 1 ).chip, nullptr );
+}
+
 } // namespace
