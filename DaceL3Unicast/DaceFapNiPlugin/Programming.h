@@ -13,6 +13,7 @@
 #include "generated/DaceFapNiPluginL3UnicastMetaInfo.h"
 #include "state/CellStatus.h"
 
+#include <ranges>
 #include <source_location>
 #include <type_traits>
 
@@ -93,6 +94,22 @@ void write( Fap const & fap,
    typename Table::WithStorage table( fap.chipType, false, place.variant );
    fill( table );
    writeAll( table, fap, place, origin );
+}
+
+// What a walk of a table goes through: the variants that its class has, and the array indices and the entries of the
+// variant that an accessor is a view of.
+template< class Table >
+auto variantsOf( Fap const & fap ) {
+   return std::views::iota( 0u, Table::tableVariantCount( static_cast< U32 >( fap.chipType ) ) );
+}
+template< class Table >
+auto arraysOf( Table const & table ) {
+   int const first = static_cast< int >( table.arrayIndex_min() );
+   return std::views::iota( first, first + static_cast< int >( table.arrayElements() ) );
+}
+template< class Table >
+auto entriesOf( Table const & table ) {
+   return std::views::iota( static_cast< int >( table.index_min() ), static_cast< int >( table.entries() ) );
 }
 
 // Visits the FAPs of a cell in the order of their numbers, each with its status.

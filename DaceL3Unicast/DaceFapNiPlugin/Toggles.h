@@ -5,6 +5,13 @@
 
 namespace DaceFapNi {
 
+// A reader, in the rows of a table that hold under a toggle only.
+using ToggleReader = bool ( * )();
+constexpr ToggleReader always = nullptr;
+inline bool isOn( ToggleReader toggle ) {
+   return toggle == always || toggle();
+}
+
 bool toggleVeloroSAIModeEnabled();                  // VeloroSAI.json
 bool toggleArmOrderedSwTableEnabled();              // Dace.json
 bool toggleJ2DaceL3NiEnabled();                     // DaceToggles.json
