@@ -328,7 +328,7 @@ std::string StateTree::pathOf( Rex::Entity const & entity ) const {
    }
    auto const * parent = entity.parent();
    auto const above = parent ? pathOf( *parent ) : std::string();
-   auto const step = above.empty() ? std::string() : stepTo( *parent, entity );
+   auto const step = above.empty() ? std::string() : parent->stepTo( entity );
    return step.empty() ? std::string() : above + "/" + step;
 }
 

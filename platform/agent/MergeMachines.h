@@ -1,20 +1,26 @@
 // The merge machines: each keeps one output equal to the union of its inputs.
 //
-// Where several inputs name one key, the one named first below counts. An input may be null: it contributes nothing.
+//    auto const sm = DecapGroupConfigMergeSm::DecapGroupConfigMergeSmIs( output, cli, dynamic, entityManager );
+//    sm->hasNotificationActiveIs( true );      // merges now, and on every change of an input
+//
+// Where several inputs name one key, the one named first below counts; entries of a directory count in the order of
+// their names. An input may be null, and a directory may hold what is no input: they contribute nothing. Only what
+// changes is announced: keys that go first, then those that come or change, in the order of the keys.
+//
+// Whoever hears the output may do anything, also change the inputs or drop the machine.
 //
 // Threading: the agent's scheduler thread.
 #pragma once
 
-#include "corvo/Watched.h"
 #include "rex/Dir.h"
-#include "rex/Notifiee.h"
+#include "rex/TreeFollower.h"
 #include "state/Overlays.h"
 #include "state/Routing.h"
 #include "stordb/Stordb.h"
 
 namespace Oxa {
 
-// How a state machine is controlled; the default says nothing special.
+// How a state machine is controlled; the default says nothing special. The merge machines need no control.
 struct SmControl {
    void * control = nullptr;
    U64 word = 0;
@@ -23,36 +29,70 @@ struct SmControl {
    friend bool operator==( SmControl const &, SmControl const & ) = default;
 };
 
-} // namespace Oxa
-
-namespace Rex {
-
-// Follows the entries of a directory and hears every change of every entry.
-class DirFollower {
+// What the merge machines have in common. A derived machine says what is wanted, what is there, and how to change it.
+template< class Key, class Value >
+class MergeSm : public Corvo::Node {
  public:
-   using Changed = std::function< void() >;
-   DirFollower( Corvo::Ptr< Dir const > const & dir, Changed changed );
-   ~DirFollower();
-   // Idempotent. Turning on follows what the directory holds then.
-   void activeIs( bool active );
+   using Entries = std::map< Key, Value >;
+
+   // Idempotent. Turning on merges at once; turning off leaves the output as it is.
+   void hasNotificationActiveIs( bool active ) {
+      if ( hasNotificationActive() == active ) {
+         return;
+      }
+      nodeFlagSet( Corvo::NodeFlag::notificationsActive, active );
+      first_.activeIs( active );
+      second_.activeIs( active );
+      ++round_;
+      if ( active ) {
+         merge();
+      }
+   }
+
+ protected:
+   MergeSm( Corvo::Ptr< Rex::Entity const > const & first, Corvo::Ptr< Rex::Entity const > const & second )
+      : first_( first, [this] { merge(); } ), second_( second, [this] { merge(); } ) {}
+
+   // The union of the inputs.
+   virtual Entries wanted() const = 0;
+   virtual std::vector< Key > presentKeys() const = 0;
+   // Does nothing where the output has this value.
+   virtual void entryIs( Key const & key, Value const & value ) = 0;
+   virtual void entryDel( Key const & key ) = 0;
 
  private:
-   class EntryNotifiee;
-   void followEntries();
-   static void dirDispatch( Corvo::Publisher *, Corvo::Subscriber *, short, void const *, void const * );
+   void merge() {
+      Corvo::Ptr< MergeSm > const self( this );
+      // A change of an input during the walk merges anew, further in, and makes this round obsolete.
+      U32 const round = ++round_;
+      Entries const entries = wanted();
+      for ( Key const & key : presentKeys() ) {
+         if ( !entries.contains( key ) ) {
+            entryDel( key );
+         }
+         if ( round != round_ ) {
+            return;
+         }
+      }
+      for ( auto const & [key, value] : entries ) {
+         entryIs( key, value );
+         if ( round != round_ ) {
+            return;
+         }
+      }
+   }
 
-   Corvo::Watched< Dir const > dir_;
-   Changed changed_;
-   bool active_ = false;
-   std::map< Corvo::String, Corvo::Ptr< EntryNotifiee > > entries_;
+   Rex::TreeFollower first_;
+   Rex::TreeFollower second_;
+   U32 round_ = 0;
 };
 
-} // namespace Rex
+} // namespace Oxa
 
 namespace NexthopGroup {
 
 // Destination ports: the static configuration first, then the directory's inputs by name.
-class NexthopGroupCliDynamicConfigUdpDestPortMergeSm : public Corvo::Node {
+class NexthopGroupCliDynamicConfigUdpDestPortMergeSm : public Oxa::MergeSm< L3::Tunnel::PayloadType, U16 > {
  public:
    using Config = L3::Tunnel::UdpDestinationPortConfig;
 
@@ -66,25 +106,25 @@ class NexthopGroupCliDynamicConfigUdpDestPortMergeSm : public Corvo::Node {
                                                      Corvo::Ptr< Config const > const & cli,
                                                      Corvo::Ptr< Rex::Dir const > const & dynamic,
                                                      Oxa::SmControl const & control );
-   // Idempotent. Turning on merges at once.
-   void hasNotificationActiveIs( bool active );
 
  private:
-   void merge();
-   static void cliDispatch( Corvo::Publisher *, Corvo::Subscriber *, short, void const *, void const * );
+   Entries wanted() const override;
+   std::vector< L3::Tunnel::PayloadType > presentKeys() const override;
+   void entryIs( L3::Tunnel::PayloadType const & payloadType, U16 const & port ) override;
+   void entryDel( L3::Tunnel::PayloadType const & payloadType ) override;
 
    Corvo::Ptr< Config > output_;
-   Corvo::Watched< Config const > cli_;
+   Corvo::Ptr< Config const > cli_;
    Corvo::Ptr< Rex::Dir const > dynamic_;
-   Rex::DirFollower follower_;
 };
 
 } // namespace NexthopGroup
 
 namespace Tunnel::Decap {
 
-// Decap groups: the static input first, then the directory's inputs by name.
-class DecapGroupConfigMergeSm : public Corvo::Node {
+// Payload types by UDP port: the static input first, then the directory's inputs by name. The groups of the output are
+// the machine's own; one whose payload type changes is replaced, so that the change is announced by the collection.
+class DecapGroupConfigMergeSm : public Oxa::MergeSm< U16, U8 > {
  public:
    DecapGroupConfigMergeSm( Corvo::Ptr< Config > const & output,
                             Corvo::Ptr< ConfigInput const > const & cli,
@@ -96,19 +136,16 @@ class DecapGroupConfigMergeSm : public Corvo::Node {
                               Corvo::Ptr< ConfigInput const > const & cli,
                               Corvo::Ptr< Rex::Dir const > const & dynamic,
                               Corvo::Ptr< Stordb::EntityManager > const & entityManager );
-   // Idempotent. Turning on merges at once.
-   void hasNotificationActiveIs( bool active );
 
  private:
-   class InputFollower;
-   // Follows what the inputs hold now, and makes the output equal to it.
-   void changed();
+   Entries wanted() const override;
+   std::vector< U16 > presentKeys() const override;
+   void entryIs( U16 const & udpPort, U8 const & payloadType ) override;
+   void entryDel( U16 const & udpPort ) override;
 
    Corvo::Ptr< Config > output_;
    Corvo::Ptr< ConfigInput const > cli_;
    Corvo::Ptr< Rex::Dir const > dynamic_;
-   Rex::DirFollower follower_;
-   std::vector< Corvo::Ptr< InputFollower > > inputs_;
 };
 
 } // namespace Tunnel::Decap
@@ -116,7 +153,7 @@ class DecapGroupConfigMergeSm : public Corvo::Node {
 namespace Routing::Hardware {
 
 // Prefix lengths: those of the route status.
-class PrefixLensInExactMatchMergerSm : public Corvo::Node {
+class PrefixLensInExactMatchMergerSm : public Oxa::MergeSm< U8, U8 > {
  public:
    PrefixLensInExactMatchMergerSm( Corvo::Ptr< RouteStatusGen const > const & routeStatus,
                                    Corvo::Ptr< PrefixLensInExactMatch > const & output,
@@ -126,14 +163,14 @@ class PrefixLensInExactMatchMergerSm : public Corvo::Node {
    PrefixLensInExactMatchMergerSmIs( Corvo::Ptr< RouteStatusGen const > const & routeStatus,
                                      Corvo::Ptr< PrefixLensInExactMatch > const & output,
                                      Oxa::SmControl const & control );
-   // Idempotent. Turning on merges at once.
-   void hasNotificationActiveIs( bool active );
 
  private:
-   void merge();
-   static void routeStatusDispatch( Corvo::Publisher *, Corvo::Subscriber *, short, void const *, void const * );
+   Entries wanted() const override;
+   std::vector< U8 > presentKeys() const override;
+   void entryIs( U8 const & key, U8 const & prefixLen ) override;
+   void entryDel( U8 const & key ) override;
 
-   Corvo::Watched< RouteStatusGen const > routeStatus_;
+   Corvo::Ptr< RouteStatusGen const > routeStatus_;
    Corvo::Ptr< PrefixLensInExactMatch > output_;
 };
 

@@ -9,15 +9,11 @@ bool ThreadControl::threaded_ = false;
 U32 Node::live_ = 0;
 
 Node::~Node() {
+   Rex::sassert( users_ == 1, "users_ == 1" ); // or somebody is left with a reference to nothing
    count( live_, -1U );
 }
 
 void Node::lastUserGone() const {
-   destroy();
-}
-
-void Node::destroy() const {
-   users_ = 1;
    delete this;
 }
 
@@ -45,34 +41,63 @@ Subscriber::~Subscriber() {
    }
 }
 
+namespace {
+
+Notification const noAnnouncement{ nullptr, 0, nullptr, nullptr };
+Notification const * top = nullptr;                        // the innermost announcement
+Notification const * foreignWriteDuring = &noAnnouncement; // the innermost one when a foreign write began
+
+} // namespace
+
+Notification const * Publisher::current() {
+   return top;
+}
+
+bool Publisher::foreignWrite() {
+   return top == foreignWriteDuring;
+}
+
+Publisher::ForeignWrite::ForeignWrite() : before_( std::exchange( foreignWriteDuring, top ) ) {}
+
+Publisher::ForeignWrite::~ForeignWrite() {
+   foreignWriteDuring = before_;
+}
+
 // One announcement on the stack. Cursors of all publishers form one chain, innermost first; it is a few deep at most,
 // so whoever takes a subscriber out can afford to look at all of them.
 struct Publisher::Cursor : Notification {
-   Subscriber * next;
-   bool const foreignWrite = std::exchange( foreignWrite_, false );
+   Subscriber * next; // null once nobody is left to hear it
+   Subscriber * last; // who subscribes from here on hears the next change
 
-   Cursor( Publisher const * publisher_, short attribute_, void const * key_, Subscriber * first )
-      : Notification{ publisher_, attribute_, key_, top_ }, next( first ) {
-      top_ = this;
+   Cursor( Publisher const * publisher_, short attribute_, void const * key_, Subscriber * first, Subscriber * last_ )
+      : Notification{ publisher_, attribute_, key_, top }, next( first ), last( last_ ) {}
+
+   void subscriberGone( Subscriber const & subscriber ) {
+      if ( next == &subscriber ) {
+         next = last == &subscriber ? nullptr : subscriber.next_;
+      } else if ( last == &subscriber ) {
+         last = subscriber.previous_; // not before `next`, or `next` is null
+      }
    }
-   Cursor( Cursor const & ) = delete;
-   Cursor & operator=( Cursor const & ) = delete;
-   ~Cursor() {
-      top_ = outerCursor();
-      foreignWrite_ = foreignWrite;
-   }
+   static Cursor * innermost() { return static_cast< Cursor * >( const_cast< Notification * >( top ) ); }
    Cursor * outerCursor() const { return static_cast< Cursor * >( const_cast< Notification * >( outer ) ); }
 };
 
-Publisher::Cursor * Publisher::top_ = nullptr;
-bool Publisher::foreignWrite_ = false;
+// Makes a cursor the innermost one. The one before is kept here, out of the callbacks' reach and so in a register:
+// read back from the cursor, it would make one announcement wait for the memory of the one before.
+class Publisher::Announcement {
+ public:
+   explicit Announcement( Cursor const & cursor ) : outer_( top ) { top = &cursor; }
+   Announcement( Announcement const & ) = delete;
+   Announcement & operator=( Announcement const & ) = delete;
+   ~Announcement() { top = outer_; }
 
-Notification const * Publisher::current() {
-   return top_;
-}
+ private:
+   Notification const * const outer_;
+};
 
 Publisher::~Publisher() {
-   for ( auto * cursor = top_; cursor; cursor = cursor->outerCursor() ) {
+   for ( auto * cursor = Cursor::innermost(); cursor; cursor = cursor->outerCursor() ) {
       if ( cursor->publisher == this ) {
          cursor->publisher = nullptr;
          cursor->next = nullptr;
@@ -86,17 +111,20 @@ Publisher::~Publisher() {
 void Publisher::subscriberAdd( Subscriber & subscriber, bool replay ) {
    Rex::sassert( subscriber.isEmpty(), "isEmpty" );
    subscriber.publisher_ = this;
-   subscriber.serial_ = ++serial_;
    subscriber.previous_ = last_;
    subscriber.next_ = nullptr;
    ( last_ ? last_->next_ : first_ ) = &subscriber;
    last_ = &subscriber;
    if ( replay ) {
+      // The slot stays next for as long as it is subscribed.
+      Cursor cursor( this, 0, nullptr, &subscriber, &subscriber );
+      Announcement const announcement( cursor );
       for ( auto const * attribute : node_->typeData().attributes() ) {
-         if ( subscriber.publisher_ != this ) {
-            return; // its dispatch has unsubscribed it
-         }
+         cursor.attribute = attribute->id;
          subscriber.dispatch_( this, &subscriber, attribute->id, nullptr, nullptr );
+         if ( !cursor.next ) {
+            return;
+         }
       }
    }
 }
@@ -105,10 +133,8 @@ void Publisher::subscriberDel( Subscriber & subscriber ) {
    if ( subscriber.publisher_ != this ) {
       return;
    }
-   for ( auto * cursor = top_; cursor; cursor = cursor->outerCursor() ) {
-      if ( cursor->next == &subscriber ) {
-         cursor->next = subscriber.next_;
-      }
+   for ( auto * cursor = Cursor::innermost(); cursor; cursor = cursor->outerCursor() ) {
+      cursor->subscriberGone( subscriber );
    }
    unlink( subscriber );
 }
@@ -122,11 +148,21 @@ void Publisher::unlink( Subscriber & subscriber ) {
 }
 
 void Publisher::announce( short attribute, void const * key, void const * value ) {
-   U64 const newest = serial_; // who subscribes from here on hears the next change
-   Cursor cursor( this, attribute, key, first_ );
-   while ( cursor.next && cursor.next->serial_ <= newest ) {
-      Subscriber * const subscriber = cursor.next;
-      cursor.next = subscriber->next_;
+   Subscriber * const only = first_;
+   if ( only == last_ ) { // the most frequent case: no walk
+      Cursor const cursor( this, attribute, key, nullptr, nullptr );
+      Announcement const announcement( cursor );
+      only->dispatch_( this, only, attribute, key, value );
+   } else {
+      announceToMany( attribute, key, value );
+   }
+}
+
+void Publisher::announceToMany( short attribute, void const * key, void const * value ) {
+   Cursor cursor( this, attribute, key, first_, last_ );
+   Announcement const announcement( cursor );
+   while ( Subscriber * const subscriber = cursor.next ) {
+      cursor.next = subscriber == cursor.last ? nullptr : subscriber->next_;
       subscriber->dispatch_( this, subscriber, attribute, key, value );
    }
 }

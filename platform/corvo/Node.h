@@ -5,8 +5,11 @@
 //    sm = nullptr;                                             // last user gone: deleted
 //
 // A node is made by makePtr and starts with its creator as its one user, so that it may hand out references to itself
-// while it is being constructed. It carries flags beside its use count: notifications active; zombie (it is being torn
-// down, its handlers stay silent); write-protected (mounted for reading).
+// while it is being constructed, and while it is being destroyed: such references don't outlive the destructor, which
+// ends the process otherwise (assertion text "users_ == 1").
+//
+// It carries flags beside its use count: notifications active; zombie (it is being torn down, its handlers stay
+// silent); write-protected (mounted for reading); registered (see rex/Notifiee.h).
 //
 // Threading: use counts are plain increments unless ThreadControl says that more threads are present, when they become
 // atomic. Everything else belongs to the agent's scheduler thread.
@@ -34,7 +37,7 @@ class ThreadControl {
    static bool threaded_;
 };
 
-enum class NodeFlag : U8 { notificationsActive = 1, zombie = 2, writeProtected = 4 };
+enum class NodeFlag : U8 { notificationsActive = 1, zombie = 2, writeProtected = 4, registered = 8 };
 
 class Node {
  public:
@@ -52,6 +55,7 @@ class Node {
    void userAdd() const { count( users_, 1 ); }
    void userDel() const {
       if ( count( users_, -1U ) == 0 ) {
+         count( users_, 1 ); // its own user while it goes: references come and go without destroying it again
          lastUserGone();
       }
    }
@@ -60,6 +64,7 @@ class Node {
    bool hasNotificationActive() const { return flag( NodeFlag::notificationsActive ); }
    bool isZombie() const { return flag( NodeFlag::zombie ); }
    bool isWriteProtected() const { return flag( NodeFlag::writeProtected ); }
+   bool isRegistered() const { return flag( NodeFlag::registered ); }
    void nodeFlagSet( NodeFlag which, bool on );
    void markAndSweepFlagSet( bool zombie ) { nodeFlagSet( NodeFlag::zombie, zombie ); }
 
@@ -68,9 +73,6 @@ class Node {
 
  protected:
    Node() { count( live_, 1 ); }
-
-   // Deletes the node. It is its own user meanwhile, so that its destructor may hand out references to itself.
-   void destroy() const;
 
  private:
    bool flag( NodeFlag which ) const { return ( flags_ & static_cast< U8 >( which ) ) != 0; }

@@ -25,7 +25,8 @@ class Publisher;
 class Subscriber {
  public:
    // `key` names the entry of a keyed attribute and points to a value of the key's type; it is null for single
-   // attributes. `value` points to the new value, or is null where there is none.
+   // attributes. `value` points to the new value, an entity where that is what the attribute holds; it is null where
+   // there is none. Both are valid until the dispatch function returns.
    using Dispatch = void ( * )( Publisher *, Subscriber *, short attribute, void const * key, void const * value );
 
    Subscriber() = default;
@@ -50,7 +51,6 @@ class Subscriber {
    Publisher * publisher_ = nullptr;
    Subscriber * next_ = nullptr;
    Subscriber * previous_ = nullptr;
-   U64 serial_ = 0;
    Dispatch dispatch_ = nullptr;
    void * owner_ = nullptr;
 };
@@ -75,7 +75,7 @@ class Publisher {
 
    // Appends a filled slot. A slot that is subscribed already, here or elsewhere: assertion text "isEmpty".
    // With `replay` its dispatch function is called once for each attribute of the node's type, with a null key, until
-   // it unsubscribes; the publisher and the slot must outlive the call.
+   // it unsubscribes or the publisher goes.
    void subscriberAdd( Subscriber & subscriber, bool replay );
    // Takes a slot out and empties it; nothing happens if it is not subscribed here.
    void subscriberDel( Subscriber & subscriber );
@@ -92,29 +92,28 @@ class Publisher {
 
    // True while the database carries out another agent's write, and false again in what that write sets off here:
    // only such a write may change a write-protected node.
-   static bool foreignWrite() { return foreignWrite_; }
+   static bool foreignWrite();
    class ForeignWrite {
     public:
-      ForeignWrite() : before_( foreignWrite_ ) { foreignWrite_ = true; }
+      ForeignWrite();
       ForeignWrite( ForeignWrite const & ) = delete;
       ForeignWrite & operator=( ForeignWrite const & ) = delete;
-      ~ForeignWrite() { foreignWrite_ = before_; }
+      ~ForeignWrite();
 
     private:
-      bool before_;
+      Notification const * before_;
    };
 
  private:
    struct Cursor;
+   class Announcement;
    void announce( short attribute, void const * key, void const * value );
+   void announceToMany( short attribute, void const * key, void const * value );
    void unlink( Subscriber & subscriber );
 
    Node const * node_;
    Subscriber * first_ = nullptr;
    Subscriber * last_ = nullptr;
-   U64 serial_ = 0;
-   static Cursor * top_;
-   static bool foreignWrite_;
 };
 
 } // namespace Corvo

@@ -6,7 +6,7 @@ namespace Rex {
 
 Dir::~Dir() {
    for ( auto const & [name, entity] : entries_ ) {
-      entity->parentIs( nullptr );
+      childDel( *entity );
    }
 }
 
@@ -14,27 +14,41 @@ void Dir::entityIs( Corvo::String const & name, Corvo::Ptr< Entity > const & ent
    if ( !entity ) {
       throwMutatorArgNullPointerException( "Rex::Dir", "entityPtr" );
    }
-   writeCheck();
-   if ( entries_.get( name ) == entity ) {
+   auto const old = entries_.get( name );
+   if ( old == entity ) {
       return;
    }
-   if ( auto const old = entries_.get( name ) ) {
-      old->parentIs( nullptr );
+   writeCheck();
+   // Copies: a callback may take away where the arguments stand.
+   Corvo::String const key = name;
+   auto const held = entity;
+   entries_.set( key, held );
+   if ( old ) {
+      childDel( *old );
    }
-   entity->parentIs( this );
-   entries_.set( name, entity );
-   publisher()->publish( entryAttribute, &name, entity.get() );
+   childAdd( *held );
+   publisher()->publish( entryAttribute, &key, held.get() );
 }
 
 Corvo::Ptr< Entity > Dir::entityDel( Corvo::String const & name ) {
-   Corvo::String const copy = name;
-   writeCheck();
-   auto const old = entries_.del( copy );
-   if ( old ) {
-      old->parentIs( nullptr );
-      publisher()->publish( entryAttribute, &copy, nullptr );
+   if ( !entries_.has( name ) ) {
+      return nullptr;
    }
+   writeCheck();
+   Corvo::String const key = name;
+   auto const old = entries_.del( key );
+   childDel( *old );
+   publisher()->publish( entryAttribute, &key, nullptr );
    return old;
+}
+
+Corvo::String Dir::stepTo( Entity const & child ) const {
+   for ( auto const & [name, entity] : entries_ ) {
+      if ( entity.get() == &child ) {
+         return name;
+      }
+   }
+   return {};
 }
 
 Corvo::Ptr< Entity > Dir::newEntity( Corvo::String const & name ) const {

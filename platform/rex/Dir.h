@@ -36,6 +36,7 @@ class Dir : public Entity {
    // A new entity of the element type; not entered. Null for a directory without one.
    Corvo::Ptr< Entity > newEntity( Corvo::String const & name ) const;
 
+   Corvo::String stepTo( Entity const & child ) const override; // the name alone
    Value value() const override;
    void attributesIs( Value const & value ) override;
    void forEachChild( std::function< void( Entity & ) > const & visit ) const override;

@@ -1,4 +1,5 @@
-#include "rex/Dir.h"
+#include "rex/Entity.h"
+
 #include "rex/Nearest.h"
 
 namespace Rex {
@@ -116,22 +117,21 @@ void Entity::attributesIs( Value const & value ) {
    }
 }
 
-std::string stepTo( Entity const & parent, Entity const & child ) {
-   if ( auto const * dir = dynamic_cast< Dir const * >( &parent ) ) {
-      for ( auto const & [name, entity] : dir->entries() ) {
-         if ( entity.get() == &child ) {
-            return name;
-         }
+Corvo::String Entity::stepTo( Entity const & child ) const {
+   auto const isA = [&]( TypeData const * wanted ) {
+      auto const * type = &child.typeData();
+      while ( type && type != wanted ) {
+         type = type->base();
       }
-      return {};
-   }
-   for ( auto const * attribute : parent.typeData().attributes() ) {
-      if ( attribute->kind == Attribute::Kind::entity && attribute->child( parent, "" ).get() == &child ) {
-         return attribute->name;
+      return type != nullptr;
+   };
+   for ( auto const * attribute : typeData().attributes() ) {
+      if ( !attribute->elementType() || !isA( attribute->elementType() ) ) {
+         continue;
       }
-      if ( attribute->kind == Attribute::Kind::collection && attribute->elementType() == &child.typeData() &&
-           attribute->child( parent, child.name() ).get() == &child ) {
-         return std::string( attribute->name ) + "/" + child.name();
+      bool const isKeyed = attribute->kind == Attribute::Kind::collection;
+      if ( attribute->child( *this, isKeyed ? child.name() : "" ).get() == &child ) {
+         return isKeyed ? std::string( attribute->name ) + "/" + child.name() : attribute->name;
       }
    }
    return {};

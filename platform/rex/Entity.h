@@ -55,6 +55,9 @@ class Entity : public Corvo::Node {
    // The entity below which this one hangs, or null. It is not kept alive by it.
    Entity * parent() const { return parent_; }
    void parentIs( Entity * parent );
+   // The step from this entity to one directly below it, as paths have it: `<attribute>/<key>` for an entity of a
+   // collection, `<attribute>` for one that an attribute holds; empty if this one holds no such entity.
+   virtual Corvo::String stepTo( Entity const & child ) const;
    // Called when the parent has changed.
    virtual void handleParent() {}
    // Its name among its siblings: the text of its key, empty without one.
@@ -70,11 +73,23 @@ class Entity : public Corvo::Node {
    virtual void forEachChild( std::function< void( Entity & ) > const & visit ) const;
 
    // Marks this entity, and all below it, now and later, as mounted for reading: a write that isn't another agent's
-   // ends the process by assertion.
+   // ends the process by assertion. What changes nothing is no write.
    void writeProtectedIs( bool writeProtected );
 
  protected:
    Entity() : publisher_( *this ) {}
+
+   // An entity hangs below the first that takes it in; others that hold it only refer to it.
+   void childAdd( Entity & child ) {
+      if ( !child.parent_ ) {
+         child.parentIs( this );
+      }
+   }
+   void childDel( Entity & child ) {
+      if ( child.parent_ == this ) {
+         child.parentIs( nullptr );
+      }
+   }
 
    void writeCheck() const {
       if ( isWriteProtected() && !Corvo::Publisher::foreignWrite() ) [[unlikely]] {
@@ -93,6 +108,8 @@ class Entity : public Corvo::Node {
  private:
    template< class, template< class, class > class >
    friend class CollectionAttribute;
+   template< class >
+   friend class HeldEntity;
    [[noreturn]] void writeRefused() const;
 
    mutable Corvo::Publisher publisher_;
@@ -112,10 +129,6 @@ class KeyedEntity : public Entity {
    Key const key_;
 };
 
-// The step from a parent to one of its children, as paths have it: `<attribute>/<key>` for an entity of a collection,
-// `<attribute>` for one that an attribute holds, `<name>` for one in a directory; empty if it holds no such child.
-std::string stepTo( Entity const & parent, Entity const & child );
-
 // A map attribute's contents.
 template< class Key, class Type >
 class MapAttribute {
@@ -126,24 +139,18 @@ class MapAttribute {
       auto const found = map_.find( key );
       return found == map_.end() ? Type{} : found->second;
    }
-   void set( Corvo::Publisher & publisher, short id, Key const & key, Type const & value ) {
-      auto const [at, isNew] = map_.try_emplace( key, value );
-      if ( !isNew ) {
-         if ( at->second == value ) {
-            return;
-         }
-         at->second = value;
-      }
-      Key const copy = key;
-      publisher.publish( id, &copy, &at->second );
+   // Says whether anything changes by it.
+   bool isNews( Key const & key, Type const & value ) const {
+      auto const found = map_.find( key );
+      return found == map_.end() || !( found->second == value );
    }
-   bool del( Corvo::Publisher & publisher, short id, Key const & key ) {
-      Key const copy = key;
-      if ( map_.erase( copy ) == 0 ) {
-         return false;
-      }
-      publisher.publish( id, &copy, nullptr );
-      return true;
+   void set( Corvo::Publisher & publisher, short id, Key key, Type value ) {
+      map_[key] = value;
+      publisher.publish( id, &key, &value ); // copies: a callback may take the entry away
+   }
+   void del( Corvo::Publisher & publisher, short id, Key key ) {
+      map_.erase( key );
+      publisher.publish( id, &key, nullptr );
    }
 
  private:
@@ -173,6 +180,39 @@ class OrderedMap {
    std::map< Key, Type > map_;
 };
 
+// An entity attribute's contents: one entity, hanging below its owner, or none.
+template< class Type >
+class HeldEntity {
+ public:
+   explicit HeldEntity( Entity & owner ) : owner_( owner ) {}
+   HeldEntity( HeldEntity const & ) = delete;
+   HeldEntity & operator=( HeldEntity const & ) = delete;
+   ~HeldEntity() {
+      if ( entity_ ) {
+         owner_.childDel( *entity_ );
+      }
+   }
+   Corvo::Ptr< Type > const & get() const { return entity_; }
+   void set( short id, Corvo::Ptr< Type > const entity ) { // a copy: it stays while it is announced
+      if ( entity_ == entity ) {
+         return;
+      }
+      owner_.writeCheck();
+      auto const old = std::exchange( entity_, entity );
+      if ( old ) {
+         owner_.childDel( *old );
+      }
+      if ( entity ) {
+         owner_.childAdd( *entity );
+      }
+      owner_.publisher()->publish( id, nullptr, entity.get() );
+   }
+
+ private:
+   Entity & owner_;
+   Corvo::Ptr< Type > entity_;
+};
+
 // A collection attribute's contents: entities by key, hanging below their owner.
 template< class Type, template< class, class > class Container >
 class CollectionAttribute {
@@ -180,41 +220,45 @@ class CollectionAttribute {
    using Key = typename Type::RexKey;
    using Entities = Container< Key, Corvo::Ptr< Type > >;
 
+   explicit CollectionAttribute( Entity & owner ) : owner_( owner ) {}
+   CollectionAttribute( CollectionAttribute const & ) = delete;
+   CollectionAttribute & operator=( CollectionAttribute const & ) = delete;
    ~CollectionAttribute() {
       for ( auto const & [key, entity] : entities_ ) {
-         entity->parentIs( nullptr );
+         owner_.childDel( *entity );
       }
    }
    Entities const & all() const { return entities_; }
-   void set( Entity & owner, short id, Corvo::Ptr< Type > const & entity, char const * name ) {
+   void set( short id, Corvo::Ptr< Type > const entity, char const * name ) { // a copy: it stays while it is announced
       if ( !entity ) {
-         throwMutatorArgNullPointerException( owner.typeData().name().c_str(), name );
+         throwMutatorArgNullPointerException( owner_.typeData().name().c_str(), name );
       }
       Key const key = entity->rexKey();
-      owner.writeCheck();
       auto const old = entities_.get( key );
       if ( old == entity ) {
          return;
       }
-      if ( old ) {
-         old->parentIs( nullptr );
-      }
-      entity->parentIs( &owner );
+      owner_.writeCheck();
       entities_.set( key, entity );
-      owner.publisher()->publish( id, &key, entity.get() );
-   }
-   Corvo::Ptr< Type > del( Entity & owner, short id, Key const & key ) {
-      Key const copy = key;
-      owner.writeCheck();
-      Corvo::Ptr< Type > const old = entities_.del( copy );
       if ( old ) {
-         old->parentIs( nullptr );
-         owner.publisher()->publish( id, &copy, nullptr );
+         owner_.childDel( *old );
       }
+      owner_.childAdd( *entity );
+      owner_.publisher()->publish( id, &key, entity.get() );
+   }
+   Corvo::Ptr< Type > del( short id, Key const key ) {
+      if ( !entities_.has( key ) ) {
+         return nullptr;
+      }
+      owner_.writeCheck();
+      auto const old = entities_.del( key );
+      owner_.childDel( *old );
+      owner_.publisher()->publish( id, &key, nullptr );
       return old;
    }
 
  private:
+   Entity & owner_;
    Entities entities_;
 };
 
@@ -288,23 +332,17 @@ class ReferencesAttribute {
 #define REX_ENTITY_ATTRIBUTE( Type, attr, id )                                                                         \
  public:                                                                                                               \
    ::Corvo::Ptr< Type > const & attr() const {                                                                         \
-      return attr##_;                                                                                                  \
+      return attr##_.get();                                                                                            \
    }                                                                                                                   \
    void attr##Is( ::Corvo::Ptr< Type > const & value ) {                                                               \
-      if ( attr##_ && attr##_ != value ) {                                                                             \
-         attr##_->parentIs( nullptr );                                                                                 \
-      }                                                                                                                \
-      if ( value ) {                                                                                                   \
-         value->parentIs( this );                                                                                      \
-      }                                                                                                                \
-      assign( attr##_, value, id );                                                                                    \
+      attr##_.set( id, value );                                                                                        \
    }                                                                                                                   \
    static void rexDeclare( ::Rex::Impl::Line< __LINE__ >, ::Rex::TypeData & type ) {                                   \
       type.attributeAdd( ::Rex::Impl::entity< RexSelf, Type, &RexSelf::attr, &RexSelf::attr##Is >( id, #attr ) );      \
    }                                                                                                                   \
                                                                                                                        \
  private:                                                                                                              \
-   ::Corvo::Ptr< Type > attr##_;                                                                                       \
+   ::Rex::HeldEntity< Type > attr##_{ *this };                                                                         \
    static_assert( true )
 
 #define REX_MAP( Key, Type, attr, id )                                                                                 \
@@ -319,12 +357,18 @@ class ReferencesAttribute {
       return attr##_.has( key );                                                                                       \
    }                                                                                                                   \
    void attr##Is( Key const & key, Type const & value ) {                                                              \
-      writeCheck();                                                                                                    \
-      attr##_.set( *publisher(), id, key, value );                                                                     \
+      if ( attr##_.isNews( key, value ) ) {                                                                            \
+         writeCheck();                                                                                                 \
+         attr##_.set( *publisher(), id, key, value );                                                                  \
+      }                                                                                                                \
    }                                                                                                                   \
    bool attr##Del( Key const & key ) {                                                                                 \
+      if ( !attr##_.has( key ) ) {                                                                                     \
+         return false;                                                                                                 \
+      }                                                                                                                \
       writeCheck();                                                                                                    \
-      return attr##_.del( *publisher(), id, key );                                                                     \
+      attr##_.del( *publisher(), id, key );                                                                            \
+      return true;                                                                                                     \
    }                                                                                                                   \
    static void rexDeclare( ::Rex::Impl::Line< __LINE__ >, ::Rex::TypeData & type ) {                                   \
       type.attributeAdd(                                                                                               \
@@ -348,10 +392,10 @@ class ReferencesAttribute {
       return attr##_.all().has( key );                                                                                 \
    }                                                                                                                   \
    void attr##Is( ::Corvo::Ptr< Type > const & entity ) {                                                              \
-      attr##_.set( *this, id, entity, #attr );                                                                         \
+      attr##_.set( id, entity, #attr );                                                                                \
    }                                                                                                                   \
    ::Corvo::Ptr< Type > attr##Del( Type::RexKey const & key ) {                                                        \
-      return attr##_.del( *this, id, key );                                                                            \
+      return attr##_.del( id, key );                                                                                   \
    }                                                                                                                   \
    static void rexDeclare( ::Rex::Impl::Line< __LINE__ >, ::Rex::TypeData & type ) {                                   \
       type.attributeAdd(                                                                                               \
@@ -360,7 +404,7 @@ class ReferencesAttribute {
    }                                                                                                                   \
                                                                                                                        \
  private:                                                                                                              \
-   ::Rex::CollectionAttribute< Type, Container > attr##_;                                                              \
+   ::Rex::CollectionAttribute< Type, Container > attr##_{ *this };                                                     \
    static_assert( true )
 
 #define REX_COLLECTION( Type, attr, id ) REX_COLLECTION_OF( ::Rex::HashMap2018, Type, attr, id )

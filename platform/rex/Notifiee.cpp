@@ -6,7 +6,7 @@ NotifieeConst::~NotifieeConst() = default;
 
 void NotifieeConst::lastUserGone() const {
    onZeroReferences();
-   destroy();
+   delete this;
 }
 
 void NotifieeConst::onAttribute( AttributeId, void const * ) {}
@@ -16,7 +16,7 @@ void NotifieeConst::rexDoZombieReactors( bool zombie ) {
 }
 
 void NotifieeConst::isRegisteredNotifieeIs( bool registered ) {
-   registered_ = registered;
+   nodeFlagSet( Corvo::NodeFlag::registered, registered );
    subscribeIfDue();
 }
 
@@ -32,13 +32,13 @@ void NotifieeConst::notifierEntityIs( Corvo::Ptr< Entity const > const & notifie
       if ( !slot_.isEmpty() ) {
          notifier_->publisher()->subscriberDel( slot_ );
       }
-      notifier_ = notifier;
+      auto const old = std::exchange( notifier_, notifier ); // released when all is done: it may take anything along
       subscribeIfDue();
    }
 }
 
 void NotifieeConst::subscribeIfDue() {
-   bool const due = notifier_ && registered_ && hasNotificationActive();
+   bool const due = notifier_ && isRegistered() && hasNotificationActive();
    if ( due && slot_.isEmpty() ) {
       slot_.dispatchIs( dispatch, this );
       notifier_->publisher()->subscriberAdd( slot_, false );

@@ -44,7 +44,6 @@ class NotifieeConst : public Corvo::Node {
 
    Corvo::Ptr< Entity const > notifier_; // declared before the slot: the slot leaves first
    Corvo::Subscriber slot_;
-   bool registered_ = false;
 };
 
 } // namespace Rex

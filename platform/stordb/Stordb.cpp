@@ -89,7 +89,7 @@ Corvo::String Database::pathOf( Rex::Entity const & entity ) const {
    }
    if ( auto const * parent = entity.parent() ) {
       auto const above = pathOf( *parent );
-      auto const step = Rex::stepTo( *parent, entity );
+      auto const step = parent->stepTo( entity );
       if ( !above.empty() && !step.empty() ) {
          return above + "/" + step;
       }

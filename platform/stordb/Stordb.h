@@ -14,6 +14,7 @@
 #pragma once
 
 #include "orb/TaskScheduler.h"
+#include "rex/Clock.h"
 #include "rex/Dir.h"
 #include "rex/Entity.h"
 
@@ -26,10 +27,6 @@ namespace Cell {
 Corvo::String path( char const * path, unsigned int cell );
 
 } // namespace Cell
-
-namespace Rex {
-using Seconds = double;
-}
 
 namespace Stordb {
 

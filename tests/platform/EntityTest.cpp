@@ -1,3 +1,4 @@
+#include "platform/Listener.h"
 #include "state/Interfaces.h"
 #include "state/Overlays.h"
 #include "state/Routing.h"
@@ -5,26 +6,6 @@
 #include <gtest/gtest.h>
 
 namespace {
-
-struct Listener {
-   Corvo::Subscriber slot;
-   std::vector< std::string > heard;
-   explicit Listener( Rex::Entity & entity ) {
-      slot.dispatchIs( dispatch, this );
-      entity.publisher()->subscriberAdd( slot, false );
-   }
-   static void
-   dispatch( Corvo::Publisher * publisher, Corvo::Subscriber * slot, short id, void const * key, void const * ) {
-      auto const * attribute = publisher->node().typeData().attribute( id );
-      std::string text = attribute ? attribute->name : "?";
-      if ( key ) {
-         text += " " + attribute->keyText( key );
-      }
-      slot->owner< Listener >()->heard.push_back( text );
-   }
-};
-
-using Heard = std::vector< std::string >;
 
 TEST( Entity, SettingAnAttributeAnnouncesItOnce ) {
    auto const status = Corvo::makePtr< Evpn::EvpnStatus >();
