@@ -27,6 +27,10 @@ std::string quoted( std::string const & text ) {
 
 } // namespace
 
+bool operator==( Value const & left, Value const & right ) {
+   return left.value_ == right.value_;
+}
+
 std::string kindOf( Value const & value ) {
    return value.isNull()    ? "null"
           : value.boolean() ? "a boolean"

@@ -43,7 +43,7 @@ class Value {
    Object const * object() const { return std::get_if< Object >( &value_ ); }
    Object * object() { return std::get_if< Object >( &value_ ); }
 
-   friend bool operator==( Value const &, Value const & ) = default;
+   friend bool operator==( Value const & left, Value const & right );
 
  private:
    std::variant< std::monostate, bool, std::int64_t, std::string, List, Object > value_;
