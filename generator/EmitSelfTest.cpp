@@ -28,8 +28,8 @@ std::string testOf( Catalogue const & catalogue, Table const & table ) {
       text += "   table.field< " + type + " >( \"" + field + "\", " + std::to_string( catalogue.fieldIds.at( field ) ) +
               ", " +
               ( table.readOnly( field ) ? std::string( "nullptr" ) : "&Hardware::" + name + "::" + field + "Is" ) +
-              ", &Hardware::" + name + "::" + field + ", { &Hardware::" + name + "::is" + upper +
-              "Valid, &Hardware::" + name + "::" + field + "Len, &Hardware::" + name + "::" + field + "Offset }, { " +
+              ", &Hardware::" + name + "::" + field + ", &Hardware::" + name + "::is" + upper +
+              "Valid, &Hardware::" + name + "::" + field + "Len, &Hardware::" + name + "::" + field + "Offset, { " +
               places( table, field ) + " } );\n";
    }
    return text + "   table.masks();\n}\n";
