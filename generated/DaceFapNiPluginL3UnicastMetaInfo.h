@@ -714,161 +714,158 @@ class CgmSnifTmTable : public DaceSal::AsicUtils::DaceSalAsicTableBase {
    U16 inPpPortOwOffset() const { return fieldStart( 80 ); }
 
    // [382, 8] or [382, 10]
-   void inPpPortIs( U16 value ) { fieldInIs( Impl::traced(), 81, rows[format_ * 103 + 81], value ); }
-   U16 inPpPort() const { return static_cast< U16 >( fieldIn( Impl::traced(), 81, rows[format_ * 103 + 81] ) ); }
+   void inPpPortIs( U16 value ) { fieldAcrossIs( Impl::traced(), 81, value ); }
+   U16 inPpPort() const { return static_cast< U16 >( fieldAcross( Impl::traced(), 81 ) ); }
    bool isInPpPortValid() const { return fieldValid( 81 ); }
    U16 inPpPortLen() const { return fieldLen( 81 ); }
    U16 inPpPortOffset() const { return fieldStart( 81 ); }
 
    // [390, 1] or [392, 1]
-   void stVsqPtrOwIs( U8 value ) { fieldInIs( Impl::traced(), 82, rows[format_ * 103 + 82], value ); }
-   U8 stVsqPtrOw() const { return static_cast< U8 >( fieldIn( Impl::traced(), 82, rows[format_ * 103 + 82] ) ); }
+   void stVsqPtrOwIs( U8 value ) { fieldInIs( Impl::traced(), 82, value ); }
+   U8 stVsqPtrOw() const { return static_cast< U8 >( fieldIn( Impl::traced(), 82 ) ); }
    bool isStVsqPtrOwValid() const { return fieldValid( 82 ); }
    U16 stVsqPtrOwLen() const { return fieldLen( 82 ); }
    U16 stVsqPtrOwOffset() const { return fieldStart( 82 ); }
 
    // [391, 8] or [393, 8]
-   void stVsqPtrIs( U8 value ) { fieldInIs( Impl::traced(), 83, rows[format_ * 103 + 83], value ); }
-   U8 stVsqPtr() const { return static_cast< U8 >( fieldIn( Impl::traced(), 83, rows[format_ * 103 + 83] ) ); }
+   void stVsqPtrIs( U8 value ) { fieldInIs( Impl::traced(), 83, value ); }
+   U8 stVsqPtr() const { return static_cast< U8 >( fieldIn( Impl::traced(), 83 ) ); }
    bool isStVsqPtrValid() const { return fieldValid( 83 ); }
    U16 stVsqPtrLen() const { return fieldLen( 83 ); }
    U16 stVsqPtrOffset() const { return fieldStart( 83 ); }
 
    // [399, 1] or [401, 1]
-   void admtProfileOwIs( U8 value ) { fieldInIs( Impl::traced(), 84, rows[format_ * 103 + 84], value ); }
-   U8 admtProfileOw() const { return static_cast< U8 >( fieldIn( Impl::traced(), 84, rows[format_ * 103 + 84] ) ); }
+   void admtProfileOwIs( U8 value ) { fieldInIs( Impl::traced(), 84, value ); }
+   U8 admtProfileOw() const { return static_cast< U8 >( fieldIn( Impl::traced(), 84 ) ); }
    bool isAdmtProfileOwValid() const { return fieldValid( 84 ); }
    U16 admtProfileOwLen() const { return fieldLen( 84 ); }
    U16 admtProfileOwOffset() const { return fieldStart( 84 ); }
 
    // [400, 3] or [402, 3]
-   void admtProfileIs( U8 value ) { fieldInIs( Impl::traced(), 85, rows[format_ * 103 + 85], value ); }
-   U8 admtProfile() const { return static_cast< U8 >( fieldIn( Impl::traced(), 85, rows[format_ * 103 + 85] ) ); }
+   void admtProfileIs( U8 value ) { fieldInIs( Impl::traced(), 85, value ); }
+   U8 admtProfile() const { return static_cast< U8 >( fieldIn( Impl::traced(), 85 ) ); }
    bool isAdmtProfileValid() const { return fieldValid( 85 ); }
    U16 admtProfileLen() const { return fieldLen( 85 ); }
    U16 admtProfileOffset() const { return fieldStart( 85 ); }
 
    // [403, 1] or absent
-   void item403403Is( U8 value ) { fieldInIs( Impl::traced(), 86, rows[format_ * 103 + 86], value ); }
-   U8 item403403() const { return static_cast< U8 >( fieldIn( Impl::traced(), 86, rows[format_ * 103 + 86] ) ); }
+   void item403403Is( U8 value ) { fieldInIs( Impl::traced(), 86, value ); }
+   U8 item403403() const { return static_cast< U8 >( fieldIn( Impl::traced(), 86 ) ); }
    bool isItem403403Valid() const { return fieldValid( 86 ); }
    U16 item403403Len() const { return fieldLen( 86 ); }
    U16 item403403Offset() const { return fieldStart( 86 ); }
 
    // [404, 3] or absent
-   void item404406Is( U8 value ) { fieldInIs( Impl::traced(), 87, rows[format_ * 103 + 87], value ); }
-   U8 item404406() const { return static_cast< U8 >( fieldIn( Impl::traced(), 87, rows[format_ * 103 + 87] ) ); }
+   void item404406Is( U8 value ) { fieldInIs( Impl::traced(), 87, value ); }
+   U8 item404406() const { return static_cast< U8 >( fieldIn( Impl::traced(), 87 ) ); }
    bool isItem404406Valid() const { return fieldValid( 87 ); }
    U16 item404406Len() const { return fieldLen( 87 ); }
    U16 item404406Offset() const { return fieldStart( 87 ); }
 
    // [407, 1] or [409, 1]
-   void inDpOwIs( U8 value ) { fieldInIs( Impl::traced(), 88, rows[format_ * 103 + 88], value ); }
-   U8 inDpOw() const { return static_cast< U8 >( fieldIn( Impl::traced(), 88, rows[format_ * 103 + 88] ) ); }
+   void inDpOwIs( U8 value ) { fieldInIs( Impl::traced(), 88, value ); }
+   U8 inDpOw() const { return static_cast< U8 >( fieldIn( Impl::traced(), 88 ) ); }
    bool isInDpOwValid() const { return fieldValid( 88 ); }
    U16 inDpOwLen() const { return fieldLen( 88 ); }
    U16 inDpOwOffset() const { return fieldStart( 88 ); }
 
    // [408, 2] or [410, 2]
-   void inDpIs( U8 value ) { fieldInIs( Impl::traced(), 89, rows[format_ * 103 + 89], value ); }
-   U8 inDp() const { return static_cast< U8 >( fieldIn( Impl::traced(), 89, rows[format_ * 103 + 89] ) ); }
+   void inDpIs( U8 value ) { fieldInIs( Impl::traced(), 89, value ); }
+   U8 inDp() const { return static_cast< U8 >( fieldIn( Impl::traced(), 89 ) ); }
    bool isInDpValid() const { return fieldValid( 89 ); }
    U16 inDpLen() const { return fieldLen( 89 ); }
    U16 inDpOffset() const { return fieldStart( 89 ); }
 
    // [410, 1] or [412, 1]
-   void egrDpOwIs( U8 value ) { fieldInIs( Impl::traced(), 90, rows[format_ * 103 + 90], value ); }
-   U8 egrDpOw() const { return static_cast< U8 >( fieldIn( Impl::traced(), 90, rows[format_ * 103 + 90] ) ); }
+   void egrDpOwIs( U8 value ) { fieldInIs( Impl::traced(), 90, value ); }
+   U8 egrDpOw() const { return static_cast< U8 >( fieldIn( Impl::traced(), 90 ) ); }
    bool isEgrDpOwValid() const { return fieldValid( 90 ); }
    U16 egrDpOwLen() const { return fieldLen( 90 ); }
    U16 egrDpOwOffset() const { return fieldStart( 90 ); }
 
    // [411, 2] or [413, 2]
-   void egrDpIs( U8 value ) { fieldInIs( Impl::traced(), 91, rows[format_ * 103 + 91], value ); }
-   U8 egrDp() const { return static_cast< U8 >( fieldIn( Impl::traced(), 91, rows[format_ * 103 + 91] ) ); }
+   void egrDpIs( U8 value ) { fieldInIs( Impl::traced(), 91, value ); }
+   U8 egrDp() const { return static_cast< U8 >( fieldIn( Impl::traced(), 91 ) ); }
    bool isEgrDpValid() const { return fieldValid( 91 ); }
    U16 egrDpLen() const { return fieldLen( 91 ); }
    U16 egrDpOffset() const { return fieldStart( 91 ); }
 
    // [413, 1] or [415, 1]
-   void irppDeltaOwIs( U8 value ) { fieldInIs( Impl::traced(), 92, rows[format_ * 103 + 92], value ); }
-   U8 irppDeltaOw() const { return static_cast< U8 >( fieldIn( Impl::traced(), 92, rows[format_ * 103 + 92] ) ); }
+   void irppDeltaOwIs( U8 value ) { fieldInIs( Impl::traced(), 92, value ); }
+   U8 irppDeltaOw() const { return static_cast< U8 >( fieldIn( Impl::traced(), 92 ) ); }
    bool isIrppDeltaOwValid() const { return fieldValid( 92 ); }
    U16 irppDeltaOwLen() const { return fieldLen( 92 ); }
    U16 irppDeltaOwOffset() const { return fieldStart( 92 ); }
 
    // [414, 8] or [416, 8]
-   void irppDeltaIs( U8 value ) { fieldInIs( Impl::traced(), 93, rows[format_ * 103 + 93], value ); }
-   U8 irppDelta() const { return static_cast< U8 >( fieldIn( Impl::traced(), 93, rows[format_ * 103 + 93] ) ); }
+   void irppDeltaIs( U8 value ) { fieldAcrossIs( Impl::traced(), 93, value ); }
+   U8 irppDelta() const { return static_cast< U8 >( fieldAcross( Impl::traced(), 93 ) ); }
    bool isIrppDeltaValid() const { return fieldValid( 93 ); }
    U16 irppDeltaLen() const { return fieldLen( 93 ); }
    U16 irppDeltaOffset() const { return fieldStart( 93 ); }
 
    // [422, 1] or [424, 1]
-   void itppDeltaOwIs( U8 value ) { fieldInIs( Impl::traced(), 94, rows[format_ * 103 + 94], value ); }
-   U8 itppDeltaOw() const { return static_cast< U8 >( fieldIn( Impl::traced(), 94, rows[format_ * 103 + 94] ) ); }
+   void itppDeltaOwIs( U8 value ) { fieldInIs( Impl::traced(), 94, value ); }
+   U8 itppDeltaOw() const { return static_cast< U8 >( fieldIn( Impl::traced(), 94 ) ); }
    bool isItppDeltaOwValid() const { return fieldValid( 94 ); }
    U16 itppDeltaOwLen() const { return fieldLen( 94 ); }
    U16 itppDeltaOwOffset() const { return fieldStart( 94 ); }
 
    // [423, 8] or [425, 8] or [423, 9]
-   void itppDeltaIs( U16 value ) { fieldInIs( Impl::traced(), 95, rows[format_ * 103 + 95], value ); }
-   U16 itppDelta() const { return static_cast< U16 >( fieldIn( Impl::traced(), 95, rows[format_ * 103 + 95] ) ); }
+   void itppDeltaIs( U16 value ) { fieldInIs( Impl::traced(), 95, value ); }
+   U16 itppDelta() const { return static_cast< U16 >( fieldIn( Impl::traced(), 95 ) ); }
    bool isItppDeltaValid() const { return fieldValid( 95 ); }
    U16 itppDeltaLen() const { return fieldLen( 95 ); }
    U16 itppDeltaOffset() const { return fieldStart( 95 ); }
 
    // [431, 1] or [433, 1] or [432, 1]
-   void nwkHeaderTruncateSizeOwIs( U8 value ) { fieldInIs( Impl::traced(), 96, rows[format_ * 103 + 96], value ); }
-   U8 nwkHeaderTruncateSizeOw() const { return static_cast< U8 >( fieldIn( Impl::traced(), 96, rows[format_ * 103 + 96] ) ); }
+   void nwkHeaderTruncateSizeOwIs( U8 value ) { fieldInIs( Impl::traced(), 96, value ); }
+   U8 nwkHeaderTruncateSizeOw() const { return static_cast< U8 >( fieldIn( Impl::traced(), 96 ) ); }
    bool isNwkHeaderTruncateSizeOwValid() const { return fieldValid( 96 ); }
    U16 nwkHeaderTruncateSizeOwLen() const { return fieldLen( 96 ); }
    U16 nwkHeaderTruncateSizeOwOffset() const { return fieldStart( 96 ); }
 
    // [432, 8] or [434, 8] or [433, 10]
-   void nwkHeaderTruncateSizeIs( U16 value ) { fieldInIs( Impl::traced(), 97, rows[format_ * 103 + 97], value ); }
-   U16 nwkHeaderTruncateSize() const { return static_cast< U16 >( fieldIn( Impl::traced(), 97, rows[format_ * 103 + 97] ) ); }
+   void nwkHeaderTruncateSizeIs( U16 value ) { fieldInIs( Impl::traced(), 97, value ); }
+   U16 nwkHeaderTruncateSize() const { return static_cast< U16 >( fieldIn( Impl::traced(), 97 ) ); }
    bool isNwkHeaderTruncateSizeValid() const { return fieldValid( 97 ); }
    U16 nwkHeaderTruncateSizeLen() const { return fieldLen( 97 ); }
    U16 nwkHeaderTruncateSizeOffset() const { return fieldStart( 97 ); }
 
    // [440, 1] or [442, 1] or [443, 1]
-   void nwkHeaderAppendSizePtrOwIs( U8 value ) { fieldInIs( Impl::traced(), 98, rows[format_ * 103 + 98], value ); }
-   U8 nwkHeaderAppendSizePtrOw() const { return static_cast< U8 >( fieldIn( Impl::traced(), 98, rows[format_ * 103 + 98] ) ); }
+   void nwkHeaderAppendSizePtrOwIs( U8 value ) { fieldInIs( Impl::traced(), 98, value ); }
+   U8 nwkHeaderAppendSizePtrOw() const { return static_cast< U8 >( fieldIn( Impl::traced(), 98 ) ); }
    bool isNwkHeaderAppendSizePtrOwValid() const { return fieldValid( 98 ); }
    U16 nwkHeaderAppendSizePtrOwLen() const { return fieldLen( 98 ); }
    U16 nwkHeaderAppendSizePtrOwOffset() const { return fieldStart( 98 ); }
 
    // [441, 8] or [443, 8] or [444, 8]
-   void nwkHeaderAppendSizePtrIs( U8 value ) { fieldInIs( Impl::traced(), 99, rows[format_ * 103 + 99], value ); }
-   U8 nwkHeaderAppendSizePtr() const { return static_cast< U8 >( fieldIn( Impl::traced(), 99, rows[format_ * 103 + 99] ) ); }
+   void nwkHeaderAppendSizePtrIs( U8 value ) { fieldAcrossIs( Impl::traced(), 99, value ); }
+   U8 nwkHeaderAppendSizePtr() const { return static_cast< U8 >( fieldAcross( Impl::traced(), 99 ) ); }
    bool isNwkHeaderAppendSizePtrValid() const { return fieldValid( 99 ); }
    U16 nwkHeaderAppendSizePtrLen() const { return fieldLen( 99 ); }
    U16 nwkHeaderAppendSizePtrOffset() const { return fieldStart( 99 ); }
 
    // absent or [405, 1] or [403, 1]
-   void inTcOwIs( U8 value ) { fieldInIs( Impl::traced(), 100, rows[format_ * 103 + 100], value ); }
-   U8 inTcOw() const { return static_cast< U8 >( fieldIn( Impl::traced(), 100, rows[format_ * 103 + 100] ) ); }
+   void inTcOwIs( U8 value ) { fieldInIs( Impl::traced(), 100, value ); }
+   U8 inTcOw() const { return static_cast< U8 >( fieldIn( Impl::traced(), 100 ) ); }
    bool isInTcOwValid() const { return fieldValid( 100 ); }
    U16 inTcOwLen() const { return fieldLen( 100 ); }
    U16 inTcOwOffset() const { return fieldStart( 100 ); }
 
    // absent or [406, 3] or [404, 3]
-   void inTcIs( U8 value ) { fieldInIs( Impl::traced(), 101, rows[format_ * 103 + 101], value ); }
-   U8 inTc() const { return static_cast< U8 >( fieldIn( Impl::traced(), 101, rows[format_ * 103 + 101] ) ); }
+   void inTcIs( U8 value ) { fieldInIs( Impl::traced(), 101, value ); }
+   U8 inTc() const { return static_cast< U8 >( fieldIn( Impl::traced(), 101 ) ); }
    bool isInTcValid() const { return fieldValid( 101 ); }
    U16 inTcLen() const { return fieldLen( 101 ); }
    U16 inTcOffset() const { return fieldStart( 101 ); }
 
    // absent or [452, 1]
-   void intTmStatFilterIs( U8 value ) { fieldInIs( Impl::traced(), 102, rows[format_ * 103 + 102], value ); }
-   U8 intTmStatFilter() const { return static_cast< U8 >( fieldIn( Impl::traced(), 102, rows[format_ * 103 + 102] ) ); }
+   void intTmStatFilterIs( U8 value ) { fieldInIs( Impl::traced(), 102, value ); }
+   U8 intTmStatFilter() const { return static_cast< U8 >( fieldIn( Impl::traced(), 102 ) ); }
    bool isIntTmStatFilterValid() const { return fieldValid( 102 ); }
    U16 intTmStatFilterLen() const { return fieldLen( 102 ); }
    U16 intTmStatFilterOffset() const { return fieldStart( 102 ); }
-
- private:
-   static AsicUtils::FieldRow const rows[];
 };
 
 class CgmSnifTmTable::WithStorage : public CgmSnifTmTable {
@@ -915,28 +912,25 @@ class EgressOutrifMaxValue : public DaceSal::AsicUtils::DaceSalAsicRegBase {
    U32 getAllFields() const { return allFields< U32 >(); }
 
    // [0, 18] or absent
-   void cfgOutrifMaxValueIs( U32 value ) { fieldInIs( Impl::traced(), 0, rows[format_ * 3 + 0], value ); }
-   U32 cfgOutrifMaxValue() const { return static_cast< U32 >( fieldIn( Impl::traced(), 0, rows[format_ * 3 + 0] ) ); }
+   void cfgOutrifMaxValueIs( U32 value ) { fieldInIs( Impl::traced(), 0, value ); }
+   U32 cfgOutrifMaxValue() const { return static_cast< U32 >( fieldIn( Impl::traced(), 0 ) ); }
    bool isCfgOutrifMaxValueValid() const { return fieldValid( 0 ); }
    U16 cfgOutrifMaxValueLen() const { return fieldLen( 0 ); }
    U16 cfgOutrifMaxValueOffset() const { return fieldStart( 0 ); }
 
    // absent or [0, 18]
-   void outrifMaxValueIs( U32 value ) { fieldInIs( Impl::traced(), 1, rows[format_ * 3 + 1], value ); }
-   U32 outrifMaxValue() const { return static_cast< U32 >( fieldIn( Impl::traced(), 1, rows[format_ * 3 + 1] ) ); }
+   void outrifMaxValueIs( U32 value ) { fieldInIs( Impl::traced(), 1, value ); }
+   U32 outrifMaxValue() const { return static_cast< U32 >( fieldIn( Impl::traced(), 1 ) ); }
    bool isOutrifMaxValueValid() const { return fieldValid( 1 ); }
    U16 outrifMaxValueLen() const { return fieldLen( 1 ); }
    U16 outrifMaxValueOffset() const { return fieldStart( 1 ); }
 
    // absent or [0, 22]
-   void cfgRifMaxValueIs( U32 value ) { fieldInIs( Impl::traced(), 2, rows[format_ * 3 + 2], value ); }
-   U32 cfgRifMaxValue() const { return static_cast< U32 >( fieldIn( Impl::traced(), 2, rows[format_ * 3 + 2] ) ); }
+   void cfgRifMaxValueIs( U32 value ) { fieldInIs( Impl::traced(), 2, value ); }
+   U32 cfgRifMaxValue() const { return static_cast< U32 >( fieldIn( Impl::traced(), 2 ) ); }
    bool isCfgRifMaxValueValid() const { return fieldValid( 2 ); }
    U16 cfgRifMaxValueLen() const { return fieldLen( 2 ); }
    U16 cfgRifMaxValueOffset() const { return fieldStart( 2 ); }
-
- private:
-   static AsicUtils::FieldRow const rows[];
 };
 
 class EgressOutrifMaxValue::WithStorage : public EgressOutrifMaxValue {
@@ -2181,14 +2175,11 @@ class EtppTrapContextSelectionPortProfile : public DaceSal::AsicUtils::DaceSalAs
    U32 getAllFields() const { return allFields< U32 >(); }
 
    // [0, 3] or [0, 4]
-   void contextSelectionPerPortProfileIs( U8 value ) { fieldInIs( Impl::traced(), 0, rows[format_ * 1 + 0], value ); }
-   U8 contextSelectionPerPortProfile() const { return static_cast< U8 >( fieldIn( Impl::traced(), 0, rows[format_ * 1 + 0] ) ); }
+   void contextSelectionPerPortProfileIs( U8 value ) { fieldInIs( Impl::traced(), 0, value ); }
+   U8 contextSelectionPerPortProfile() const { return static_cast< U8 >( fieldIn( Impl::traced(), 0 ) ); }
    bool isContextSelectionPerPortProfileValid() const { return fieldValid( 0 ); }
    U16 contextSelectionPerPortProfileLen() const { return fieldLen( 0 ); }
    U16 contextSelectionPerPortProfileOffset() const { return fieldStart( 0 ); }
-
- private:
-   static AsicUtils::FieldRow const rows[];
 };
 
 class EtppTrapContextSelectionPortProfile::WithStorage : public EtppTrapContextSelectionPortProfile {
@@ -2619,22 +2610,22 @@ class EtppcEncapsulation2ContextSelectionCam : public DaceSal::AsicUtils::DaceSa
    U64 getAllFields() const { return allFields< U64 >(); }
 
    // [0, 6] or absent
-   void currentContextIs( U8 value ) { fieldInIs( Impl::traced(), 0, rows[format_ * 20 + 0], value ); }
-   U8 currentContext() const { return static_cast< U8 >( fieldIn( Impl::traced(), 0, rows[format_ * 20 + 0] ) ); }
+   void currentContextIs( U8 value ) { fieldInIs( Impl::traced(), 0, value ); }
+   U8 currentContext() const { return static_cast< U8 >( fieldIn( Impl::traced(), 0 ) ); }
    bool isCurrentContextValid() const { return fieldValid( 0 ); }
    U16 currentContextLen() const { return fieldLen( 0 ); }
    U16 currentContextOffset() const { return fieldStart( 0 ); }
 
    // [6, 6] or absent
-   void etpsTosEntryTypeIs( U8 value ) { fieldInIs( Impl::traced(), 1, rows[format_ * 20 + 1], value ); }
-   U8 etpsTosEntryType() const { return static_cast< U8 >( fieldIn( Impl::traced(), 1, rows[format_ * 20 + 1] ) ); }
+   void etpsTosEntryTypeIs( U8 value ) { fieldInIs( Impl::traced(), 1, value ); }
+   U8 etpsTosEntryType() const { return static_cast< U8 >( fieldIn( Impl::traced(), 1 ) ); }
    bool isEtpsTosEntryTypeValid() const { return fieldValid( 1 ); }
    U16 etpsTosEntryTypeLen() const { return fieldLen( 1 ); }
    U16 etpsTosEntryTypeOffset() const { return fieldStart( 1 ); }
 
    // [12, 6] or absent
-   void etpsSecondEntryTypeIs( U8 value ) { fieldInIs( Impl::traced(), 2, rows[format_ * 20 + 2], value ); }
-   U8 etpsSecondEntryType() const { return static_cast< U8 >( fieldIn( Impl::traced(), 2, rows[format_ * 20 + 2] ) ); }
+   void etpsSecondEntryTypeIs( U8 value ) { fieldInIs( Impl::traced(), 2, value ); }
+   U8 etpsSecondEntryType() const { return static_cast< U8 >( fieldIn( Impl::traced(), 2 ) ); }
    bool isEtpsSecondEntryTypeValid() const { return fieldValid( 2 ); }
    U16 etpsSecondEntryTypeLen() const { return fieldLen( 2 ); }
    U16 etpsSecondEntryTypeOffset() const { return fieldStart( 2 ); }
@@ -2661,22 +2652,22 @@ class EtppcEncapsulation2ContextSelectionCam : public DaceSal::AsicUtils::DaceSa
    U16 encapsulation2ContextPortProfileOffset() const { return fieldStart( 5 ); }
 
    // [26, 6] or absent
-   void currentContextMaskIs( U8 value ) { fieldInIs( Impl::traced(), 6, rows[format_ * 20 + 6], value ); }
-   U8 currentContextMask() const { return static_cast< U8 >( fieldIn( Impl::traced(), 6, rows[format_ * 20 + 6] ) ); }
+   void currentContextMaskIs( U8 value ) { fieldInIs( Impl::traced(), 6, value ); }
+   U8 currentContextMask() const { return static_cast< U8 >( fieldIn( Impl::traced(), 6 ) ); }
    bool isCurrentContextMaskValid() const { return fieldValid( 6 ); }
    U16 currentContextMaskLen() const { return fieldLen( 6 ); }
    U16 currentContextMaskOffset() const { return fieldStart( 6 ); }
 
    // [32, 6] or absent
-   void etpsTosEntryTypeMaskIs( U8 value ) { fieldInIs( Impl::traced(), 7, rows[format_ * 20 + 7], value ); }
-   U8 etpsTosEntryTypeMask() const { return static_cast< U8 >( fieldIn( Impl::traced(), 7, rows[format_ * 20 + 7] ) ); }
+   void etpsTosEntryTypeMaskIs( U8 value ) { fieldInIs( Impl::traced(), 7, value ); }
+   U8 etpsTosEntryTypeMask() const { return static_cast< U8 >( fieldIn( Impl::traced(), 7 ) ); }
    bool isEtpsTosEntryTypeMaskValid() const { return fieldValid( 7 ); }
    U16 etpsTosEntryTypeMaskLen() const { return fieldLen( 7 ); }
    U16 etpsTosEntryTypeMaskOffset() const { return fieldStart( 7 ); }
 
    // [38, 6] or absent
-   void etpsSecondEntryTypeMaskIs( U8 value ) { fieldInIs( Impl::traced(), 8, rows[format_ * 20 + 8], value ); }
-   U8 etpsSecondEntryTypeMask() const { return static_cast< U8 >( fieldIn( Impl::traced(), 8, rows[format_ * 20 + 8] ) ); }
+   void etpsSecondEntryTypeMaskIs( U8 value ) { fieldInIs( Impl::traced(), 8, value ); }
+   U8 etpsSecondEntryTypeMask() const { return static_cast< U8 >( fieldIn( Impl::traced(), 8 ) ); }
    bool isEtpsSecondEntryTypeMaskValid() const { return fieldValid( 8 ); }
    U16 etpsSecondEntryTypeMaskLen() const { return fieldLen( 8 ); }
    U16 etpsSecondEntryTypeMaskOffset() const { return fieldStart( 8 ); }
@@ -2717,49 +2708,46 @@ class EtppcEncapsulation2ContextSelectionCam : public DaceSal::AsicUtils::DaceSa
    U16 validOffset() const { return fieldStart( 13 ); }
 
    // absent or [0, 6]
-   void currentContextProfileIs( U8 value ) { fieldInIs( Impl::traced(), 14, rows[format_ * 20 + 14], value ); }
-   U8 currentContextProfile() const { return static_cast< U8 >( fieldIn( Impl::traced(), 14, rows[format_ * 20 + 14] ) ); }
+   void currentContextProfileIs( U8 value ) { fieldInIs( Impl::traced(), 14, value ); }
+   U8 currentContextProfile() const { return static_cast< U8 >( fieldIn( Impl::traced(), 14 ) ); }
    bool isCurrentContextProfileValid() const { return fieldValid( 14 ); }
    U16 currentContextProfileLen() const { return fieldLen( 14 ); }
    U16 currentContextProfileOffset() const { return fieldStart( 14 ); }
 
    // absent or [6, 6]
-   void etpsTosEntryTypeProfileIs( U8 value ) { fieldInIs( Impl::traced(), 15, rows[format_ * 20 + 15], value ); }
-   U8 etpsTosEntryTypeProfile() const { return static_cast< U8 >( fieldIn( Impl::traced(), 15, rows[format_ * 20 + 15] ) ); }
+   void etpsTosEntryTypeProfileIs( U8 value ) { fieldInIs( Impl::traced(), 15, value ); }
+   U8 etpsTosEntryTypeProfile() const { return static_cast< U8 >( fieldIn( Impl::traced(), 15 ) ); }
    bool isEtpsTosEntryTypeProfileValid() const { return fieldValid( 15 ); }
    U16 etpsTosEntryTypeProfileLen() const { return fieldLen( 15 ); }
    U16 etpsTosEntryTypeProfileOffset() const { return fieldStart( 15 ); }
 
    // absent or [12, 6]
-   void etpsSecondEntryTypeProfileIs( U8 value ) { fieldInIs( Impl::traced(), 16, rows[format_ * 20 + 16], value ); }
-   U8 etpsSecondEntryTypeProfile() const { return static_cast< U8 >( fieldIn( Impl::traced(), 16, rows[format_ * 20 + 16] ) ); }
+   void etpsSecondEntryTypeProfileIs( U8 value ) { fieldInIs( Impl::traced(), 16, value ); }
+   U8 etpsSecondEntryTypeProfile() const { return static_cast< U8 >( fieldIn( Impl::traced(), 16 ) ); }
    bool isEtpsSecondEntryTypeProfileValid() const { return fieldValid( 16 ); }
    U16 etpsSecondEntryTypeProfileLen() const { return fieldLen( 16 ); }
    U16 etpsSecondEntryTypeProfileOffset() const { return fieldStart( 16 ); }
 
    // absent or [26, 6]
-   void currentContextProfileMaskIs( U8 value ) { fieldInIs( Impl::traced(), 17, rows[format_ * 20 + 17], value ); }
-   U8 currentContextProfileMask() const { return static_cast< U8 >( fieldIn( Impl::traced(), 17, rows[format_ * 20 + 17] ) ); }
+   void currentContextProfileMaskIs( U8 value ) { fieldInIs( Impl::traced(), 17, value ); }
+   U8 currentContextProfileMask() const { return static_cast< U8 >( fieldIn( Impl::traced(), 17 ) ); }
    bool isCurrentContextProfileMaskValid() const { return fieldValid( 17 ); }
    U16 currentContextProfileMaskLen() const { return fieldLen( 17 ); }
    U16 currentContextProfileMaskOffset() const { return fieldStart( 17 ); }
 
    // absent or [32, 6]
-   void etpsTosEntryTypeProfileMaskIs( U8 value ) { fieldInIs( Impl::traced(), 18, rows[format_ * 20 + 18], value ); }
-   U8 etpsTosEntryTypeProfileMask() const { return static_cast< U8 >( fieldIn( Impl::traced(), 18, rows[format_ * 20 + 18] ) ); }
+   void etpsTosEntryTypeProfileMaskIs( U8 value ) { fieldInIs( Impl::traced(), 18, value ); }
+   U8 etpsTosEntryTypeProfileMask() const { return static_cast< U8 >( fieldIn( Impl::traced(), 18 ) ); }
    bool isEtpsTosEntryTypeProfileMaskValid() const { return fieldValid( 18 ); }
    U16 etpsTosEntryTypeProfileMaskLen() const { return fieldLen( 18 ); }
    U16 etpsTosEntryTypeProfileMaskOffset() const { return fieldStart( 18 ); }
 
    // absent or [38, 6]
-   void etpsSecondEntryTypeProfileMaskIs( U8 value ) { fieldInIs( Impl::traced(), 19, rows[format_ * 20 + 19], value ); }
-   U8 etpsSecondEntryTypeProfileMask() const { return static_cast< U8 >( fieldIn( Impl::traced(), 19, rows[format_ * 20 + 19] ) ); }
+   void etpsSecondEntryTypeProfileMaskIs( U8 value ) { fieldInIs( Impl::traced(), 19, value ); }
+   U8 etpsSecondEntryTypeProfileMask() const { return static_cast< U8 >( fieldIn( Impl::traced(), 19 ) ); }
    bool isEtpsSecondEntryTypeProfileMaskValid() const { return fieldValid( 19 ); }
    U16 etpsSecondEntryTypeProfileMaskLen() const { return fieldLen( 19 ); }
    U16 etpsSecondEntryTypeProfileMaskOffset() const { return fieldStart( 19 ); }
-
- private:
-   static AsicUtils::FieldRow const rows[];
 };
 
 class EtppcEncapsulation2ContextSelectionCam::WithStorage : public EtppcEncapsulation2ContextSelectionCam {
@@ -2824,21 +2812,21 @@ class FfcInstruction : public DaceSal::AsicUtils::DaceSalAsicTableBase {
    U16 ffcFieldSizeOffset() const { return fieldStart( 1 ); }
 
    // [13, 11] or [13, 5] or [13, 12]
-   void ffcFieldOffsetIs( U16 value ) { fieldInIs( Impl::traced(), 2, rows[format_ * 5 + 2], value ); }
-   U16 ffcFieldOffset() const { return static_cast< U16 >( fieldIn( Impl::traced(), 2, rows[format_ * 5 + 2] ) ); }
+   void ffcFieldOffsetIs( U16 value ) { fieldInIs( Impl::traced(), 2, value ); }
+   U16 ffcFieldOffset() const { return static_cast< U16 >( fieldIn( Impl::traced(), 2 ) ); }
    bool isFfcFieldOffsetValid() const { return fieldValid( 2 ); }
    U16 ffcFieldOffsetLen() const { return fieldLen( 2 ); }
    U16 ffcFieldOffsetOffset() const { return fieldStart( 2 ); }
 
    // [24, 3] or absent
-   void ffcIndexIs( U8 value ) { fieldInIs( Impl::traced(), 3, rows[format_ * 5 + 3], value ); }
-   U8 ffcIndex() const { return static_cast< U8 >( fieldIn( Impl::traced(), 3, rows[format_ * 5 + 3] ) ); }
+   void ffcIndexIs( U8 value ) { fieldInIs( Impl::traced(), 3, value ); }
+   U8 ffcIndex() const { return static_cast< U8 >( fieldIn( Impl::traced(), 3 ) ); }
    bool isFfcIndexValid() const { return fieldValid( 3 ); }
    U16 ffcIndexLen() const { return fieldLen( 3 ); }
    U16 ffcIndexOffset() const { return fieldStart( 3 ); }
 
    // Fixed by the format: [27, 2] or [25, 4]
-   U8 resultType() const { return static_cast< U8 >( fieldIn( Impl::traced(), 4, rows[format_ * 5 + 4] ) ); }
+   U8 resultType() const { return static_cast< U8 >( fieldIn( Impl::traced(), 4 ) ); }
    bool isResultTypeValid() const { return fieldValid( 4 ); }
    U16 resultTypeLen() const { return fieldLen( 4 ); }
    U16 resultTypeOffset() const { return fieldStart( 4 ); }
@@ -2847,9 +2835,6 @@ class FfcInstruction : public DaceSal::AsicUtils::DaceSalAsicTableBase {
    // Without the tag: the buffer does not exist yet.
    FfcInstruction( ChipType chip, U8 * buf, U16 len, U8 variant )
       : DaceSalAsicTableBase( metaInfo, static_cast< U8 >( chip ), buf, len, false, variant, 0 ) {}
-
- private:
-   static AsicUtils::FieldRow const rows[];
 };
 
 class FfcInstruction::WithStorage : public FfcInstruction {
@@ -2914,21 +2899,18 @@ class FlpKapsStrengthMapping : public DaceSal::AsicUtils::DaceSalAsicTableBase {
    U16 strengthDefault1Offset() const { return fieldStart( 1 ); }
 
    // [6, 2] or absent
-   void reservedIs( U8 value ) { fieldInIs( Impl::traced(), 2, rows[format_ * 4 + 2], value ); }
-   U8 reserved() const { return static_cast< U8 >( fieldIn( Impl::traced(), 2, rows[format_ * 4 + 2] ) ); }
+   void reservedIs( U8 value ) { fieldInIs( Impl::traced(), 2, value ); }
+   U8 reserved() const { return static_cast< U8 >( fieldIn( Impl::traced(), 2 ) ); }
    bool isReservedValid() const { return fieldValid( 2 ); }
    U16 reservedLen() const { return fieldLen( 2 ); }
    U16 reservedOffset() const { return fieldStart( 2 ); }
 
    // absent or [0, 48]
-   void strengthVecIs( U64 const & value ) { fieldInIs( Impl::traced(), 3, rows[format_ * 4 + 3], value ); }
-   U64 strengthVec() const { return fieldIn( Impl::traced(), 3, rows[format_ * 4 + 3] ); }
+   void strengthVecIs( U64 const & value ) { fieldIs( 3, value ); }
+   U64 strengthVec() const { return fieldValue( 3 ); }
    bool isStrengthVecValid() const { return fieldValid( 3 ); }
    U16 strengthVecLen() const { return fieldLen( 3 ); }
    U16 strengthVecOffset() const { return fieldStart( 3 ); }
-
- private:
-   static AsicUtils::FieldRow const rows[];
 };
 
 class FlpKapsStrengthMapping::WithStorage : public FlpKapsStrengthMapping {
@@ -3383,21 +3365,18 @@ class FlpaInitContextEnablers : public DaceSal::AsicUtils::DaceSalAsicTableBase 
    U16 identificationKeyEnableOffset() const { return fieldStart( 43 ); }
 
    // [49, 14] or absent
-   void reservedIs( U16 value ) { fieldInIs( Impl::traced(), 44, rows[format_ * 46 + 44], value ); }
-   U16 reserved() const { return static_cast< U16 >( fieldIn( Impl::traced(), 44, rows[format_ * 46 + 44] ) ); }
+   void reservedIs( U16 value ) { fieldInIs( Impl::traced(), 44, value ); }
+   U16 reserved() const { return static_cast< U16 >( fieldIn( Impl::traced(), 44 ) ); }
    bool isReservedValid() const { return fieldValid( 44 ); }
    U16 reservedLen() const { return fieldLen( 44 ); }
    U16 reservedOffset() const { return fieldStart( 44 ); }
 
    // absent or [49, 1]
-   void ethernetSaEqualZeroTrapEnableIs( U8 value ) { fieldInIs( Impl::traced(), 45, rows[format_ * 46 + 45], value ); }
-   U8 ethernetSaEqualZeroTrapEnable() const { return static_cast< U8 >( fieldIn( Impl::traced(), 45, rows[format_ * 46 + 45] ) ); }
+   void ethernetSaEqualZeroTrapEnableIs( U8 value ) { fieldInIs( Impl::traced(), 45, value ); }
+   U8 ethernetSaEqualZeroTrapEnable() const { return static_cast< U8 >( fieldIn( Impl::traced(), 45 ) ); }
    bool isEthernetSaEqualZeroTrapEnableValid() const { return fieldValid( 45 ); }
    U16 ethernetSaEqualZeroTrapEnableLen() const { return fieldLen( 45 ); }
    U16 ethernetSaEqualZeroTrapEnableOffset() const { return fieldStart( 45 ); }
-
- private:
-   static AsicUtils::FieldRow const rows[];
 };
 
 class FlpaInitContextEnablers::WithStorage : public FlpaInitContextEnablers {
@@ -3598,42 +3577,39 @@ class FlpaResContextEnablers : public DaceSal::AsicUtils::DaceSalAsicTableBase {
    U16 fwdDomainStatisticsEnableOffset() const { return fieldStart( 21 ); }
 
    // [30, 9] or absent
-   void reservedIs( U16 value ) { fieldInIs( Impl::traced(), 22, rows[format_ * 27 + 22], value ); }
-   U16 reserved() const { return static_cast< U16 >( fieldIn( Impl::traced(), 22, rows[format_ * 27 + 22] ) ); }
+   void reservedIs( U16 value ) { fieldAcrossIs( Impl::traced(), 22, value ); }
+   U16 reserved() const { return static_cast< U16 >( fieldAcross( Impl::traced(), 22 ) ); }
    bool isReservedValid() const { return fieldValid( 22 ); }
    U16 reservedLen() const { return fieldLen( 22 ); }
    U16 reservedOffset() const { return fieldStart( 22 ); }
 
    // absent or [30, 1]
-   void faiUnknownAddressEnableIs( U8 value ) { fieldInIs( Impl::traced(), 23, rows[format_ * 27 + 23], value ); }
-   U8 faiUnknownAddressEnable() const { return static_cast< U8 >( fieldIn( Impl::traced(), 23, rows[format_ * 27 + 23] ) ); }
+   void faiUnknownAddressEnableIs( U8 value ) { fieldInIs( Impl::traced(), 23, value ); }
+   U8 faiUnknownAddressEnable() const { return static_cast< U8 >( fieldIn( Impl::traced(), 23 ) ); }
    bool isFaiUnknownAddressEnableValid() const { return fieldValid( 23 ); }
    U16 faiUnknownAddressEnableLen() const { return fieldLen( 23 ); }
    U16 faiUnknownAddressEnableOffset() const { return fieldStart( 23 ); }
 
    // absent or [31, 2]
-   void faiOffsetIs( U8 value ) { fieldInIs( Impl::traced(), 24, rows[format_ * 27 + 24], value ); }
-   U8 faiOffset() const { return static_cast< U8 >( fieldIn( Impl::traced(), 24, rows[format_ * 27 + 24] ) ); }
+   void faiOffsetIs( U8 value ) { fieldAcrossIs( Impl::traced(), 24, value ); }
+   U8 faiOffset() const { return static_cast< U8 >( fieldAcross( Impl::traced(), 24 ) ); }
    bool isFaiOffsetValid() const { return fieldValid( 24 ); }
    U16 faiOffsetLen() const { return fieldLen( 24 ); }
    U16 faiOffsetOffset() const { return fieldStart( 24 ); }
 
    // absent or [33, 1]
-   void faiCompatibleMcEnableIs( U8 value ) { fieldInIs( Impl::traced(), 25, rows[format_ * 27 + 25], value ); }
-   U8 faiCompatibleMcEnable() const { return static_cast< U8 >( fieldIn( Impl::traced(), 25, rows[format_ * 27 + 25] ) ); }
+   void faiCompatibleMcEnableIs( U8 value ) { fieldInIs( Impl::traced(), 25, value ); }
+   U8 faiCompatibleMcEnable() const { return static_cast< U8 >( fieldIn( Impl::traced(), 25 ) ); }
    bool isFaiCompatibleMcEnableValid() const { return fieldValid( 25 ); }
    U16 faiCompatibleMcEnableLen() const { return fieldLen( 25 ); }
    U16 faiCompatibleMcEnableOffset() const { return fieldStart( 25 ); }
 
    // absent or [34, 2]
-   void faiCompatibleMcOffsetIs( U8 value ) { fieldInIs( Impl::traced(), 26, rows[format_ * 27 + 26], value ); }
-   U8 faiCompatibleMcOffset() const { return static_cast< U8 >( fieldIn( Impl::traced(), 26, rows[format_ * 27 + 26] ) ); }
+   void faiCompatibleMcOffsetIs( U8 value ) { fieldInIs( Impl::traced(), 26, value ); }
+   U8 faiCompatibleMcOffset() const { return static_cast< U8 >( fieldIn( Impl::traced(), 26 ) ); }
    bool isFaiCompatibleMcOffsetValid() const { return fieldValid( 26 ); }
    U16 faiCompatibleMcOffsetLen() const { return fieldLen( 26 ); }
    U16 faiCompatibleMcOffsetOffset() const { return fieldStart( 26 ); }
-
- private:
-   static AsicUtils::FieldRow const rows[];
 };
 
 class FlpaResContextEnablers::WithStorage : public FlpaResContextEnablers {
@@ -3694,8 +3670,8 @@ class FwdFfcTable : public DaceSal::AsicUtils::DaceSalAsicTableBase {
    U16 ffcInstructionsVecOffset() const { return fieldStart( 1 ); }
 
    // [2, 1] or absent
-   void nofFfcInstructionInGroupIs( U8 value ) { fieldInIs( Impl::traced(), 2, rows[format_ * 10 + 2], value ); }
-   U8 nofFfcInstructionInGroup() const { return static_cast< U8 >( fieldIn( Impl::traced(), 2, rows[format_ * 10 + 2] ) ); }
+   void nofFfcInstructionInGroupIs( U8 value ) { fieldInIs( Impl::traced(), 2, value ); }
+   U8 nofFfcInstructionInGroup() const { return static_cast< U8 >( fieldIn( Impl::traced(), 2 ) ); }
    bool isNofFfcInstructionInGroupValid() const { return fieldValid( 2 ); }
    U16 nofFfcInstructionInGroupLen() const { return fieldLen( 2 ); }
    U16 nofFfcInstructionInGroupOffset() const { return fieldStart( 2 ); }
@@ -3708,43 +3684,43 @@ class FwdFfcTable : public DaceSal::AsicUtils::DaceSalAsicTableBase {
    U16 ffcInstruction1Offset() const { return fieldStart( 3 ); }
 
    // absent or [4, 1]
-   void nofFfcInstructionInGroup1QuadIs( U8 value ) { fieldInIs( Impl::traced(), 4, rows[format_ * 10 + 4], value ); }
-   U8 nofFfcInstructionInGroup1Quad() const { return static_cast< U8 >( fieldIn( Impl::traced(), 4, rows[format_ * 10 + 4] ) ); }
+   void nofFfcInstructionInGroup1QuadIs( U8 value ) { fieldInIs( Impl::traced(), 4, value ); }
+   U8 nofFfcInstructionInGroup1Quad() const { return static_cast< U8 >( fieldIn( Impl::traced(), 4 ) ); }
    bool isNofFfcInstructionInGroup1QuadValid() const { return fieldValid( 4 ); }
    U16 nofFfcInstructionInGroup1QuadLen() const { return fieldLen( 4 ); }
    U16 nofFfcInstructionInGroup1QuadOffset() const { return fieldStart( 4 ); }
 
    // absent or [58, 29]
-   void ffcInstruction2Is( U32 value ) { fieldInIs( Impl::traced(), 5, rows[format_ * 10 + 5], value ); }
-   U32 ffcInstruction2() const { return static_cast< U32 >( fieldIn( Impl::traced(), 5, rows[format_ * 10 + 5] ) ); }
+   void ffcInstruction2Is( U32 value ) { fieldAcrossIs( Impl::traced(), 5, value ); }
+   U32 ffcInstruction2() const { return static_cast< U32 >( fieldAcross( Impl::traced(), 5 ) ); }
    bool isFfcInstruction2Valid() const { return fieldValid( 5 ); }
    U16 ffcInstruction2Len() const { return fieldLen( 5 ); }
    U16 ffcInstruction2Offset() const { return fieldStart( 5 ); }
 
    // absent or [87, 29]
-   void ffcInstruction3Is( U32 value ) { fieldInIs( Impl::traced(), 6, rows[format_ * 10 + 6], value ); }
-   U32 ffcInstruction3() const { return static_cast< U32 >( fieldIn( Impl::traced(), 6, rows[format_ * 10 + 6] ) ); }
+   void ffcInstruction3Is( U32 value ) { fieldAcrossIs( Impl::traced(), 6, value ); }
+   U32 ffcInstruction3() const { return static_cast< U32 >( fieldAcross( Impl::traced(), 6 ) ); }
    bool isFfcInstruction3Valid() const { return fieldValid( 6 ); }
    U16 ffcInstruction3Len() const { return fieldLen( 6 ); }
    U16 ffcInstruction3Offset() const { return fieldStart( 6 ); }
 
    // absent or [8, 1]
-   void nofFfcInstructionInGroup2QuadIs( U8 value ) { fieldInIs( Impl::traced(), 7, rows[format_ * 10 + 7], value ); }
-   U8 nofFfcInstructionInGroup2Quad() const { return static_cast< U8 >( fieldIn( Impl::traced(), 7, rows[format_ * 10 + 7] ) ); }
+   void nofFfcInstructionInGroup2QuadIs( U8 value ) { fieldInIs( Impl::traced(), 7, value ); }
+   U8 nofFfcInstructionInGroup2Quad() const { return static_cast< U8 >( fieldIn( Impl::traced(), 7 ) ); }
    bool isNofFfcInstructionInGroup2QuadValid() const { return fieldValid( 7 ); }
    U16 nofFfcInstructionInGroup2QuadLen() const { return fieldLen( 7 ); }
    U16 nofFfcInstructionInGroup2QuadOffset() const { return fieldStart( 7 ); }
 
    // absent or [16, 1]
-   void nofFfcInstructionInGroup3QuadIs( U8 value ) { fieldInIs( Impl::traced(), 8, rows[format_ * 10 + 8], value ); }
-   U8 nofFfcInstructionInGroup3Quad() const { return static_cast< U8 >( fieldIn( Impl::traced(), 8, rows[format_ * 10 + 8] ) ); }
+   void nofFfcInstructionInGroup3QuadIs( U8 value ) { fieldInIs( Impl::traced(), 8, value ); }
+   U8 nofFfcInstructionInGroup3Quad() const { return static_cast< U8 >( fieldIn( Impl::traced(), 8 ) ); }
    bool isNofFfcInstructionInGroup3QuadValid() const { return fieldValid( 8 ); }
    U16 nofFfcInstructionInGroup3QuadLen() const { return fieldLen( 8 ); }
    U16 nofFfcInstructionInGroup3QuadOffset() const { return fieldStart( 8 ); }
 
    // absent or [8, 1]
-   void nofFfcInstructionInGroup4QuadIs( U8 value ) { fieldInIs( Impl::traced(), 9, rows[format_ * 10 + 9], value ); }
-   U8 nofFfcInstructionInGroup4Quad() const { return static_cast< U8 >( fieldIn( Impl::traced(), 9, rows[format_ * 10 + 9] ) ); }
+   void nofFfcInstructionInGroup4QuadIs( U8 value ) { fieldInIs( Impl::traced(), 9, value ); }
+   U8 nofFfcInstructionInGroup4Quad() const { return static_cast< U8 >( fieldIn( Impl::traced(), 9 ) ); }
    bool isNofFfcInstructionInGroup4QuadValid() const { return fieldValid( 9 ); }
    U16 nofFfcInstructionInGroup4QuadLen() const { return fieldLen( 9 ); }
    U16 nofFfcInstructionInGroup4QuadOffset() const { return fieldStart( 9 ); }
@@ -3752,9 +3728,6 @@ class FwdFfcTable : public DaceSal::AsicUtils::DaceSalAsicTableBase {
    // ffcInstruction0 to ffcInstruction3 by number
    void ffcInstructionIs( U32 index, U32 value ) { runFieldIs( 0, index, value ); }
    U32 ffcInstruction( U32 index ) const { return static_cast< U32 >( runField( 0, index ) ); }
-
- private:
-   static AsicUtils::FieldRow const rows[];
 };
 
 class FwdFfcTable::WithStorage : public FwdFfcTable {
@@ -5854,14 +5827,11 @@ class IppbFlpLePd0 : public DaceSal::AsicUtils::DaceSalAsicTableBase {
    U16 orderVecOffset() const { return fieldStart( 4 ); }
 
    // [176, 40] or absent
-   void reservedIs( U64 const & value ) { fieldInIs( Impl::traced(), 5, rows[format_ * 6 + 5], value ); }
-   U64 reserved() const { return fieldIn( Impl::traced(), 5, rows[format_ * 6 + 5] ); }
+   void reservedIs( U64 const & value ) { fieldIs( 5, value ); }
+   U64 reserved() const { return fieldValue( 5 ); }
    bool isReservedValid() const { return fieldValid( 5 ); }
    U16 reservedLen() const { return fieldLen( 5 ); }
    U16 reservedOffset() const { return fieldStart( 5 ); }
-
- private:
-   static AsicUtils::FieldRow const rows[];
 };
 
 class IppbFlpLePd0::WithStorage : public IppbFlpLePd0 {
@@ -5943,14 +5913,11 @@ class IppbFlpLePd1 : public DaceSal::AsicUtils::DaceSalAsicTableBase {
    U16 orderVecOffset() const { return fieldStart( 4 ); }
 
    // [176, 40] or absent
-   void reservedIs( U64 const & value ) { fieldInIs( Impl::traced(), 5, rows[format_ * 6 + 5], value ); }
-   U64 reserved() const { return fieldIn( Impl::traced(), 5, rows[format_ * 6 + 5] ); }
+   void reservedIs( U64 const & value ) { fieldIs( 5, value ); }
+   U64 reserved() const { return fieldValue( 5 ); }
    bool isReservedValid() const { return fieldValid( 5 ); }
    U16 reservedLen() const { return fieldLen( 5 ); }
    U16 reservedOffset() const { return fieldStart( 5 ); }
-
- private:
-   static AsicUtils::FieldRow const rows[];
 };
 
 class IppbFlpLePd1::WithStorage : public IppbFlpLePd1 {
@@ -6032,14 +5999,11 @@ class IppbFlpLePd2 : public DaceSal::AsicUtils::DaceSalAsicTableBase {
    U16 orderVecOffset() const { return fieldStart( 4 ); }
 
    // [176, 40] or absent
-   void reservedIs( U64 const & value ) { fieldInIs( Impl::traced(), 5, rows[format_ * 6 + 5], value ); }
-   U64 reserved() const { return fieldIn( Impl::traced(), 5, rows[format_ * 6 + 5] ); }
+   void reservedIs( U64 const & value ) { fieldIs( 5, value ); }
+   U64 reserved() const { return fieldValue( 5 ); }
    bool isReservedValid() const { return fieldValid( 5 ); }
    U16 reservedLen() const { return fieldLen( 5 ); }
    U16 reservedOffset() const { return fieldStart( 5 ); }
-
- private:
-   static AsicUtils::FieldRow const rows[];
 };
 
 class IppbFlpLePd2::WithStorage : public IppbFlpLePd2 {
@@ -6398,42 +6362,39 @@ class IppbFlpbResContextEnablers : public DaceSal::AsicUtils::DaceSalAsicTableBa
    U16 rpfCascadedPriorityDecoderEnableOffset() const { return fieldStart( 29 ); }
 
    // [34, 1] or absent
-   void reservedIs( U8 value ) { fieldInIs( Impl::traced(), 30, rows[format_ * 35 + 30], value ); }
-   U8 reserved() const { return static_cast< U8 >( fieldIn( Impl::traced(), 30, rows[format_ * 35 + 30] ) ); }
+   void reservedIs( U8 value ) { fieldInIs( Impl::traced(), 30, value ); }
+   U8 reserved() const { return static_cast< U8 >( fieldIn( Impl::traced(), 30 ) ); }
    bool isReservedValid() const { return fieldValid( 30 ); }
    U16 reservedLen() const { return fieldLen( 30 ); }
    U16 reservedOffset() const { return fieldStart( 30 ); }
 
    // absent or [34, 1]
-   void faiUnknownAddressEnableIs( U8 value ) { fieldInIs( Impl::traced(), 31, rows[format_ * 35 + 31], value ); }
-   U8 faiUnknownAddressEnable() const { return static_cast< U8 >( fieldIn( Impl::traced(), 31, rows[format_ * 35 + 31] ) ); }
+   void faiUnknownAddressEnableIs( U8 value ) { fieldInIs( Impl::traced(), 31, value ); }
+   U8 faiUnknownAddressEnable() const { return static_cast< U8 >( fieldIn( Impl::traced(), 31 ) ); }
    bool isFaiUnknownAddressEnableValid() const { return fieldValid( 31 ); }
    U16 faiUnknownAddressEnableLen() const { return fieldLen( 31 ); }
    U16 faiUnknownAddressEnableOffset() const { return fieldStart( 31 ); }
 
    // absent or [35, 2]
-   void faiOffsetIs( U8 value ) { fieldInIs( Impl::traced(), 32, rows[format_ * 35 + 32], value ); }
-   U8 faiOffset() const { return static_cast< U8 >( fieldIn( Impl::traced(), 32, rows[format_ * 35 + 32] ) ); }
+   void faiOffsetIs( U8 value ) { fieldInIs( Impl::traced(), 32, value ); }
+   U8 faiOffset() const { return static_cast< U8 >( fieldIn( Impl::traced(), 32 ) ); }
    bool isFaiOffsetValid() const { return fieldValid( 32 ); }
    U16 faiOffsetLen() const { return fieldLen( 32 ); }
    U16 faiOffsetOffset() const { return fieldStart( 32 ); }
 
    // absent or [37, 1]
-   void faiCompatibleMcEnableIs( U8 value ) { fieldInIs( Impl::traced(), 33, rows[format_ * 35 + 33], value ); }
-   U8 faiCompatibleMcEnable() const { return static_cast< U8 >( fieldIn( Impl::traced(), 33, rows[format_ * 35 + 33] ) ); }
+   void faiCompatibleMcEnableIs( U8 value ) { fieldInIs( Impl::traced(), 33, value ); }
+   U8 faiCompatibleMcEnable() const { return static_cast< U8 >( fieldIn( Impl::traced(), 33 ) ); }
    bool isFaiCompatibleMcEnableValid() const { return fieldValid( 33 ); }
    U16 faiCompatibleMcEnableLen() const { return fieldLen( 33 ); }
    U16 faiCompatibleMcEnableOffset() const { return fieldStart( 33 ); }
 
    // absent or [38, 2]
-   void faiCompatibleMcOffsetIs( U8 value ) { fieldInIs( Impl::traced(), 34, rows[format_ * 35 + 34], value ); }
-   U8 faiCompatibleMcOffset() const { return static_cast< U8 >( fieldIn( Impl::traced(), 34, rows[format_ * 35 + 34] ) ); }
+   void faiCompatibleMcOffsetIs( U8 value ) { fieldInIs( Impl::traced(), 34, value ); }
+   U8 faiCompatibleMcOffset() const { return static_cast< U8 >( fieldIn( Impl::traced(), 34 ) ); }
    bool isFaiCompatibleMcOffsetValid() const { return fieldValid( 34 ); }
    U16 faiCompatibleMcOffsetLen() const { return fieldLen( 34 ); }
    U16 faiCompatibleMcOffsetOffset() const { return fieldStart( 34 ); }
-
- private:
-   static AsicUtils::FieldRow const rows[];
 };
 
 class IppbFlpbResContextEnablers::WithStorage : public IppbFlpbResContextEnablers {
@@ -6501,8 +6462,8 @@ class IppbIpv4ActionProfilesCfg : public DaceSal::AsicUtils::DaceSalAsicRegBase 
    U16 actionProfileIpv4ChecksumErrorFwdOffset() const { return fieldStart( 2 ); }
 
    // [11, 3] or absent
-   void actionProfileIpv4ChecksumVersionErrorSnpIs( U8 value ) { fieldInIs( Impl::traced(), 3, rows[format_ * 17 + 3], value ); }
-   U8 actionProfileIpv4ChecksumVersionErrorSnp() const { return static_cast< U8 >( fieldIn( Impl::traced(), 3, rows[format_ * 17 + 3] ) ); }
+   void actionProfileIpv4ChecksumVersionErrorSnpIs( U8 value ) { fieldInIs( Impl::traced(), 3, value ); }
+   U8 actionProfileIpv4ChecksumVersionErrorSnp() const { return static_cast< U8 >( fieldIn( Impl::traced(), 3 ) ); }
    bool isActionProfileIpv4ChecksumVersionErrorSnpValid() const { return fieldValid( 3 ); }
    U16 actionProfileIpv4ChecksumVersionErrorSnpLen() const { return fieldLen( 3 ); }
    U16 actionProfileIpv4ChecksumVersionErrorSnpOffset() const { return fieldStart( 3 ); }
@@ -6592,14 +6553,11 @@ class IppbIpv4ActionProfilesCfg : public DaceSal::AsicUtils::DaceSalAsicRegBase 
    U16 actionProfileIpv4SipIsMcSnpOffset() const { return fieldStart( 15 ); }
 
    // absent or [11, 3]
-   void actionProfileIpv4ChecksumErrorSnpIs( U8 value ) { fieldInIs( Impl::traced(), 16, rows[format_ * 17 + 16], value ); }
-   U8 actionProfileIpv4ChecksumErrorSnp() const { return static_cast< U8 >( fieldIn( Impl::traced(), 16, rows[format_ * 17 + 16] ) ); }
+   void actionProfileIpv4ChecksumErrorSnpIs( U8 value ) { fieldInIs( Impl::traced(), 16, value ); }
+   U8 actionProfileIpv4ChecksumErrorSnp() const { return static_cast< U8 >( fieldIn( Impl::traced(), 16 ) ); }
    bool isActionProfileIpv4ChecksumErrorSnpValid() const { return fieldValid( 16 ); }
    U16 actionProfileIpv4ChecksumErrorSnpLen() const { return fieldLen( 16 ); }
    U16 actionProfileIpv4ChecksumErrorSnpOffset() const { return fieldStart( 16 ); }
-
- private:
-   static AsicUtils::FieldRow const rows[];
 };
 
 class IppbIpv4ActionProfilesCfg::WithStorage : public IppbIpv4ActionProfilesCfg {
@@ -7304,35 +7262,32 @@ class IppdInLifProfileTable : public DaceSal::AsicUtils::DaceSalAsicTableBase {
    U32 getAllFields() const { return allFields< U32 >(); }
 
    // [0, 2] or absent
-   void inLifRpfModeIs( U8 value ) { fieldInIs( Impl::traced(), 0, rows[format_ * 4 + 0], value ); }
-   U8 inLifRpfMode() const { return static_cast< U8 >( fieldIn( Impl::traced(), 0, rows[format_ * 4 + 0] ) ); }
+   void inLifRpfModeIs( U8 value ) { fieldInIs( Impl::traced(), 0, value ); }
+   U8 inLifRpfMode() const { return static_cast< U8 >( fieldIn( Impl::traced(), 0 ) ); }
    bool isInLifRpfModeValid() const { return fieldValid( 0 ); }
    U16 inLifRpfModeLen() const { return fieldLen( 0 ); }
    U16 inLifRpfModeOffset() const { return fieldStart( 0 ); }
 
    // [2, 2] or [4, 2]
-   void inLifSameInterfaceProfileIs( U8 value ) { fieldInIs( Impl::traced(), 1, rows[format_ * 4 + 1], value ); }
-   U8 inLifSameInterfaceProfile() const { return static_cast< U8 >( fieldIn( Impl::traced(), 1, rows[format_ * 4 + 1] ) ); }
+   void inLifSameInterfaceProfileIs( U8 value ) { fieldInIs( Impl::traced(), 1, value ); }
+   U8 inLifSameInterfaceProfile() const { return static_cast< U8 >( fieldIn( Impl::traced(), 1 ) ); }
    bool isInLifSameInterfaceProfileValid() const { return fieldValid( 1 ); }
    U16 inLifSameInterfaceProfileLen() const { return fieldLen( 1 ); }
    U16 inLifSameInterfaceProfileOffset() const { return fieldStart( 1 ); }
 
    // absent or [0, 2]
-   void inLifRpfModeIpv4Is( U8 value ) { fieldInIs( Impl::traced(), 2, rows[format_ * 4 + 2], value ); }
-   U8 inLifRpfModeIpv4() const { return static_cast< U8 >( fieldIn( Impl::traced(), 2, rows[format_ * 4 + 2] ) ); }
+   void inLifRpfModeIpv4Is( U8 value ) { fieldInIs( Impl::traced(), 2, value ); }
+   U8 inLifRpfModeIpv4() const { return static_cast< U8 >( fieldIn( Impl::traced(), 2 ) ); }
    bool isInLifRpfModeIpv4Valid() const { return fieldValid( 2 ); }
    U16 inLifRpfModeIpv4Len() const { return fieldLen( 2 ); }
    U16 inLifRpfModeIpv4Offset() const { return fieldStart( 2 ); }
 
    // absent or [2, 2]
-   void inLifRpfModeIpv6Is( U8 value ) { fieldInIs( Impl::traced(), 3, rows[format_ * 4 + 3], value ); }
-   U8 inLifRpfModeIpv6() const { return static_cast< U8 >( fieldIn( Impl::traced(), 3, rows[format_ * 4 + 3] ) ); }
+   void inLifRpfModeIpv6Is( U8 value ) { fieldInIs( Impl::traced(), 3, value ); }
+   U8 inLifRpfModeIpv6() const { return static_cast< U8 >( fieldIn( Impl::traced(), 3 ) ); }
    bool isInLifRpfModeIpv6Valid() const { return fieldValid( 3 ); }
    U16 inLifRpfModeIpv6Len() const { return fieldLen( 3 ); }
    U16 inLifRpfModeIpv6Offset() const { return fieldStart( 3 ); }
-
- private:
-   static AsicUtils::FieldRow const rows[];
 };
 
 class IppdInLifProfileTable::WithStorage : public IppdInLifProfileTable {
@@ -7766,8 +7721,8 @@ class Ipv4PcremFwdDestPcrem : public DaceSal::AsicUtils::DaceSalAsicTableBase {
    U16 ipv4Offset() const { return fieldStart( 1 ); }
 
    // [9, 26] or [9, 25]
-   void keyIs( U32 value ) { fieldInIs( Impl::traced(), 2, rows[format_ * 17 + 2], value ); }
-   U32 key() const { return static_cast< U32 >( fieldIn( Impl::traced(), 2, rows[format_ * 17 + 2] ) ); }
+   void keyIs( U32 value ) { fieldAcrossIs( Impl::traced(), 2, value ); }
+   U32 key() const { return static_cast< U32 >( fieldAcross( Impl::traced(), 2 ) ); }
    bool isKeyValid() const { return fieldValid( 2 ); }
    U16 keyLen() const { return fieldLen( 2 ); }
    U16 keyOffset() const { return fieldStart( 2 ); }
@@ -7780,8 +7735,8 @@ class Ipv4PcremFwdDestPcrem : public DaceSal::AsicUtils::DaceSalAsicTableBase {
    U16 entryOffset() const { return fieldStart( 3 ); }
 
    // [30, 5] or [30, 4]
-   void vrfIs( U8 value ) { fieldInIs( Impl::traced(), 4, rows[format_ * 17 + 4], value ); }
-   U8 vrf() const { return static_cast< U8 >( fieldIn( Impl::traced(), 4, rows[format_ * 17 + 4] ) ); }
+   void vrfIs( U8 value ) { fieldAcrossIs( Impl::traced(), 4, value ); }
+   U8 vrf() const { return static_cast< U8 >( fieldAcross( Impl::traced(), 4 ) ); }
    bool isVrfValid() const { return fieldValid( 4 ); }
    U16 vrfLen() const { return fieldLen( 4 ); }
    U16 vrfOffset() const { return fieldStart( 4 ); }
@@ -7801,66 +7756,66 @@ class Ipv4PcremFwdDestPcrem : public DaceSal::AsicUtils::DaceSalAsicTableBase {
    U16 payloadOffset() const { return fieldStart( 6 ); }
 
    // Fixed by the format: [137, 6] or [136, 6]
-   U8 resultType() const { return static_cast< U8 >( fieldIn( Impl::traced(), 7, rows[format_ * 17 + 7] ) ); }
+   U8 resultType() const { return static_cast< U8 >( fieldIn( Impl::traced(), 7 ) ); }
    bool isResultTypeValid() const { return fieldValid( 7 ); }
    U16 resultTypeLen() const { return fieldLen( 7 ); }
    U16 resultTypeOffset() const { return fieldStart( 7 ); }
 
    // Fixed by the format: [143, 3] or [142, 3]
-   U8 vmv() const { return static_cast< U8 >( fieldIn( Impl::traced(), 8, rows[format_ * 17 + 8] ) ); }
+   U8 vmv() const { return static_cast< U8 >( fieldIn( Impl::traced(), 8 ) ); }
    bool isVmvValid() const { return fieldValid( 8 ); }
    U16 vmvLen() const { return fieldLen( 8 ); }
    U16 vmvOffset() const { return fieldStart( 8 ); }
 
    // [266, 4] or [265, 4]
-   void wayIndexIs( U8 value ) { fieldInIs( Impl::traced(), 9, rows[format_ * 17 + 9], value ); }
-   U8 wayIndex() const { return static_cast< U8 >( fieldIn( Impl::traced(), 9, rows[format_ * 17 + 9] ) ); }
+   void wayIndexIs( U8 value ) { fieldInIs( Impl::traced(), 9, value ); }
+   U8 wayIndex() const { return static_cast< U8 >( fieldIn( Impl::traced(), 9 ) ); }
    bool isWayIndexValid() const { return fieldValid( 9 ); }
    U16 wayIndexLen() const { return fieldLen( 9 ); }
    U16 wayIndexOffset() const { return fieldStart( 9 ); }
 
    // [270, 3] or [269, 3]
-   void prefixNumIs( U8 value ) { fieldInIs( Impl::traced(), 10, rows[format_ * 17 + 10], value ); }
-   U8 prefixNum() const { return static_cast< U8 >( fieldIn( Impl::traced(), 10, rows[format_ * 17 + 10] ) ); }
+   void prefixNumIs( U8 value ) { fieldInIs( Impl::traced(), 10, value ); }
+   U8 prefixNum() const { return static_cast< U8 >( fieldIn( Impl::traced(), 10 ) ); }
    bool isPrefixNumValid() const { return fieldValid( 10 ); }
    U16 prefixNumLen() const { return fieldLen( 10 ); }
    U16 prefixNumOffset() const { return fieldStart( 10 ); }
 
    // [273, 17] or [272, 16]
-   void addressIs( U32 value ) { fieldInIs( Impl::traced(), 11, rows[format_ * 17 + 11], value ); }
-   U32 address() const { return static_cast< U32 >( fieldIn( Impl::traced(), 11, rows[format_ * 17 + 11] ) ); }
+   void addressIs( U32 value ) { fieldAcrossIs( Impl::traced(), 11, value ); }
+   U32 address() const { return static_cast< U32 >( fieldAcross( Impl::traced(), 11 ) ); }
    bool isAddressValid() const { return fieldValid( 11 ); }
    U16 addressLen() const { return fieldLen( 11 ); }
    U16 addressOffset() const { return fieldStart( 11 ); }
 
    // Fixed by the format: [290, 3] or [288, 3]
-   U8 entryType() const { return static_cast< U8 >( fieldIn( Impl::traced(), 12, rows[format_ * 17 + 12] ) ); }
+   U8 entryType() const { return static_cast< U8 >( fieldIn( Impl::traced(), 12 ) ); }
    bool isEntryTypeValid() const { return fieldValid( 12 ); }
    U16 entryTypeLen() const { return fieldLen( 12 ); }
    U16 entryTypeOffset() const { return fieldStart( 12 ); }
 
    // Fixed by the format: [293, 6] or [291, 6]
-   U8 appId() const { return static_cast< U8 >( fieldIn( Impl::traced(), 13, rows[format_ * 17 + 13] ) ); }
+   U8 appId() const { return static_cast< U8 >( fieldIn( Impl::traced(), 13 ) ); }
    bool isAppIdValid() const { return fieldValid( 13 ); }
    U16 appIdLen() const { return fieldLen( 13 ); }
    U16 appIdOffset() const { return fieldStart( 13 ); }
 
    // Fixed by the format: [293, 6] or [291, 6]
-   U8 tid() const { return static_cast< U8 >( fieldIn( Impl::traced(), 14, rows[format_ * 17 + 14] ) ); }
+   U8 tid() const { return static_cast< U8 >( fieldIn( Impl::traced(), 14 ) ); }
    bool isTidValid() const { return fieldValid( 14 ); }
    U16 tidLen() const { return fieldLen( 14 ); }
    U16 tidOffset() const { return fieldStart( 14 ); }
 
    // [299, 8] or [297, 8]
-   void hitsIs( U8 value ) { fieldInIs( Impl::traced(), 15, rows[format_ * 17 + 15], value ); }
-   U8 hits() const { return static_cast< U8 >( fieldIn( Impl::traced(), 15, rows[format_ * 17 + 15] ) ); }
+   void hitsIs( U8 value ) { fieldInIs( Impl::traced(), 15, value ); }
+   U8 hits() const { return static_cast< U8 >( fieldIn( Impl::traced(), 15 ) ); }
    bool isHitsValid() const { return fieldValid( 15 ); }
    U16 hitsLen() const { return fieldLen( 15 ); }
    U16 hitsOffset() const { return fieldStart( 15 ); }
 
    // [307, 1] or [305, 1]
-   void foundIs( U8 value ) { fieldInIs( Impl::traced(), 16, rows[format_ * 17 + 16], value ); }
-   U8 found() const { return static_cast< U8 >( fieldIn( Impl::traced(), 16, rows[format_ * 17 + 16] ) ); }
+   void foundIs( U8 value ) { fieldInIs( Impl::traced(), 16, value ); }
+   U8 found() const { return static_cast< U8 >( fieldIn( Impl::traced(), 16 ) ); }
    bool isFoundValid() const { return fieldValid( 16 ); }
    U16 foundLen() const { return fieldLen( 16 ); }
    U16 foundOffset() const { return fieldStart( 16 ); }
@@ -7869,9 +7824,6 @@ class Ipv4PcremFwdDestPcrem : public DaceSal::AsicUtils::DaceSalAsicTableBase {
    // Without the tag: the buffer does not exist yet.
    Ipv4PcremFwdDestPcrem( ChipType chip, U8 * buf, U16 len, U8 variant )
       : DaceSalAsicTableBase( metaInfo, static_cast< U8 >( chip ), buf, len, false, variant, 0 ) {}
-
- private:
-   static AsicUtils::FieldRow const rows[];
 };
 
 class Ipv4PcremFwdDestPcrem::WithStorage : public Ipv4PcremFwdDestPcrem {
@@ -7977,7 +7929,7 @@ class PpmcDoubleOutLifSwap : public DaceSal::AsicUtils::DaceSalAsicTableBase {
    Raw256 getAllFields() const { return allFields< Raw256 >(); }
 
    // Fixed by the format: [80, 6] or [79, 6]
-   U8 resultType() const { return static_cast< U8 >( fieldIn( Impl::traced(), 0, rows[format_ * 1 + 0] ) ); }
+   U8 resultType() const { return static_cast< U8 >( fieldIn( Impl::traced(), 0 ) ); }
    bool isResultTypeValid() const { return fieldValid( 0 ); }
    U16 resultTypeLen() const { return fieldLen( 0 ); }
    U16 resultTypeOffset() const { return fieldStart( 0 ); }
@@ -7986,9 +7938,6 @@ class PpmcDoubleOutLifSwap : public DaceSal::AsicUtils::DaceSalAsicTableBase {
    // Without the tag: the buffer does not exist yet.
    PpmcDoubleOutLifSwap( ChipType chip, U8 * buf, U16 len, U8 variant )
       : DaceSalAsicTableBase( metaInfo, static_cast< U8 >( chip ), buf, len, false, variant, 0 ) {}
-
- private:
-   static AsicUtils::FieldRow const rows[];
 };
 
 class PpmcDoubleOutLifSwap::WithStorage : public PpmcDoubleOutLifSwap {
@@ -8057,8 +8006,8 @@ class PrivateHostReducedVrf : public DaceSal::AsicUtils::DaceSalAsicTableBase {
    U16 ipv4Offset() const { return fieldStart( 1 ); }
 
    // [9, 37] or [9, 36]
-   void keyIs( U64 const & value ) { fieldInIs( Impl::traced(), 2, rows[format_ * 17 + 2], value ); }
-   U64 key() const { return fieldIn( Impl::traced(), 2, rows[format_ * 17 + 2] ); }
+   void keyIs( U64 const & value ) { fieldIs( 2, value ); }
+   U64 key() const { return fieldValue( 2 ); }
    bool isKeyValid() const { return fieldValid( 2 ); }
    U16 keyLen() const { return fieldLen( 2 ); }
    U16 keyOffset() const { return fieldStart( 2 ); }
@@ -8071,87 +8020,87 @@ class PrivateHostReducedVrf : public DaceSal::AsicUtils::DaceSalAsicTableBase {
    U16 entryOffset() const { return fieldStart( 3 ); }
 
    // [41, 5] or [41, 4]
-   void vrfIs( U8 value ) { fieldInIs( Impl::traced(), 4, rows[format_ * 17 + 4], value ); }
-   U8 vrf() const { return static_cast< U8 >( fieldIn( Impl::traced(), 4, rows[format_ * 17 + 4] ) ); }
+   void vrfIs( U8 value ) { fieldInIs( Impl::traced(), 4, value ); }
+   U8 vrf() const { return static_cast< U8 >( fieldIn( Impl::traced(), 4 ) ); }
    bool isVrfValid() const { return fieldValid( 4 ); }
    U16 vrfLen() const { return fieldLen( 4 ); }
    U16 vrfOffset() const { return fieldStart( 4 ); }
 
    // [56, 21] or [55, 21]
-   void destinationIs( U32 value ) { fieldInIs( Impl::traced(), 5, rows[format_ * 17 + 5], value ); }
-   U32 destination() const { return static_cast< U32 >( fieldIn( Impl::traced(), 5, rows[format_ * 17 + 5] ) ); }
+   void destinationIs( U32 value ) { fieldAcrossIs( Impl::traced(), 5, value ); }
+   U32 destination() const { return static_cast< U32 >( fieldAcross( Impl::traced(), 5 ) ); }
    bool isDestinationValid() const { return fieldValid( 5 ); }
    U16 destinationLen() const { return fieldLen( 5 ); }
    U16 destinationOffset() const { return fieldStart( 5 ); }
 
    // [56, 27] or [55, 27]
-   void payloadIs( U32 value ) { fieldInIs( Impl::traced(), 6, rows[format_ * 17 + 6], value ); }
-   U32 payload() const { return static_cast< U32 >( fieldIn( Impl::traced(), 6, rows[format_ * 17 + 6] ) ); }
+   void payloadIs( U32 value ) { fieldAcrossIs( Impl::traced(), 6, value ); }
+   U32 payload() const { return static_cast< U32 >( fieldAcross( Impl::traced(), 6 ) ); }
    bool isPayloadValid() const { return fieldValid( 6 ); }
    U16 payloadLen() const { return fieldLen( 6 ); }
    U16 payloadOffset() const { return fieldStart( 6 ); }
 
    // Fixed by the format: [77, 6] or [76, 6]
-   U8 resultType() const { return static_cast< U8 >( fieldIn( Impl::traced(), 7, rows[format_ * 17 + 7] ) ); }
+   U8 resultType() const { return static_cast< U8 >( fieldIn( Impl::traced(), 7 ) ); }
    bool isResultTypeValid() const { return fieldValid( 7 ); }
    U16 resultTypeLen() const { return fieldLen( 7 ); }
    U16 resultTypeOffset() const { return fieldStart( 7 ); }
 
    // Fixed by the format: [83, 3] or [82, 3]
-   U8 vmv() const { return static_cast< U8 >( fieldIn( Impl::traced(), 8, rows[format_ * 17 + 8] ) ); }
+   U8 vmv() const { return static_cast< U8 >( fieldIn( Impl::traced(), 8 ) ); }
    bool isVmvValid() const { return fieldValid( 8 ); }
    U16 vmvLen() const { return fieldLen( 8 ); }
    U16 vmvOffset() const { return fieldStart( 8 ); }
 
    // [266, 4] or [265, 4]
-   void wayIndexIs( U8 value ) { fieldInIs( Impl::traced(), 9, rows[format_ * 17 + 9], value ); }
-   U8 wayIndex() const { return static_cast< U8 >( fieldIn( Impl::traced(), 9, rows[format_ * 17 + 9] ) ); }
+   void wayIndexIs( U8 value ) { fieldInIs( Impl::traced(), 9, value ); }
+   U8 wayIndex() const { return static_cast< U8 >( fieldIn( Impl::traced(), 9 ) ); }
    bool isWayIndexValid() const { return fieldValid( 9 ); }
    U16 wayIndexLen() const { return fieldLen( 9 ); }
    U16 wayIndexOffset() const { return fieldStart( 9 ); }
 
    // [270, 3] or [269, 3]
-   void prefixNumIs( U8 value ) { fieldInIs( Impl::traced(), 10, rows[format_ * 17 + 10], value ); }
-   U8 prefixNum() const { return static_cast< U8 >( fieldIn( Impl::traced(), 10, rows[format_ * 17 + 10] ) ); }
+   void prefixNumIs( U8 value ) { fieldInIs( Impl::traced(), 10, value ); }
+   U8 prefixNum() const { return static_cast< U8 >( fieldIn( Impl::traced(), 10 ) ); }
    bool isPrefixNumValid() const { return fieldValid( 10 ); }
    U16 prefixNumLen() const { return fieldLen( 10 ); }
    U16 prefixNumOffset() const { return fieldStart( 10 ); }
 
    // [273, 17] or [272, 16]
-   void addressIs( U32 value ) { fieldInIs( Impl::traced(), 11, rows[format_ * 17 + 11], value ); }
-   U32 address() const { return static_cast< U32 >( fieldIn( Impl::traced(), 11, rows[format_ * 17 + 11] ) ); }
+   void addressIs( U32 value ) { fieldAcrossIs( Impl::traced(), 11, value ); }
+   U32 address() const { return static_cast< U32 >( fieldAcross( Impl::traced(), 11 ) ); }
    bool isAddressValid() const { return fieldValid( 11 ); }
    U16 addressLen() const { return fieldLen( 11 ); }
    U16 addressOffset() const { return fieldStart( 11 ); }
 
    // Fixed by the format: [290, 3] or [288, 3]
-   U8 entryType() const { return static_cast< U8 >( fieldIn( Impl::traced(), 12, rows[format_ * 17 + 12] ) ); }
+   U8 entryType() const { return static_cast< U8 >( fieldIn( Impl::traced(), 12 ) ); }
    bool isEntryTypeValid() const { return fieldValid( 12 ); }
    U16 entryTypeLen() const { return fieldLen( 12 ); }
    U16 entryTypeOffset() const { return fieldStart( 12 ); }
 
    // Fixed by the format: [293, 6] or [291, 6]
-   U8 appId() const { return static_cast< U8 >( fieldIn( Impl::traced(), 13, rows[format_ * 17 + 13] ) ); }
+   U8 appId() const { return static_cast< U8 >( fieldIn( Impl::traced(), 13 ) ); }
    bool isAppIdValid() const { return fieldValid( 13 ); }
    U16 appIdLen() const { return fieldLen( 13 ); }
    U16 appIdOffset() const { return fieldStart( 13 ); }
 
    // Fixed by the format: [293, 6] or [291, 6]
-   U8 tid() const { return static_cast< U8 >( fieldIn( Impl::traced(), 14, rows[format_ * 17 + 14] ) ); }
+   U8 tid() const { return static_cast< U8 >( fieldIn( Impl::traced(), 14 ) ); }
    bool isTidValid() const { return fieldValid( 14 ); }
    U16 tidLen() const { return fieldLen( 14 ); }
    U16 tidOffset() const { return fieldStart( 14 ); }
 
    // [299, 8] or [297, 8]
-   void hitsIs( U8 value ) { fieldInIs( Impl::traced(), 15, rows[format_ * 17 + 15], value ); }
-   U8 hits() const { return static_cast< U8 >( fieldIn( Impl::traced(), 15, rows[format_ * 17 + 15] ) ); }
+   void hitsIs( U8 value ) { fieldInIs( Impl::traced(), 15, value ); }
+   U8 hits() const { return static_cast< U8 >( fieldIn( Impl::traced(), 15 ) ); }
    bool isHitsValid() const { return fieldValid( 15 ); }
    U16 hitsLen() const { return fieldLen( 15 ); }
    U16 hitsOffset() const { return fieldStart( 15 ); }
 
    // [307, 1] or [305, 1]
-   void foundIs( U8 value ) { fieldInIs( Impl::traced(), 16, rows[format_ * 17 + 16], value ); }
-   U8 found() const { return static_cast< U8 >( fieldIn( Impl::traced(), 16, rows[format_ * 17 + 16] ) ); }
+   void foundIs( U8 value ) { fieldInIs( Impl::traced(), 16, value ); }
+   U8 found() const { return static_cast< U8 >( fieldIn( Impl::traced(), 16 ) ); }
    bool isFoundValid() const { return fieldValid( 16 ); }
    U16 foundLen() const { return fieldLen( 16 ); }
    U16 foundOffset() const { return fieldStart( 16 ); }
@@ -8160,9 +8109,6 @@ class PrivateHostReducedVrf : public DaceSal::AsicUtils::DaceSalAsicTableBase {
    // Without the tag: the buffer does not exist yet.
    PrivateHostReducedVrf( ChipType chip, U8 * buf, U16 len, U8 variant )
       : DaceSalAsicTableBase( metaInfo, static_cast< U8 >( chip ), buf, len, false, variant, 0 ) {}
-
- private:
-   static AsicUtils::FieldRow const rows[];
 };
 
 class PrivateHostReducedVrf::WithStorage : public PrivateHostReducedVrf {
@@ -8436,28 +8382,25 @@ class SystemHeaderPph : public DaceSal::AsicUtils::DaceSalAsicRegBase {
    U16 pphFwdLayerAdditionalInfoWidthOffset() const { return fieldStart( 1 ); }
 
    // absent or [16, 1]
-   void pphReservedMsbBitSizeIs( U8 value ) { fieldInIs( Impl::traced(), 2, rows[format_ * 5 + 2], value ); }
-   U8 pphReservedMsbBitSize() const { return static_cast< U8 >( fieldIn( Impl::traced(), 2, rows[format_ * 5 + 2] ) ); }
+   void pphReservedMsbBitSizeIs( U8 value ) { fieldInIs( Impl::traced(), 2, value ); }
+   U8 pphReservedMsbBitSize() const { return static_cast< U8 >( fieldIn( Impl::traced(), 2 ) ); }
    bool isPphReservedMsbBitSizeValid() const { return fieldValid( 2 ); }
    U16 pphReservedMsbBitSizeLen() const { return fieldLen( 2 ); }
    U16 pphReservedMsbBitSizeOffset() const { return fieldStart( 2 ); }
 
    // absent or [17, 1]
-   void pphParsingStartOffsetB8SizeIs( U8 value ) { fieldInIs( Impl::traced(), 3, rows[format_ * 5 + 3], value ); }
-   U8 pphParsingStartOffsetB8Size() const { return static_cast< U8 >( fieldIn( Impl::traced(), 3, rows[format_ * 5 + 3] ) ); }
+   void pphParsingStartOffsetB8SizeIs( U8 value ) { fieldInIs( Impl::traced(), 3, value ); }
+   U8 pphParsingStartOffsetB8Size() const { return static_cast< U8 >( fieldIn( Impl::traced(), 3 ) ); }
    bool isPphParsingStartOffsetB8SizeValid() const { return fieldValid( 3 ); }
    U16 pphParsingStartOffsetB8SizeLen() const { return fieldLen( 3 ); }
    U16 pphParsingStartOffsetB8SizeOffset() const { return fieldStart( 3 ); }
 
    // absent or [18, 1]
-   void pphParsingStartOffsetB7SizeIs( U8 value ) { fieldInIs( Impl::traced(), 4, rows[format_ * 5 + 4], value ); }
-   U8 pphParsingStartOffsetB7Size() const { return static_cast< U8 >( fieldIn( Impl::traced(), 4, rows[format_ * 5 + 4] ) ); }
+   void pphParsingStartOffsetB7SizeIs( U8 value ) { fieldInIs( Impl::traced(), 4, value ); }
+   U8 pphParsingStartOffsetB7Size() const { return static_cast< U8 >( fieldIn( Impl::traced(), 4 ) ); }
    bool isPphParsingStartOffsetB7SizeValid() const { return fieldValid( 4 ); }
    U16 pphParsingStartOffsetB7SizeLen() const { return fieldLen( 4 ); }
    U16 pphParsingStartOffsetB7SizeOffset() const { return fieldStart( 4 ); }
-
- private:
-   static AsicUtils::FieldRow const rows[];
 };
 
 class SystemHeaderPph::WithStorage : public SystemHeaderPph {

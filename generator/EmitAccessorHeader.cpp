@@ -165,10 +165,13 @@ class ClassWriter {
          std::string const where = std::to_string( place->offset ) + ", " + std::to_string( place->width );
          set = "fieldAtIs( Impl::traced(), " + number + ", " + where + ", " + std::to_string( bits ) + ", value )";
          get = "fieldAt( Impl::traced(), " + number + ", " + where + " )";
-      } else if ( bits <= 64 ) {
-         std::string const row = "rows[format_ * " + std::to_string( table_.fieldNames.size() ) + " + " + number + "]";
-         set = "fieldInIs( Impl::traced(), " + number + ", " + row + ", value )";
-         get = "fieldIn( Impl::traced(), " + number + ", " + row + " )";
+      } else if ( bits <= 32 ) {
+         std::string const how = formats_.acrossWords( index ) ? "fieldAcross" : "fieldIn";
+         set = how + "Is( Impl::traced(), " + number + ", value )";
+         get = how + "( Impl::traced(), " + number + " )";
+      } else if ( bits == 64 ) {
+         set = "fieldIs( " + number + ", value )";
+         get = "fieldValue( " + number + " )";
       } else if ( place && place->width == bits && place->offset % 8 == 0 ) {
          std::string const where = number + ", " + std::to_string( place->offset );
          set = "wideAtIs( Impl::traced(), " + where + ", value )";
@@ -225,9 +228,6 @@ class ClassWriter {
               << "   // Without the tag: the buffer does not exist yet.\n"
               << "   " << table_.name << "( ChipType chip, U8 * buf, U16 len, U8 variant )\n"
               << "      : " << base_ << "( metaInfo, static_cast< U8 >( chip ), buf, len, false, variant, 0 ) {}\n";
-      }
-      if ( !formats_.allAtOnePlace() ) {
-         out_ << "\n private:\n   static AsicUtils::FieldRow const rows[];\n";
       }
       out_ << "};\n";
    }

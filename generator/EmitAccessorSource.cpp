@@ -41,13 +41,8 @@ class ClassWriter {
       masks();
       tags();
       runs();
-      if ( formats_.allAtOnePlace() ) {
-         out_ << "constexpr AsicUtils::FieldRow rows[] = " << rows() << ";\n";
-      }
+      rows();
       out_ << "} // namespace " << data_ << "\n\n";
-      if ( !formats_.allAtOnePlace() ) {
-         out_ << "constinit AsicUtils::FieldRow const " << name_ << "::rows[] = " << rows() << ";\n\n";
-      }
       metaInfo();
       members();
       return out_.str();
@@ -151,28 +146,34 @@ class ClassWriter {
       }
    }
 
-   std::string rows() const {
-      Items items( 6 );
+   static std::string rowText( Place const & place ) {
+      unsigned const end = place.offset + place.width;
+      std::string text = "{ " + std::to_string( place.offset ) + ", " + std::to_string( place.width ) + ", " +
+                         std::to_string( ( end + 7 ) / 8 ) + ", " + std::to_string( ( end + 31 ) / 32 * 4 );
+      if ( place.width > 32 ) {
+         return text + ", 0, 0 }";
+      }
+      std::uint64_t const mask = ( ( std::uint64_t{ 1 } << place.width ) - 1 ) << place.offset % 32;
+      auto const low = static_cast< std::uint32_t >( mask );
+      auto const high = static_cast< std::uint32_t >( mask >> 32 );
+      return text + ", " + hex( high ? high : low ) + ", " + hex( high ? low : 0 ) + " }";
+   }
+
+   void rows() {
+      Items items( 4 );
       for ( auto const & row : formats_.rows ) {
          for ( auto const & place : row ) {
-            if ( !place ) {
-               items.add( "{ 0, 0, 0xffff, 0xffff }" );
-               continue;
-            }
-            unsigned const end = place->offset + place->width;
-            items.add( "{ " + std::to_string( place->offset ) + ", " + std::to_string( place->width ) + ", " +
-                       std::to_string( ( end + 7 ) / 8 ) + ", " + std::to_string( ( end + 31 ) / 32 * 4 ) + " }" );
+            items.add( place ? rowText( *place ) : "{ 0, 0, 0xffff, 0xffff, 0, 0 }" );
          }
       }
-      return items.text();
+      out_ << "constexpr AsicUtils::FieldRow rows[] = " << items.text() << ";\n";
    }
 
    void metaInfo() {
-      std::string const rows = formats_.allAtOnePlace() ? data_ + "::rows" : "rows";
       out_ << "constinit AsicUtils::MetaInfo const " << name_ << "::metaInfo{\n   Impl::unit, __LINE__, \"" << name_
            << "\", " << number_ << ", " << ( table_.isMemory ? "true" : "false" ) << ", " << table_.variants
            << ", AsicUtils::ValueType::" << entryType_ << ",\n   " << data_ << "::fields, " << data_ << "::pairs, "
-           << data_ << "::layouts, " << rows << ", " << data_ << "::masks, "
+           << data_ << "::layouts, " << data_ << "::rows, " << data_ << "::masks, "
            << ( table_.hasTag() ? data_ + "::tags" : "{}" ) << ", "
            << ( table_.indexed.empty() ? "{}" : data_ + "::runs" ) << "\n};\n\n";
    }

@@ -25,12 +25,11 @@ std::string testOf( Catalogue const & catalogue, Table const & table ) {
    for ( auto const & field : table.fieldNames ) {
       std::string const upper = capitalised( field );
       std::string const type = typeFor( table.largestFieldWidth( field ) );
-      text += "   table.field< " + type + " >( \"" + field + "\", " + std::to_string( catalogue.fieldIds.at( field ) ) +
-              ", " +
-              ( table.readOnly( field ) ? std::string( "nullptr" ) : "&Hardware::" + name + "::" + field + "Is" ) +
-              ", &Hardware::" + name + "::" + field + ", &Hardware::" + name + "::is" + upper +
-              "Valid, &Hardware::" + name + "::" + field + "Len, &Hardware::" + name + "::" + field + "Offset, { " +
-              places( table, field ) + " } );\n";
+      text +=
+         "   table.field< " + type + " >( \"" + field + "\", " + std::to_string( catalogue.fieldIds.at( field ) ) +
+         ", " + ( table.readOnly( field ) ? std::string( "nullptr" ) : "&Hardware::" + name + "::" + field + "Is" ) +
+         ", &Hardware::" + name + "::" + field + ", &Hardware::" + name + "::is" + upper + "Valid, &Hardware::" + name +
+         "::" + field + "Len, &Hardware::" + name + "::" + field + "Offset, { " + places( table, field ) + " } );\n";
    }
    return text + "   table.masks();\n}\n";
 }

@@ -23,11 +23,8 @@ std::optional< Place > Formats::onePlace( unsigned field ) const {
    return alike ? rows[0][field] : std::nullopt;
 }
 
-bool Formats::allAtOnePlace() const {
-   for ( unsigned field = 0; field < rows[0].size(); ++field ) {
-      if ( !onePlace( field ) ) {
-         return false;
-      }
-   }
-   return true;
+bool Formats::acrossWords( unsigned field ) const {
+   return std::any_of( rows.begin(), rows.end(), [&]( auto const & row ) {
+      return row[field] && row[field]->offset % 32 + row[field]->width > 32;
+   } );
 }

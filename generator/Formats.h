@@ -19,5 +19,6 @@ struct Formats {
 
    // The one place of a field; none where it depends on the format, or a format lacks it.
    std::optional< Place > onePlace( unsigned field ) const;
-   bool allAtOnePlace() const;
+   // Whether a format has the field across the boundary of two words.
+   bool acrossWords( unsigned field ) const;
 };

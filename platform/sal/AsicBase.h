@@ -66,9 +66,8 @@ class AsicBase {
    U8 variant_;
    U16 len_;
    // What a check of a field needs, in the padding behind the state: the buffer's length, or 0 where chip and variant
-   // are not known to be valid, so that one compare covers all three; and the pair's format.
+   // are not known to be valid, so that one compare covers all three.
    mutable U16 usable_ = 0;
-   mutable U16 format_ = 0;
 };
 
 } // namespace AsicUtils

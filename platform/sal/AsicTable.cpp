@@ -4,123 +4,136 @@ namespace DaceSal::AsicUtils {
 
 namespace {
 
-constexpr unsigned maxWords = Raw1024::words;
-
-// The words of an entry on their way between the buffer, which may lie anywhere, and the driver.
-class EntryWords {
- public:
-   explicit EntryWords( unsigned width ) : width_( width ) {}
-
-   void take( U8 const * buf ) {
-      // Word by word: fields were just stored that way, and a wider load would wait for them.
-      for ( unsigned word = 0; word < width_; ++word ) {
-         words_[word] = Detail::loadWord( buf + 4 * word );
-         asm volatile( "" : : : "memory" ); // keeps the loop from becoming a call of memcpy
-      }
-   }
-   void give( U8 * buf ) const { std::memcpy( buf, words_.data(), width_ * sizeof( U32 ) ); }
-   std::span< U32 > span() { return { words_.data(), width_ }; }
-
- private:
-   unsigned width_;
-   std::array< U32, maxWords > words_; // filled before it is read
-};
-
-unsigned checkedWidth( DaceSalAsicTransfer::Place const & place, char const * pattern ) {
-   unsigned const width = place.accessor.width();
-   if ( place.len < width * sizeof( U32 ) ) {
-      place.meta.fail( "len_ >= " + std::to_string( width * sizeof( U32 ) ), pattern );
-   }
-   return width;
-}
-
-SchanAddress schanAddress( DaceSalAsicTransfer::Place const & place, U16 identifier ) {
-   SchanAddress at;
-   // An index that no array can have stays out of range.
-   auto const arrayIndex = static_cast< U16 >( std::clamp( place.arrayIndex, -1, 0xffff ) );
-   bool const known =
-      place.accessor.getSchanAddress( at.address, at.selectorA, at.selectorB, identifier, place.entry, arrayIndex );
-   if ( !known ) {
-      place.meta.fail( "getSchanAddress( address, selectorA, selectorB, identifier, tableEntry, arrayIndex )",
-                       "bool %::getSchanAddress(U32&, U32&, U32&, U16, U32, U16) const" );
-   }
-   return at;
-}
-
-SchanDriver & driver() {
+[[gnu::always_inline]] inline SchanDriver & driver() {
    SchanDriver * installed = schanDriver();
    Rex::sassert( installed != nullptr, "schanDriver" );
    return *installed;
 }
 
-void tell( DaceSalAsicTransfer::Place const & place,
-           Operation::Kind kind,
-           Operation::Scope scope,
-           int core,
-           bool changed,
-           std::span< U32 const > words ) {
-   OperationListener * listener = operationListener();
-   if ( !listener ) {
-      return;
+// The words of an entry on their way between the buffer, which may lie anywhere, and the driver.
+struct Words {
+   std::array< U32, Raw1024::words > word; // filled before it is read
+
+   std::span< U32 const > taken( U8 const * buf, unsigned width ) {
+      // Word by word: fields were just stored that way, and a wider load would wait for them.
+      for ( unsigned i = 0; i < width; ++i ) {
+         word[i] = Detail::loadWord( buf + 4 * i );
+         asm volatile( "" : : : "memory" ); // keeps the loop from becoming a call of memcpy
+      }
+      return { word.data(), width };
    }
+   void give( U8 * buf, unsigned width ) const {
+      for ( unsigned i = 0; i < width; ++i ) {
+         Detail::storeWord( buf + 4 * i, word[i] );
+         asm volatile( "" : : : "memory" );
+      }
+   }
+};
+
+Operation writing( Operation::Scope scope, bool changed ) {
    Operation operation;
-   operation.kind = kind;
+   operation.kind = Operation::Kind::write;
    operation.scope = scope;
    operation.changed = changed;
-   operation.isRegister = !place.meta.isMemory;
-   operation.chip = place.chip;
-   operation.table = place.meta.number;
-   operation.variant = place.variant;
-   operation.arrayIndex = place.arrayIndex;
-   operation.core = core;
-   operation.entry = place.entry;
-   operation.words = words;
-   operation.origin = place.origin;
-   listener->operation( operation );
+   return operation;
 }
 
 } // namespace
 
-void DaceSalAsicTransfer::readAny( Place const & place ) {
-   EntryWords words( checkedWidth( place, "int %::doReadAny" ) );
-   driver().read( place.chip, schanAddress( place, 0 ), words.span() );
-   words.give( place.buf );
-   tell( place, Operation::Kind::read, Operation::Scope::any, 0, false, words.span() );
-}
-
-void DaceSalAsicTransfer::writeAll( Place const & place ) {
-   EntryWords words( checkedWidth( place, "void %::doWriteAll" ) );
-   words.take( place.buf );
-   bool changed = false;
-   U32 const instances = place.accessor.instanceCount();
+// Traces, and ends the process with the text of what is wrong.
+[[gnu::cold]] void DaceSalAsicTransferBase::checkRoute( Place const & place, char const * pattern ) const {
+   unsigned const bytes = width() * sizeof( U32 );
+   if ( len_ < bytes ) {
+      meta().fail( "len_ >= " + std::to_string( bytes ), pattern );
+   }
+   // An index that no array can have stays out of range.
+   auto const arrayIndex = static_cast< U16 >( std::clamp( place.arrayIndex, -1, 0xffff ) );
+   U32 const instances = instanceCount();
    for ( U32 instance = 0; instance < instances; ++instance ) {
-      changed |= driver().write( place.chip, schanAddress( place, static_cast< U16 >( instance ) ), words.span() );
+      SchanAddress at;
+      getSchanAddress(
+         at.address, at.selectorA, at.selectorB, static_cast< U16 >( instance ), place.entry, arrayIndex );
    }
-   tell( place, Operation::Kind::write, Operation::Scope::all, 0, changed, words.span() );
 }
 
-void DaceSalAsicTransfer::writeCore( Place const & place, int core ) {
-   constexpr char const * pattern = "void %::doWriteCore";
-   EntryWords words( checkedWidth( place, pattern ) );
-   U32 const instances = place.accessor.instanceCount();
-   if ( core < 0 || static_cast< U32 >( core ) >= instances ) {
-      std::ostringstream message;
-      message << place.meta.name << " has no copy for core " << core << " on " << Hardware::ChipType{ place.chipType }
-              << ": it has " << instances << ( instances == 1 ? " copy" : " copies" )
-              << ". No chip operation was made.";
-      place.meta.failWith( "core < instanceCount()", message.str(), pattern );
+[[gnu::always_inline]] inline DaceSalAsicTransferBase::Route
+DaceSalAsicTransferBase::route( Place const & place, char const * pattern ) const {
+   auto const arrayIndex = static_cast< U32 >( place.arrayIndex );
+   ::AsicUtils::TableLayout const * layout = quietLayout();
+   if ( !layout || len_ < layout->width * sizeof( U32 ) || place.entry >= layout->span.count ||
+        arrayIndex < layout->arrayIndexFirst || arrayIndex >= layout->arrayIndexEnd ) [[unlikely]] {
+      checkRoute( place, pattern );
+      layout = &meta().layouts[meta().pair( chipType, variant_ )->layout];
    }
-   words.take( place.buf );
-   bool const changed = driver().write( place.chip, schanAddress( place, static_cast< U16 >( core ) ), words.span() );
-   tell( place, Operation::Kind::write, Operation::Scope::core, core, changed, words.span() );
+   return { layout->width,
+            layout->instanceCount,
+            layout->selectors,
+            layout->base + place.entry + arrayIndex * layout->arrayStep };
+}
+
+[[gnu::noinline]] void DaceSalAsicTransferBase::tell( OperationListener & listener,
+                                                      Operation operation,
+                                                      Place const & place,
+                                                      std::span< U32 const > words,
+                                                      std::source_location const & origin ) const {
+   operation.isRegister = !meta().isMemory;
+   operation.chip = place.chip;
+   operation.table = meta().number;
+   operation.variant = variant_;
+   operation.arrayIndex = place.arrayIndex;
+   operation.entry = place.entry;
+   operation.words = words;
+   operation.origin = origin;
+   listener.operation( operation );
+}
+
+[[gnu::always_inline]] inline void DaceSalAsicTransferBase::readAny( Place const & place,
+                                                                     std::source_location const & origin ) {
+   Route const way = route( place, "int %::doReadAny" );
+   Words words;
+   driver().read( place.chip, way.copy( 0 ), { words.word.data(), way.width } );
+   words.give( buf_, way.width );
+   if ( OperationListener * listener = operationListener() ) {
+      tell( *listener, Operation{}, place, { words.word.data(), way.width }, origin );
+   }
+}
+
+[[gnu::always_inline]] inline void DaceSalAsicTransferBase::writeAll( Place const & place,
+                                                                      std::source_location const & origin ) const {
+   Route const way = route( place, "void %::doWriteAll" );
+   Words words;
+   auto const taken = words.taken( buf_, way.width );
+   SchanDriver & to = driver();
+   bool changed = false;
+   for ( U32 instance = 0; instance < way.instances; ++instance ) {
+      changed |= to.write( place.chip, way.copy( instance ), taken );
+   }
+   if ( OperationListener * listener = operationListener() ) {
+      tell( *listener, writing( Operation::Scope::all, changed ), place, taken, origin );
+   }
+}
+
+void DaceSalAsicTransferBase::writeCore( Place const & place, int core, std::source_location const & origin ) const {
+   constexpr char const * pattern = "void %::doWriteCore";
+   Route const way = route( place, pattern );
+   if ( core < 0 || core >= way.instances ) [[unlikely]] {
+      std::ostringstream message;
+      message << meta().name << " has no copy for core " << core << " on " << Hardware::ChipType{ chipType }
+              << ": it has " << unsigned{ way.instances } << ( way.instances == 1 ? " copy" : " copies" )
+              << ". No chip operation was made.";
+      meta().failWith( "core < instanceCount()", message.str(), pattern );
+   }
+   Words words;
+   auto const taken = words.taken( buf_, way.width );
+   Operation operation =
+      writing( Operation::Scope::core, driver().write( place.chip, way.copy( static_cast< U32 >( core ) ), taken ) );
+   operation.core = core;
+   if ( OperationListener * listener = operationListener() ) {
+      tell( *listener, operation, place, taken, origin );
+   }
 }
 
 // ---- registers
-
-DaceSalAsicTransfer::Place
-DaceSalAsicRegBase::place( ChipId chip, int arrayIndex, std::source_location const & origin ) const {
-   return { meta(), *this, chipType, variant_, buf_, len_, chip, arrayIndex, 0, origin };
-}
 
 bool DaceSalAsicRegBase::isTable() const {
    meta().trace( "virtual bool %::isTable() const", chipType, variant_ );
@@ -143,20 +156,15 @@ U32 DaceSalAsicRegBase::addrStride() const {
 }
 
 int DaceSalAsicRegBase::doReadAny( ChipId chip, int arrayIndex, std::source_location origin ) {
-   DaceSalAsicTransfer::readAny( place( chip, arrayIndex, origin ) );
+   readAny( { chip, arrayIndex, 0 }, origin );
    return 0;
 }
 
 void DaceSalAsicRegBase::doWriteAll( ChipId chip, int arrayIndex, std::source_location origin ) const {
-   DaceSalAsicTransfer::writeAll( place( chip, arrayIndex, origin ) );
+   writeAll( { chip, arrayIndex, 0 }, origin );
 }
 
 // ---- memories
-
-DaceSalAsicTransfer::Place
-DaceSalAsicTableBase::place( ChipId chip, int arrayIndex, int entry, std::source_location const & origin ) const {
-   return { meta(), *this, chipType, variant_, buf_, len_, chip, arrayIndex, static_cast< U32 >( entry ), origin };
-}
 
 U32 DaceSalAsicTableBase::entries() const {
    meta().trace( "virtual U32 %::entries() const", chipType, variant_ );
@@ -189,17 +197,17 @@ bool DaceSalAsicTableBase::isPrimary() const {
 }
 
 int DaceSalAsicTableBase::doReadAny( ChipId chip, int arrayIndex, int entry, std::source_location origin ) {
-   DaceSalAsicTransfer::readAny( place( chip, arrayIndex, entry, origin ) );
+   readAny( { chip, arrayIndex, static_cast< U32 >( entry ) }, origin );
    return 0;
 }
 
 void DaceSalAsicTableBase::doWriteAll( ChipId chip, int arrayIndex, int entry, std::source_location origin ) const {
-   DaceSalAsicTransfer::writeAll( place( chip, arrayIndex, entry, origin ) );
+   writeAll( { chip, arrayIndex, static_cast< U32 >( entry ) }, origin );
 }
 
 void DaceSalAsicTableBase::doWriteCore(
    ChipId chip, int arrayIndex, int core, int entry, std::source_location origin ) const {
-   DaceSalAsicTransfer::writeCore( place( chip, arrayIndex, entry, origin ), core );
+   writeCore( { chip, arrayIndex, static_cast< U32 >( entry ) }, core, origin );
 }
 
 } // namespace DaceSal::AsicUtils

@@ -23,35 +23,43 @@
 
 namespace DaceSal::AsicUtils {
 
-using ::AsicUtils::MetaInfo;
-
-// The transfer that both kinds share.
-class DaceSalAsicTransfer {
+// What both kinds share: the transfer of an entry.
+class DaceSalAsicTransferBase : public ::AsicUtils::BcmAsicBase {
  public:
-   DaceSalAsicTransfer() = delete;
+   using BcmAsicBase::BcmAsicBase;
 
-   // What an operation is about.
+ protected:
    struct Place {
-      MetaInfo const & meta;
-      ::AsicUtils::BcmAsicBase const & accessor;
-      U8 chipType;
-      U8 variant;
-      U8 * buf;
-      U16 len;
       ChipId chip;
       int arrayIndex;
       U32 entry;
-      std::source_location origin;
    };
-   static void readAny( Place const & place );
-   static void writeAll( Place const & place );
-   static void writeCore( Place const & place, int core );
+   void readAny( Place const & place, std::source_location const & origin );
+   void writeAll( Place const & place, std::source_location const & origin ) const;
+   void writeCore( Place const & place, int core, std::source_location const & origin ) const;
+
+ private:
+   // How wide the entry is and where its copies lie, after all checks.
+   struct Route {
+      U16 width;
+      U8 instances;
+      U8 const ( *selectors )[2];
+      U32 address;
+      SchanAddress copy( U32 instance ) const { return { address, selectors[instance][0], selectors[instance][1] }; }
+   };
+   Route route( Place const & place, char const * pattern ) const;
+   void checkRoute( Place const & place, char const * pattern ) const;
+   void tell( OperationListener & listener,
+              Operation operation,
+              Place const & place,
+              std::span< U32 const > words,
+              std::source_location const & origin ) const;
 };
 
 // A register: one entry, possibly an array of them.
-class DaceSalAsicRegBase : public ::AsicUtils::BcmAsicBase {
+class DaceSalAsicRegBase : public DaceSalAsicTransferBase {
  public:
-   using BcmAsicBase::BcmAsicBase;
+   using DaceSalAsicTransferBase::DaceSalAsicTransferBase;
 
    bool isTable() const override;
    U32 maxIdentifier() const override;
@@ -62,15 +70,12 @@ class DaceSalAsicRegBase : public ::AsicUtils::BcmAsicBase {
    int doReadAny( ChipId chip, int arrayIndex, std::source_location origin = std::source_location::current() );
    // Writes the buffer to all copies.
    void doWriteAll( ChipId chip, int arrayIndex, std::source_location origin = std::source_location::current() ) const;
-
- private:
-   DaceSalAsicTransfer::Place place( ChipId chip, int arrayIndex, std::source_location const & origin ) const;
 };
 
 // A memory.
-class DaceSalAsicTableBase : public ::AsicUtils::BcmAsicBase {
+class DaceSalAsicTableBase : public DaceSalAsicTransferBase {
  public:
-   using BcmAsicBase::BcmAsicBase;
+   using DaceSalAsicTransferBase::DaceSalAsicTransferBase;
 
    U32 entries() const override;
    bool isTable() const override;
@@ -93,10 +98,6 @@ class DaceSalAsicTableBase : public ::AsicUtils::BcmAsicBase {
                      int core,
                      int entry,
                      std::source_location origin = std::source_location::current() ) const;
-
- private:
-   DaceSalAsicTransfer::Place
-   place( ChipId chip, int arrayIndex, int entry, std::source_location const & origin ) const;
 };
 
 } // namespace DaceSal::AsicUtils

@@ -63,15 +63,20 @@ BcmAsicBase::BcmAsicBase(
    MetaInfo const & meta, U8 chipType_, U8 * buf, U32 len, bool bufferHoldsEntry, U8 variant, U8 last )
    : AsicBase( chipType_, buf, len, bufferHoldsEntry, variant, last ), meta_( &meta ) {
    PairRow const * found = pair();
+   if ( !found || meta_->unit.trace.enabled( accessTraceLevel ) ) [[unlikely]] {
+      checkPair();
+   }
+   pairIs( *found );
+}
+
+void BcmAsicBase::checkPair() const {
    ChipAndVariant const named{ Hardware::ChipType{ chipType }, variant_ };
-   if ( !found ) [[unlikely]] {
+   if ( !pair() ) {
       std::ostringstream message;
       message << named << " not in metainfo for " << meta_->name << "!";
       meta_->failWith( "0", message.str(), "%::" + std::string( meta_->name ) + "(ChipType, U8*, U16, bool, U8)" );
    }
    meta_->unit.trace( accessTraceLevel, meta_->name, " chipType: ", named );
-   format_ = found->format;
-   usable_ = usableLength();
 }
 
 // ---- fields
@@ -112,8 +117,7 @@ FieldRow const & BcmAsicBase::checkedRow( U16 field, Access access ) const {
       meta_->fail( "len_ >= " + std::to_string( row.bytes ), pattern( field, access ) );
    }
    // The pair is known to be valid now, also where the variant was changed.
-   format_ = found->format;
-   usable_ = usableLength();
+   pairIs( *found );
    return row;
 }
 

@@ -46,6 +46,11 @@ class BcmAsicBase : public AsicBase {
  protected:
    MetaInfo const & meta() const { return *meta_; }
 
+   // The layout of chip and variant where they are known to be valid and nothing is traced; else null.
+   TableLayout const * quietLayout() const {
+      return usable_ == 0 || meta_->unit.trace.enabled( accessTraceLevel ) ? nullptr : &meta_->layouts[layout_];
+   }
+
    // A field of at most 64 bits that lies at one place wherever it exists at all. `field` is its place in the class's
    // list; `traced` whether level 8 is on.
    [[gnu::always_inline]] void
@@ -64,19 +69,54 @@ class BcmAsicBase : public AsicBase {
       return Detail::loadBits( buf_, offset, width );
    }
 
-   // A field of at most 64 bits whose place depends on the format: `row` is that of the object's format.
-   [[gnu::always_inline]] void fieldInIs( bool traced, U16 field, FieldRow const & row, U64 value ) {
-      if ( traced || usable_ < row.wordBytes || ( value & ~Detail::lowBits( row.width ) ) != 0 ) [[unlikely]] {
+   // A field of at most 32 bits whose place depends on the format, and which lies within a word in each.
+   [[gnu::always_inline]] void fieldInIs( bool traced, U16 field, U32 value ) {
+      FieldRow const & row = rows_[field];
+      U64 const placed = U64{ value } << row.offset % 32;
+      if ( traced || usable_ < row.wordBytes || ( placed & ~U64{ row.mask } ) != 0 ) [[unlikely]] {
          fieldIs( field, value );
          return;
       }
-      Detail::storeBits( buf_, row.offset, row.width, value );
+      U8 * const at = buf_ + row.wordBytes - 4;
+      Detail::storeWord( at, ( Detail::loadWord( at ) & ~row.mask ) | static_cast< U32 >( placed ) );
    }
-   [[gnu::always_inline]] U64 fieldIn( bool traced, U16 field, FieldRow const & row ) const {
+   [[gnu::always_inline]] U32 fieldIn( bool traced, U16 field ) const {
+      FieldRow const & row = rows_[field];
       if ( traced || usable_ < row.wordBytes ) [[unlikely]] {
-         return fieldValue( field );
+         return static_cast< U32 >( fieldValue( field ) );
       }
-      return Detail::loadBits( buf_, row.offset, row.width );
+      return ( Detail::loadWord( buf_ + row.wordBytes - 4 ) & row.mask ) >> row.offset % 32;
+   }
+
+   // The same for a field that lies across two words in some format.
+   [[gnu::always_inline]] void fieldAcrossIs( bool traced, U16 field, U32 value ) {
+      FieldRow const & row = rows_[field];
+      if ( row.maskBefore == 0 ) {
+         fieldInIs( traced, field, value );
+         return;
+      }
+      U64 const mask = U64{ row.mask } << 32 | row.maskBefore;
+      U64 const placed = U64{ value } << row.offset % 32;
+      if ( traced || usable_ < row.wordBytes || ( placed & ~mask ) != 0 ) [[unlikely]] {
+         fieldIs( field, value );
+         return;
+      }
+      U8 * const at = buf_ + row.wordBytes - 8;
+      Detail::storeWord( at, ( Detail::loadWord( at ) & ~row.maskBefore ) | static_cast< U32 >( placed ) );
+      Detail::storeWord( at + 4, ( Detail::loadWord( at + 4 ) & ~row.mask ) | static_cast< U32 >( placed >> 32 ) );
+   }
+   [[gnu::always_inline]] U32 fieldAcross( bool traced, U16 field ) const {
+      FieldRow const & row = rows_[field];
+      if ( row.maskBefore == 0 ) {
+         return fieldIn( traced, field );
+      }
+      if ( traced || usable_ < row.wordBytes ) [[unlikely]] {
+         return static_cast< U32 >( fieldValue( field ) );
+      }
+      U8 const * const at = buf_ + row.wordBytes - 8;
+      U64 const words =
+         U64{ Detail::loadWord( at + 4 ) & row.mask } << 32 | ( Detail::loadWord( at ) & row.maskBefore );
+      return static_cast< U32 >( words >> row.offset % 32 );
    }
 
    // A wide field that fills its type and begins with a byte, at one place.
@@ -90,12 +130,11 @@ class BcmAsicBase : public AsicBase {
    }
    template< class Wide >
    [[gnu::always_inline]] Wide wideAt( bool traced, U16 field, unsigned offset ) const {
-      Wide value;
-      if ( traced || usable_ < offset / 8 + sizeof value ) [[unlikely]] {
-         wideField( field, value.word.data() );
-      } else {
-         std::memcpy( value.word.data(), buf_ + offset / 8, sizeof value );
+      if ( traced || usable_ < offset / 8 + sizeof( Wide ) ) [[unlikely]] {
+         return wideField< Wide >( field );
       }
+      Wide value;
+      std::memcpy( value.word.data(), buf_ + offset / 8, sizeof value );
       return value;
    }
 
@@ -148,7 +187,17 @@ class BcmAsicBase : public AsicBase {
    PairRow const * pair() const { return meta_->pair( chipType, variant_ ); }
    void maskedEntry( U32 * words ) const;
 
+   // Takes over what is known of the pair of chip and variant, which is valid.
+   void pairIs( PairRow const & pair ) const {
+      layout_ = pair.layout;
+      rows_ = &meta_->row( pair.format, 0 );
+      usable_ = usableLength();
+   }
+   [[gnu::noinline]] void checkPair() const;
+
+   mutable U16 layout_ = 0;
    MetaInfo const * meta_;
+   mutable FieldRow const * rows_ = nullptr; // of the pair's format
 };
 
 } // namespace AsicUtils

@@ -2,25 +2,15 @@
 
 namespace DaceSal {
 
-namespace {
-SchanDriver * theDriver = nullptr;
-OperationListener * theListener = nullptr;
-} // namespace
-
-SchanDriver * schanDriver() {
-   return theDriver;
-}
+SchanDriver * Impl::theDriver = nullptr;
+OperationListener * Impl::theListener = nullptr;
 
 void schanDriverIs( SchanDriver * driver ) {
-   theDriver = driver;
-}
-
-OperationListener * operationListener() {
-   return theListener;
+   Impl::theDriver = driver;
 }
 
 void operationListenerIs( OperationListener * listener ) {
-   theListener = listener;
+   Impl::theListener = listener;
 }
 
 } // namespace DaceSal

@@ -77,13 +77,22 @@ class OperationListener {
    virtual void operation( Operation const & operation ) = 0;
 };
 
+namespace Impl {
+extern SchanDriver * theDriver;
+extern OperationListener * theListener;
+} // namespace Impl
+
 // The driver of the process; null until one is installed. Using an accessor without one is a programming error:
 // assertion text "schanDriver".
-SchanDriver * schanDriver();
+inline SchanDriver * schanDriver() {
+   return Impl::theDriver;
+}
 void schanDriverIs( SchanDriver * driver );
 
 // The listener of the process, or null.
-OperationListener * operationListener();
+inline OperationListener * operationListener() {
+   return Impl::theListener;
+}
 void operationListenerIs( OperationListener * listener );
 
 } // namespace DaceSal

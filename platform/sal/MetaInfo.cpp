@@ -42,14 +42,6 @@ std::string MetaInfo::variantText( char const * subject ) const {
    return variantCount == 1 ? std::string( subject ) + " == 0" : "0";
 }
 
-PairRow const * MetaInfo::pair( U32 chipType, U8 variant ) const {
-   if ( chipType - firstChip >= chipCount || variant >= variantCount ) {
-      return nullptr;
-   }
-   PairRow const & row = pairs[variant * chipCount + chipType - firstChip];
-   return row.layout == PairRow::absent ? nullptr : &row;
-}
-
 bool MetaInfo::chipKnown( U32 chipType ) const {
    return pair( chipType, 0 ) != nullptr;
 }

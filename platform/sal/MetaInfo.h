@@ -60,6 +60,9 @@ struct FieldRow {
    U16 width;     // bits; 0 where the format lacks the field
    U16 bytes;     // length of buffer that an access needs; `absent` where the format lacks the field
    U16 wordBytes; // the same, rounded up to whole words
+   // The bits of a narrow field in the last word that it touches, which ends at wordBytes, and in the word before it.
+   U32 mask;
+   U32 maskBefore; // 0 where the field lies within a word
    static constexpr U16 absent = 0xffff;
 };
 
@@ -173,7 +176,13 @@ struct MetaInfo {
    }
 
    // For those who work on rows. Null, or `fields.size()`, where there is none.
-   PairRow const * pair( U32 chipType, U8 variant ) const;
+   PairRow const * pair( U32 chipType, U8 variant ) const {
+      if ( chipType - firstChip >= chipCount || variant >= variantCount ) {
+         return nullptr;
+      }
+      PairRow const & row = pairs[variant * chipCount + chipType - firstChip];
+      return row.layout == PairRow::absent ? nullptr : &row;
+   }
    bool chipKnown( U32 chipType ) const;
    U16 fieldById( U32 fieldId ) const;
    U16 fieldByName( std::string_view fieldName ) const;
