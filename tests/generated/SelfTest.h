@@ -1,7 +1,8 @@
 // Checks generated accessors field by field against their declared places, with a reader and writer of bits that is too
 // simple to be wrong.
 //
-// What depends on a class or a type is a thin shell; the checks themselves know neither, so that they are compiled once.
+// What depends on a class or a type is a thin shell; the checks themselves know neither, so that they are compiled
+// once.
 #pragma once
 
 #include "constants/ChipType.h"
