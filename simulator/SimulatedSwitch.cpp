@@ -38,14 +38,14 @@ SwitchDescription checked( SwitchDescription description ) {
    return description;
 }
 
-void loadLibrary( std::string const & path ) {
-   // Never unloaded: its plug-in stays registered with the loader.
+} // namespace
+
+void loadPlugin( std::string const & path ) {
+   // Never unloaded: the loader keeps the caller that lies in it.
    if ( !::dlopen( path.c_str(), RTLD_NOW | RTLD_LOCAL ) ) {
       throw LibraryError( ::dlerror() );
    }
 }
-
-} // namespace
 
 SimulatedSwitch::SimulatedSwitch( SwitchDescription description )
    : description_( checked( std::move( description ) ) ), journal_( [this] { return cause(); } ),
@@ -118,7 +118,7 @@ void SimulatedSwitch::publishCell() {
 }
 
 void SimulatedSwitch::start( std::string const & pluginPath ) {
-   loadLibrary( pluginPath );
+   loadPlugin( pluginPath );
    start();
 }
 

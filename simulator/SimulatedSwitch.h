@@ -56,6 +56,9 @@ class LibraryError : public std::runtime_error {
    using std::runtime_error::runtime_error;
 };
 
+// Loads a plug-in's library, which registers it. One that registers none is fine. Never unloaded. Throws LibraryError.
+void loadPlugin( std::string const & path );
+
 class SimulatedSwitch {
  public:
    // Throws std::logic_error if there is a switch already, if two FAPs have one number, or if a toggle was read in this
@@ -69,7 +72,7 @@ class SimulatedSwitch {
 
    // Enters the plug-ins that are registered, and brings the slice up. Once.
    void start();
-   // The same after loading a library. One that registers no plug-in is fine; one that can't be loaded: LibraryError.
+   // The same after loadPlugin.
    void start( std::string const & pluginPath );
    // Idempotent.
    void stop();

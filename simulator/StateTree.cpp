@@ -102,17 +102,8 @@ void checkMayChange( StateRoot const & root ) {
    }
 }
 
-template< class Change >
-decltype( auto ) under( std::string const & place, Change const & change ) {
-   try {
-      return change();
-   } catch ( ValueError const & error ) {
-      throw error.below( place );
-   }
-}
-
 Attribute const & attributeAt( Rex::Entity const & entity, std::string const & attribute ) {
-   return under( "attribute", [&]() -> Attribute const & { return attributeOf( entity.typeData(), attribute ); } );
+   return Rex::below( "attribute", [&]() -> Attribute const & { return attributeOf( entity.typeData(), attribute ); } );
 }
 
 } // namespace
@@ -280,12 +271,12 @@ void StateTree::changeAt( std::string const & path, Change const & change ) {
 void StateTree::attributeIs( std::string const & path, std::string const & attribute, Rex::Value const & value ) {
    changeAt( path, [&]( Rex::Entity & entity ) {
       auto const & found = attributeAt( entity, attribute );
-      under( "value", [&] { found.valueIs( entity, value ); } );
+      Rex::below( "value", [&] { found.valueIs( entity, value ); } );
    } );
 }
 
 void StateTree::attributesIs( std::string const & path, Rex::Value const & value ) {
-   changeAt( path, [&]( Rex::Entity & entity ) { under( "value", [&] { entity.attributesIs( value ); } ); } );
+   changeAt( path, [&]( Rex::Entity & entity ) { Rex::below( "value", [&] { entity.attributesIs( value ); } ); } );
 }
 
 void StateTree::entryIs( std::string const & path,

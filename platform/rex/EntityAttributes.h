@@ -59,24 +59,6 @@ class EntityAttribute : public Attribute {
 
 Value::Object const & objectOf( Value const & value );
 
-// The two halves of an entry, each with its place in the error.
-template< class Key >
-Key entryKey( std::string const & key ) {
-   try {
-      return Codec< Key >::fromKey( key );
-   } catch ( ValueError const & error ) {
-      throw error.below( "key" );
-   }
-}
-template< class Make >
-auto entryValue( Make const & make ) {
-   try {
-      return make();
-   } catch ( ValueError const & error ) {
-      throw error.below( "value" );
-   }
-}
-
 template< class Self, class Key, class Type, auto Member, auto Set, auto Del >
 class MapAttributeData : public Attribute {
  public:
@@ -109,12 +91,12 @@ class MapAttributeData : public Attribute {
       }
    }
    void entryIs( Entity & of, std::string const & key, Value const & value ) const override {
-      Key const number = entryKey< Key >( key );
-      Type const entry = entryValue( [&] { return Codec< Type >::fromValue( value ); } );
+      Key const number = below( "key", [&] { return Codec< Key >::fromKey( key ); } );
+      Type const entry = below( "value", [&] { return Codec< Type >::fromValue( value ); } );
       ( static_cast< Self & >( of ).*Set )( number, entry );
    }
    bool entryDel( Entity & of, std::string const & key ) const override {
-      return ( static_cast< Self & >( of ).*Del )( entryKey< Key >( key ) );
+      return ( static_cast< Self & >( of ).*Del )( below( "key", [&] { return Codec< Key >::fromKey( key ); } ) );
    }
    std::string keyText( void const * key ) const override {
       return Codec< Key >::toKey( *static_cast< Key const * >( key ) );
@@ -159,12 +141,13 @@ class CollectionAttributeData : public Attribute {
       }
    }
    void entryIs( Entity & of, std::string const & key, Value const & value ) const override {
-      static_cast< void >( entryKey< Key >( key ) );
-      auto const entity = entryValue( [&] { return entityFromValue< Type >( key, value ); } );
+      static_cast< void >( below( "key", [&] { return Codec< Key >::fromKey( key ); } ) );
+      auto const entity = below( "value", [&] { return entityFromValue< Type >( key, value ); } );
       ( static_cast< Self & >( of ).*Set )( entity );
    }
    bool entryDel( Entity & of, std::string const & key ) const override {
-      return ( static_cast< Self & >( of ).*Del )( entryKey< Key >( key ) ) != nullptr;
+      return ( static_cast< Self & >( of ).*Del )( below( "key", [&] { return Codec< Key >::fromKey( key ); } ) ) !=
+             nullptr;
    }
    Corvo::Ptr< Entity > child( Entity const & of, std::string const & key ) const override {
       return ( static_cast< Self const & >( of ).*Member ).all().get( Codec< Key >::fromKey( key ) );

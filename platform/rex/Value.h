@@ -41,6 +41,7 @@ class Value {
    std::string const * text() const { return std::get_if< std::string >( &value_ ); }
    List const * list() const { return std::get_if< List >( &value_ ); }
    Object const * object() const { return std::get_if< Object >( &value_ ); }
+   List * list() { return std::get_if< List >( &value_ ); }
    Object * object() { return std::get_if< Object >( &value_ ); }
 
    friend bool operator==( Value const & left, Value const & right );
@@ -67,6 +68,16 @@ class ValueError : public std::runtime_error {
  private:
    std::string place_;
 };
+
+// Runs `read` on the part under `key`: an error of it gets its place seen from here.
+template< class Read >
+decltype( auto ) below( std::string const & key, Read const & read ) {
+   try {
+      return read();
+   } catch ( ValueError const & error ) {
+      throw error.below( key );
+   }
+}
 
 // A step of a JSON pointer, with its escapes.
 std::string pointerStep( std::string const & key );

@@ -1,0 +1,81 @@
+#include "l3sm/CommandLine.h"
+
+#include "l3sm/InputError.h"
+#include "l3sm/Verbs.h"
+#include "rex/Nearest.h"
+
+#include <CLI/CLI.hpp>
+#include <iostream>
+
+namespace Cli {
+
+namespace {
+
+constexpr int wrongUsage = 2;
+
+struct Verb {
+   char const * name;
+   char const * does;
+   Action ( *define )( CLI::App & );
+};
+
+constexpr Verb verbs[] = {
+   { "run", "boot a simulated switch, load the plug-in, play a scenario, tell what is on the chips", defineRun },
+   { "constants",
+     "what the platform stands in for: context numbers, action words, well-known numbers",
+     defineConstants },
+};
+
+int failed( std::string const & text ) {
+   // One line, whatever the text was made of.
+   std::string line = text;
+   std::replace( line.begin(), line.end(), '\n', ' ' );
+   std::cerr << "l3sm: " << line << std::endl;
+   return wrongUsage;
+}
+
+int unknownVerb( std::string const & word ) {
+   std::vector< std::string > names;
+   for ( auto const & verb : verbs ) {
+      names.emplace_back( verb.name );
+   }
+   auto const remedy = Rex::didYouMean( word, names );
+   return failed( "there is no verb \"" + word + "\"" + ( remedy.empty() ? "; l3sm --help lists them" : remedy ) );
+}
+
+bool isVerb( std::string const & word ) {
+   return std::any_of( std::begin( verbs ), std::end( verbs ), [&]( Verb const & verb ) { return word == verb.name; } );
+}
+
+} // namespace
+
+int commandLine( int argc, char const * const * argv ) {
+   CLI::App app( "l3sm: programs simulated chips with the layer-3 unicast plug-in, and shows them.", "l3sm" );
+   app.require_subcommand( 1 );
+   app.footer(
+      "`l3sm VERB --help` explains a verb.\nExit status: 0 fine, 1 the answer is \"no\", 2 wrong usage or input." );
+   Action action;
+   for ( auto const & verb : verbs ) {
+      auto * const sub = app.add_subcommand( verb.name, verb.does );
+      sub->callback( [&action, does = verb.define( *sub )] { action = does; } );
+   }
+   if ( argc < 2 ) {
+      return failed( "say what to do; l3sm --help lists the verbs" );
+   }
+   if ( argv[1][0] != '-' && !isVerb( argv[1] ) ) {
+      return unknownVerb( argv[1] );
+   }
+   try {
+      app.parse( argc, argv );
+      return action();
+   } catch ( CLI::CallForHelp const & help ) {
+      return app.exit( help );
+   } catch ( CLI::ParseError const & error ) {
+      std::string const verb = isVerb( argv[1] ) ? std::string( " " ) + argv[1] : "";
+      return failed( std::string( error.what() ) + "; l3sm" + verb + " --help tells what there is" );
+   } catch ( InputError const & error ) {
+      return failed( error.what() );
+   }
+}
+
+} // namespace Cli

@@ -1,0 +1,105 @@
+#include "l3sm/ChipsFile.h"
+#include "l3sm/OutputFile.h"
+#include "l3sm/Scenario.h"
+#include "l3sm/Summary.h"
+#include "l3sm/Tracing.h"
+#include "l3sm/Verbs.h"
+
+#include <CLI/CLI.hpp>
+#include <filesystem>
+#include <iostream>
+
+namespace Cli {
+
+namespace {
+
+struct Options {
+   std::string scenario;
+   std::string chips;
+   std::string journal;
+   std::string state;
+   std::string trace;
+   std::string traceOut;
+   std::vector< std::string > toggles;
+   std::string plugin;
+   bool quiet = false;
+};
+
+// The product lies beside the program: bin/l3sm, lib/libL3SmPlugin.so.
+std::string defaultPlugin() {
+   std::error_code none;
+   auto const self = std::filesystem::read_symlink( "/proc/self/exe", none );
+   return ( self.parent_path().parent_path() / "lib" / "libL3SmPlugin.so" ).string();
+}
+
+void load( std::string const & path ) {
+   try {
+      Simulator::loadPlugin( path );
+   } catch ( Simulator::LibraryError const & error ) {
+      throw InputError( "--plugin", std::string( error.what() ) + "; name the plug-in's library with --plugin PATH" );
+   }
+}
+
+int run( Options const & options ) {
+   Scenario scenario = options.scenario.empty() ? builtInScenario() : readScenario( options.scenario );
+   for ( auto const & toggle : options.toggles ) {
+      toggleIs( scenario.description.toggles, toggle );
+   }
+   OutputFile const chips( options.chips );
+   OutputFile const state( options.state );
+   OutputFile const journal( options.journal );
+   Tracing tracing( options.trace, options.traceOut );
+   load( options.plugin.empty() ? defaultPlugin() : options.plugin );
+   tracing.start();
+
+   Simulator::SimulatedSwitch sw( scenario.description );
+   if ( journal.isWanted() ) {
+      sw.journal().fileIs( options.journal );
+   }
+   scenario.prepare( sw );
+   sw.start();
+   for ( auto const & event : scenario.events ) {
+      scenario.play( sw, event );
+   }
+   sw.journal().flush();
+
+   if ( chips.isWanted() ) {
+      std::ostringstream text;
+      writeChips( text, chipsOf( sw ) );
+      chips.write( text.str() );
+   }
+   if ( state.isWanted() ) {
+      state.write( toJson( sw.state().value(), 2 ) + "\n" );
+   }
+   if ( !options.quiet ) {
+      writeSummary( std::cout, scenario, sw );
+   }
+   return 0;
+}
+
+} // namespace
+
+Action defineRun( CLI::App & verb ) {
+   auto const options = std::make_shared< Options >();
+   verb.add_option( "scenario", options->scenario, "the scenario to play; without one, the built-in example" )
+      ->type_name( "SCENARIO.json" );
+   verb.add_option( "--chips", options->chips, "write the contents of the chips at the end" )->type_name( "FILE" );
+   verb.add_option( "--journal", options->journal, "write every driver operation, one JSON object a line" )
+      ->type_name( "FILE" );
+   verb.add_option( "--state", options->state, "write the state tree at the end" )->type_name( "FILE" );
+   verb.add_option( "--trace", options->trace, "trace facilities up to a level; `*` for every facility" )
+      ->type_name( "FACILITY/LEVEL[,...]" );
+   verb.add_option( "--trace-out", options->traceOut, "write the traces there instead of to standard error" )
+      ->type_name( "FILE" );
+   verb.add_option( "--toggle", options->toggles, "set a toggle; may be given several times" )
+      ->type_name( "FILE:NAME=on|off" )
+      ->take_all()
+      ->expected( 1 )
+      ->allow_extra_args( false );
+   verb.add_option( "--plugin", options->plugin, "the plug-in's library; the default lies beside this program" )
+      ->type_name( "PATH" );
+   verb.add_flag( "--quiet", options->quiet, "print no summary" );
+   return [options] { return run( *options ); };
+}
+
+} // namespace Cli

@@ -1,0 +1,64 @@
+#include "l3sm/Tracing.h"
+
+#include "l3sm/InputError.h"
+#include "rex/Assert.h"
+#include "rex/Nearest.h"
+
+#include <algorithm>
+#include <cerrno>
+#include <cstring>
+#include <sstream>
+
+namespace Cli {
+
+Tracing::Tracing( std::string const & wanted, std::string const & file ) : path_( file ) {
+   OutputFile const writable( file );
+   std::istringstream parts( wanted );
+   for ( std::string part; std::getline( parts, part, ',' ); ) {
+      auto const slash = part.rfind( '/' );
+      bool const hasForm = slash != std::string::npos && slash > 0 && slash + 2 == part.size() &&
+                           part[slash + 1] >= '0' && part[slash + 1] <= '9';
+      if ( !hasForm ) {
+         throw InputError( "--trace " + part,
+                           "expected FACILITY/LEVEL with a level from 0 to 9, as in DaceFapNiL3Sm/8" );
+      }
+      facilities_.push_back( { part.substr( 0, slash ), part[slash + 1] - '0' } );
+   }
+}
+
+Tracing::~Tracing() {
+   Rex::traceSinkIs( {} );
+   if ( failureHook_ ) {
+      Rex::failureHookDel( failureHook_ );
+   }
+}
+
+void Tracing::start() {
+   auto const known = Rex::traceFacilityNames();
+   for ( auto const & facility : facilities_ ) {
+      if ( facility.name != "*" && std::find( known.begin(), known.end(), facility.name ) == known.end() ) {
+         std::string all;
+         for ( auto const & name : known ) {
+            all += ( all.empty() ? "" : ", " ) + name;
+         }
+         auto const remedy = Rex::didYouMean( facility.name, known );
+         throw InputError( "--trace " + facility.name,
+                           "no such facility" + ( remedy.empty() ? "; there are " + all : remedy ) );
+      }
+   }
+   if ( !path_.empty() ) {
+      file_.reset( std::fopen( path_.c_str(), "w" ) );
+      if ( !file_ ) {
+         throw InputError( path_, std::string( "can't be written: " ) + std::strerror( errno ) );
+      }
+      failureHook_ = Rex::atFailure( [this] { std::fflush( file_.get() ); } );
+      Rex::traceSinkIs( [this]( Rex::TraceRecord const & record ) {
+         std::fprintf( file_.get(), "%s/%d %s\n", record.facility, record.level, record.text.c_str() );
+      } );
+   }
+   for ( auto const & facility : facilities_ ) {
+      Rex::traceLevelIs( facility.name, facility.level );
+   }
+}
+
+} // namespace Cli

@@ -1,0 +1,239 @@
+// What `l3sm run` writes: chips, journal, state, traces, summary.
+#include "l3sm/Command.h"
+
+#include "l3sm/ChipsFile.h"
+#include "l3sm/Json.h"
+
+#include <gtest/gtest.h>
+
+namespace {
+
+using Rex::Value;
+
+Value const & at( Value const & value, std::vector< std::string > const & keys ) {
+   Value const * part = &value;
+   for ( auto const & key : keys ) {
+      part = &part->object()->at( key );
+   }
+   return *part;
+}
+
+// The rows of a journal.
+std::vector< Value > rowsOf( std::string const & journal ) {
+   std::vector< Value > rows;
+   std::istringstream in( journal );
+   for ( std::string line; std::getline( in, line ); ) {
+      rows.push_back( Cli::parseJson( line, "journal" ) );
+   }
+   return rows;
+}
+
+std::string text( Value const & row, std::string const & key ) {
+   return *row.object()->at( key ).text();
+}
+
+TEST( Run, playsTheBuiltInExampleAndTellsWhatWasProgrammedByWhom ) {
+   Command const l3sm( "run" );
+   EXPECT_EQ( l3sm.status, 0 );
+   EXPECT_EQ( l3sm.errors, "" );
+   EXPECT_TRUE( l3sm.output.starts_with( "uRPF fail-forward and IP traps on two kinds of chip\n\n"
+                                         "Switch, slice Linecard3\n"
+                                         "  FAP 0  Fap3/0  BCM88690_B0, major 5, SDK 7, 2 cores  served\n"
+                                         "  FAP 1  Fap3/1  BCM88850_A0, major 8, SDK 7, 2 cores  served\n" ) )
+      << l3sm.output;
+   EXPECT_NE( l3sm.output.find( "  ArmOrderedSwTable (Dace.json) off\n" ), std::string::npos );
+   EXPECT_NE( l3sm.output.find( "Event 1: set routing/hardware/config urpfLooseFailForward = true\n"
+                                "  FAP 0: 1 read, 1 write, 1 of them with a change, 0 controls\n"
+                                "    L3Sm::handleUrpfFailFwdConfig  routing/hardware/config urpfLooseFailForward\n"
+                                "      IppdFerTrapCfg  array 3  L3SmUrpf.cpp:" ),
+              std::string::npos );
+   EXPECT_NE( l3sm.output.find( "        cpuStrengthN  0x5 -> 0x0\n"
+                                "        snoopStrengthN  0x0 -> 0x5\n"
+                                "        unchanged: cpuSnoopCodeN 0x123\n" ),
+              std::string::npos );
+}
+
+TEST( Run, saysByWhichRuleAFapIsNotServed ) {
+   Command const l3sm( "run s.json --toggle Dace.json:ArmOrderedSwTable=on", { { "s.json", scenarioWith( "" ) } } );
+   EXPECT_EQ( l3sm.status, 0 );
+   EXPECT_NE( l3sm.output.find( "NOT SERVED: no chip-init programming on a FAP of type 3 while ArmOrderedSwTable "
+                                "(Dace.json) and J2DaceL3Ni (DaceToggles.json) are both on\n" ),
+              std::string::npos )
+      << l3sm.output;
+}
+
+TEST( Run, saysWhichToggleNothingHasRead ) {
+   Command const l3sm( "run --toggle Dace.json:NoSuchToggle=off" );
+   EXPECT_EQ( l3sm.status, 0 );
+   EXPECT_NE( l3sm.output.find( "  NoSuchToggle (Dace.json) off, but nothing has read it\n" ), std::string::npos );
+}
+
+TEST( Run, quietPrintsNothing ) {
+   Command const l3sm( "run --quiet" );
+   EXPECT_EQ( l3sm.status, 0 );
+   EXPECT_EQ( l3sm.output + l3sm.errors, "" );
+}
+
+TEST( Run, writesTheChipsByTableVariantArrayAndEntryWithDecodedFields ) {
+   Command const l3sm( "run --quiet --chips chips.json" );
+   auto const chips = Cli::parseJson( l3sm.file( "chips.json" ), "chips" );
+   EXPECT_EQ( at( chips, { "faps", "0", "chipType" } ), Value( "BCM88690_B0" ) );
+   EXPECT_EQ( at( chips, { "faps", "1", "chipType" } ), Value( "BCM88850_A0" ) );
+   // cpuSnoopCodeN 0x123 from the scenario, cpuStrengthN 5, snoopStrengthN 0.
+   EXPECT_EQ( at( chips, { "faps", "0", "tables", "IppdFerTrapCfg", "0", "3", "0" } ),
+              ( Value::Object{ { "words", Value::List{ "0x00000b23" } },
+                               { "fields",
+                                 Value::Object{ { "cpuSnoopCodeN", "0x123" },
+                                                { "cpuStrengthN", "0x5" },
+                                                { "snoopStrengthN", "0x0" } } } } ) );
+   auto const & controls = at( chips, { "faps", "0", "controls" } );
+   EXPECT_TRUE( controls.object() );
+}
+
+TEST( Run, readsBackTheChipsThatItWrote ) {
+   Command const l3sm( "run --quiet --chips chips.json" );
+   auto const chips = Cli::readChips( ( l3sm.folder / "chips.json" ).string() );
+   std::ostringstream again;
+   Cli::writeChips( again, chips );
+   EXPECT_EQ( again.str(), l3sm.file( "chips.json" ) );
+}
+
+TEST( Run, putsContentsOfTheScenarioOnTopOfTheBootImageInOneOrAllCopies ) {
+   Command const l3sm( "run s.json --quiet --chips chips.json", { { "s.json", scenarioWith( R"(, "chips": {"0": {
+      "IppbTtl0ActionProfile": {"0": {"0": {"0": {"instances": {"0": ["0x1", "0x2"], "1": ["0x3", "0x4"]}}}}},
+      "IppdFerTrapCfg": {"0": {"5": {"0": {"words": ["0x00000abc"], "fields": {"cpuSnoopCodeN": "0xbc"}}}}}}},
+    "state": {"shared/agentGlobalState": {"sliceName": "Linecard3"}})" ) } } );
+   if ( l3sm.status == 2 ) {
+      // The table has one copy: the other form is refused with its place.
+      EXPECT_NE( l3sm.errors.find( "/chips/0/IppbTtl0ActionProfile/0/0/0/instances" ), std::string::npos )
+         << l3sm.errors;
+      return;
+   }
+   auto const chips = Cli::parseJson( l3sm.file( "chips.json" ), "chips" );
+   EXPECT_EQ( at( chips, { "faps", "0", "tables", "IppdFerTrapCfg", "0", "5", "0", "words" } ),
+              ( Value::List{ "0x00000abc" } ) );
+}
+
+TEST( Run, journalsEveryOperationWithItsOriginAndCause ) {
+   Command const l3sm( "run --quiet --journal journal.jsonl" );
+   auto const rows = rowsOf( l3sm.file( "journal.jsonl" ) );
+   ASSERT_GT( rows.size(), 50u );
+   for ( std::size_t index = 0; index < rows.size(); ++index ) {
+      EXPECT_EQ( rows[index].object()->at( "seq" ), Value( index + 1 ) );
+   }
+   EXPECT_EQ( text( rows.front(), "cause" ), "chip-init" );
+   EXPECT_EQ( text( rows.front(), "op" ), "read" );
+   EXPECT_EQ( text( rows.front(), "scope" ), "any" );
+   EXPECT_FALSE( rows.front().object()->contains( "changed" ) );
+
+   // The last event switches loose mode back: a read and a write on each FAP, of a register without entries.
+   auto const & last = rows.back();
+   EXPECT_EQ( last.object()->at( "event" ), Value( 3 ) );
+   EXPECT_EQ( text( last, "op" ), "write" );
+   EXPECT_EQ( last.object()->at( "fap" ), Value( 1 ) );
+   EXPECT_EQ( text( last, "table" ), "IppdFerTrapCfg" );
+   EXPECT_EQ( last.object()->at( "variant" ), Value( 0 ) );
+   EXPECT_EQ( last.object()->at( "array" ), Value( 3 ) );
+   EXPECT_TRUE( last.object()->at( "entry" ).isNull() );
+   EXPECT_EQ( text( last, "scope" ), "all" );
+   EXPECT_EQ( last.object()->at( "changed" ), Value( true ) );
+   EXPECT_EQ( text( last, "function" ), "L3Sm::handleUrpfFailFwdConfig" );
+   EXPECT_TRUE( text( last, "source" ).starts_with( "L3SmUrpf.cpp:" ) );
+   EXPECT_EQ( text( last, "cause" ), "routing/hardware/config urpfLooseFailForward" );
+}
+
+TEST( Run, completesTheJournalAlsoWhenThePluginFails ) {
+   Command const l3sm( "run s.json --journal journal.jsonl --chips chips.json",
+                       { { "s.json", scenarioWith( R"(, "state": {"shared/sliceSmStateData": {"smMode": 0}})" ) } } );
+   EXPECT_EQ( l3sm.status, 128 + SIGABRT );
+   EXPECT_NE( l3sm.errors.find( "Assertion `sliceSmState()->smMode() != Hardware::Dace::smModeNull()' failed.\n" ),
+              std::string::npos )
+      << l3sm.errors;
+   auto const rows = rowsOf( l3sm.file( "journal.jsonl" ) );
+   ASSERT_FALSE( rows.empty() );
+   EXPECT_EQ( text( rows.back(), "cause" ), "chip-init" );
+   EXPECT_FALSE( l3sm.wrote( "chips.json" ) );
+}
+
+TEST( Run, writesTheStateAtTheEnd ) {
+   Command const l3sm( "run s.json --quiet --state state.json",
+                       { { "s.json", scenarioWith( R"(, "state": {"vxlan/ecnConfig": null},
+        "events": [{"set": {"path": "evpn/status", "attribute": "mplsEnabled", "value": true}}])" ) } } );
+   auto const state = Cli::parseJson( l3sm.file( "state.json" ), "state" );
+   EXPECT_EQ( at( state, { "evpn/status" } ),
+              ( Value::Object{ { "vxlanEnabled", false }, { "mplsEnabled", true }, { "evpnDciEnabled", false } } ) );
+   EXPECT_TRUE( at( state, { "vxlan/ecnConfig" } ).isNull() );
+   EXPECT_EQ( at( state, { "hardware/dace/fap/status", "Linecard3", "fapStatus", "0", "ports" } ),
+              ( Value::Object{ { "1", 10 } } ) );
+}
+
+TEST( Run, writesTheTracesThatWereAskedFor ) {
+   Command const l3sm( "run --quiet --trace L3SmMounterDaceFapNi/8 --trace-out trace.txt" );
+   EXPECT_EQ( l3sm.status, 0 );
+   EXPECT_EQ( l3sm.errors, "" );
+   auto const trace = l3sm.file( "trace.txt" );
+   EXPECT_TRUE( trace.starts_with( "L3SmMounterDaceFapNi/8 L3SmMounter::createPluginStatePhase2\n" ) ) << trace;
+   EXPECT_NE( trace.find( "L3SmMounterDaceFapNi/8 Mounting evpn/status\n" ), std::string::npos );
+   EXPECT_NE( trace.find( "L3SmMounterDaceFapNi/0 L3SmMounter::doMountsComplete done\n" ), std::string::npos );
+}
+
+TEST( Run, tracesToStandardErrorByDefault ) {
+   Command const l3sm( "run --quiet --trace '*/0'" );
+   EXPECT_NE( l3sm.errors.find( "L3SmMounterDaceFapNi/0 L3SmMounter::doMounts done\n" ), std::string::npos );
+   EXPECT_EQ( l3sm.errors.find( "/8 " ), std::string::npos );
+}
+
+TEST( Run, isTheSameAtEveryTime ) {
+   char const * const everything = "run --chips c --journal j --state s --trace '*/9' --trace-out t";
+   Command const first( everything );
+   Command const second( everything );
+   EXPECT_EQ( first.output, second.output );
+   for ( char const * file : { "c", "j", "s", "t" } ) {
+      EXPECT_FALSE( first.file( file ).empty() ) << file;
+      EXPECT_EQ( first.file( file ), second.file( file ) ) << file;
+   }
+}
+
+TEST( Run, playsEveryExampleOfTheTree ) {
+   for ( auto const & entry : std::filesystem::directory_iterator( L3SM_SOURCE_DIR "/examples" ) ) {
+      Command const l3sm( "run --quiet '" + entry.path().string() + "'" );
+      EXPECT_EQ( l3sm.status, 0 ) << entry.path() << l3sm.errors;
+   }
+}
+
+TEST( Constants, areThereForEveryChipAndEveryRevision ) {
+   Command const l3sm( "constants --json" );
+   EXPECT_EQ( l3sm.status, 0 );
+   auto const constants = Cli::parseJson( l3sm.output, "constants" );
+   for ( std::string const chip :
+         { "BCM88690_B0", "BCM88800_A0", "BCM88850_A0", "BCM88859_A2", "BCM88480_A0", "BCM88480_B0" } ) {
+      for ( std::string const stage : { "ctx_fwd1", "ctx_fwd2", "ctx_encap_1", "ctx_encap_2" } ) {
+         for ( auto const & [number, context] : *at( constants, { chip, stage } ).object() ) {
+            EXPECT_EQ( *at( context, { "exists" } ).boolean(), *at( context, { "value" } ).integer() != 0 ) << number;
+         }
+      }
+      EXPECT_EQ( at( constants, { chip, "flpacsActionEntry" } ).object()->size(), 128u );
+      EXPECT_EQ( at( constants, { chip, "vtecsActionEntry" } ).object()->size(), 128u );
+      for ( std::string const stage : { "Enc1", "Enc2", "Enc3", "Enc4", "Enc5", "Trap" } ) {
+         EXPECT_TRUE( at( constants, { chip, "egressPortProfiles", stage } ).object()->contains( "1" ) );
+      }
+      EXPECT_TRUE( at( constants, { "boot", chip, "IppdFerTrapCfg", "0", "3", "0", "words" } ).list() );
+   }
+   EXPECT_TRUE( at( constants, { "numOutRif" } ).object()->contains( "8" ) );
+   EXPECT_TRUE( at( constants, { "wellKnownLifOffsetToHwIndex" } ).object()->contains( "1" ) );
+   EXPECT_EQ( at( constants, { "encodedDestId" } ).list()->size(), 3u );
+}
+
+TEST( Help, explainsTheProgramAndEachVerb ) {
+   Command const help( "--help" );
+   EXPECT_EQ( help.status, 0 );
+   EXPECT_NE( help.output.find( "run" ), std::string::npos );
+   Command const run( "run --help" );
+   EXPECT_EQ( run.status, 0 );
+   for ( std::string const option :
+         { "--chips", "--journal", "--state", "--trace", "--trace-out", "--toggle", "--plugin", "--quiet" } ) {
+      EXPECT_NE( run.output.find( option + " " ), std::string::npos ) << option;
+   }
+}
+
+} // namespace
