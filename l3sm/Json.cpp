@@ -3,7 +3,9 @@
 #include "rex/Nearest.h"
 
 #include <algorithm>
+#include <cerrno>
 #include <cstring>
+#include <filesystem>
 #include <fstream>
 #include <nlohmann/json.hpp>
 #include <sstream>
@@ -144,11 +146,11 @@ void write( std::string & out, Value const & value, int depth, int indent ) {
 
 std::string readFile( std::string const & path ) {
    std::ifstream in( path, std::ios::binary );
+   if ( !in || std::filesystem::is_directory( path ) ) {
+      throw InputError( path, std::string( "can't be read: " ) + std::strerror( in ? EISDIR : errno ) );
+   }
    std::ostringstream text;
    text << in.rdbuf();
-   if ( !in || ( text.fail() && in.peek() != std::ifstream::traits_type::eof() ) ) {
-      throw InputError( path, std::string( "can't be read: " ) + std::strerror( errno ) );
-   }
    return text.str();
 }
 

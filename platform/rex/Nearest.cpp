@@ -7,21 +7,21 @@ namespace Rex {
 
 namespace {
 
-// The number of letters to insert, to remove or to replace.
+// The number of letters to insert, to remove, to replace or to swap with their neighbour.
 std::size_t distance( std::string const & from, std::string const & to ) {
-   std::vector< std::size_t > row( to.size() + 1 );
-   std::iota( row.begin(), row.end(), 0 );
+   std::vector< std::vector< std::size_t > > rows( from.size() + 1, std::vector< std::size_t >( to.size() + 1 ) );
+   std::iota( rows[0].begin(), rows[0].end(), 0 );
    for ( std::size_t i = 1; i <= from.size(); ++i ) {
-      std::size_t diagonal = row[0];
-      row[0] = i;
+      rows[i][0] = i;
       for ( std::size_t j = 1; j <= to.size(); ++j ) {
-         std::size_t const above = row[j];
-         std::size_t const changed = diagonal + ( from[i - 1] == to[j - 1] ? 0 : 1 );
-         row[j] = std::min( { above + 1, row[j - 1] + 1, changed } );
-         diagonal = above;
+         std::size_t const changed = rows[i - 1][j - 1] + ( from[i - 1] == to[j - 1] ? 0 : 1 );
+         rows[i][j] = std::min( { rows[i - 1][j] + 1, rows[i][j - 1] + 1, changed } );
+         if ( i > 1 && j > 1 && from[i - 1] == to[j - 2] && from[i - 2] == to[j - 1] ) {
+            rows[i][j] = std::min( rows[i][j], rows[i - 2][j - 2] + 1 );
+         }
       }
    }
-   return row.back();
+   return rows.back().back();
 }
 
 } // namespace

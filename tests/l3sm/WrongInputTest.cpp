@@ -25,10 +25,9 @@ TEST( WrongInput, brokenJsonIsToldWithItsLine ) {
    expectRefused( "{\n \"name\": \"x\",\n \"switch\": {,}\n}\n",
                   "s.json:3: syntax error while parsing object key - unexpected ','; expected string literal" );
    expectRefused( "{\"name\": \"x\"\n",
-                  "s.json:2: syntax error while parsing object - unexpected end of input; expected '}'" );
-   expectRefused( "",
-                  "s.json:1: attempting to parse an empty input; check that your input string or stream contains the "
-                  "expected JSON" );
+                  "s.json:1: syntax error while parsing object - unexpected end of input; expected '}'" );
+   expectRefused(
+      "", "s.json:1: syntax error while parsing value - unexpected end of input; expected '[', '{', or a literal" );
 }
 
 TEST( WrongInput, aKeyGivenTwiceIsAnError ) {
