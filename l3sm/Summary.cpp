@@ -61,6 +61,7 @@ class Summary {
       out_ << ( scenario_.name.empty() ? scenario_.file : scenario_.name ) << "\n\n";
       writeSwitch();
       writeToggles();
+      writeInterfaces();
       for ( U32 event = 0; event <= scenario_.events.size(); ++event ) {
          writeEvent( event );
       }
@@ -138,6 +139,26 @@ class Summary {
       return std::any_of( readings.begin(), readings.end(), [&]( Toggle::Reading const & reading ) {
          return reading.file == file && reading.name == name;
       } );
+   }
+
+   // Those that the plug-in has published, at the end of the run.
+   void writeInterfaces() {
+      auto const state = sw_.state().value();
+      auto const managed = state.object()->find( "managed/intfStatusDir" );
+      if ( managed == state.object()->end() ) {
+         return;
+      }
+      auto const & served = *managed->second.object()->at( "intfStatus" ).object();
+      if ( served.empty() ) {
+         return;
+      }
+      out_ << "Interfaces served at the end\n";
+      std::vector< std::string > names;
+      for ( auto const & [name, status] : served ) {
+         names.push_back( name );
+      }
+      writeWrapped( out_, "  ", names );
+      out_ << '\n';
    }
 
    void writeEvent( U32 event ) {

@@ -1,5 +1,6 @@
 #include "simulator/StateTree.h"
 
+#include "interface/ManagedIntfStatusDir.h"
 #include "rex/Nearest.h"
 #include "state/Routing.h"
 
@@ -330,6 +331,13 @@ Rex::Value StateTree::value() const {
          auto const entity = rootEntity( root );
          all.emplace( root.path(), entity ? entity->value() : Rex::Value() );
       }
+   }
+   // What the agent publishes itself.
+   if ( auto const * dir = Interface::ManagedIntfStatusDir::newest() ) {
+      all.emplace( "managed/intfStatusDir", dir->value() );
+   }
+   if ( auto const * dir = Interface::ManagedIntfStatusLocalDir::newest() ) {
+      all.emplace( "managed/intfStatusLocalDir", dir->value() );
    }
    return all;
 }

@@ -75,7 +75,8 @@ class StateTree {
    // The path of an entity; empty if it isn't in the tree.
    std::string pathOf( Rex::Entity const & entity ) const;
 
-   // Path to attributes, null for a path that was left out.
+   // Path to attributes, null for a path that was left out; and the managed interface directories that a plug-in
+   // publishes, below "managed/".
    Rex::Value value() const;
 
  private:
