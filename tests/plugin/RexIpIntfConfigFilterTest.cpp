@@ -509,6 +509,22 @@ TEST_F( RexIpIntfConfigFilterTest, FilterThatWakesFromZombieAlsoTakesItsInterfac
    EXPECT_FALSE( world.serves( eth1 ) );
 }
 
+TEST_F( RexIpIntfConfigFilterTest, DroppedFilterSilencesWhatOutlivesIt ) {
+   world.start();
+   auto dropped = Corvo::makePtr< InterfaceWorld::Filter >( config(), world.sm.get() );
+   auto const reactor = dropped->intfConfig();
+   auto const walkReactor = dropped->syncMtuSubIntfSm();
+   auto const mtuSm = dropped->l3MtuSm();
+   dropped = nullptr;
+   EXPECT_TRUE( reactor->isZombie() );
+   EXPECT_TRUE( walkReactor->isZombie() );
+   EXPECT_FALSE( mtuSm->hasNotificationActive() );
+   EXPECT_FALSE( config()->publisher()->hasSubscribers() );
+   reactor->rexDoZombieReactors( false ); // even awake, it has nobody to call
+   config()->addrIs( configured );
+   EXPECT_EQ( status()->addr(), burnedIn );
+}
+
 TEST_F( RexIpIntfConfigFilterTest, NewFilterIsActiveThroughout ) {
    serve();
    EXPECT_TRUE( filter()->hasNotificationActive() );
