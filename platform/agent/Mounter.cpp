@@ -53,6 +53,7 @@ void MounterRunnabilitySm::hasNotificationActiveIs( bool active ) {
    if ( hasNotificationActive() != active ) {
       nodeFlagSet( Corvo::NodeFlag::notificationsActive, active );
       sliceSmState_.activeIs( active, sliceSmStateDispatch, this );
+      handleSliceState();
    }
 }
 

@@ -22,8 +22,9 @@ Corvo::Ptr< ChipInitConfig > ChipInitConfigDir::addChipInitConfig( Corvo::String
 
 void ChipInitConfigDir::initChip( Corvo::Ptr< Hardware::Dace::Cell::FapStatus const > const & fapStatus ) const {
    for ( auto const & [name, entry] : chipInitConfig() ) {
-      if ( entry->ready() && entry->callback() ) {
-         entry->callback()( fapStatus, nullptr, nullptr );
+      auto const callback = entry->callback(); // a copy: it may be replaced while it runs
+      if ( entry->ready() && callback ) {
+         callback( fapStatus, nullptr, nullptr );
       }
    }
 }

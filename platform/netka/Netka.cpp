@@ -1,6 +1,7 @@
 #include "netka/EthAddr.h"
 #include "netka/IntfId.h"
 
+#include <charconv>
 #include <cstdio>
 #include <deque>
 #include <unordered_map>
@@ -15,8 +16,8 @@ struct IntfNames {
 };
 
 IntfNames & intfNames() {
-   static IntfNames names;
-   return names;
+   static auto * names = new IntfNames; // ids are still told by name while static objects go
+   return *names;
 }
 
 } // namespace
@@ -35,15 +36,14 @@ std::string const & IntfId::stringValue() const {
 }
 
 EthAddr::EthAddr( std::string const & text ) {
-   std::array< unsigned, 6 > part{};
-   int used = 0;
-   int const parts = std::sscanf(
-      text.c_str(), "%2x:%2x:%2x:%2x:%2x:%2x%n", &part[0], &part[1], &part[2], &part[3], &part[4], &part[5], &used );
-   if ( parts != 6 || static_cast< std::size_t >( used ) != text.size() || text.size() != 17 ) {
-      throw Rex::ValueError( "", "expected an address such as \"02:00:00:00:00:01\", got \"" + text + "\"" );
+   bool isAddress = text.size() == 3 * bytes_.size() - 1;
+   for ( std::size_t i = 0; i < bytes_.size() && isAddress; ++i ) {
+      char const * const digits = text.data() + 3 * i;
+      auto const [end, error] = std::from_chars( digits, digits + 2, bytes_[i], 16 );
+      isAddress = error == std::errc{} && end == digits + 2 && ( i + 1 == bytes_.size() || *end == ':' );
    }
-   for ( std::size_t i = 0; i < part.size(); ++i ) {
-      bytes_[i] = static_cast< U8 >( part[i] );
+   if ( !isAddress ) {
+      throw Rex::ValueError( "", "expected an address such as \"02:00:00:00:00:01\", got \"" + text + "\"" );
    }
 }
 

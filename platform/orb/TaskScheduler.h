@@ -1,7 +1,5 @@
 // The agent's scheduler: runs tasks in the order in which they were posted, one at a time and to completion.
 //
-// Time is an input: the clock stands still until it is moved. Nothing in the system sleeps.
-//
 // Threading: one thread posts and runs.
 #pragma once
 
@@ -14,20 +12,23 @@ namespace Orb {
 
 class TaskScheduler : public Corvo::Node {
  public:
+   ~TaskScheduler() override { clear(); }
+
    using Task = std::function< void() >;
 
    // Appends a task. It may post further ones.
    void post( Task task ) { tasks_.push_back( std::move( task ) ); }
-   // Runs the oldest task. Returns false if there was none.
+   // Runs the oldest task. Returns false if there was none. From within a task: assertion text "isIdle".
    bool runOne();
    // Runs until nothing is left to do; returns the number of tasks that were run.
    U32 runUntilIdle();
-   // Drops what is left to do: the agent goes down.
-   void clear() { std::deque< Task >().swap( tasks_ ); }
+   // Drops what is left to do, and what is posted by what goes with it: the agent goes down.
+   void clear();
    std::size_t pending() const { return tasks_.size(); }
 
  private:
    std::deque< Task > tasks_;
+   bool isIdle_ = true;
 };
 
 } // namespace Orb

@@ -4,6 +4,7 @@
 #include <cstdlib>
 #include <exception>
 #include <iostream>
+#include <iterator>
 #include <map>
 
 namespace Rex {
@@ -13,7 +14,6 @@ namespace {
 struct FailureHooks {
    std::map< int, std::function< void() > > hooks;
    int next = 1;
-   bool running = false;
    std::terminate_handler previousTerminate = nullptr;
 };
 
@@ -22,14 +22,12 @@ FailureHooks & failureHooks() {
    return *hooks;
 }
 
+// Each is taken out before it runs: where one fails in turn, the others still have theirs.
 void runFailureHooks() {
-   auto & state = failureHooks();
-   if ( state.running ) {
-      return;
-   }
-   state.running = true;
-   for ( auto hook = state.hooks.rbegin(); hook != state.hooks.rend(); ++hook ) {
-      hook->second();
+   auto & hooks = failureHooks().hooks;
+   while ( !hooks.empty() ) {
+      auto const hook = hooks.extract( std::prev( hooks.end() ) );
+      hook.mapped()();
    }
 }
 

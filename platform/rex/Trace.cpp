@@ -4,6 +4,8 @@
 #include <cstdio>
 #include <deque>
 #include <map>
+#include <memory>
+#include <set>
 
 namespace Rex {
 
@@ -11,8 +13,9 @@ namespace {
 
 struct TraceState {
    std::vector< TraceFacility * > facilities;
-   std::map< std::string, int > asked; // facility, or "*", to the highest level
-   TraceSink sink;
+   std::set< std::string > names; // of all facilities there ever were: records outlive the library of their facility
+   std::map< std::string, int > asked;      // facility, or "*", to the highest level
+   std::shared_ptr< TraceSink const > sink; // null: the default. Shared: it may be replaced while it runs
    std::deque< TraceRecord > ring;
 };
 
@@ -35,7 +38,7 @@ int highestAskedFor( std::string const & facility ) {
 
 } // namespace
 
-TraceFacility::TraceFacility( char const * name ) : name_( name ) {
+TraceFacility::TraceFacility( char const * name ) : name_( traceState().names.emplace( name ).first->c_str() ) {
    traceState().facilities.push_back( this );
    highestLevelIs( highestAskedFor( name ) );
 }
@@ -51,10 +54,10 @@ void TraceFacility::highestLevelIs( int highest ) {
 }
 
 void TraceFacility::emit( int level, std::string text ) const {
-   auto const & sink = traceState().sink;
+   auto const sink = traceState().sink;
    TraceRecord const record{ name_, level, std::move( text ) };
    if ( sink ) {
-      sink( record );
+      ( *sink )( record );
    } else {
       std::fprintf( stderr, "%s/%d %s\n", record.facility, record.level, record.text.c_str() );
    }
@@ -78,7 +81,7 @@ void RingTrace::clear() {
 }
 
 void traceSinkIs( TraceSink sink ) {
-   traceState().sink = std::move( sink );
+   traceState().sink = sink ? std::make_shared< TraceSink const >( std::move( sink ) ) : nullptr;
 }
 
 void traceLevelIs( std::string const & facility, int highest ) {

@@ -56,7 +56,7 @@ class TraceFacility {
  public:
    static constexpr int levelCount = 10;
 
-   // Registers the facility under `name` (a literal) and switches on the levels that were asked for before.
+   // Registers the facility under `name` and switches on the levels that were asked for before.
    explicit TraceFacility( char const * name );
    ~TraceFacility();
    TraceFacility( TraceFacility const & ) = delete;

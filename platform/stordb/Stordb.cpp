@@ -125,8 +125,10 @@ MountStatus::Code EntityManager::mount( Mount const & mount ) {
       return MountStatus::Code::wrongType;
    }
    if ( auto const entity = database_->entity( mount.path() ) ) {
+      // A second mount of a path takes nothing away from the first.
+      bool const wasWritable = getEntity( mount.path() ) == entity && !entity->isWriteProtected();
       mounted_[mount.path()] = entity;
-      entity->writeProtectedIs( ( mount.flags().val() & AllMountFlags::write ) == 0 );
+      entity->writeProtectedIs( !wasWritable && ( mount.flags().val() & AllMountFlags::write ) == 0 );
    }
    return MountStatus::Code::success;
 }

@@ -142,7 +142,6 @@ class EntityManager : public Corvo::Node {
  private:
    friend class MountGroup;
    MountStatus::Code mount( Mount const & mount );
-   void report( Corvo::Ptr< Mounter > const & mounter, MountStatus status );
 
    Corvo::Ptr< Database > database_;
    Corvo::Ptr< Orb::TaskScheduler > scheduler_;

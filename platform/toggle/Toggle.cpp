@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <filesystem>
 #include <fstream>
+#include <iterator>
 #include <mutex>
 #include <nlohmann/json.hpp>
 #include <stdexcept>
@@ -18,8 +19,8 @@ struct State {
 };
 
 State & state() {
-   static State theState;
-   return theState;
+   static auto * theState = new State; // toggles may still be read while static objects go
+   return *theState;
 }
 
 bool stateOf( Settings const & settings, std::string const & name, std::string const & file, bool defaultState ) {
@@ -33,11 +34,26 @@ bool stateOf( Settings const & settings, std::string const & name, std::string c
 
 std::map< std::string, bool > readFile( std::filesystem::path const & path ) {
    std::ifstream in( path );
+   std::string const text( std::istreambuf_iterator< char >( in ), {} );
+   std::map< std::string, bool > toggles;
    try {
-      return nlohmann::json::parse( in ).get< std::map< std::string, bool > >();
-   } catch ( nlohmann::json::exception const & error ) {
-      throw std::runtime_error( path.string() + ": expected an object of toggle names and booleans: " + error.what() );
+      auto const object = nlohmann::json::parse( text );
+      if ( !object.is_object() ) {
+         throw std::runtime_error( path.string() + ":1: expected an object of toggle names and booleans" );
+      }
+      for ( auto const & [name, value] : object.items() ) {
+         if ( !value.is_boolean() ) {
+            throw std::runtime_error( path.string() + ": expected true or false for " + name + ", got " +
+                                      value.dump() );
+         }
+         toggles[name] = value.get< bool >();
+      }
+   } catch ( nlohmann::json::parse_error const & error ) {
+      auto const end = text.begin() + static_cast< std::ptrdiff_t >( std::min( error.byte, text.size() ) );
+      auto const line = 1 + std::count( text.begin(), end, '\n' );
+      throw std::runtime_error( path.string() + ":" + std::to_string( line ) + ": this is not JSON" );
    }
+   return toggles;
 }
 
 } // namespace
@@ -46,8 +62,7 @@ void settingsIs( Settings const & settings ) {
    auto & the = state();
    std::lock_guard const lock( the.mutex );
    for ( auto const & reading : the.readings ) {
-      // The default that the reader gave is not known any more; what it got is, and that is what must stay true.
-      if ( stateOf( settings, reading.name, reading.file, reading.state ) != reading.state ) {
+      if ( stateOf( settings, reading.name, reading.file, reading.defaultState ) != reading.state ) {
          throw std::logic_error( "toggle " + reading.name + " of " + reading.file +
                                  " was read already in this process and can't change any more" );
       }
@@ -85,7 +100,7 @@ bool getToggleState( char const * name, char const * file, bool defaultState ) {
       return reading.name == name && reading.file == file;
    } );
    if ( !known ) {
-      the.readings.push_back( { name, file, result } );
+      the.readings.push_back( { name, file, result, defaultState } );
    }
    return result;
 }

@@ -23,7 +23,8 @@ using Settings = std::map< std::string, std::map< std::string, bool > >;
 void settingsIs( Settings const & settings );
 Settings const & settings();
 
-// Reads the toggle files of a folder (every *.json in it). Throws std::runtime_error with file, line and what is wrong.
+// Reads the toggle files of a folder (every *.json in it). Throws std::runtime_error with "FILE:LINE: ", or "FILE: "
+// and the toggle where there is no line, and what is wrong.
 Settings readFolder( std::string const & folder );
 
 // A toggle that was read in this process, in the order of the first reading.
@@ -31,6 +32,7 @@ struct Reading {
    std::string name;
    std::string file;
    bool state;
+   bool defaultState;
 };
 std::vector< Reading > const & readings();
 
