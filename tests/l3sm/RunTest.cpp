@@ -98,20 +98,45 @@ TEST( Run, readsBackTheChipsThatItWrote ) {
    EXPECT_EQ( again.str(), l3sm.file( "chips.json" ) );
 }
 
-TEST( Run, putsContentsOfTheScenarioOnTopOfTheBootImageInOneOrAllCopies ) {
-   Command const l3sm( "run s.json --quiet --chips chips.json", { { "s.json", scenarioWith( R"(, "chips": {"0": {
-      "IppbTtl0ActionProfile": {"0": {"0": {"0": {"instances": {"0": ["0x1", "0x2"], "1": ["0x3", "0x4"]}}}}},
-      "IppdFerTrapCfg": {"0": {"5": {"0": {"words": ["0x00000abc"], "fields": {"cpuSnoopCodeN": "0xbc"}}}}}}},
-    "state": {"shared/agentGlobalState": {"sliceName": "Linecard3"}})" ) } } );
-   if ( l3sm.status == 2 ) {
-      // The table has one copy: the other form is refused with its place.
-      EXPECT_NE( l3sm.errors.find( "/chips/0/IppbTtl0ActionProfile/0/0/0/instances" ), std::string::npos )
-         << l3sm.errors;
-      return;
-   }
+TEST( Run, putsContentsOfTheScenarioOnTopOfTheBootImageInAllCopiesOrInEach ) {
+   // The table has two physical copies on this chip, and the plug-in leaves the array's elements 5 and 6 alone.
+   std::string const scenario = scenarioWith( R"(, "chips": {"0": {"IppdFerTrapCfg": {"0": {
+      "5": {"0": {"words": ["0x00000abc"], "fields": {"cpuSnoopCodeN": "0xbc"}}},
+      "6": {"0": {"instances": {"0": ["0x00000001"], "1": ["0x00000002"]}}}}}}})" );
+   Command const l3sm( "run s.json --quiet --chips chips.json", { { "s.json", scenario } } );
+   EXPECT_EQ( l3sm.errors, "" );
    auto const chips = Cli::parseJson( l3sm.file( "chips.json" ), "chips" );
-   EXPECT_EQ( at( chips, { "faps", "0", "tables", "IppdFerTrapCfg", "0", "5", "0", "words" } ),
-              ( Value::List{ "0x00000abc" } ) );
+   auto const & table = at( chips, { "faps", "0", "tables", "IppdFerTrapCfg", "0" } );
+   EXPECT_EQ( at( table, { "5", "0", "words" } ), ( Value::List{ "0x00000abc" } ) );
+   EXPECT_EQ( at( table, { "6", "0" } ),
+              ( Value::Object{
+                 { "instances",
+                   Value::Object{ { "0", Value::List{ "0x00000001" } }, { "1", Value::List{ "0x00000002" } } } } } ) );
+   EXPECT_EQ( Cli::readChips( ( l3sm.folder / "chips.json" ).string() )
+                 .at( 0 )
+                 .contents.tables.at( "IppdFerTrapCfg" )
+                 .at( 0 )
+                 .at( 6 )
+                 .at( 0 )
+                 .copies,
+              ( std::vector< Simulator::Words >{ { 1 }, { 2 } } ) );
+}
+
+TEST( Run, tellsWhichInterfacesAreServed ) {
+   std::string scenario = scenarioWith( R"(, "state": {
+      "shared/phySmStateData": {"allEthPhyIntfConfigDir": {"intfConfig": {"Ethernet1": {}, "Ethernet2": {}}}},
+      "shared/phySmStateSharedStatus": {"allEthPhyIntfStatusDir": {"intfStatus": {"Ethernet1": {}, "Ethernet2": {}}}},
+      "interface/status/eth/phy/local": {"intfStatusLocal": {"Ethernet1": {}, "Ethernet2": {}}},
+      "shared/portStateInfo": {"portState": {"1": {"intfId": "Ethernet1", "active": true},
+                                             "2": {"intfId": "Ethernet2", "active": false}}}})" );
+   Command const l3sm( "run s.json --state state.json --toggle VeloroSAI.json:VeloroSAIMode=off",
+                       { { "s.json", scenario } } );
+   EXPECT_EQ( l3sm.errors, "" );
+   EXPECT_NE( l3sm.output.find( "Interfaces served at the end\n  Ethernet1\n" ), std::string::npos ) << l3sm.output;
+   auto const state = Cli::parseJson( l3sm.file( "state.json" ), "state" );
+   EXPECT_TRUE( at( state, { "managed/intfStatusDir", "intfStatus" } ).object()->contains( "Ethernet1" ) );
+   EXPECT_FALSE( at( state, { "managed/intfStatusDir", "intfStatus" } ).object()->contains( "Ethernet2" ) );
+   EXPECT_TRUE( at( state, { "managed/intfStatusLocalDir", "intfStatusLocal" } ).object()->contains( "Ethernet1" ) );
 }
 
 TEST( Run, journalsEveryOperationWithItsOriginAndCause ) {
