@@ -1,6 +1,7 @@
 #include "L3Sm.h"
 
 #include "FapGate.h"
+#include "Toggles.h"
 #include "rex/Trace.h"
 
 namespace DaceFapNi {
@@ -69,9 +70,11 @@ void L3Sm::hasNotificationActiveIs( bool active ) {
 }
 
 void L3Sm::childrenActiveIs( bool active ) {
+   ethIntfVrfSmHelper_.activeIs( active );
    vtiStatusDirSm_.activeIs( active );
    vxlanSplitHorizonCfgSm_.activeIs( active );
    vxlanQosSm_.activeIs( active );
+   l3IntfSm_.activeIs( active );
    nexthopGroupSm_.activeIs( active );
 }
 
@@ -89,11 +92,33 @@ void L3Sm::handleInitialized() {
       return;
    }
    initialized_ = true; // from here on the run is not repeated, also if it returns early
+   buildInterfaceMachine();
    if ( chipTypeToFapType( in_.sliceSmState->revision().chipType() ) == fapTypeJericho3 ) {
       return;
    }
    buildChildren();
    programInitialState();
+}
+
+// Without a helper the interfaces are served all the same, and the managed directories stay empty.
+void L3Sm::buildInterfaceMachine() {
+   if ( !toggleVeloroSAIModeEnabled() ) {
+      ethIntfVrfSmHelperIs( in_.entityManager )->routerMacsPerIntfIs( in_.routerMacHwCapability->routerMacsPerIntf() );
+   }
+   l3IntfSmIs( { .bridgingConfig = in_.bridgingConfig,
+                 .bridgingHwCapabilities = in_.hwCapabilities,
+                 .ethConfigDir = in_.phySmState->allEthPhyIntfConfigDir(),
+                 .ethStatusDir = in_.phySmStateSharedStatus->allEthPhyIntfStatusDir(),
+                 .ethPhyIntfStatusLocalDir = in_.ethPhyIntfStatusLocalDir,
+                 .scheduler = in_.scheduler,
+                 .globalIntfConfig = in_.globalIntfConfig,
+                 .ethIntfVrfSmHelper = ethIntfVrfSmHelper_.get(),
+                 .sliceSmState = in_.sliceSmState,
+                 .portStateInfo = in_.portStateInfo,
+                 .routerMacHwCapability = in_.routerMacHwCapability,
+                 .intfHwCapability = in_.intfHwCapability,
+                 .subIntfStatusDir = in_.subIntfStatusDir,
+                 .subIntfStatusLocalDir = in_.subIntfStatusLocalDir } );
 }
 
 // In the order of their attributes; each reads its inputs' present state as it is built.

@@ -13,6 +13,7 @@
 
 #include "Child.h"
 #include "GueNexthopGroupSm.h"
+#include "L3IntfSm.h"
 #include "L3SmArguments.h"
 #include "VtiStatusDirSm.h"
 #include "VxlanQosSm.h"
@@ -136,10 +137,16 @@ class L3Sm : public Corvo::Node {
 
    // The child state machines, null until they are built; Child.h tells what setters and removers do, the child's
    // constructor what its arguments are.
+   Corvo::Ptr< EthIntf::EthIntfVrfSmHelper > const & ethIntfVrfSmHelper() const { return ethIntfVrfSmHelper_.get(); }
+   Corvo::Ptr< L3IntfSm > const & l3IntfSm() const { return l3IntfSm_.get(); }
    Corvo::Ptr< DaceL3UnicastVtiStatusDirSm > const & vtiStatusDirSm() const { return vtiStatusDirSm_.get(); }
    Corvo::Ptr< VxlanSplitHorizonCfgSm > const & vxlanSplitHorizonCfgSm() const { return vxlanSplitHorizonCfgSm_.get(); }
    Corvo::Ptr< VxlanQosSm > const & vxlanQosSm() const { return vxlanQosSm_.get(); }
    Corvo::Ptr< GueNexthopGroupSm > const & nexthopGroupSm() const { return nexthopGroupSm_.get(); }
+   auto ethIntfVrfSmHelperIs( Corvo::Ptr< Stordb::EntityManager > const & entityManager ) {
+      return ethIntfVrfSmHelper_.is( EthIntf::ethIntfVrfSmHelperFactory, entityManager );
+   }
+   auto l3IntfSmIs( L3IntfSmArguments const & arguments ) { return l3IntfSm_.is( l3IntfSmFactory, arguments ); }
    auto vtiStatusDirSmIs( auto const &... args ) {
       return vtiStatusDirSm_.is( daceL3UnicastVtiStatusDirSmFactory, args... );
    }
@@ -148,6 +155,8 @@ class L3Sm : public Corvo::Node {
    }
    auto vxlanQosSmIs( auto const &... args ) { return vxlanQosSm_.is( vxlanQosSmFactory, args... ); }
    auto nexthopGroupSmIs( auto const &... args ) { return nexthopGroupSm_.is( gueNexthopGroupSmFactory, args... ); }
+   auto ethIntfVrfSmHelperDel() { return ethIntfVrfSmHelper_.del(); }
+   auto l3IntfSmDel() { return l3IntfSm_.del(); }
    auto vtiStatusDirSmDel() { return vtiStatusDirSm_.del(); }
    auto vxlanSplitHorizonCfgSmDel() { return vxlanSplitHorizonCfgSm_.del(); }
    auto vxlanQosSmDel() { return vxlanQosSm_.del(); }
@@ -166,6 +175,7 @@ class L3Sm : public Corvo::Node {
    static DispatchRow const phySmStateRows[];
    static DispatchRow const routingHwConfigRows[];
 
+   void buildInterfaceMachine();
    void buildChildren();
    void programInitialState();
    // Passes the value to the children, in the order of their attributes.
@@ -184,11 +194,13 @@ class L3Sm : public Corvo::Node {
    Corvo::Watched< DriverSetupSmStateInfo const > driverSetupSmStateInfo_;
    // The children, in the order of their attributes.
    // clang-format off
+   Child< EthIntf::EthIntfVrfSmHelper, Corvo::Ptr< Stordb::EntityManager > > ethIntfVrfSmHelper_;
    Child< DaceL3UnicastVtiStatusDirSm, Corvo::String, Corvo::Ptr< Vxlan::VtiStatusDir const >,
           Corvo::Ptr< Bridging::HwCapabilities const >, CellStatusPtr, SwitchControlSalPtr > vtiStatusDirSm_;
    Child< VxlanSplitHorizonCfgSm, Corvo::Ptr< Vxlan::VtiStatusDir const >, Corvo::Ptr< Evpn::EvpnStatus const >,
           CellStatusPtr > vxlanSplitHorizonCfgSm_;
    Child< VxlanQosSm, Corvo::Ptr< Vxlan::EcnConfig const >, CellStatusPtr > vxlanQosSm_;
+   Child< L3IntfSm, L3IntfSmArguments > l3IntfSm_;
    Child< GueNexthopGroupSm, CellStatusPtr, Corvo::Ptr< Tunnel::Decap::Config const >,
           Corvo::Ptr< L3::Tunnel::UdpDestinationPortConfig const >, SwitchControlSalPtr > nexthopGroupSm_;
    // clang-format on
