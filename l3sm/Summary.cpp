@@ -238,7 +238,7 @@ class Summary {
          if ( field.changed ) {
             out_ << "        " << field.name << "  " << field.before << " -> " << field.after << '\n';
          } else {
-            kept.push_back( std::string( field.name ) + " " + field.after );
+            kept.push_back( field.name + " " + field.after );
          }
       }
       if ( !kept.empty() ) {

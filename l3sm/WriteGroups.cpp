@@ -12,7 +12,9 @@ namespace {
 
 using Simulator::DecodedField;
 
+constexpr char const * various = "various";
 constexpr std::size_t mostValues = 3; // of one field, before they are only called various
+constexpr std::size_t longest = 40;   // text of several values
 
 // One call of one place in the source on one table.
 using Source = std::tuple< std::string_view, std::string_view, std::string_view, U8 >;
@@ -55,28 +57,57 @@ std::vector< std::string > valuesOf( std::vector< Decoded const * > const & writ
 }
 
 std::string joined( std::vector< std::string > const & values ) {
-   if ( values.size() > mostValues ) {
-      return "various";
-   }
    std::string out;
    for ( auto const & value : values ) {
       out += ( out.empty() ? "" : " " ) + value;
    }
-   return out;
+   return values.size() == 1 || ( values.size() <= mostValues && out.size() <= longest ) ? out : various;
 }
 
-WriteGroup groupOf( std::vector< Decoded const * > const & writes, std::set< std::size_t > const & changed ) {
+// Fields that are named alike but for a number that counts up, as in csProfile0, csProfile1, ...
+class NumberedRun {
+ public:
+   explicit NumberedRun( std::string const & name )
+      : stem_( name.substr( 0, name.find_last_not_of( "0123456789" ) + 1 ) ), first_( name.substr( stem_.size() ) ),
+        last_( first_.empty() ? 0 : std::stoul( first_ ) ) {}
+
+   // Whether `next` is told by `told`, the field of the run so far, from now on.
+   bool takes( GroupField const & next, GroupField & told ) {
+      bool const follows = !first_.empty() && next.name == stem_ + std::to_string( last_ + 1 );
+      if ( !follows || next.after != told.after ) {
+         return false;
+      }
+      ++last_;
+      told.name = stem_ + first_ + "-" + std::to_string( last_ );
+      if ( told.before != next.before ) {
+         told.before = various;
+      }
+      return true;
+   }
+
+ private:
+   std::string stem_;
+   std::string first_;
+   unsigned long last_;
+};
+
+WriteGroup groupOf( std::vector< Decoded const * > const & writes ) {
    WriteGroup group;
    for ( auto const * write : writes ) {
       group.writes.push_back( write->change );
    }
    auto const & first = *writes.front();
    for ( bool const wanted : { true, false } ) {
+      std::optional< NumberedRun > run;
       for ( std::size_t field = 0; field < first.after.size(); ++field ) {
-         std::vector< std::string > const after = valuesOf( writes, &Decoded::after, field );
-         if ( changed.contains( field ) == wanted && after.size() == 1 ) {
-            auto const before = valuesOf( writes, &Decoded::before, field );
-            group.fields.push_back( { first.after[field].name, wanted, joined( before ), after.front() } );
+         auto const after = valuesOf( writes, &Decoded::after, field );
+         auto const before = valuesOf( writes, &Decoded::before, field );
+         if ( after.size() == 1 && ( before != after ) == wanted ) {
+            GroupField shown{ first.after[field].name, wanted, joined( before ), after.front() };
+            if ( !run || !run->takes( shown, group.fields.back() ) ) {
+               group.fields.push_back( shown );
+               run = NumberedRun( shown.name );
+            }
          }
       }
    }
@@ -99,7 +130,7 @@ void addGroups( std::vector< WriteGroup > & groups, std::vector< Decoded > const
       group.second.push_back( &write );
    }
    for ( auto const & [values, members] : byValues ) {
-      groups.push_back( groupOf( members, changed ) );
+      groups.push_back( groupOf( members ) );
    }
 }
 

@@ -9,7 +9,7 @@ namespace Cli {
 
 // A field on which all the writes of a group agree.
 struct GroupField {
-   char const * name;
+   std::string name;   // "csProfile0-63" for neighbours that are told alike
    bool changed;       // by at least one of the writes
    std::string before; // "0x3", "0x3 0x5" where the writes found different values, "various" where those are many
    std::string after;

@@ -122,21 +122,10 @@ TEST( Run, putsContentsOfTheScenarioOnTopOfTheBootImageInAllCopiesOrInEach ) {
               ( std::vector< Simulator::Words >{ { 1 }, { 2 } } ) );
 }
 
-TEST( Run, tellsWhichInterfacesAreServed ) {
-   std::string scenario = scenarioWith( R"(, "state": {
-      "shared/phySmStateData": {"allEthPhyIntfConfigDir": {"intfConfig": {"Ethernet1": {}, "Ethernet2": {}}}},
-      "shared/phySmStateSharedStatus": {"allEthPhyIntfStatusDir": {"intfStatus": {"Ethernet1": {}, "Ethernet2": {}}}},
-      "interface/status/eth/phy/local": {"intfStatusLocal": {"Ethernet1": {}, "Ethernet2": {}}},
-      "shared/portStateInfo": {"portState": {"1": {"intfId": "Ethernet1", "active": true},
-                                             "2": {"intfId": "Ethernet2", "active": false}}}})" );
-   Command const l3sm( "run s.json --state state.json --toggle VeloroSAI.json:VeloroSAIMode=off",
-                       { { "s.json", scenario } } );
-   EXPECT_EQ( l3sm.errors, "" );
-   EXPECT_NE( l3sm.output.find( "Interfaces served at the end\n  Ethernet1\n" ), std::string::npos ) << l3sm.output;
-   auto const state = Cli::parseJson( l3sm.file( "state.json" ), "state" );
-   EXPECT_TRUE( at( state, { "managed/intfStatusDir", "intfStatus" } ).object()->contains( "Ethernet1" ) );
-   EXPECT_FALSE( at( state, { "managed/intfStatusDir", "intfStatus" } ).object()->contains( "Ethernet2" ) );
-   EXPECT_TRUE( at( state, { "managed/intfStatusLocalDir", "intfStatusLocal" } ).object()->contains( "Ethernet1" ) );
+TEST( Run, tellsAFieldThatIsRepeatedOnce ) {
+   Command const l3sm( "run" );
+   EXPECT_NE( l3sm.output.find( "        csProfile1-127  various -> 0x0\n" ), std::string::npos );
+   EXPECT_EQ( l3sm.output.find( "        csProfile2  " ), std::string::npos );
 }
 
 TEST( Run, journalsEveryOperationWithItsOriginAndCause ) {
