@@ -130,9 +130,4 @@ void L3Sm::buildChildren() {
    nexthopGroupSmIs( in_.cellStatus, in_.dgConfig, in_.udpDestPortConfig, in_.switchControlSal );
 }
 
-// Writes no table itself: it has the flood destination of unknown traffic written, with or without VTIs.
-void L3Sm::initUnknownDaProfileTable() {
-   vtiStatusDirSm()->doSetupRemoteVxlanDomain( Netka::IntfId( "" ), false );
-}
-
 } // namespace DaceFapNi

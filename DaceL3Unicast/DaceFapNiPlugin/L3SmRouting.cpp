@@ -205,4 +205,9 @@ void L3Sm::initIppbFlpbResContextEnablersReg( FapStatusPtr const & fapStatus ) {
       fap, { .entry = static_cast< int >( fwdContext ) }, []( auto & enablers ) { enablers.progTrap2EnableIs( 0 ); } );
 }
 
+// Writes no table itself: it has the flood destination of unknown traffic written, with or without VTIs.
+void L3Sm::initUnknownDaProfileTable() {
+   vtiStatusDirSm()->doSetupRemoteVxlanDomain( Netka::IntfId( "" ), false );
+}
+
 } // namespace DaceFapNi

@@ -2,7 +2,6 @@
 
 #include "Inputs.h"
 #include "Toggles.h"
-#include "rex/Notifiee.h"
 #include "rex/Trace.h"
 
 #include <initializer_list>
@@ -91,51 +90,45 @@ bool anyVtiBridges( Vxlan::VtiStatusDir const & vtiStatusDir ) {
 
 } // namespace
 
-// The reactor of one VTI.
-class VxlanSplitHorizonCfgSm::VtiStatusSm : public Rex::NotifieeConst {
- public:
-   // A new VTI programs the registers, before it is bound: binding it doesn't program them again.
-   VtiStatusSm( Corvo::Ptr< Vxlan::VtiStatus const > const & vtiStatus, VxlanSplitHorizonCfgSm * parent )
-      : parent_( parent ) {
-      reload();
-      bind( vtiStatus );
-   }
-   void parentDel() { parent_ = nullptr; }
+VxlanSplitHorizonCfgSm::VtiStatusSm::VtiStatusSm( Corvo::Ptr< Vxlan::VtiStatus const > const & vtiStatus,
+                                                  VxlanSplitHorizonCfgSm * parent )
+   : parent_( parent ) {
+   reload();
+   bind( vtiStatus );
+}
 
-   void notifierIs( Corvo::Ptr< Vxlan::VtiStatus const > const & vtiStatus ) {
-      bool const differs = notifierEntity() != vtiStatus;
-      bind( vtiStatus );
-      if ( vtiStatus && differs && !isZombie() ) {
-         reload();
-      }
-   }
-
-   void onAttribute( Rex::AttributeId attribute, void const * ) override {
-      if ( attribute == vtiStatusVtepToVtepBridging && !isZombie() ) {
-         reload();
-      }
-   }
-
-   void rexDoZombieReactors( bool zombie ) override {
-      if ( isZombie() == zombie ) {
-         return;
-      }
-      NotifieeConst::rexDoZombieReactors( zombie );
+void VxlanSplitHorizonCfgSm::VtiStatusSm::notifierIs( Corvo::Ptr< Vxlan::VtiStatus const > const & vtiStatus ) {
+   bool const differs = notifierEntity() != vtiStatus;
+   bind( vtiStatus );
+   if ( vtiStatus && differs && !isZombie() ) {
       reload();
    }
+}
 
- private:
-   void bind( Corvo::Ptr< Vxlan::VtiStatus const > const & vtiStatus ) {
-      notifierEntityIs( vtiStatus );
-      isRegisteredNotifieeIs( true );
+void VxlanSplitHorizonCfgSm::VtiStatusSm::onAttribute( Rex::AttributeId attribute, void const * ) {
+   if ( attribute == vtiStatusVtepToVtepBridging && !isZombie() ) {
+      reload();
    }
-   void reload() {
-      if ( parent_ ) {
-         parent_->reloadSplitHorizonCfg();
-      }
+}
+
+void VxlanSplitHorizonCfgSm::VtiStatusSm::rexDoZombieReactors( bool zombie ) {
+   if ( isZombie() == zombie ) {
+      return;
    }
-   VxlanSplitHorizonCfgSm * parent_;
-};
+   NotifieeConst::rexDoZombieReactors( zombie );
+   reload();
+}
+
+void VxlanSplitHorizonCfgSm::VtiStatusSm::bind( Corvo::Ptr< Vxlan::VtiStatus const > const & vtiStatus ) {
+   notifierEntityIs( vtiStatus );
+   isRegisteredNotifieeIs( true );
+}
+
+void VxlanSplitHorizonCfgSm::VtiStatusSm::reload() {
+   if ( parent_ ) {
+      parent_->reloadSplitHorizonCfg();
+   }
+}
 
 VxlanSplitHorizonCfgSm::VxlanSplitHorizonCfgSm( Corvo::Ptr< Vxlan::VtiStatusDir const > const & vtiStatusDir,
                                                 Corvo::Ptr< Evpn::EvpnStatus const > const & evpnStatus,

@@ -9,6 +9,7 @@
 
 #include "Programming.h"
 #include "corvo/Watched.h"
+#include "rex/Notifiee.h"
 #include "state/Overlays.h"
 
 namespace DaceFapNi {
@@ -48,6 +49,25 @@ class VxlanSplitHorizonCfgSm : public Corvo::Node {
    Corvo::Watched< Evpn::EvpnStatus const > evpnStatus_;
    CellStatusPtr const cellStatus_;
    Rex::HashMap2018< Netka::IntfId, Corvo::Ptr< VtiStatusSm > > vtiStatus_;
+};
+
+// The reactor of one VTI. As long as it has a parent, it has the registers programmed when it is made, when its VTI's
+// bridging changes or another status takes its place, and when its zombie state changes.
+class VxlanSplitHorizonCfgSm::VtiStatusSm : public Rex::NotifieeConst {
+ public:
+   // Programs the registers before it is bound: binding it doesn't program them again.
+   VtiStatusSm( Corvo::Ptr< Vxlan::VtiStatus const > const & vtiStatus, VxlanSplitHorizonCfgSm * parent );
+   void parentDel() { parent_ = nullptr; }
+
+   void notifierIs( Corvo::Ptr< Vxlan::VtiStatus const > const & vtiStatus );
+   void onAttribute( Rex::AttributeId attribute, void const * ) override;
+   void rexDoZombieReactors( bool zombie ) override;
+
+ private:
+   void bind( Corvo::Ptr< Vxlan::VtiStatus const > const & vtiStatus );
+   void reload();
+
+   VxlanSplitHorizonCfgSm * parent_;
 };
 
 Corvo::Ptr< VxlanSplitHorizonCfgSm >
