@@ -27,14 +27,6 @@ U32 wordFromValue( Value const & value ) {
    Rex::throwWrongKind( "a word like \"0x00000a00\"", value );
 }
 
-Words wordsFromValue( Value const & value ) {
-   Words words;
-   for ( auto const & word : listOf( value ) ) {
-      words.push_back( Rex::below( std::to_string( words.size() ), [&] { return wordFromValue( word ); } ) );
-   }
-   return words;
-}
-
 EntryContents entryFromValue( Value const & value ) {
    Fields fields( value );
    fields.find( "fields" ); // said once more, in other words
@@ -131,6 +123,14 @@ std::string wordText( U32 word ) {
    char text[11];
    std::snprintf( text, sizeof text, "0x%08x", word );
    return text;
+}
+
+Words wordsFromValue( Value const & value ) {
+   Words words;
+   for ( auto const & word : listOf( value ) ) {
+      words.push_back( Rex::below( std::to_string( words.size() ), [&] { return wordFromValue( word ); } ) );
+   }
+   return words;
 }
 
 Hardware::ChipType chipTypeFromValue( Value const & value ) {

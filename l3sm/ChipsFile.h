@@ -35,6 +35,8 @@ ChipsFile readChips( std::string const & path );
 // Throws Rex::ValueError.
 Simulator::TablesContents tablesFromValue( Rex::Value const & value );
 
+// The words of one entry, as files have them. Throws Rex::ValueError.
+Simulator::Words wordsFromValue( Rex::Value const & value );
 // The chip of a name; throws Rex::ValueError.
 Hardware::ChipType chipTypeFromValue( Rex::Value const & value );
 

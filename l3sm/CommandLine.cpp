@@ -21,9 +21,13 @@ struct Verb {
 
 constexpr Verb verbs[] = {
    { "run", "boot a simulated switch, load the plug-in, play a scenario, tell what is on the chips", defineRun },
+   { "catalogue", "the chip tables: geometry, addresses, and where their fields lie", defineCatalogue },
    { "constants",
      "what the platform stands in for: context numbers, action words, well-known numbers",
      defineConstants },
+   { "show", "chip contents, decoded by field", defineShow },
+   { "diff", "two chip-contents files, entry by entry and field by field", defineDiff },
+   { "why", "which operation wrote it, where in the source, on which cause", defineWhy },
 };
 
 int failed( std::string const & text ) {

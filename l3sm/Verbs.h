@@ -15,6 +15,10 @@ using Action = std::function< int() >;
 
 // Each declares the verb's options and returns what it does with them.
 Action defineRun( CLI::App & verb );
+Action defineCatalogue( CLI::App & verb );
 Action defineConstants( CLI::App & verb );
+Action defineShow( CLI::App & verb );
+Action defineDiff( CLI::App & verb );
+Action defineWhy( CLI::App & verb );
 
 } // namespace Cli

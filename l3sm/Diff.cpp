@@ -1,0 +1,58 @@
+// The verb `diff`: two chip-contents files, entry by entry and field by field.
+#include "l3sm/Differences.h"
+#include "l3sm/TableNames.h"
+#include "l3sm/Verbs.h"
+
+#include <CLI/CLI.hpp>
+#include <algorithm>
+#include <iostream>
+
+namespace Cli {
+
+namespace {
+
+struct Options {
+   std::string a;
+   std::string b;
+   std::vector< std::string > tables;
+   std::optional< U16 > fap;
+   bool json = false;
+};
+
+int answer( Options const & options ) {
+   for ( std::string const & table : options.tables ) {
+      tableNamed( table );
+   }
+   auto const chipsA = readChips( options.a );
+   auto const chipsB = readChips( options.b );
+   if ( options.fap && !chipsA.contains( *options.fap ) && !chipsB.contains( *options.fap ) ) {
+      throw InputError( "neither file has a FAP " + std::to_string( *options.fap ) );
+   }
+   auto all = differencesOf( chipsA, chipsB );
+   std::erase_if( all, [&]( Difference const & it ) {
+      bool const isTable =
+         options.tables.empty() || std::ranges::find( options.tables, it.table ) != options.tables.end();
+      return !isTable || ( options.fap && *options.fap != it.fap );
+   } );
+   if ( options.json ) {
+      std::cout << toJson( Rex::Value::Object{ { "differences", differencesValue( all ) } }, 2 ) << '\n';
+   } else {
+      showDifferences( std::cout, all, options.a, options.b, Style::of( std::cout ) );
+   }
+   return all.empty() ? 0 : 1;
+}
+
+} // namespace
+
+Action defineDiff( CLI::App & verb ) {
+   auto const options = std::make_shared< Options >();
+   verb.add_option( "A", options->a, "a file that `l3sm run --chips` wrote" )->required();
+   verb.add_option( "B", options->b, "another" )->required();
+   verb.add_option( "--table", options->tables, "only these tables" );
+   verb.add_option( "--fap", options->fap, "only this FAP" );
+   verb.add_flag( "--json", options->json, "for programs" );
+   verb.footer( "Exit status: 0 no difference, 1 there are some." );
+   return [options] { return answer( *options ); };
+}
+
+} // namespace Cli
