@@ -112,7 +112,12 @@ std::vector< U32 > fieldMask( Catalogue::Layout const & layout ) {
    return mask;
 }
 
-void bootTable( Chip & chip, ChipType chipType, Catalogue::Table const & table, Catalogue::Layout const & layout ) {
+void bootTable( Chip & chip,
+                ChipType chipType,
+                Catalogue::Table const & table,
+                Catalogue::Layout const & layout,
+                BootNoise bootNoise ) {
+   U32 const flip = bootNoise == BootNoise::inverted ? ~U32{ 0 } : 0;
    auto const * const special = std::ranges::find( deliberate, table.name, []( auto const & it ) { return it.table; } );
    std::vector< U32 > const mask = fieldMask( layout );
    std::vector< U32 > words( layout.width );
@@ -120,7 +125,7 @@ void bootTable( Chip & chip, ChipType chipType, Catalogue::Table const & table, 
       for ( U32 entry = 0; entry < entryCount( layout ); ++entry ) {
          Noise const noise( table.name, { layout.chipType, layout.variant, array, entry } );
          for ( std::size_t word = 0; word < words.size(); ++word ) {
-            words[word] = static_cast< U32 >( noise.at( 1 + word ) ) & mask[word];
+            words[word] = ( static_cast< U32 >( noise.at( 1 + word ) ) ^ flip ) & mask[word];
          }
          if ( special != std::end( deliberate ) ) {
             special->compose( BootRow{ layout, chipType, array, entry, noise, words } );
@@ -135,14 +140,14 @@ void bootTable( Chip & chip, ChipType chipType, Catalogue::Table const & table, 
 
 } // namespace
 
-void boot( Chip & chip, ChipType chipType ) {
+void boot( Chip & chip, ChipType chipType, BootNoise bootNoise ) {
    for ( Catalogue::Table const & table : Catalogue::tables() ) {
       if ( !table.hasMemory || std::ranges::find( lookupMemories, table.name ) != std::end( lookupMemories ) ) {
          continue;
       }
       for ( Catalogue::Layout const & layout : table.layouts ) {
          if ( layout.chipType == static_cast< U8 >( chipType ) ) {
-            bootTable( chip, chipType, table, layout );
+            bootTable( chip, chipType, table, layout, bootNoise );
          }
       }
    }

@@ -16,7 +16,11 @@
 
 namespace Simulator {
 
+// How the bits come out that nothing depends on. Two runs that differ in nothing else tell what a program has set from
+// what it has left alone: of the bits of the noise, those that are alike in both.
+enum class BootNoise : U8 { plain, inverted };
+
 // Fills the chip, whose addresses are those of the kind.
-void boot( Chip & chip, Hardware::ChipType chipType );
+void boot( Chip & chip, Hardware::ChipType chipType, BootNoise bootNoise = BootNoise::plain );
 
 } // namespace Simulator

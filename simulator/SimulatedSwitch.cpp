@@ -1,6 +1,5 @@
 #include "simulator/SimulatedSwitch.h"
 
-#include "simulator/BootImage.h"
 #include "simulator/TableMap.h"
 
 #include <dlfcn.h>
@@ -71,7 +70,7 @@ void SimulatedSwitch::makeChips() {
       auto const chipType = fap.revision.chipType();
       // A chip of another family has no address that is known here.
       if ( auto const * name = Hardware::chipTypeName( chipType ) ) {
-         boot( driver_.chipIs( fap.fapId, name, addressMap( chipType ) ), chipType );
+         boot( driver_.chipIs( fap.fapId, name, addressMap( chipType ) ), chipType, description_.bootNoise );
          journal_.chipIs( fap.fapId.value(), chipType );
       }
    }

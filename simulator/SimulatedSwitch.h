@@ -26,6 +26,7 @@
 // Threading: the agent's scheduler thread.
 #pragma once
 
+#include "simulator/BootImage.h"
 #include "simulator/ChipDriver.h"
 #include "simulator/Journal.h"
 #include "simulator/StateTree.h"
@@ -48,6 +49,7 @@ struct SwitchDescription {
    std::vector< FapDescription > faps = {};
    Toggle::Settings toggles = {}; // what is not named has its default
    bool journalled = true;        // false: no operation is recorded
+   BootNoise bootNoise = BootNoise::plain;
 };
 
 // A library that can't be loaded. what() says which and why.
