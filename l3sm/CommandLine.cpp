@@ -28,6 +28,8 @@ constexpr Verb verbs[] = {
    { "show", "chip contents, decoded by field", defineShow },
    { "diff", "two chip-contents files, entry by entry and field by field", defineDiff },
    { "why", "which operation wrote it, where in the source, on which cause", defineWhy },
+   { "compare", "one scenario on every kind of chip, and with each toggle flipped alone", defineCompare },
+   { "replay", "apply the writes of a journal to a fresh switch, and compare", defineReplay },
 };
 
 int failed( std::string const & text ) {

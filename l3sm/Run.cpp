@@ -1,12 +1,12 @@
 #include "l3sm/ChipsFile.h"
 #include "l3sm/OutputFile.h"
-#include "l3sm/Scenario.h"
+#include "l3sm/Play.h"
+#include "l3sm/Report.h"
 #include "l3sm/Summary.h"
 #include "l3sm/Tracing.h"
 #include "l3sm/Verbs.h"
 
 #include <CLI/CLI.hpp>
-#include <filesystem>
 #include <iostream>
 
 namespace Cli {
@@ -18,27 +18,13 @@ struct Options {
    std::string chips;
    std::string journal;
    std::string state;
+   std::string report;
    std::string trace;
    std::string traceOut;
    std::vector< std::string > toggles;
    std::string plugin;
    bool quiet = false;
 };
-
-// The product lies beside the program: bin/l3sm, lib/libL3SmPlugin.so.
-std::string defaultPlugin() {
-   std::error_code none;
-   auto const self = std::filesystem::read_symlink( "/proc/self/exe", none );
-   return ( self.parent_path().parent_path() / "lib" / "libL3SmPlugin.so" ).string();
-}
-
-void load( std::string const & path ) {
-   try {
-      Simulator::loadPlugin( path );
-   } catch ( Simulator::LibraryError const & error ) {
-      throw InputError( "--plugin", std::string( error.what() ) + "; name the plug-in's library with --plugin PATH" );
-   }
-}
 
 int run( Options const & options ) {
    Scenario scenario = options.scenario.empty() ? builtInScenario() : readScenario( options.scenario );
@@ -48,19 +34,16 @@ int run( Options const & options ) {
    OutputFile const chips( options.chips );
    OutputFile const state( options.state );
    OutputFile const journal( options.journal );
+   OutputFile const report( options.report );
    Tracing tracing( options.trace, options.traceOut );
-   load( options.plugin.empty() ? defaultPlugin() : options.plugin );
+   loadPlugin( options.plugin );
    tracing.start();
 
    Simulator::SimulatedSwitch sw( scenario.description );
    if ( journal.isWanted() ) {
       sw.journal().fileIs( options.journal );
    }
-   scenario.prepare( sw );
-   sw.start();
-   for ( auto const & event : scenario.events ) {
-      scenario.play( sw, event );
-   }
+   play( scenario, sw );
    sw.journal().flush();
 
    if ( chips.isWanted() ) {
@@ -70,6 +53,9 @@ int run( Options const & options ) {
    }
    if ( state.isWanted() ) {
       state.write( toJson( sw.state().value(), 2 ) + "\n" );
+   }
+   if ( report.isWanted() ) {
+      report.write( reportOf( scenario, sw ) );
    }
    if ( !options.quiet ) {
       writeSummary( std::cout, scenario, sw );
@@ -87,6 +73,8 @@ Action defineRun( CLI::App & verb ) {
    verb.add_option( "--journal", options->journal, "write every driver operation, one JSON object a line" )
       ->type_name( "FILE" );
    verb.add_option( "--state", options->state, "write the state tree at the end" )->type_name( "FILE" );
+   verb.add_option( "--report", options->report, "write a page that shows the run in a browser" )
+      ->type_name( "FILE.html" );
    verb.add_option( "--trace", options->trace, "trace facilities up to a level; `*` for every facility" )
       ->type_name( "FACILITY/LEVEL[,...]" );
    verb.add_option( "--trace-out", options->traceOut, "write the traces there instead of to standard error" )

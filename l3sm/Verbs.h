@@ -20,5 +20,7 @@ Action defineConstants( CLI::App & verb );
 Action defineShow( CLI::App & verb );
 Action defineDiff( CLI::App & verb );
 Action defineWhy( CLI::App & verb );
+Action defineCompare( CLI::App & verb );
+Action defineReplay( CLI::App & verb );
 
 } // namespace Cli
