@@ -15,6 +15,7 @@
 #include "GueNexthopGroupSm.h"
 #include "L3IntfSm.h"
 #include "L3SmArguments.h"
+#include "MplsParserSm.h"
 #include "VtiStatusDirSm.h"
 #include "VxlanQosSm.h"
 #include "VxlanSplitHorizonSm.h"
@@ -142,6 +143,7 @@ class L3Sm : public Corvo::Node {
    Corvo::Ptr< DaceL3UnicastVtiStatusDirSm > const & vtiStatusDirSm() const { return vtiStatusDirSm_.get(); }
    Corvo::Ptr< VxlanSplitHorizonCfgSm > const & vxlanSplitHorizonCfgSm() const { return vxlanSplitHorizonCfgSm_.get(); }
    Corvo::Ptr< VxlanQosSm > const & vxlanQosSm() const { return vxlanQosSm_.get(); }
+   Corvo::Ptr< MplsParserCfgSm > const & mplsParserCfgSm() const { return mplsParserCfgSm_.get(); }
    Corvo::Ptr< GueNexthopGroupSm > const & nexthopGroupSm() const { return nexthopGroupSm_.get(); }
    auto ethIntfVrfSmHelperIs( Corvo::Ptr< Stordb::EntityManager > const & entityManager ) {
       return ethIntfVrfSmHelper_.is( EthIntf::ethIntfVrfSmHelperFactory, entityManager );
@@ -154,12 +156,14 @@ class L3Sm : public Corvo::Node {
       return vxlanSplitHorizonCfgSm_.is( vxlanSplitHorizonCfgSmFactory, args... );
    }
    auto vxlanQosSmIs( auto const &... args ) { return vxlanQosSm_.is( vxlanQosSmFactory, args... ); }
+   auto mplsParserCfgSmIs( auto const &... args ) { return mplsParserCfgSm_.is( mplsParserCfgSmFactory, args... ); }
    auto nexthopGroupSmIs( auto const &... args ) { return nexthopGroupSm_.is( gueNexthopGroupSmFactory, args... ); }
    auto ethIntfVrfSmHelperDel() { return ethIntfVrfSmHelper_.del(); }
    auto l3IntfSmDel() { return l3IntfSm_.del(); }
    auto vtiStatusDirSmDel() { return vtiStatusDirSm_.del(); }
    auto vxlanSplitHorizonCfgSmDel() { return vxlanSplitHorizonCfgSm_.del(); }
    auto vxlanQosSmDel() { return vxlanQosSm_.del(); }
+   auto mplsParserCfgSmDel() { return mplsParserCfgSm_.del(); }
    auto nexthopGroupSmDel() { return nexthopGroupSm_.del(); }
 
  private:
@@ -173,13 +177,23 @@ class L3Sm : public Corvo::Node {
 
    static DispatchRow const phySmStateSharedStatusRows[];
    static DispatchRow const phySmStateRows[];
+   static DispatchRow const mplsRoutingInfoRows[];
+   static DispatchRow const vtiStatusDirRows[];
+   static DispatchRow const evpnStatusRows[];
+   static DispatchRow const mergedPrefixLensInExactMatchV4Rows[];
    static DispatchRow const routingHwConfigRows[];
+   static DispatchRow const driverSetupSmStateInfoRows[];
+   // Follows the slots' load-balance configurations as they come and go, also while the machine is a zombie.
+   static void daceLagStatusDispatch(
+      Corvo::Publisher *, Corvo::Subscriber * slot, short attribute, void const * key, void const * );
 
    void buildInterfaceMachine();
    void buildChildren();
    void programInitialState();
-   // Passes the value to the children, in the order of their attributes.
+   // Passes the value to the children but the VRF helper, in the order of their attributes.
    void childrenActiveIs( bool active );
+   // The slot that this agent runs on; 0 where the slice has none.
+   Fru::SlotId mySlotId() const;
 
    L3SmArguments const in_;
    // The subscribed inputs, in the order of their attributes.
@@ -201,9 +215,12 @@ class L3Sm : public Corvo::Node {
           CellStatusPtr > vxlanSplitHorizonCfgSm_;
    Child< VxlanQosSm, Corvo::Ptr< Vxlan::EcnConfig const >, CellStatusPtr > vxlanQosSm_;
    Child< L3IntfSm, L3IntfSmArguments > l3IntfSm_;
+   Child< MplsParserCfgSm, Corvo::Ptr< Mpls::Config const >, Corvo::Ptr< Mpls::Hardware::Capability const >,
+          SwitchControlSalPtr, CellStatusPtr > mplsParserCfgSm_;
    Child< GueNexthopGroupSm, CellStatusPtr, Corvo::Ptr< Tunnel::Decap::Config const >,
           Corvo::Ptr< L3::Tunnel::UdpDestinationPortConfig const >, SwitchControlSalPtr > nexthopGroupSm_;
    // clang-format on
+   Rex::HashMap2018< Fru::SlotId, Corvo::Ptr< NestedSm_SlotLoadBalance > > slotLoadBalance_;
    bool initialized_ = false;
 };
 

@@ -192,6 +192,10 @@ void L3SmMounter::doMountsComplete( Stordb::MountStatus mountStatus,
    sm.vxlanEcnConfig = vxlanEcnConfig_;
    sm.routingHwConfig = routingHwConfig_;
    l3SmIs( sm );
+   // Behind L3Sm, with which it shares the merged prefix lengths.
+   if ( isServed( chipTypeToFapType( sliceSmState_->revision().chipType() ) ) ) {
+      remFfcModifierSmIs( RemFfcModifierSm::RemFfcModifierSmIs( cellStatus, mergedPrefixLens ) );
+   }
 
    trace( 0, "L3SmMounter::", "doMountsComplete", " done" );
 }
@@ -208,6 +212,10 @@ L3SmMounter::pluginRunnabilitySmIs( Corvo::Ptr< SliceSmStateInfo const > const &
 Corvo::Ptr< L3Sm > L3SmMounter::l3SmIs( L3SmArguments const & arguments ) {
    return l3Sm_.is(
       L3Sm::L3SmIs, [this] { publisher()->publish( l3Sm ); }, arguments );
+}
+
+void L3SmMounter::remFfcModifierSmIs( Corvo::Ptr< RemFfcModifierSm const > const & sm ) {
+   attributeIs( remFfcModifierSm, remFfcModifierSm_, sm );
 }
 
 Corvo::Ptr< L3::Tunnel::UdpDestinationPortConfig > const &

@@ -2,13 +2,14 @@
 // and builds the state machines when the mounts have arrived.
 //
 // Stages: see agent/Mounter.h, which drives them. Teardown runs from the merge machines over L3Sm to the runnability
-// machine; RemFfcModifierSm is released last.
+// machine; RemFfcModifierSm is released after them, first of the attributes.
 //
 // Threading: the agent's scheduler thread.
 #pragma once
 
 #include "Child.h"
 #include "L3Sm.h"
+#include "RemFfcModifierSm.h"
 #include "agent/MergeMachines.h"
 #include "agent/Mounter.h"
 
@@ -64,6 +65,9 @@ class L3SmMounter : public MounterBase {
    Corvo::Ptr< MounterRunnabilitySm > pluginRunnabilitySmIs( Corvo::Ptr< SliceSmStateInfo const > const & sliceSmState,
                                                              MounterBase * mounter );
    Corvo::Ptr< L3Sm > l3SmIs( L3SmArguments const & arguments );
+   // A plain store: it has no remover, and is released with the attributes, after L3Sm is gone.
+   void remFfcModifierSmIs( Corvo::Ptr< RemFfcModifierSm const > const & remFfcModifierSm );
+   Corvo::Ptr< RemFfcModifierSm const > const & remFfcModifierSmPtr() const { return remFfcModifierSm_; }
    Corvo::Ptr< L3Sm > const & l3SmPtr() const { return l3Sm_.get(); }
 
    Corvo::Ptr< Tunnel::Decap::Config > const & dgConfigPtr() const { return dgConfig_; }
@@ -125,6 +129,7 @@ class L3SmMounter : public MounterBase {
       prefixLensInExactMatchMergerSmV4_;
    Child< L3Sm, L3SmArguments > l3Sm_;
    Child< MounterRunnabilitySm, Corvo::Ptr< SliceSmStateInfo const >, MounterBase * > pluginRunnabilitySm_;
+   Corvo::Ptr< RemFfcModifierSm const > remFfcModifierSm_;
 };
 
 } // namespace DaceFapNi
