@@ -56,8 +56,10 @@ Scenario onChip( Scenario const & scenario, ChipType chipType ) {
    for ( auto & fap : other.description.faps ) {
       auto const & revision = fap.revision;
       bool const saysTwo = revision.fapRevMajor() == 8 || revision.fapRevMajor() == 9;
-      bool const hasAll = fap.cores >= coresOf( revision.chipType() );
-      fap.cores = hasAll ? coresOf( chipType ) : std::min( fap.cores, coresOf( chipType ) );
+      if ( fap.cores ) {
+         bool const hasAll = *fap.cores >= coresOf( revision.chipType() );
+         fap.cores = hasAll ? coresOf( chipType ) : std::min( *fap.cores, coresOf( chipType ) );
+      }
       U32 const major = saysTwo == hasTwo ? revision.fapRevMajor() : hasTwo ? 8 : 5;
       fap.revision = Hardware::Dace::FapRevision( major, chipType, revision.sdkVersion() );
    }

@@ -186,7 +186,8 @@ Programming programmingOf( Scenario const & scenario, std::string const & plugin
       std::ostringstream text;
       tell( text, plain, inverted );
       for ( auto const & reading : Toggle::readings() ) {
-         text << "toggle\t" << reading.file << '\t' << reading.name << '\t' << reading.state << '\n';
+         text << "toggle\t" << reading.file << '\t' << reading.name << '\t' << reading.state << '\t'
+              << reading.defaultState << '\n';
       }
       out << text.str();
    } );
@@ -199,7 +200,7 @@ Programming programmingOf( Scenario const & scenario, std::string const & plugin
    for ( std::string line; std::getline( in, line ); ) {
       auto const part = parts( line );
       if ( part[0] == "toggle" ) {
-         programming.toggles.push_back( { part[2], part[1], part[3] == "1" } );
+         programming.toggles.push_back( { part[2], part[1], part[3] == "1", part[4] == "1" } );
          continue;
       }
       ProgrammedPlace place{ static_cast< U16 >( number( part[0] ) ),

@@ -123,7 +123,7 @@ Value switchValue( Simulator::SwitchDescription const & description ) {
       one["chipType"] = Hardware::chipTypeName( fap.revision.chipType() );
       one["major"] = fap.revision.fapRevMajor();
       one["sdkVersion"] = fap.revision.sdkVersion();
-      one["cores"] = fap.cores;
+      one["cores"] = fap.coreCount();
       one["ports"] = std::move( ports );
       faps.emplace_back( std::move( one ) );
    }

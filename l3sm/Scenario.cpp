@@ -18,7 +18,7 @@ Simulator::FapDescription fapFromValue( Value const & value ) {
    Fields fields( value );
    fap.fapId = fields.required< Hardware::Dace::FapId >( "fapId" );
    fap.name = fields.optional< std::string >( "name", "" );
-   fap.cores = fields.optional< U16 >( "cores", fap.cores );
+   fields.with( "cores", [&]( Value const & cores ) { fap.cores = Rex::Codec< U16 >::fromValue( cores ); } );
    fields.with( "ports", [&]( Value const & ports ) {
       forEachMember( ports, [&]( std::string const & key, Value const & port ) {
          fap.ports[Rex::Codec< U16 >::fromKey( key )] = Rex::Codec< U16 >::fromValue( port );

@@ -101,13 +101,19 @@ void SimulatedSwitch::shareObjects() {
    state_.rootIs( "shared/agentScheduler", makePtr< DaceFapNi::TaskScheduler >( scheduler_ ) );
 }
 
+U16 FapDescription::coreCount() const {
+   bool const hasTwoCopies =
+      revision.chipType() == Hardware::ChipType::BCM88690_B0 || revision.chipType() == Hardware::ChipType::BCM88850_A0;
+   return cores.value_or( hasTwoCopies ? 2 : 1 );
+}
+
 void SimulatedSwitch::publishCell() {
    cellStatus_ = makePtr< CellStatus >();
    for ( auto const & fap : description_.faps ) {
       auto const status = makePtr< FapStatus >( fap.fapId );
       status->fapNameIs( fap.name );
       status->revisionIs( fap.revision );
-      status->coresIs( fap.cores );
+      status->coresIs( fap.coreCount() );
       for ( auto const & [systemPort, fapPort] : fap.ports ) {
          status->portsIs( systemPort, FapPortId{ fapPort } );
       }

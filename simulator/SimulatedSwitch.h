@@ -32,6 +32,7 @@
 #include "simulator/StateTree.h"
 #include "toggle/Toggle.h"
 
+#include <optional>
 #include <stdexcept>
 
 namespace Simulator {
@@ -39,9 +40,11 @@ namespace Simulator {
 struct FapDescription {
    Hardware::Dace::FapId fapId{};
    std::string name = {};           // empty: "Fap<fapId>"
-   U16 cores = 2;                   // as reported to the plug-in
+   std::optional< U16 > cores = {}; // as reported to the plug-in; none: one for each physical copy that the chip has
    std::map< U16, U16 > ports = {}; // system port key to FAP port number
    Hardware::Dace::FapRevision revision{};
+
+   U16 coreCount() const;
 };
 
 struct SwitchDescription {

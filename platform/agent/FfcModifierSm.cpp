@@ -136,14 +136,15 @@ void FfcModifierSm::findInContext( Cell::FapStatus const & fapStatus, int contex
 }
 
 void FfcModifierSm::handleFfcModification() {
-   std::set< FfcInfoKey > keys;
+   // FAP by FAP: a key as a number has the context on top.
+   std::set< std::pair< FapId, FfcInfoKey > > keys;
    for ( auto const * map : { &ffcIndexRhFfc_, &ffcIndexLitFfc_ } ) {
       for ( auto const & [key, index] : *map ) {
-         keys.insert( key );
+         keys.emplace( key.fapId(), key );
       }
    }
-   for ( FfcInfoKey const key : keys ) {
-      if ( auto const fapStatus = cellStatus_->fapStatus( key.fapId() ) ) {
+   for ( auto const & [fapId, key] : keys ) {
+      if ( auto const fapStatus = cellStatus_->fapStatus( fapId ) ) {
          writeFfcInstructionForStage( fapStatus->revision().chipType(), key );
       }
    }

@@ -48,12 +48,12 @@ std::vector< std::string > const programming{ "read VsiProfileEnablers 0/1/5",
 TEST( SlotLoadBalance, aModeOfTheOwnSlotTerminatesOrSkipsOnEveryFap ) {
    SlotSwitch sw( { ChipType::BCM88690_B0, ChipType::BCM88480_B0 } );
    sw.start();
-   sw.presetProfiles( 99 );
+   sw.presetProfiles( 19 );
    sw.mode( "3", 2 );
    for ( FapId const fap : { FapId( 0 ), FapId( 1 ) } ) {
       sw.expectProfile( 0, fap );
-      EXPECT_EQ( sw.profile( 0, 0, fap ), 99u );
-      EXPECT_EQ( sw.profile( 1, 4, fap ), 99u );
+      EXPECT_EQ( sw.profile( 0, 0, fap ), 19u );
+      EXPECT_EQ( sw.profile( 1, 4, fap ), 19u );
    }
    for ( int const terminating : { 0, 1, 3, 255 } ) {
       sw.set( std::string( lag ) + "/slotLoadBalance/3", "guePktTypeHashMode", 2 );
@@ -61,8 +61,8 @@ TEST( SlotLoadBalance, aModeOfTheOwnSlotTerminatesOrSkipsOnEveryFap ) {
       sw.set( std::string( lag ) + "/slotLoadBalance/3", "guePktTypeHashMode", terminating );
       for ( FapId const fap : { FapId( 0 ), FapId( 1 ) } ) {
          sw.expectProfile( 23, fap );
-         EXPECT_EQ( sw.profile( 0, 0, fap ), 99u );
-         EXPECT_EQ( sw.profile( 1, 4, fap ), 99u );
+         EXPECT_EQ( sw.profile( 0, 0, fap ), 19u );
+         EXPECT_EQ( sw.profile( 1, 4, fap ), 19u );
       }
    }
 }
