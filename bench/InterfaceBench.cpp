@@ -106,6 +106,7 @@ Cost measure( std::size_t count ) {
             work( *world );
          }
       };
+      malloc_trim( 0 ); // what earlier turns have left in the heap is their cost, not this one's
       auto const before = mallinfo2();
       double start = now();
       forAll( []( World & world ) { world.serve(); } );
