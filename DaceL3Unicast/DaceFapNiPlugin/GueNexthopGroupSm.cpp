@@ -1,6 +1,5 @@
 #include "GueNexthopGroupSm.h"
 
-#include "Inputs.h"
 #include "rex/Trace.h"
 
 namespace DaceFapNi {
@@ -29,8 +28,7 @@ GueNexthopGroupSm::GueNexthopGroupSm(
    Corvo::Ptr< Tunnel::Decap::Config const > const & dgConfig,
    Corvo::Ptr< L3::Tunnel::UdpDestinationPortConfig const > const & udpDestPortConfig,
    Corvo::Ptr< DaceSal::SwitchControlSal > const & sal )
-   : cellStatus_( cellStatus ), dgConfig_( orEmpty( dgConfig ) ), udpDestPortConfig_( orEmpty( udpDestPortConfig ) ),
-     sal_( sal ) {
+   : cellStatus_( cellStatus ), dgConfig_( dgConfig ), udpDestPortConfig_( udpDestPortConfig ), sal_( sal ) {
    dgConfig_.subscribe( dgConfigDispatch, this );
    udpDestPortConfig_.subscribe( udpDestPortConfigDispatch, this );
    handleInitialized();

@@ -1,8 +1,8 @@
 #include "L3Sm.h"
 
 #include "FapGate.h"
-#include "Toggles.h"
 #include "L3SmSlotLoadBalance.h"
+#include "Toggles.h"
 #include "rex/Trace.h"
 
 namespace DaceFapNi {

@@ -1,7 +1,6 @@
 #include "VtiStatusDirSm.h"
 
 #include "FapGate.h"
-#include "Inputs.h"
 #include "Toggles.h"
 #include "constants/DestinationId.h"
 #include "rex/Trace.h"
@@ -65,7 +64,7 @@ DaceL3UnicastVtiStatusDirSm::DaceL3UnicastVtiStatusDirSm(
    Corvo::Ptr< Bridging::HwCapabilities const > const & hwCapabilities,
    CellStatusPtr const & cellStatus,
    Corvo::Ptr< DaceSal::SwitchControlSal > const & switchControlSal )
-   : VtiStatusDirSm( name, orEmpty( vtiStatusDir ), hwCapabilities ), cellStatus_( cellStatus ),
+   : VtiStatusDirSm( name, vtiStatusDir, hwCapabilities ), cellStatus_( cellStatus ),
      switchControlSal_( switchControlSal ) {}
 
 DaceL3UnicastVtiStatusDirSm::~DaceL3UnicastVtiStatusDirSm() {

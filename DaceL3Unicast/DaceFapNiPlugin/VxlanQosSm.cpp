@@ -1,6 +1,5 @@
 #include "VxlanQosSm.h"
 
-#include "Inputs.h"
 #include "constants/Contexts.h"
 #include "rex/Trace.h"
 
@@ -24,7 +23,7 @@ U32 programOf( Hardware::ChipType chipType, ctx_encap_2 context ) {
 } // namespace
 
 VxlanQosSm::VxlanQosSm( Corvo::Ptr< Vxlan::EcnConfig const > const & vxlanEcnConfig, CellStatusPtr const & cellStatus )
-   : vxlanEcnConfig_( orEmpty( vxlanEcnConfig ) ), cellStatus_( cellStatus ) {
+   : vxlanEcnConfig_( vxlanEcnConfig ), cellStatus_( cellStatus ) {
    vxlanEcnConfig_.subscribe( vxlanEcnConfigDispatch, this );
 }
 

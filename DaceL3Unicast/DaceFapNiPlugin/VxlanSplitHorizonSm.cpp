@@ -1,6 +1,5 @@
 #include "VxlanSplitHorizonSm.h"
 
-#include "Inputs.h"
 #include "Toggles.h"
 #include "rex/Trace.h"
 
@@ -133,7 +132,7 @@ void VxlanSplitHorizonCfgSm::VtiStatusSm::reload() {
 VxlanSplitHorizonCfgSm::VxlanSplitHorizonCfgSm( Corvo::Ptr< Vxlan::VtiStatusDir const > const & vtiStatusDir,
                                                 Corvo::Ptr< Evpn::EvpnStatus const > const & evpnStatus,
                                                 CellStatusPtr const & cellStatus )
-   : vtiStatusDir_( orEmpty( vtiStatusDir ) ), evpnStatus_( orEmpty( evpnStatus ) ), cellStatus_( cellStatus ) {
+   : vtiStatusDir_( vtiStatusDir ), evpnStatus_( evpnStatus ), cellStatus_( cellStatus ) {
    vtiStatusDir_.subscribe( vtiStatusDirDispatch, this );
    evpnStatus_.subscribe( evpnStatusDispatch, this );
    reloadSplitHorizonCfg();

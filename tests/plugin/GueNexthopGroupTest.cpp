@@ -292,12 +292,9 @@ TEST_F( GueNexthopGroupTest, leavesTheChipsAsTheyAreWhenItGoes ) {
    EXPECT_EQ( info( ipv4Entry ), 0x2f83u );
 }
 
-TEST_F( GueNexthopGroupTest, inputsThatAreNotMountedConfigureNothing ) {
-   sm = gueNexthopGroupSmFactory( sw().cellStatus(), dgConfig, nullptr, sal() );
-   sm->hasNotificationActiveIs( true );
-   EXPECT_EQ( written(), everywhere( mplsEntry ) + everywhere( ipv4Entry ) + everywhere( ipv6Entry ) );
-   decapGroupIs( 6635, 1 );
-   EXPECT_EQ( info( mplsEntry ), 0x33d7u );
+TEST_F( GueNexthopGroupTest, anInputThatIsNotMountedEndsTheProcess ) {
+   EXPECT_DEATH( gueNexthopGroupSmFactory( sw().cellStatus(), dgConfig, nullptr, sal() ), "ptr != nullptr" );
+   EXPECT_DEATH( gueNexthopGroupSmFactory( sw().cellStatus(), nullptr, ports, sal() ), "ptr != nullptr" );
 }
 
 // Whatever happened: IP ports are those of the configuration, the MPLS port is, while there is one, and nothing else on

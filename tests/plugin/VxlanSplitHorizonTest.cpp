@@ -283,11 +283,10 @@ TEST_F( VxlanSplitHorizonTest, leavesTheChipsAsTheyAreWhenItGoes ) {
    EXPECT_EQ( Corvo::Node::liveCount(), nodes );
 }
 
-TEST_F( VxlanSplitHorizonTest, inputsThatAreNotMountedConfigureNothing ) {
+TEST_F( VxlanSplitHorizonTest, anInputThatIsNotMountedEndsTheProcess ) {
    oneFapOfEachKind();
-   sm = vxlanSplitHorizonCfgSmFactory( nullptr, nullptr, sw().cellStatus() );
-   sm->hasNotificationActiveIs( true );
-   EXPECT_EQ( writes(), nothing );
+   EXPECT_DEATH( vxlanSplitHorizonCfgSmFactory( nullptr, evpn, sw().cellStatus() ), "ptr != nullptr" );
+   EXPECT_DEATH( vxlanSplitHorizonCfgSmFactory( dir, nullptr, sw().cellStatus() ), "ptr != nullptr" );
 }
 
 TEST_F( VxlanSplitHorizonTest, tracesWhatItDoes ) {
