@@ -30,6 +30,7 @@ constexpr Verb verbs[] = {
    { "why", "which operation wrote it, where in the source, on which cause", defineWhy },
    { "compare", "one scenario on every kind of chip, and with each toggle flipped alone", defineCompare },
    { "replay", "apply the writes of a journal to a fresh switch, and compare", defineReplay },
+   { "check", "play a scenario and verify what can be verified on the chips afterwards", defineCheck },
 };
 
 int failed( std::string const & text ) {

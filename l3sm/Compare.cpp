@@ -295,6 +295,19 @@ void showFlips( std::ostream & out,
    summary.print( out );
 
    for ( Flip const & flip : flips ) {
+      std::map< std::string, std::string > failures; // last words, and the chips that said them
+      for ( std::size_t chip = 0; chip < chipCount; ++chip ) {
+         std::string const & failure = flip.runs[chip].failure;
+         if ( !failure.empty() ) {
+            failures[failure.substr( 0, failure.find( '\n' ) )] += " " + chipShort( chip );
+         }
+      }
+      for ( auto const & [failure, chips] : failures ) {
+         out << '\n'
+             << style.strong( flip.file + ":" + flip.name ) << " " << stateText( flip.was ) << " → "
+             << stateText( !flip.was ) << style.faint( "  on" + chips ) << '\n'
+             << "  " << style.before( "didn't come to its end" ) << ": " << failure << '\n';
+      }
       // Chips on which the toggle changes the same are told together.
       std::vector< std::pair< std::map< ProgrammedPlace, Change >, std::string > > groups;
       for ( std::size_t chip = 0; chip < chipCount; ++chip ) {

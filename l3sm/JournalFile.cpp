@@ -3,7 +3,6 @@
 #include "l3sm/ChipsFile.h"
 #include "l3sm/Json.h"
 #include "l3sm/TableNames.h"
-#include "simulator/TableMap.h"
 
 #include <algorithm>
 #include <fstream>
@@ -16,20 +15,6 @@ using Rex::Value;
 using Rex::ValueError;
 using Simulator::Journal;
 
-// The place of a word in a list of names.
-template< std::size_t count >
-std::size_t oneOf( std::string const & word, char const * const ( &names )[count] ) {
-   auto const found = std::ranges::find( names, word );
-   if ( found == std::end( names ) ) {
-      std::string known;
-      for ( auto const * name : names ) {
-         known += ( known.empty() ? "" : ", " ) + std::string( name );
-      }
-      throw ValueError( "", "\"" + word + "\" is none of " + known );
-   }
-   return static_cast< std::size_t >( found - names );
-}
-
 class RowReader {
  public:
    RowReader( JournalFile & journal, Value const & value ) : journal_( journal ), fields_( value ) {}
@@ -39,7 +24,7 @@ class RowReader {
       row.seq = fields_.required< U64 >( "seq" );
       row.event = fields_.required< U32 >( "event" );
       constexpr char const * kinds[] = { "read", "write", "control" };
-      row.kind = static_cast< Journal::Kind >( oneOf( fields_.required< std::string >( "op" ), kinds ) );
+      row.kind = static_cast< Journal::Kind >( oneOf( "op", kinds ) );
       row.fap = fields_.required< U16 >( "fap" );
       row.function = text( "function" );
       row.source = text( "source" );
@@ -60,6 +45,20 @@ class RowReader {
    }
 
  private:
+   // The place of a member's text in a list of names.
+   template< std::size_t count >
+   std::size_t oneOf( char const * key, char const * const ( &names )[count] ) {
+      std::string const word = fields_.required< std::string >( key );
+      auto const found = std::ranges::find( names, word );
+      if ( found == std::end( names ) ) {
+         std::string known;
+         for ( auto const * name : names ) {
+            known += ( known.empty() ? "" : ", " ) + std::string( name );
+         }
+         throw ValueError( Rex::pointerStep( key ), "\"" + word + "\" is none of " + known );
+      }
+      return static_cast< std::size_t >( found - names );
+   }
    std::string_view text( char const * key ) { return journal_.kept( fields_.required< std::string >( key ) ); }
 
    void place( Journal::Row & row ) {
@@ -76,7 +75,7 @@ class RowReader {
          }
       } );
       constexpr char const * scopes[] = { "any", "all", "core" };
-      row.scope = static_cast< Journal::Scope >( oneOf( fields_.required< std::string >( "scope" ), scopes ) );
+      row.scope = static_cast< Journal::Scope >( oneOf( "scope", scopes ) );
       if ( row.scope == Journal::Scope::core ) {
          row.core = fields_.required< U8 >( "core" );
       }
@@ -87,17 +86,10 @@ class RowReader {
       Rex::below( "words", [&] { row.words = wordsFromValue( list ); } );
       auto const * const layout = layoutOf( row );
       if ( !layout ) {
-         throw ValueError( "/words",
-                           std::string( row.table ) + " has no such variant, or not entries of " +
-                              counted( row.words.size() ) );
-      }
-      auto const array = static_cast< U32 >( row.array );
-      if ( array < layout->arrayIndexFirst || array - layout->arrayIndexFirst >= layout->arrayElements ) {
-         throw ValueError( "/array", std::string( row.table ) + " has no such array index" );
-      }
-      if ( row.entry.value_or( 0 ) >= Simulator::entryCount( *layout ) ||
-           row.entry.has_value() == ( layout->entries == 0 ) ) {
-         throw ValueError( "/entry", std::string( row.table ) + " has no such entry" );
+         std::string const on = row.chip ? std::string( " on " ) + row.chip : "";
+         throw ValueError( "",
+                           std::string( row.table ) + " has no such variant, array index and entry of " +
+                              counted( row.words.size() ) + on );
       }
       if ( row.scope == Journal::Scope::core && static_cast< std::size_t >( row.core ) >= layout->selectors.size() ) {
          throw ValueError( "/core", std::string( row.table ) + " has no such instance" );
@@ -155,9 +147,12 @@ JournalFile readJournal( std::string const & path ) {
 
 Catalogue::Layout const * layoutOf( Journal::Row const & row ) {
    auto const & table = *Catalogue::table( row.table );
+   auto const array = static_cast< U32 >( row.array );
    for ( auto const & layout : table.layouts ) {
       bool const isChip = !row.chip || std::string_view( row.chip ) == Catalogue::chipName( layout.chipType );
-      if ( isChip && layout.variant == row.variant && layout.width == row.words.size() ) {
+      bool const hasArray = array >= layout.arrayIndexFirst && array - layout.arrayIndexFirst < layout.arrayElements;
+      bool const hasEntry = row.entry ? *row.entry < layout.entries : layout.entries == 0;
+      if ( isChip && hasArray && hasEntry && layout.variant == row.variant && layout.width == row.words.size() ) {
          return &layout;
       }
    }

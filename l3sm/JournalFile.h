@@ -35,7 +35,7 @@ class JournalFile {
 JournalFile readJournal( std::string const & path );
 
 // The layout of the table that an operation was made on. Where the journal doesn't say what kind of chip it was, the
-// first of the table's layouts that the words fit.
+// first of the table's layouts that has the place.
 Catalogue::Layout const * layoutOf( Simulator::Journal::Row const & row );
 
 } // namespace Cli

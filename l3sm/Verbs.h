@@ -22,5 +22,6 @@ Action defineDiff( CLI::App & verb );
 Action defineWhy( CLI::App & verb );
 Action defineCompare( CLI::App & verb );
 Action defineReplay( CLI::App & verb );
+Action defineCheck( CLI::App & verb );
 
 } // namespace Cli

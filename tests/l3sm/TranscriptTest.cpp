@@ -37,7 +37,7 @@ std::vector< std::string > names() {
 }
 
 std::string withoutLineNumbers( std::string const & text ) {
-   static std::regex const number( R"((\.cpp):\d+ *( |\n|"|$))" );
+   static std::regex const number( R"((\.cpp):\d+ *( |\n|"|:|$))" );
    return std::regex_replace( text, number, "$1:N$2" );
 }
 
@@ -53,8 +53,9 @@ class Session {
 
    // The command's line, and below it what it answered.
    std::string play( std::string const & command ) const {
-      std::string const line = "cd '" + folder_.string() + "' && PATH='" L3SM_BINARY_DIR "/bin':$PATH && unset COLUMNS && { " +
-                               command + "; } </dev/null >.answer 2>&1";
+      std::string const line = "cd '" + folder_.string() +
+                               "' && PATH='" L3SM_BINARY_DIR "/bin':$PATH && unset COLUMNS && { " + command +
+                               "; } </dev/null >.answer 2>&1";
       int const status = WEXITSTATUS( std::system( line.c_str() ) );
       std::string answer = "$ " + command + "\n" + withoutLineNumbers( contentsOf( folder_ / ".answer" ) );
       answer += status == 0 ? "" : "[" + std::to_string( status ) + "]\n";
@@ -85,8 +86,8 @@ TEST_P( TranscriptTest, isAnsweredToTheLetter ) {
    EXPECT_EQ( actual, expected );
 }
 
-INSTANTIATE_TEST_SUITE_P( All, TranscriptTest, testing::ValuesIn( names() ), []( auto const & info ) {
-   std::string name = info.param;
+INSTANTIATE_TEST_SUITE_P( All, TranscriptTest, testing::ValuesIn( names() ), []( auto const & of ) {
+   std::string name = of.param;
    std::ranges::replace( name, '-', '_' );
    return name;
 } );
