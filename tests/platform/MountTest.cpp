@@ -145,6 +145,7 @@ TEST_F( Mounts, AfterCloseEndTheProcess ) {
    group->doClose( false, "", 0 );
    EXPECT_DEATH( group->doMount( request( "evpn/status", "Evpn::EvpnStatus" ) ), "Assertion `isOpen' failed" );
    EXPECT_DEATH( group->doClose( false, "", 0 ), "Assertion `isOpen' failed" );
+   scheduler->runUntilIdle(); // a report that is due holds its group
 }
 
 TEST_F( Mounts, DatabaseKnowsThePathOfWhatHangsBelow ) {
