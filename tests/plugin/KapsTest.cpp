@@ -1,5 +1,6 @@
 #include "ChipFixture.h"
 #include "KapsStrength.h"
+#include "rex/Operations.h"
 
 using namespace DaceFapNi;
 
@@ -204,6 +205,27 @@ TEST_P( KapsDeathTest, failsWhereTheExceptionalEntryHasTheStrengthOfItsRange ) {
    EXPECT_DEATH( L3Sm::verifyKapsStrengthMapping( fap() ),
                  "verifyKapsStrengthMappingEntry arrayIndex 1 entry 32 expValue 0 readValue \x01\n"
                  ".*`\"kapsStrengthMapping.strengthDefault1\\(\\) == 0\" == nullptr'" );
+}
+
+// ---- by name, for those who only load the library
+
+TEST_P( KapsTest, isVerifiedByNameAsAnOperationOfTheMachinesType ) {
+   chipIs( GetParam() );
+   auto const operation = [&]( char const * name ) -> Rex::Operation const & {
+      auto const * const found = Rex::Operations::find( "DaceFapNi::L3Sm", name );
+      Rex::sassert( found != nullptr, name );
+      return *found;
+   };
+   operation( "initKapsStrengthMapping" )( fap() );
+   operation( "verifyKapsStrengthMapping" )( fap() );
+   EXPECT_EQ( rows().back().function, "L3Sm::verifyKapsStrengthMapping" );
+}
+
+TEST_P( KapsDeathTest, failsByNameAsWell ) {
+   chipIs( GetParam() );
+   strengthIs( 2, 0, "strengthDefault0", 4 );
+   EXPECT_DEATH( ( *Rex::Operations::find( "DaceFapNi::L3Sm", "verifyKapsStrengthMapping" ) )( fap() ),
+                 "verifyKapsStrengthMappingEntry arrayIndex 2 entry 0 expValue 5" );
 }
 
 INSTANTIATE_TEST_SUITE_P( Chips, KapsTest, everyChip, chipNameOf );
