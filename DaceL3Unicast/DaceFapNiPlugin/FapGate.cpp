@@ -34,10 +34,10 @@ Hardware::Dace::FapType chipTypeToFapType( Hardware::ChipType chipType ) {
 }
 
 bool isServed( Hardware::Dace::FapType fapType ) {
-   if ( fapType == fapTypeJericho3 ) {
+   if ( fapType == fapType4 ) {
       return false;
    }
-   return !( fapType == fapTypeJericho2 && toggleArmOrderedSwTableEnabled() && toggleJ2DaceL3NiEnabled() );
+   return !( fapType == fapType3 && toggleArmOrderedSwTableEnabled() && toggleJ2DaceL3NiEnabled() );
 }
 
 } // namespace DaceFapNi

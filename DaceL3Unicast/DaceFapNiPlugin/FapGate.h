@@ -8,8 +8,8 @@ namespace DaceFapNi {
 // The FAP type of a chip type. A chip type above 25 ends the process: "Unhandled chipType " and the chip type.
 Hardware::Dace::FapType chipTypeToFapType( Hardware::ChipType chipType );
 
-constexpr Hardware::Dace::FapType fapTypeJericho2{ 3 };
-constexpr Hardware::Dace::FapType fapTypeJericho3{ 4 };
+constexpr Hardware::Dace::FapType fapType3{ 3 };
+constexpr Hardware::Dace::FapType fapType4{ 4 };
 
 // Whether chip initialisation and the FFC modifier are for this FAP type. Type 4 never is; type 3 is not while another
 // plug-in has taken over, which takes two toggles. The toggles are read only for a type that they can decide on.

@@ -157,7 +157,7 @@ void L3Sm::handleInitialized() {
    }
    initialized_ = true; // from here on the run is not repeated, also if it returns early
    buildInterfaceMachine();
-   if ( chipTypeToFapType( in_.sliceSmState->revision().chipType() ) == fapTypeJericho3 ) {
+   if ( chipTypeToFapType( in_.sliceSmState->revision().chipType() ) == fapType4 ) {
       return;
    }
    buildChildren();

@@ -87,7 +87,7 @@ void L3Sm::NestedSm_SlotLoadBalance::handleGuePktTypeHashModeConfig() const {
    if ( !parent_ || !parent_->initialized_ ) {
       return;
    }
-   if ( chipTypeToFapType( parent_->in_.sliceSmState->revision().chipType() ) == fapTypeJericho3 ) {
+   if ( chipTypeToFapType( parent_->in_.sliceSmState->revision().chipType() ) == fapType4 ) {
       return;
    }
    Fru::SlotId const slot = config_->slotId();

@@ -50,7 +50,7 @@ void L3Sm::initMplsDefaultFwdResult( FapStatusPtr const & fapStatus, SwitchContr
    Hardware::Dace::DestinationId destination;
    destination.fwsIs( 3 );
    destination.destinationIs( 226 );
-   controlIs( sal, fapStatus, Control::mplsDefaultFwdResult, 2 * destination.encodedDestId( fapTypeJericho2 ) );
+   controlIs( sal, fapStatus, Control::mplsDefaultFwdResult, 2 * destination.encodedDestId( fapType3 ) );
 }
 
 void L3Sm::initSaProcedureFwd2RoutingCtxs( FapStatusPtr const & fapStatus, SwitchControlSalPtr const & sal ) {
