@@ -199,17 +199,14 @@ TEST( SlotLoadBalance, anEntryBeforeInitializationWaits ) {
    sw.expectProfile( 23 );
 }
 
-TEST( SlotLoadBalance, anotherFamilyIsNotProgrammed ) {
-   TestSwitch sw( std::vector< ChipType >{} );
-   sw.set( "shared/sliceSmStateData",
-           "revision",
-           Object{ { "chipType", "BCM88690_B0" }, { "sdkVersion", 7 }, { "major", 5 } } );
-   auto const slice = sw.entity< DaceFapNi::SliceSmStateInfo >( "shared/sliceSmStateData" );
-   slice->revisionIs( { 5, ChipType{ 17 }, 7 } );
+TEST( SlotLoadBalance, aSliceOfAnotherFamilyDoesNotProgram ) {
+   TestSwitch sw( { ChipType::BCM88690_B0 } );
+   sw.entity< DaceFapNi::SliceSmStateInfo >( "shared/sliceSmStateData" )->revisionIs( { 5, ChipType{ 17 }, 7 } );
    sw.start();
    Traced const traced( "DaceFapNiL3Sm", 8 );
    sw.setEntry( lag, "slotLoadBalance", "0", Object{ { "guePktTypeHashMode", 2 } } );
-   EXPECT_TRUE( traced.texts.empty() ); // not even looked at
+   EXPECT_TRUE( sw.operations( "VsiProfileEnablers" ).empty() );
+   EXPECT_TRUE( traced.texts.empty() ); // the slot isn't even looked at
 }
 
 TEST( SlotLoadBalance, tellsEveryPlaceThatItPrograms ) {

@@ -1,10 +1,8 @@
 #include "ChipView.h"
-#include "DaceL3Unicast/DaceFapNiPlugin/Learning.h"
 
 #include <gtest/gtest.h>
 
 using namespace Test;
-using DacePPExport::ctx_fwd1;
 
 namespace {
 
@@ -92,58 +90,6 @@ TEST( Urpf, tellsTheModeAndTheTrap ) {
                  "5 handleUrpfFailFwdConfig:  Enabling uRPF fail fwd for fap 0 chipType BCM88690_B0 trapIndex 4",
                  "5 handleStrictUrpfFailFwdConfig:  Setting Strict mode uRPF fail fwd : false",
                  "5 handleUrpfFailFwdConfig:  Disabling uRPF fail fwd for fap 0 chipType BCM88690_B0 trapIndex 4" } ) );
-}
-
-// Learning, on a switch that nothing else programs.
-
-TEST( Learning, switchesThreeEnablersOfAContext ) {
-   TestSwitch sw( { ChipType::BCM88800_A0 } );
-   for ( bool const enable : { true, false } ) {
-      DaceFapNi::setLearningForUrpfOrFlpa( { ctx_fwd1{ 38 } }, ChipType::BCM88800_A0, FapId( 0 ), enable, false );
-      EXPECT_EQ( sw.field( { "FlpaInitContextEnablers", 0, 0, 51 }, "contextLearnAllowedEnable" ), enable );
-      EXPECT_EQ( sw.field( { "FlpaInitContextEnablers", 0, 0, 51 }, "learningFixedKeyEnable" ), enable );
-      EXPECT_EQ( sw.field( { "FlpaResContextEnablers", 0, 0, 51 }, "learnInfoResolutionEnable" ), enable );
-   }
-}
-
-TEST( Learning, theForwardingUpdateGoesTheOppositeWayOnlyForFlpa ) {
-   TestSwitch sw( { ChipType::BCM88800_A0 } );
-   At const res{ "FlpaResContextEnablers", 0, 0, 44 };
-   for ( bool const enable : { true, false } ) {
-      DaceFapNi::setLearningForUrpfOrFlpa( { ctx_fwd1{ 36 } }, ChipType::BCM88800_A0, FapId( 0 ), enable, true );
-      EXPECT_EQ( sw.field( res, "fwdUpdateEnable" ), !enable );
-   }
-   for ( U64 const present : { 0, 1 } ) {
-      sw.fieldIs( res, "fwdUpdateEnable", present );
-      DaceFapNi::setLearningForUrpfOrFlpa( { ctx_fwd1{ 36 } }, ChipType::BCM88800_A0, FapId( 0 ), true, false );
-      EXPECT_EQ( sw.field( res, "fwdUpdateEnable" ), present );
-   }
-}
-
-TEST( Learning, writesNothingWhereNoContextExists ) {
-   TestSwitch sw( { ChipType::BCM88480_A0 } );
-   Traced const traced( "DaceFapNiL3Sm", 4 );
-   DaceFapNi::setLearningForUrpfOrFlpa(
-      { ctx_fwd1{ 37 }, ctx_fwd1{ 51 }, ctx_fwd1{ 39 } }, ChipType::BCM88480_A0, FapId( 0 ), true, true );
-   EXPECT_EQ( sw.journal().size(), 0u );
-   EXPECT_EQ( traced.with( "4 setLearningForUrpfOrFlpa fwd1Context does not exist, try changing the name: 0" ).size(),
-              3u );
-}
-
-TEST( Learning, resolvesEveryContextBeforeItWritesTheFirst ) {
-   TestSwitch sw( { ChipType::BCM88480_A0 } );
-   Traced const traced( "DaceFapNiL3Sm", 4 );
-   DaceFapNi::setLearningForUrpfOrFlpa(
-      { ctx_fwd1{ 36 }, ctx_fwd1{ 39 } }, ChipType::BCM88480_A0, FapId( 0 ), false, false );
-   EXPECT_EQ(
-      traced.texts,
-      ( std::vector< std::string >{ "4 setLearningForUrpfOrFlpa fwd1Context does not exist, try changing the name: 0",
-                                    "4 setLearningForUrpfOrFlpa Setting the learning for fwdContext: 3 as: false" } ) );
-   EXPECT_EQ( sw.operations(),
-              ( std::vector< std::string >{ "read FlpaInitContextEnablers 0/0/3",
-                                            "write FlpaInitContextEnablers 0/0/3",
-                                            "read FlpaResContextEnablers 0/0/3",
-                                            "write FlpaResContextEnablers 0/0/3" } ) );
 }
 
 } // namespace
