@@ -41,60 +41,32 @@ Subscriber::~Subscriber() {
    }
 }
 
+Notification const * Publisher::top_ = nullptr;
+
 namespace {
 
 Notification const noAnnouncement{ nullptr, 0, nullptr, nullptr };
-Notification const * top = nullptr;                        // the innermost announcement
-Notification const * foreignWriteDuring = &noAnnouncement; // the innermost one when a foreign write began
+Notification const * foreignWriteDuring = &noAnnouncement; // the innermost announcement when a foreign write began
 
 } // namespace
 
-Notification const * Publisher::current() {
-   return top;
-}
-
 bool Publisher::foreignWrite() {
-   return top == foreignWriteDuring;
+   return top_ == foreignWriteDuring;
 }
 
-Publisher::ForeignWrite::ForeignWrite() : before_( std::exchange( foreignWriteDuring, top ) ) {}
+Publisher::ForeignWrite::ForeignWrite() : before_( std::exchange( foreignWriteDuring, top_ ) ) {}
 
 Publisher::ForeignWrite::~ForeignWrite() {
    foreignWriteDuring = before_;
 }
 
-// One announcement on the stack. Cursors of all publishers form one chain, innermost first; it is a few deep at most,
-// so whoever takes a subscriber out can afford to look at all of them.
-struct Publisher::Cursor : Notification {
-   Subscriber * next; // null once nobody is left to hear it
-   Subscriber * last; // who subscribes from here on hears the next change
-
-   Cursor( Publisher const * publisher_, short attribute_, void const * key_, Subscriber * first, Subscriber * last_ )
-      : Notification{ publisher_, attribute_, key_, top }, next( first ), last( last_ ) {}
-
-   void subscriberGone( Subscriber const & subscriber ) {
-      if ( next == &subscriber ) {
-         next = last == &subscriber ? nullptr : subscriber.next_;
-      } else if ( last == &subscriber ) {
-         last = subscriber.previous_; // not before `next`, or `next` is null
-      }
+void Publisher::Cursor::subscriberGone( Subscriber const & subscriber ) {
+   if ( next == &subscriber ) {
+      next = last == &subscriber ? nullptr : subscriber.next_;
+   } else if ( last == &subscriber ) {
+      last = subscriber.previous_; // not before `next`, or `next` is null
    }
-   static Cursor * innermost() { return static_cast< Cursor * >( const_cast< Notification * >( top ) ); }
-   Cursor * outerCursor() const { return static_cast< Cursor * >( const_cast< Notification * >( outer ) ); }
-};
-
-// Makes a cursor the innermost one. The one before is kept here, out of the callbacks' reach and so in a register:
-// read back from the cursor, it would make one announcement wait for the memory of the one before.
-class Publisher::Announcement {
- public:
-   explicit Announcement( Cursor const & cursor ) : outer_( top ) { top = &cursor; }
-   Announcement( Announcement const & ) = delete;
-   Announcement & operator=( Announcement const & ) = delete;
-   ~Announcement() { top = outer_; }
-
- private:
-   Notification const * const outer_;
-};
+}
 
 Publisher::~Publisher() {
    for ( auto * cursor = Cursor::innermost(); cursor; cursor = cursor->outerCursor() ) {
@@ -117,7 +89,7 @@ void Publisher::subscriberAdd( Subscriber & subscriber, bool replay ) {
    last_ = &subscriber;
    if ( replay ) {
       // The slot stays next for as long as it is subscribed.
-      Cursor cursor( this, 0, nullptr, &subscriber, &subscriber );
+      Cursor cursor{ { this, 0, nullptr, top_ }, &subscriber, &subscriber };
       Announcement const announcement( cursor );
       for ( auto const * attribute : node_->typeData().attributes() ) {
          cursor.attribute = attribute->id;
@@ -147,19 +119,8 @@ void Publisher::unlink( Subscriber & subscriber ) {
    subscriber.previous_ = nullptr;
 }
 
-void Publisher::announce( short attribute, void const * key, void const * value ) {
-   Subscriber * const only = first_;
-   if ( only == last_ ) { // the most frequent case: no walk
-      Cursor const cursor( this, attribute, key, nullptr, nullptr );
-      Announcement const announcement( cursor );
-      only->dispatch_( this, only, attribute, key, value );
-   } else {
-      announceToMany( attribute, key, value );
-   }
-}
-
 void Publisher::announceToMany( short attribute, void const * key, void const * value ) {
-   Cursor cursor( this, attribute, key, first_, last_ );
+   Cursor cursor{ { this, attribute, key, top_ }, first_, last_ };
    Announcement const announcement( cursor );
    while ( Subscriber * const subscriber = cursor.next ) {
       cursor.next = subscriber == cursor.last ? nullptr : subscriber->next_;

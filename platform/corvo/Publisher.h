@@ -82,13 +82,17 @@ class Publisher {
    bool hasSubscribers() const { return first_ != nullptr; }
 
    void publish( short attribute, void const * key = nullptr, void const * value = nullptr ) {
-      if ( first_ ) {
-         announce( attribute, key, value );
+      if ( first_ != last_ ) {
+         announceToMany( attribute, key, value );
+      } else if ( Subscriber * const only = first_ ) { // the most frequent case: no walk
+         Cursor const cursor{ { this, attribute, key, top_ }, nullptr, nullptr };
+         Announcement const announcement( cursor );
+         only->dispatch_( this, only, attribute, key, value );
       }
    }
 
    // The innermost announcement under way, or null.
-   static Notification const * current();
+   static Notification const * current() { return top_; }
 
    // True while the database carries out another agent's write, and false again in what that write sets off here:
    // only such a write may change a write-protected node.
@@ -105,15 +109,37 @@ class Publisher {
    };
 
  private:
-   struct Cursor;
-   class Announcement;
-   void announce( short attribute, void const * key, void const * value );
+   // One announcement on the stack. Cursors of all publishers form one chain, innermost first; it is a few deep at
+   // most, so whoever takes a subscriber out can afford to look at all of them.
+   struct Cursor : Notification {
+      Subscriber * next; // null once nobody is left to hear it
+      Subscriber * last; // who subscribes from here on hears the next change
+
+      void subscriberGone( Subscriber const & subscriber );
+      static Cursor * innermost() { return static_cast< Cursor * >( const_cast< Notification * >( top_ ) ); }
+      Cursor * outerCursor() const { return static_cast< Cursor * >( const_cast< Notification * >( outer ) ); }
+   };
+
+   // Makes a cursor the innermost one. The one before is kept here, out of the callbacks' reach and so in a register:
+   // read back from the cursor, it would make one announcement wait for the memory of the one before.
+   class Announcement {
+    public:
+      explicit Announcement( Cursor const & cursor ) : outer_( top_ ) { top_ = &cursor; }
+      Announcement( Announcement const & ) = delete;
+      Announcement & operator=( Announcement const & ) = delete;
+      ~Announcement() { top_ = outer_; }
+
+    private:
+      Notification const * const outer_;
+   };
+
    void announceToMany( short attribute, void const * key, void const * value );
    void unlink( Subscriber & subscriber );
 
    Node const * node_;
    Subscriber * first_ = nullptr;
    Subscriber * last_ = nullptr;
+   static Notification const * top_; // the innermost announcement
 };
 
 } // namespace Corvo
