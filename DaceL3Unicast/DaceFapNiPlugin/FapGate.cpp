@@ -2,6 +2,7 @@
 
 #include "Toggles.h"
 #include "rex/Assert.h"
+#include "rex/Gate.h"
 
 namespace DaceFapNi {
 
@@ -33,11 +34,14 @@ Hardware::Dace::FapType chipTypeToFapType( Hardware::ChipType chipType ) {
    __builtin_unreachable();
 }
 
-bool isServed( Hardware::Dace::FapType fapType ) {
-   if ( fapType == fapType4 ) {
+bool isServed( Hardware::Dace::FapType fapType, std::optional< U16 > fap, std::source_location origin ) {
+   if ( !Rex::gate( fapType != fapType4, "FAP type 4 is not served", fap, origin ) ) {
       return false;
    }
-   return !( fapType == fapType3 && toggleArmOrderedSwTableEnabled() && toggleJ2DaceL3NiEnabled() );
+   return Rex::gate( !( fapType == fapType3 && toggleArmOrderedSwTableEnabled() && toggleJ2DaceL3NiEnabled() ),
+                     "FAP type 3 is not served while the toggles ArmOrderedSwTable and J2DaceL3Ni are on",
+                     fap,
+                     origin );
 }
 
 } // namespace DaceFapNi

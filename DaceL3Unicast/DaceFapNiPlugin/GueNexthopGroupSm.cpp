@@ -1,5 +1,6 @@
 #include "GueNexthopGroupSm.h"
 
+#include "rex/Gate.h"
 #include "rex/Trace.h"
 
 namespace DaceFapNi {
@@ -131,8 +132,9 @@ void GueNexthopGroupSm::handleDecapGroupDestPortConfig( U16 dPort ) {
 void GueNexthopGroupSm::setGueMplsEncapUdpDestPort( bool isNhgConfig, U16 dPort, L3::Tunnel::PayloadType payloadType ) {
    trace( 8, "GueNexthopGroupSm::", "setGueMplsEncapUdpDestPort", ": isNhgConfig is ", isNhgConfig );
    if ( udpDestPortConfig_->udpDestPortHas( mpls ) ) {
-      if ( !isNhgConfig || payloadType != mpls ) {
-         return; // decap groups don't count while the nexthop groups name a port
+      bool const isNexthopGroups = isNhgConfig && payloadType == mpls;
+      if ( !Rex::gate( isNexthopGroups, "decap groups don't count while the nexthop groups name a port" ) ) {
+         return;
       }
       U16 const port = udpDestPortConfig_->udpDestPort( payloadType );
       if ( port != gueMplsEncapUdpDestPort_ ) {

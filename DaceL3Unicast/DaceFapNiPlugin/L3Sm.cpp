@@ -3,6 +3,7 @@
 #include "FapGate.h"
 #include "L3SmSlotLoadBalance.h"
 #include "Toggles.h"
+#include "rex/Gate.h"
 #include "rex/Trace.h"
 
 namespace DaceFapNi {
@@ -151,13 +152,15 @@ void L3Sm::rexDoZombieReactors( bool zombie ) {
 
 void L3Sm::handleInitialized() {
    trace( 5, "L3Sm::", "handleInitialized", " initialized: ", initialized_ );
-   if ( initialized_ || !in_.phySmState->allEthPhyIntfConfigDir() ||
-        !in_.phySmStateSharedStatus->allEthPhyIntfStatusDir() ) {
+   if ( initialized_ ||
+        !Rex::gate( in_.phySmState->allEthPhyIntfConfigDir() && in_.phySmStateSharedStatus->allEthPhyIntfStatusDir(),
+                    notInitialized ) ) {
       return;
    }
    initialized_ = true; // from here on the run is not repeated, also if it returns early
    buildInterfaceMachine();
-   if ( chipTypeToFapType( in_.sliceSmState->revision().chipType() ) == fapType4 ) {
+   if ( !Rex::gate( chipTypeToFapType( in_.sliceSmState->revision().chipType() ) != fapType4,
+                    "FAP type 4 has no more than the interface machine" ) ) {
       return;
    }
    buildChildren();

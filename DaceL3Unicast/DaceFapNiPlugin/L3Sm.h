@@ -221,6 +221,8 @@ class L3Sm : public Corvo::Node {
           Corvo::Ptr< L3::Tunnel::UdpDestinationPortConfig const >, SwitchControlSalPtr > nexthopGroupSm_;
    // clang-format on
    Rex::HashMap2018< Fru::SlotId, Corvo::Ptr< NestedSm_SlotLoadBalance > > slotLoadBalance_;
+   // Why a handler does nothing before it is.
+   static constexpr char const * notInitialized = "the interface directories are not there yet";
    bool initialized_ = false;
 };
 

@@ -4,6 +4,7 @@
 #include "Toggles.h"
 #include "constants/EgressPortProfiles.h"
 #include "constants/WellKnown.h"
+#include "rex/Gate.h"
 #include "rex/Trace.h"
 
 namespace DaceFapNi {
@@ -87,7 +88,9 @@ void L3Sm::initIppeRecycFwdProfileMappingReg( FapStatusPtr const & fapStatus ) {
 }
 
 void L3Sm::initMtuRecycleLog( FapStatusPtr const & fapStatus, SwitchControlSalPtr const & sal ) {
-   if ( !Jericho2EgressPortEnc1Profile::exists( fapStatus->revision(), recycled ) ) {
+   if ( !Rex::gate( Jericho2EgressPortEnc1Profile::exists( fapStatus->revision(), recycled ),
+                    "the egress profile of recycled packets doesn't exist on the chip",
+                    fapStatus->fapId().value() ) ) {
       trace( 0,
              "L3Sm::",
              "initMtuRecycleLog",
@@ -114,7 +117,7 @@ void L3Sm::initEtppCfgFwdDoNotTtlDecrement( FapStatusPtr const & fapStatus ) {
 }
 
 void L3Sm::doSetupVxlanMcastEtppDoubleOutLifSwap( FapStatusPtr const & fapStatus, SwitchControlSalPtr const & ) {
-   if ( !toggleJ2EvpnMcastVxlanMultihomingEnabled() ) {
+   if ( !Rex::gate( toggleJ2EvpnMcastVxlanMultihomingEnabled(), "the toggle J2EvpnMcastVxlanMultihoming is off" ) ) {
       return;
    }
    Fap const fap( fapStatus );
@@ -126,7 +129,7 @@ void L3Sm::doSetupVxlanMcastEtppDoubleOutLifSwap( FapStatusPtr const & fapStatus
 }
 
 void L3Sm::doCopyFwdDomainConfigToLifStatsForEtpsArpAc( FapStatusPtr const & fapStatus, SwitchControlSalPtr const & ) {
-   if ( !toggleJ2L2EvpnMplsMultiHomedEnabled() ) {
+   if ( !Rex::gate( toggleJ2L2EvpnMplsMultiHomedEnabled(), "the toggle J2L2EvpnMplsMultiHomed is off" ) ) {
       return;
    }
    Fap const fap( fapStatus );
@@ -139,7 +142,8 @@ void L3Sm::doCopyFwdDomainConfigToLifStatsForEtpsArpAc( FapStatusPtr const & fap
 }
 
 void L3Sm::initFlpRpfFormatConfig( FapStatusPtr const & fapStatus ) {
-   if ( !toggleUrpfIgnoreDefaultRouteJericho2Enabled() ) {
+   if ( !Rex::gate( toggleUrpfIgnoreDefaultRouteJericho2Enabled(),
+                    "the toggle UrpfIgnoreDefaultRouteJericho2 is off" ) ) {
       return;
    }
    for ( int const entry : { 57, 59 } ) {
@@ -151,7 +155,9 @@ void L3Sm::initFlpRpfFormatConfig( FapStatusPtr const & fapStatus ) {
 // The register is there on the chips of these major revisions only.
 void L3Sm::initLifMcBridgeFallbackAllowReg( FapStatusPtr const & fapStatus ) {
    U32 const major = fapStatus->revision().fapRevMajor();
-   if ( major != 8 && major != 9 ) {
+   if ( !Rex::gate( major == 8 || major == 9,
+                    "the register is there on FAP revisions 8 and 9 only",
+                    fapStatus->fapId().value() ) ) {
       return;
    }
    modify< Hardware::IppbLifMcBridgeFallbackAllow >(

@@ -5,6 +5,7 @@
 // change single bits and entries of what the static programming wrote.
 #include "L3Sm.h"
 #include "Programming.h"
+#include "rex/Gate.h"
 #include "rex/Trace.h"
 
 #include <span>
@@ -82,7 +83,7 @@ void changeOrientation( Fap const & fap,
 } // namespace
 
 void L3Sm::handleEvpnEncapType() {
-   if ( !initialized_ ) {
+   if ( !Rex::gate( initialized_, notInitialized ) ) {
       return;
    }
    bool const vxlanEnabled = in_.evpnStatus->vxlanEnabled();
@@ -104,7 +105,7 @@ void L3Sm::handleEvpnEncapType() {
 void L3Sm::handleDecapRouteAll() {
    bool const decapRouteAll = in_.vtiStatusDir->decapRouteAll();
    trace( 8, "L3Sm::", "handleDecapRouteAll", " initialized: ", initialized_, " decapRouteAll: ", decapRouteAll );
-   if ( !initialized_ ) {
+   if ( !Rex::gate( initialized_, notInitialized ) ) {
       return;
    }
    forEachFap( in_.cellStatus, [&]( Fap const & fap, auto const & status ) {
@@ -118,7 +119,7 @@ void L3Sm::handleDecapRouteAll() {
 void L3Sm::handleEvpnDciGateway() {
    bool const evpnDciEnabled = in_.evpnStatus->evpnDciEnabled();
    trace( 8, "L3Sm::", "handleEvpnDciGateway", " initialized: ", initialized_, " evpnDciEnabled: ", evpnDciEnabled );
-   if ( !initialized_ ) {
+   if ( !Rex::gate( initialized_, notInitialized ) ) {
       return;
    }
    forEachFap( in_.cellStatus, [&]( Fap const & fap, auto const & ) {

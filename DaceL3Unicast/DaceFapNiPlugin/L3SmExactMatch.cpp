@@ -4,6 +4,7 @@
 #include "Learning.h"
 #include "Programming.h"
 #include "Toggles.h"
+#include "rex/Gate.h"
 #include "rex/Trace.h"
 
 namespace DaceFapNi {
@@ -77,7 +78,7 @@ void setPortProfiles( Fap const & fap,
 } // namespace
 
 void L3Sm::handlePrefixLensInExactMatch() {
-   if ( !initialized_ ) {
+   if ( !Rex::gate( initialized_, notInitialized ) ) {
       return;
    }
    bool slash32RemEnabled = false;

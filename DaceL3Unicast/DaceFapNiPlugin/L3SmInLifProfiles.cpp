@@ -2,6 +2,7 @@
 #include "ContextSelection.h"
 #include "L3Sm.h"
 #include "Toggles.h"
+#include "rex/Gate.h"
 #include "rex/Trace.h"
 
 namespace DaceFapNi {
@@ -115,7 +116,9 @@ void L3Sm::initInLifProfileTable( FapStatusPtr const & fapStatus ) {
       writeAll( profiles, fap, { .entry = profile } );
    }
 
-   if ( !Hardware::IppdInLifProfileMap::chipTypeVariantValid( fap.chipType, 0 ) ) {
+   if ( !Rex::gate( Hardware::IppdInLifProfileMap::chipTypeVariantValid( fap.chipType, 0 ),
+                    "the chip has no IppdInLifProfileMap",
+                    fap.id.value() ) ) {
       return;
    }
    auto map = accessor< Hardware::IppdInLifProfileMap >( fap );
@@ -138,7 +141,7 @@ void L3Sm::initIppcInLifProfileCsMapping( FapStatusPtr const & fapStatus ) {
 }
 
 void L3Sm::setupVplsVlanAwareCsProfile( FapStatusPtr const & fapStatus ) {
-   if ( !toggleDaceVplsPhase2Enabled() ) {
+   if ( !Rex::gate( toggleDaceVplsPhase2Enabled(), "the toggle DaceVplsPhase2 is off" ) ) {
       return;
    }
    Fap const fap( fapStatus );

@@ -3,6 +3,7 @@
 #include "L3Sm.h"
 #include "Programming.h"
 #include "Toggles.h"
+#include "rex/Gate.h"
 
 namespace DaceFapNi {
 
@@ -51,7 +52,8 @@ void L3Sm::initIpTrapsFwd( FapStatusPtr const & fapStatus ) {
       ipv6.actionProfileIpv6VersionErrorFwdIs( headerErrorStrength );
       ipv6.actionProfileIpv6UnspecifiedDestinationFwdIs( headerErrorStrength );
       ipv6.actionProfileIpv6MulticastSourceFwdIs( headerErrorStrength );
-      if ( toggleV6LinkLocalSrcPuntToCpuEnabled() ) {
+      if ( Rex::gate( toggleV6LinkLocalSrcPuntToCpuEnabled(),
+                      "the toggle V6LinkLocalSrcPuntToCpu is off: no strength for link-local sources" ) ) {
          ipv6.actionProfileIpv6LinkLocalSourceFwdIs( headerErrorStrength );
       }
    } );

@@ -39,7 +39,7 @@ void L3SmMounter::createPluginStatePhase2() {
    auto const chipInitCfg = chipInitCfgDir->addChipInitConfig( "L3Sm" );
    Rex::sassert( chipInitCfg != nullptr, "chipInitCfg" );
    chipInitCfg->callbackIs( [shared]( L3Sm::FapStatusPtr const & fapStatus, auto const &, auto const & ) {
-      if ( !isServed( chipTypeToFapType( fapStatus->revision().chipType() ) ) ) {
+      if ( !isServed( chipTypeToFapType( fapStatus->revision().chipType() ), fapStatus->fapId().value() ) ) {
          return;
       }
       auto const sdk = shared->readOnly< AgentSdkState >( "agentSdkState" );

@@ -8,6 +8,7 @@
 #include "Programming.h"
 #include "constants/Contexts.h"
 #include "constants/MicrocodeActions.h"
+#include "rex/Gate.h"
 #include "rex/Trace.h"
 
 namespace DaceFapNi {
@@ -55,16 +56,18 @@ void doWriteFlpacsAction( Hardware::ChipType chipType,
 } // namespace
 
 void L3Sm::setupMplsFwdContext() {
-   if ( !initialized_ ) {
+   if ( !Rex::gate( initialized_, notInitialized ) ) {
       return;
    }
    U32 const count = in_.mplsRoutingInfo->mplsLookupLabelCount();
    trace( 5, "L3Sm::", "setupMplsFwdContext", ", mplsLookupLabelCount=", count );
-   if ( isConflict( *in_.mplsRoutingInfo ) ) {
+   if ( !Rex::gate( !isConflict( *in_.mplsRoutingInfo ), "two labels and the fall-back to IP exclude each other" ) ) {
       return;
    }
    forEachFap( in_.cellStatus, [&]( Fap const & fap, auto const & ) {
-      if ( !ctx_fwd2_exists( fap.chipType, ctx_fwd2::mplsTwoLabels ) ) {
+      if ( !Rex::gate( ctx_fwd2_exists( fap.chipType, ctx_fwd2::mplsTwoLabels ),
+                       "the chip lacks the context of two labels",
+                       fap.id.value() ) ) {
          return;
       }
       U32 const entries = Hardware::IppbFlpacsAction::entries( static_cast< U32 >( fap.chipType ), 0 );
@@ -81,21 +84,23 @@ void L3Sm::setupMplsFwdContext() {
 }
 
 void L3Sm::setupMplsLookupFbIpFwdContext() {
-   if ( !initialized_ ) {
+   if ( !Rex::gate( initialized_, notInitialized ) ) {
       return;
    }
-   if ( in_.driverSetupSmStateInfo->ucodeProfile() != static_cast< U8 >( ucodeProfile ) ) {
+   if ( !Rex::gate( in_.driverSetupSmStateInfo->ucodeProfile() == static_cast< U8 >( ucodeProfile ),
+                    "the microcode profile isn't that of routing" ) ) {
       trace( 5, "L3Sm::", "setupMplsLookupFbIpFwdContext", ": not supported ucode profile, return" );
       return;
    }
    bool const fallback = in_.mplsRoutingInfo->mplsLookupFallbackIp();
    trace( 5, "L3Sm::", "setupMplsLookupFbIpFwdContext", ", mplsLookupFallbackIp=", fallback );
-   if ( isConflict( *in_.mplsRoutingInfo ) ) {
+   if ( !Rex::gate( !isConflict( *in_.mplsRoutingInfo ), "two labels and the fall-back to IP exclude each other" ) ) {
       return;
    }
    forEachFap( in_.cellStatus, [&]( Fap const & fap, auto const & ) {
-      if ( !ctx_fwd1_exists( fap.chipType, ctx_fwd1::mplsLabelOrIp ) ||
-           !ctx_fwd1_exists( fap.chipType, ctx_fwd1::mplsTerminatedLabelOrIp ) ) {
+      bool const hasContexts = ctx_fwd1_exists( fap.chipType, ctx_fwd1::mplsLabelOrIp ) &&
+                               ctx_fwd1_exists( fap.chipType, ctx_fwd1::mplsTerminatedLabelOrIp );
+      if ( !Rex::gate( hasContexts, "the chip lacks the contexts that fall back to IP", fap.id.value() ) ) {
          return;
       }
       U32 const entries = Hardware::IppaVtecsAction::entries( static_cast< U32 >( fap.chipType ), 0 );

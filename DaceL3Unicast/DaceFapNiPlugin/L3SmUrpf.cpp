@@ -2,6 +2,7 @@
 #include "L3Sm.h"
 #include "Learning.h"
 #include "Programming.h"
+#include "rex/Gate.h"
 #include "rex/Trace.h"
 
 namespace DaceFapNi {
@@ -20,7 +21,7 @@ constexpr U8 trapStrength = 5;
 } // namespace
 
 void L3Sm::handleLooseUrpfFailFwdConfig() {
-   if ( !initialized_ ) {
+   if ( !Rex::gate( initialized_, notInitialized ) ) {
       return;
    }
    bool const enable = in_.routingHwConfig->urpfLooseFailForward();
@@ -29,7 +30,7 @@ void L3Sm::handleLooseUrpfFailFwdConfig() {
 }
 
 void L3Sm::handleStrictUrpfFailFwdConfig() {
-   if ( !initialized_ ) {
+   if ( !Rex::gate( initialized_, notInitialized ) ) {
       return;
    }
    bool const enable = in_.routingHwConfig->urpfStrictFailForward();
@@ -38,7 +39,7 @@ void L3Sm::handleStrictUrpfFailFwdConfig() {
 }
 
 void L3Sm::handleUrpfFailFwdConfig( U32 trapIndex, bool enable ) {
-   if ( !initialized_ ) {
+   if ( !Rex::gate( initialized_, notInitialized ) ) {
       return;
    }
    forEachFap( in_.cellStatus, [&]( Fap const & fap, auto const & ) {
@@ -72,7 +73,7 @@ void setLearningForUrpfOrFlpa( std::vector< DacePPExport::ctx_fwd1 > const & con
    std::vector< U8 > chipContexts;
    for ( auto const context : contexts ) {
       U8 const number = static_cast< U8 >( ctx_fwd1_value( chipType, context ) );
-      if ( ctx_fwd1_exists( chipType, context ) ) {
+      if ( Rex::gate( ctx_fwd1_exists( chipType, context ), "the chip lacks the context", fapId.value(), origin ) ) {
          chipContexts.push_back( number );
       } else {
          dualTrace( 4, "setLearningForUrpfOrFlpa", " fwd1Context does not exist, try changing the name: ", number );
