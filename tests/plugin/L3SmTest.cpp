@@ -117,6 +117,12 @@ TEST( L3Sm, ChipsOfType4KeepOnlyTheInterfaceMachineYetUrpfStillFollows ) {
    EXPECT_GT( agent.operations(), 0U );
 }
 
+TEST( L3Sm, NullConfigurationOfASlotThrowsTheNullArgumentException ) {
+   OwnL3Sm agent;
+   agent.start();
+   EXPECT_THROW( agent.mounter->l3SmPtr()->slotLoadBalanceIs( nullptr ), Rex::MutatorArgNullPointerException );
+}
+
 TEST( L3Sm, TracesItsInitialisation ) {
    std::vector< std::string > texts;
    Rex::traceLevelIs( "DaceFapNiL3Sm", 5 );
