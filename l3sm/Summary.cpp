@@ -89,8 +89,8 @@ class Summary {
       for ( auto const & fap : faps() ) {
          auto const & revision = fap->revision;
          out_ << "  FAP " << fap->fapId << "  " << fap->name << "  " << revision.chipType() << ", major "
-              << revision.fapRevMajor() << ", SDK " << revision.sdkVersion() << ", " << plural( fap->coreCount(), "core" )
-              << "  " << servedText( fap->fapId.value() ) << '\n';
+              << revision.fapRevMajor() << ", SDK " << revision.sdkVersion() << ", "
+              << plural( fap->coreCount(), "core" ) << "  " << servedText( fap->fapId.value() ) << '\n';
       }
       out_ << '\n';
    }
