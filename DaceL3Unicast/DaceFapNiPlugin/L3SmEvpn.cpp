@@ -3,8 +3,8 @@
 //
 // An in-LIF profile has four flag bits, by which the VTT stages choose their context, and an orientation. The handlers
 // change single bits and entries of what the static programming wrote.
+#include "ContextSelection.h"
 #include "L3Sm.h"
-#include "Programming.h"
 #include "rex/Gate.h"
 #include "rex/Trace.h"
 
@@ -36,15 +36,7 @@ constexpr int gatewayProfile = 31;
 constexpr U8 coreOrientation[] = { 6, 4 };    // by whether this is a DCI gateway
 constexpr U8 gatewayOrientation[] = { 1, 7 }; // likewise
 
-// The flags of the forwarding VTT stages are the register's second variant. On the revisions with two elements of it,
-// those are counted on behind the three of the first variant.
-constexpr U8 flagsVariant = 1;
-std::span< int const > flagsElements( Hardware::Dace::FapRevision const & revision ) {
-   static constexpr int one[] = { 0 };
-   static constexpr int two[] = { 3, 4 };
-   bool const hasTwo = revision.fapRevMajor() == 8 || revision.fapRevMajor() == 9;
-   return hasTwo ? std::span< int const >( two ) : std::span< int const >( one );
-}
+constexpr U8 flagsVariant = 1; // the flags of the forwarding VTT stages
 
 // Gives the masked flags of some profiles a value, one profile after the other.
 void changeFlags( Fap const & fap,
@@ -95,7 +87,7 @@ void L3Sm::handleEvpnEncapType() {
           " mplsEnabled ",
           in_.evpnStatus->mplsEnabled() );
    forEachFap( in_.cellStatus, [&]( Fap const & fap, auto const & status ) {
-      for ( int const element : flagsElements( status.revision() ) ) {
+      for ( int const element : csArraysOfVariant1( status.revision() ) ) {
          changeFlags( fap, element, vxlanProfiles, vxlanFlag, vxlanEnabled ? vxlanFlag : 0 );
          changeFlags( fap, element, fixedProfiles, fixedMask, fixedFlags );
       }
@@ -109,7 +101,7 @@ void L3Sm::handleDecapRouteAll() {
       return;
    }
    forEachFap( in_.cellStatus, [&]( Fap const & fap, auto const & status ) {
-      for ( int const element : flagsElements( status.revision() ) ) {
+      for ( int const element : csArraysOfVariant1( status.revision() ) ) {
          changeFlags( fap, element, decapProfiles, decapFlag, decapRouteAll ? decapFlag : 0 );
       }
    } );

@@ -1,4 +1,5 @@
 #include "DaceL3Unicast/DaceFapNiPlugin/FapGate.h"
+#include "DaceL3Unicast/DaceFapNiPlugin/L3SmSlotLoadBalance.h"
 #include "MountedSwitch.h"
 #include "rex/Trace.h"
 
