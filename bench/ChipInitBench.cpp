@@ -137,7 +137,7 @@ void chipInit( benchmark::State & state, ChipType chipType, U32 major, U16 cores
       state.counters["ratio"] = program / plain;
       state.counters["goal"] = goal;
       if ( program / plain > goal ) {
-         state.SetLabel( "goal missed" );
+         state.SkipWithError( "goal missed" );
       }
    }
 }
