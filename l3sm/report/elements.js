@@ -84,7 +84,7 @@ function bitPicture(layout, hit = new Set(), title = '') {
         svgElement('rect', { x: x + .5, y: y + .5, width: width - 1, height, rx: 3 }), text));
     }
   });
-  return picture;
+  return element('div.scroll', null, picture);
 }
 
 // A name of several words without a space between them, which may be broken where a word begins.
