@@ -321,8 +321,8 @@ class ReferencesAttribute {
    void attr##Is( Type const & value ) {                                                                               \
       assign( attr##_, value, id );                                                                                    \
    }                                                                                                                   \
-   static void rexDeclare( ::Rex::Impl::Line< __LINE__ >, ::Rex::TypeData & type ) {                                   \
-      type.attributeAdd( ::Rex::Impl::scalar< RexSelf, Type, &RexSelf::attr, &RexSelf::attr##Is >( id, #attr ) );      \
+   static void rexDeclare( ::Rex::Impl::Line< __LINE__ >, auto & type ) {                                              \
+      ::Rex::Impl::scalar< RexSelf, Type, &RexSelf::attr, &RexSelf::attr##Is >( type, id, #attr );                     \
    }                                                                                                                   \
                                                                                                                        \
  private:                                                                                                              \
@@ -337,8 +337,8 @@ class ReferencesAttribute {
    void attr##Is( ::Corvo::Ptr< Type > const & value ) {                                                               \
       attr##_.set( id, value );                                                                                        \
    }                                                                                                                   \
-   static void rexDeclare( ::Rex::Impl::Line< __LINE__ >, ::Rex::TypeData & type ) {                                   \
-      type.attributeAdd( ::Rex::Impl::entity< RexSelf, Type, &RexSelf::attr, &RexSelf::attr##Is >( id, #attr ) );      \
+   static void rexDeclare( ::Rex::Impl::Line< __LINE__ >, auto & type ) {                                              \
+      ::Rex::Impl::entity< RexSelf, Type, &RexSelf::attr, &RexSelf::attr##Is >( type, id, #attr );                     \
    }                                                                                                                   \
                                                                                                                        \
  private:                                                                                                              \
@@ -370,10 +370,9 @@ class ReferencesAttribute {
       attr##_.del( *publisher(), id, key );                                                                            \
       return true;                                                                                                     \
    }                                                                                                                   \
-   static void rexDeclare( ::Rex::Impl::Line< __LINE__ >, ::Rex::TypeData & type ) {                                   \
-      type.attributeAdd(                                                                                               \
-         ::Rex::Impl::map< RexSelf, Key, Type, &RexSelf::attr##_, &RexSelf::attr##Is, &RexSelf::attr##Del >(           \
-            id, #attr ) );                                                                                             \
+   static void rexDeclare( ::Rex::Impl::Line< __LINE__ >, auto & type ) {                                              \
+      ::Rex::Impl::map< RexSelf, Key, Type, &RexSelf::attr##_, &RexSelf::attr##Is, &RexSelf::attr##Del >(              \
+         type, id, #attr );                                                                                            \
    }                                                                                                                   \
                                                                                                                        \
  private:                                                                                                              \
@@ -397,10 +396,9 @@ class ReferencesAttribute {
    ::Corvo::Ptr< Type > attr##Del( Type::RexKey const & key ) {                                                        \
       return attr##_.del( id, key );                                                                                   \
    }                                                                                                                   \
-   static void rexDeclare( ::Rex::Impl::Line< __LINE__ >, ::Rex::TypeData & type ) {                                   \
-      type.attributeAdd(                                                                                               \
-         ::Rex::Impl::collection< RexSelf, Type, &RexSelf::attr##_, &RexSelf::attr##Is, &RexSelf::attr##Del >(         \
-            id, #attr ) );                                                                                             \
+   static void rexDeclare( ::Rex::Impl::Line< __LINE__ >, auto & type ) {                                              \
+      ::Rex::Impl::collection< RexSelf, Type, &RexSelf::attr##_, &RexSelf::attr##Is, &RexSelf::attr##Del >(            \
+         type, id, #attr );                                                                                            \
    }                                                                                                                   \
                                                                                                                        \
  private:                                                                                                              \
@@ -429,8 +427,8 @@ class ReferencesAttribute {
       writeCheck();                                                                                                    \
       return attr##_.del( *publisher(), id, key );                                                                     \
    }                                                                                                                   \
-   static void rexDeclare( ::Rex::Impl::Line< __LINE__ >, ::Rex::TypeData & type ) {                                   \
-      type.attributeAdd( ::Rex::Impl::references< RexSelf, Type, &RexSelf::attr##_ >( id, #attr ) );                   \
+   static void rexDeclare( ::Rex::Impl::Line< __LINE__ >, auto & type ) {                                              \
+      ::Rex::Impl::references< RexSelf, Type, &RexSelf::attr##_ >( type, id, #attr );                                  \
    }                                                                                                                   \
                                                                                                                        \
  private:                                                                                                              \

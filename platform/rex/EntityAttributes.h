@@ -190,25 +190,25 @@ class ReferencesAttributeData : public Attribute {
 };
 
 template< class Self, class Type, auto Get, auto Set >
-std::unique_ptr< Attribute > scalar( short id, char const * name ) {
-   return std::make_unique< ScalarAttribute< Self, Type, Get, Set > >( id, name );
+void scalar( TypeData & type, short id, char const * name ) {
+   type.attributeAdd( std::make_unique< ScalarAttribute< Self, Type, Get, Set > >( id, name ) );
 }
 template< class Self, class Type, auto Get, auto Set >
-std::unique_ptr< Attribute > entity( short id, char const * name ) {
-   return std::make_unique< EntityAttribute< Self, Type, Get, Set > >( id, name );
+void entity( TypeData & type, short id, char const * name ) {
+   type.attributeAdd( std::make_unique< EntityAttribute< Self, Type, Get, Set > >( id, name ) );
 }
 template< class Self, class Key, class Type, auto Member, auto Set, auto Del >
-std::unique_ptr< Attribute > map( short id, char const * name ) {
-   return std::make_unique< MapAttributeData< Self, Key, Type, Member, Set, Del > >( id, name );
+void map( TypeData & type, short id, char const * name ) {
+   type.attributeAdd( std::make_unique< MapAttributeData< Self, Key, Type, Member, Set, Del > >( id, name ) );
 }
 template< class Self, class Type, auto Member, auto Set, auto Del >
-std::unique_ptr< Attribute > collection( short id, char const * name ) {
-   return std::make_unique< CollectionAttributeData< Self, Type, Member, Set, Del > >( id, name );
+void collection( TypeData & type, short id, char const * name ) {
+   type.attributeAdd( std::make_unique< CollectionAttributeData< Self, Type, Member, Set, Del > >( id, name ) );
 }
 
 template< class Self, class Type, auto Member >
-std::unique_ptr< Attribute > references( short id, char const * name ) {
-   return std::make_unique< ReferencesAttributeData< Self, Type, Member > >( id, name );
+void references( TypeData & type, short id, char const * name ) {
+   type.attributeAdd( std::make_unique< ReferencesAttributeData< Self, Type, Member > >( id, name ) );
 }
 
 // A type's declaration fits on a page: its attributes are told apart by their lines, which are tried in turn.
