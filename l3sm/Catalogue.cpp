@@ -8,9 +8,9 @@
 #include "l3sm/Touches.h"
 #include "l3sm/Verbs.h"
 
-#include <CLI/CLI.hpp>
 #include <algorithm>
 #include <iostream>
+#include <memory>
 
 namespace Cli {
 
@@ -281,13 +281,12 @@ int answer( Options const & options ) {
 
 } // namespace
 
-Action defineCatalogue( CLI::App & verb ) {
+Action defineCatalogue( VerbOptions & verb ) {
    auto const options = std::make_shared< Options >();
-   verb.add_option( "TABLE", options->table, "draw this table; without it, list all" );
-   verb.add_option( "--chip", options->chip, "only what this chip has, as in BCM88690_B0" );
-   verb.add_option( "--journal", options->journals, "tell which functions touch the table, from this journal" )
-      ->type_name( "FILE" );
-   verb.add_flag( "--json", options->json, "for programs" );
+   verb.text( "TABLE", options->table, "draw this table; without it, list all" );
+   verb.text( "--chip", options->chip, "only what this chip has, as in BCM88690_B0" );
+   verb.texts( "--journal", options->journals, "tell which functions touch the table, from this journal", "FILE" );
+   verb.flag( "--json", options->json, "for programs" );
    return [options] { return answer( *options ); };
 }
 

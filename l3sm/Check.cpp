@@ -7,8 +7,9 @@
 #include "rex/Assert.h"
 #include "rex/Operations.h"
 
-#include <CLI/CLI.hpp>
+#include <algorithm>
 #include <iostream>
+#include <memory>
 #include <sstream>
 
 namespace Cli {
@@ -201,19 +202,14 @@ int answer( Options const & options ) {
 
 } // namespace
 
-Action defineCheck( CLI::App & verb ) {
+Action defineCheck( VerbOptions & verb ) {
    auto const options = std::make_shared< Options >();
-   verb.add_option( "scenario", options->scenario, "the scenario to play; without one, the built-in example" )
-      ->type_name( "SCENARIO.json" );
-   verb.add_option( "--chips", options->chips, "verify with these contents on the chips" )->type_name( "FILE" );
-   verb.add_option( "--toggle", options->toggles, "set a toggle; may be given several times" )
-      ->type_name( "FILE:NAME=on|off" )
-      ->take_all()
-      ->expected( 1 )
-      ->allow_extra_args( false );
-   verb.add_option( "--plugin", options->plugin, "the plug-in's library; the default lies beside this program" )
-      ->type_name( "PATH" );
-   verb.add_flag( "--json", options->json, "for programs" );
+   verb.text(
+      "scenario", options->scenario, "the scenario to play; without one, the built-in example", "SCENARIO.json" );
+   verb.text( "--chips", options->chips, "verify with these contents on the chips", "FILE" );
+   verb.repeated( "--toggle", options->toggles, "set a toggle; may be given several times", "FILE:NAME=on|off" );
+   verb.text( "--plugin", options->plugin, "the plug-in's library; the default lies beside this program", "PATH" );
+   verb.flag( "--json", options->json, "for programs" );
    verb.footer( "Exit status: 0 fine, 1 a fault was found." );
    return [options] { return answer( *options ); };
 }

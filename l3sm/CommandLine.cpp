@@ -5,6 +5,7 @@
 #include "rex/Nearest.h"
 
 #include <CLI/CLI.hpp>
+#include <algorithm>
 #include <iostream>
 
 namespace Cli {
@@ -16,7 +17,7 @@ constexpr int wrongUsage = 2;
 struct Verb {
    char const * name;
    char const * does;
-   Action ( *define )( CLI::App & );
+   Action ( *define )( VerbOptions & );
 };
 
 constexpr Verb verbs[] = {
@@ -64,7 +65,8 @@ int commandLine( int argc, char const * const * argv ) {
    Action action;
    for ( auto const & verb : verbs ) {
       auto * const sub = app.add_subcommand( verb.name, verb.does );
-      sub->callback( [&action, does = verb.define( *sub )] { action = does; } );
+      VerbOptions options( *sub );
+      sub->callback( [&action, does = verb.define( options )] { action = does; } );
    }
    if ( argc < 2 ) {
       return failed( "say what to do; l3sm --help lists the verbs" );

@@ -5,9 +5,9 @@
 #include "l3sm/Terminal.h"
 #include "l3sm/Verbs.h"
 
-#include <CLI/CLI.hpp>
 #include <algorithm>
 #include <iostream>
+#include <memory>
 #include <set>
 
 namespace Cli {
@@ -468,21 +468,17 @@ int answer( Options const & options ) {
 
 } // namespace
 
-Action defineCompare( CLI::App & verb ) {
+Action defineCompare( VerbOptions & verb ) {
    auto const options = std::make_shared< Options >();
-   verb.add_option( "scenario", options->scenario, "the scenario to play; without one, the built-in example" )
-      ->type_name( "SCENARIO.json" );
-   verb.add_flag( "--toggles", options->toggles, "play it with each toggle flipped alone, too" );
-   verb.add_option( "--table", options->tables, "only these tables; `controls` for the driver's controls" );
-   verb.add_flag( "--all", options->all, "every row of tables that differ" );
-   verb.add_option( "--toggle", options->settings, "set a toggle for all runs; may be given several times" )
-      ->type_name( "FILE:NAME=on|off" )
-      ->take_all()
-      ->expected( 1 )
-      ->allow_extra_args( false );
-   verb.add_option( "--plugin", options->plugin, "the plug-in's library; the default lies beside this program" )
-      ->type_name( "PATH" );
-   verb.add_flag( "--json", options->json, "for programs" );
+   verb.text(
+      "scenario", options->scenario, "the scenario to play; without one, the built-in example", "SCENARIO.json" );
+   verb.flag( "--toggles", options->toggles, "play it with each toggle flipped alone, too" );
+   verb.texts( "--table", options->tables, "only these tables; `controls` for the driver's controls" );
+   verb.flag( "--all", options->all, "every row of tables that differ" );
+   verb.repeated(
+      "--toggle", options->settings, "set a toggle for all runs; may be given several times", "FILE:NAME=on|off" );
+   verb.text( "--plugin", options->plugin, "the plug-in's library; the default lies beside this program", "PATH" );
+   verb.flag( "--json", options->json, "for programs" );
    return [options] { return answer( *options ); };
 }
 

@@ -8,9 +8,10 @@
 #include "simulator/BootImage.h"
 #include "simulator/TableMap.h"
 
-#include <CLI/CLI.hpp>
+#include <algorithm>
 #include <iomanip>
 #include <iostream>
+#include <memory>
 
 namespace Cli {
 
@@ -201,9 +202,9 @@ void writeText( std::ostream & out ) {
 
 } // namespace
 
-Action defineConstants( CLI::App & verb ) {
+Action defineConstants( VerbOptions & verb ) {
    auto const json = std::make_shared< bool >( false );
-   verb.add_flag( "--json", *json, "everything, for programs" );
+   verb.flag( "--json", *json, "everything, for programs" );
    return [json] {
       ( *json ? writeJson : writeText )( std::cout );
       return 0;

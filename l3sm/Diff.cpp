@@ -3,9 +3,9 @@
 #include "l3sm/TableNames.h"
 #include "l3sm/Verbs.h"
 
-#include <CLI/CLI.hpp>
 #include <algorithm>
 #include <iostream>
+#include <memory>
 
 namespace Cli {
 
@@ -44,13 +44,13 @@ int answer( Options const & options ) {
 
 } // namespace
 
-Action defineDiff( CLI::App & verb ) {
+Action defineDiff( VerbOptions & verb ) {
    auto const options = std::make_shared< Options >();
-   verb.add_option( "A", options->a, "a file that `l3sm run --chips` wrote" )->required();
-   verb.add_option( "B", options->b, "another" )->required();
-   verb.add_option( "--table", options->tables, "only these tables" );
-   verb.add_option( "--fap", options->fap, "only this FAP" );
-   verb.add_flag( "--json", options->json, "for programs" );
+   verb.required( "A", options->a, "a file that `l3sm run --chips` wrote" );
+   verb.required( "B", options->b, "another" );
+   verb.texts( "--table", options->tables, "only these tables" );
+   verb.number( "--fap", options->fap, "only this FAP" );
+   verb.flag( "--json", options->json, "for programs" );
    verb.footer( "Exit status: 0 no difference, 1 there are some." );
    return [options] { return answer( *options ); };
 }

@@ -8,8 +8,9 @@
 #include "simulator/BootImage.h"
 #include "simulator/TableMap.h"
 
-#include <CLI/CLI.hpp>
+#include <algorithm>
 #include <iostream>
+#include <memory>
 #include <sstream>
 
 namespace Cli {
@@ -219,14 +220,13 @@ int answer( Options const & options ) {
 
 } // namespace
 
-Action defineReplay( CLI::App & verb ) {
+Action defineReplay( VerbOptions & verb ) {
    auto const options = std::make_shared< Options >();
-   verb.add_option( "JOURNAL", options->journal, "a file that `l3sm run --journal` wrote" )->required();
-   verb.add_option( "--chips", options->chips, "compare with this file of `l3sm run --chips`" )->type_name( "FILE" );
-   verb.add_option( "--scenario", options->scenario, "begin with the chip contents of this scenario" )
-      ->type_name( "FILE" );
-   verb.add_option( "--out", options->out, "write the contents of the chips" )->type_name( "FILE" );
-   verb.add_flag( "--json", options->json, "for programs" );
+   verb.required( "JOURNAL", options->journal, "a file that `l3sm run --journal` wrote" );
+   verb.text( "--chips", options->chips, "compare with this file of `l3sm run --chips`", "FILE" );
+   verb.text( "--scenario", options->scenario, "begin with the chip contents of this scenario", "FILE" );
+   verb.text( "--out", options->out, "write the contents of the chips", "FILE" );
+   verb.flag( "--json", options->json, "for programs" );
    verb.footer(
       "A place that is read before it is written began with what was read. Exit status: 0 alike, 1 a later read or the "
       "contents differ." );

@@ -6,8 +6,9 @@
 #include "l3sm/Tracing.h"
 #include "l3sm/Verbs.h"
 
-#include <CLI/CLI.hpp>
 #include <iostream>
+#include <memory>
+#include <sstream>
 
 namespace Cli {
 
@@ -65,28 +66,20 @@ int run( Options const & options ) {
 
 } // namespace
 
-Action defineRun( CLI::App & verb ) {
+Action defineRun( VerbOptions & verb ) {
    auto const options = std::make_shared< Options >();
-   verb.add_option( "scenario", options->scenario, "the scenario to play; without one, the built-in example" )
-      ->type_name( "SCENARIO.json" );
-   verb.add_option( "--chips", options->chips, "write the contents of the chips at the end" )->type_name( "FILE" );
-   verb.add_option( "--journal", options->journal, "write every driver operation, one JSON object a line" )
-      ->type_name( "FILE" );
-   verb.add_option( "--state", options->state, "write the state tree at the end" )->type_name( "FILE" );
-   verb.add_option( "--report", options->report, "write a page that shows the run in a browser" )
-      ->type_name( "FILE.html" );
-   verb.add_option( "--trace", options->trace, "trace facilities up to a level; `*` for every facility" )
-      ->type_name( "FACILITY/LEVEL[,...]" );
-   verb.add_option( "--trace-out", options->traceOut, "write the traces there instead of to standard error" )
-      ->type_name( "FILE" );
-   verb.add_option( "--toggle", options->toggles, "set a toggle; may be given several times" )
-      ->type_name( "FILE:NAME=on|off" )
-      ->take_all()
-      ->expected( 1 )
-      ->allow_extra_args( false );
-   verb.add_option( "--plugin", options->plugin, "the plug-in's library; the default lies beside this program" )
-      ->type_name( "PATH" );
-   verb.add_flag( "--quiet", options->quiet, "print no summary" );
+   verb.text(
+      "scenario", options->scenario, "the scenario to play; without one, the built-in example", "SCENARIO.json" );
+   verb.text( "--chips", options->chips, "write the contents of the chips at the end", "FILE" );
+   verb.text( "--journal", options->journal, "write every driver operation, one JSON object a line", "FILE" );
+   verb.text( "--state", options->state, "write the state tree at the end", "FILE" );
+   verb.text( "--report", options->report, "write a page that shows the run in a browser", "FILE.html" );
+   verb.text(
+      "--trace", options->trace, "trace facilities up to a level; `*` for every facility", "FACILITY/LEVEL[,...]" );
+   verb.text( "--trace-out", options->traceOut, "write the traces there instead of to standard error", "FILE" );
+   verb.repeated( "--toggle", options->toggles, "set a toggle; may be given several times", "FILE:NAME=on|off" );
+   verb.text( "--plugin", options->plugin, "the plug-in's library; the default lies beside this program", "PATH" );
+   verb.flag( "--quiet", options->quiet, "print no summary" );
    return [options] { return run( *options ); };
 }
 

@@ -4,9 +4,9 @@
 #include "l3sm/Terminal.h"
 #include "l3sm/Verbs.h"
 
-#include <CLI/CLI.hpp>
 #include <algorithm>
 #include <iostream>
+#include <memory>
 
 namespace Cli {
 
@@ -249,16 +249,16 @@ int answer( Options const & options ) {
 
 } // namespace
 
-Action defineShow( CLI::App & verb ) {
+Action defineShow( VerbOptions & verb ) {
    auto const options = std::make_shared< Options >();
-   verb.add_option( "CHIPS", options->file, "a file that `l3sm run --chips` wrote" )->required();
-   verb.add_option( "TABLE", options->tables, "only these tables" );
-   verb.add_option( "--fap", options->fap, "only this FAP" );
-   verb.add_option( "--variant", options->variant, "only this variant" );
-   verb.add_option( "--array", options->array, "only this array index" );
-   verb.add_option( "--entry", options->entry, "only this entry" );
-   verb.add_flag( "--all", options->all, "unset fields too" );
-   verb.add_flag( "--json", options->json, "for programs" );
+   verb.required( "CHIPS", options->file, "a file that `l3sm run --chips` wrote" );
+   verb.texts( "TABLE", options->tables, "only these tables" );
+   verb.number( "--fap", options->fap, "only this FAP" );
+   verb.number( "--variant", options->variant, "only this variant" );
+   verb.number( "--array", options->array, "only this array index" );
+   verb.number( "--entry", options->entry, "only this entry" );
+   verb.flag( "--all", options->all, "unset fields too" );
+   verb.flag( "--json", options->json, "for programs" );
    return [options] { return answer( *options ); };
 }
 

@@ -2,11 +2,9 @@
 // CommandLine.cpp.
 #pragma once
 
-#include <functional>
+#include "l3sm/VerbOptions.h"
 
-namespace CLI {
-class App;
-}
+#include <functional>
 
 namespace Cli {
 
@@ -14,14 +12,14 @@ namespace Cli {
 using Action = std::function< int() >;
 
 // Each declares the verb's options and returns what it does with them.
-Action defineRun( CLI::App & verb );
-Action defineCatalogue( CLI::App & verb );
-Action defineConstants( CLI::App & verb );
-Action defineShow( CLI::App & verb );
-Action defineDiff( CLI::App & verb );
-Action defineWhy( CLI::App & verb );
-Action defineCompare( CLI::App & verb );
-Action defineReplay( CLI::App & verb );
-Action defineCheck( CLI::App & verb );
+Action defineRun( VerbOptions & verb );
+Action defineCatalogue( VerbOptions & verb );
+Action defineConstants( VerbOptions & verb );
+Action defineShow( VerbOptions & verb );
+Action defineDiff( VerbOptions & verb );
+Action defineWhy( VerbOptions & verb );
+Action defineCompare( VerbOptions & verb );
+Action defineReplay( VerbOptions & verb );
+Action defineCheck( VerbOptions & verb );
 
 } // namespace Cli

@@ -6,9 +6,9 @@
 #include "l3sm/Terminal.h"
 #include "l3sm/Verbs.h"
 
-#include <CLI/CLI.hpp>
 #include <algorithm>
 #include <iostream>
+#include <memory>
 
 namespace Cli {
 
@@ -370,16 +370,16 @@ int answer( Options const & options ) {
 
 } // namespace
 
-Action defineWhy( CLI::App & verb ) {
+Action defineWhy( VerbOptions & verb ) {
    auto const options = std::make_shared< Options >();
-   verb.add_option( "JOURNAL", options->journal, "a file that `l3sm run --journal` wrote" )->required();
-   verb.add_option( "WHAT", options->what, "TABLE, TABLE.FIELD, or control.NUMBER" )->required();
-   verb.add_option( "--fap", options->fap, "only this FAP" );
-   verb.add_option( "--variant", options->variant, "only this variant" );
-   verb.add_option( "--array", options->array, "only this array index" );
-   verb.add_option( "--entry", options->entry, "only this entry" );
-   verb.add_flag( "--gates", options->allGates, "every gate that was found closed" );
-   verb.add_flag( "--json", options->json, "for programs" );
+   verb.required( "JOURNAL", options->journal, "a file that `l3sm run --journal` wrote" );
+   verb.required( "WHAT", options->what, "TABLE, TABLE.FIELD, or control.NUMBER" );
+   verb.number( "--fap", options->fap, "only this FAP" );
+   verb.number( "--variant", options->variant, "only this variant" );
+   verb.number( "--array", options->array, "only this array index" );
+   verb.number( "--entry", options->entry, "only this entry" );
+   verb.flag( "--gates", options->allGates, "every gate that was found closed" );
+   verb.flag( "--json", options->json, "for programs" );
    return [options] { return answer( *options ); };
 }
 

@@ -1,4 +1,5 @@
 #include "L3SmMounter.h"
+#include "rex/EntityAttributes.h"
 
 #include "FapGate.h"
 #include "MountPlan.h"

@@ -1,4 +1,5 @@
 #include "agent/Mounter.h"
+#include "rex/EntityAttributes.h"
 
 #include <algorithm>
 

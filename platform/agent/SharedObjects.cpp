@@ -1,4 +1,5 @@
 #include "agent/SharedObjects.h"
+#include "rex/EntityAttributes.h"
 
 REX_DEFINE( DaceFapNi::AgentGlobalState, "DaceFapNi::AgentGlobalState" );
 REX_DEFINE( DaceFapNi::SliceSmStateInfo, "DaceFapNi::SliceSmStateInfo" );

@@ -1,4 +1,5 @@
 #include "interface/EthIntfVrfSmHelper.h"
+#include "rex/EntityAttributes.h"
 
 REX_DEFINE( EthIntf::EthIntfVrfSmHelper, "EthIntf::EthIntfVrfSmHelper" );
 

@@ -1,9 +1,13 @@
 #include "interface/ManagedIntfStatusDir.h"
+#include "rex/EntityAttributes.h"
 
 #include <vector>
 
 REX_DEFINE( Interface::ManagedIntfStatusDir, "Interface::ManagedIntfStatusDir" );
 REX_DEFINE( Interface::ManagedIntfStatusLocalDir, "Interface::ManagedIntfStatusLocalDir" );
+// No scenario sets a reference: the plug-in alone needs what changes them.
+template class Rex::ReferencesAttribute< Interface::EthIntfStatus const >;
+template class Rex::ReferencesAttribute< Interface::EthIntfStatusLocal >;
 
 namespace Interface {
 

@@ -1,4 +1,5 @@
 #include "interface/SyncMtuSubIntfWalkSm.h"
+#include "rex/EntityAttributes.h"
 
 REX_DEFINE( Interface::SyncMtuSubIntfWalkSm, "Interface::SyncMtuSubIntfWalkSm" );
 

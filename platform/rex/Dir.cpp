@@ -1,4 +1,5 @@
 #include "rex/Dir.h"
+#include "rex/EntityAttributes.h"
 
 REX_DEFINE( Rex::Dir, "Rex::Dir" );
 

@@ -1,4 +1,4 @@
-#include "rex/Entity.h"
+#include "rex/EntityAttributes.h"
 
 #include "rex/Nearest.h"
 

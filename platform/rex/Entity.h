@@ -8,7 +8,7 @@
 //       REX_ATTRIBUTE( bool, evpnDciEnabled, 0x106, false );
 //    };
 //    }
-//    REX_DEFINE( Evpn::EvpnStatus, "Evpn::EvpnStatus" );      // in one source file
+//    REX_DEFINE( Evpn::EvpnStatus, "Evpn::EvpnStatus" );      // in one source file, with rex/EntityAttributes.h
 //
 //    status->evpnDciEnabledIs( true );                         // announces 0x106, if it was false
 //
@@ -106,8 +106,12 @@ class Entity : public Corvo::Node {
    }
 
  private:
+   template< class, class >
+   friend class MapAttribute;
    template< class, template< class, class > class >
    friend class CollectionAttribute;
+   template< class >
+   friend class ReferencesAttribute;
    template< class >
    friend class HeldEntity;
    [[noreturn]] void writeRefused() const;
@@ -129,6 +133,9 @@ class KeyedEntity : public Entity {
    Key const key_;
 };
 
+// The contents of attributes. What changes them is compiled once, with the type's definition (rex/EntityAttributes.h),
+// and shared by all who include the type.
+
 // A map attribute's contents.
 template< class Key, class Type >
 class MapAttribute {
@@ -139,19 +146,8 @@ class MapAttribute {
       auto const found = map_.find( key );
       return found == map_.end() ? Type{} : found->second;
    }
-   // Says whether anything changes by it.
-   bool isNews( Key const & key, Type const & value ) const {
-      auto const found = map_.find( key );
-      return found == map_.end() || !( found->second == value );
-   }
-   void set( Corvo::Publisher & publisher, short id, Key key, Type value ) {
-      map_[key] = value;
-      publisher.publish( id, &key, &value ); // copies: a callback may take the entry away
-   }
-   void del( Corvo::Publisher & publisher, short id, Key key ) {
-      map_.erase( key );
-      publisher.publish( id, &key, nullptr );
-   }
+   void set( Entity & owner, short id, Key key, Type value );
+   bool del( Entity & owner, short id, Key key );
 
  private:
    std::map< Key, Type > map_;
@@ -187,26 +183,9 @@ class HeldEntity {
    explicit HeldEntity( Entity & owner ) : owner_( owner ) {}
    HeldEntity( HeldEntity const & ) = delete;
    HeldEntity & operator=( HeldEntity const & ) = delete;
-   ~HeldEntity() {
-      if ( entity_ ) {
-         owner_.childDel( *entity_ );
-      }
-   }
+   ~HeldEntity();
    Corvo::Ptr< Type > const & get() const { return entity_; }
-   void set( short id, Corvo::Ptr< Type > const entity ) { // a copy: it stays while it is announced
-      if ( entity_ == entity ) {
-         return;
-      }
-      owner_.writeCheck();
-      auto const old = std::exchange( entity_, entity );
-      if ( old ) {
-         owner_.childDel( *old );
-      }
-      if ( entity ) {
-         owner_.childAdd( *entity );
-      }
-      owner_.publisher()->publish( id, nullptr, entity.get() );
-   }
+   void set( short id, Corvo::Ptr< Type > entity );
 
  private:
    Entity & owner_;
@@ -223,39 +202,10 @@ class CollectionAttribute {
    explicit CollectionAttribute( Entity & owner ) : owner_( owner ) {}
    CollectionAttribute( CollectionAttribute const & ) = delete;
    CollectionAttribute & operator=( CollectionAttribute const & ) = delete;
-   ~CollectionAttribute() {
-      for ( auto const & [key, entity] : entities_ ) {
-         owner_.childDel( *entity );
-      }
-   }
+   ~CollectionAttribute();
    Entities const & all() const { return entities_; }
-   void set( short id, Corvo::Ptr< Type > const entity, char const * name ) { // a copy: it stays while it is announced
-      if ( !entity ) {
-         throwMutatorArgNullPointerException( owner_.typeData().name().c_str(), name );
-      }
-      Key const key = entity->rexKey();
-      auto const old = entities_.get( key );
-      if ( old == entity ) {
-         return;
-      }
-      owner_.writeCheck();
-      entities_.set( key, entity );
-      if ( old ) {
-         owner_.childDel( *old );
-      }
-      owner_.childAdd( *entity );
-      owner_.publisher()->publish( id, &key, entity.get() );
-   }
-   Corvo::Ptr< Type > del( short id, Key const key ) {
-      if ( !entities_.has( key ) ) {
-         return nullptr;
-      }
-      owner_.writeCheck();
-      auto const old = entities_.del( key );
-      owner_.childDel( *old );
-      owner_.publisher()->publish( id, &key, nullptr );
-      return old;
-   }
+   void set( short id, Corvo::Ptr< Type > entity, char const * name );
+   Corvo::Ptr< Type > del( short id, Key key );
 
  private:
    Entity & owner_;
@@ -270,29 +220,34 @@ class ReferencesAttribute {
    using Entities = HashMap2018< Key, Corvo::Ptr< Type > >;
 
    Entities const & all() const { return entities_; }
-   void set( Corvo::Publisher & publisher, short id, Corvo::Ptr< Type > const & entity ) {
-      if ( entity && entities_.get( entity->rexKey() ) != entity ) {
-         Key const key = entity->rexKey();
-         entities_.set( key, entity );
-         publisher.publish( id, &key, entity.get() );
-      }
-   }
-   Corvo::Ptr< Type > del( Corvo::Publisher & publisher, short id, Key const & key ) {
-      Key const copy = key;
-      Corvo::Ptr< Type > const old = entities_.del( copy );
-      if ( old ) {
-         publisher.publish( id, &copy, nullptr );
-      }
-      return old;
-   }
+   void set( Entity & owner, short id, Corvo::Ptr< Type > entity );
+   Corvo::Ptr< Type > del( Entity & owner, short id, Key key );
 
  private:
    Entities entities_;
 };
 
-} // namespace Rex
+// What a line tells its type about itself.
+namespace Impl {
 
-#include "rex/EntityAttributes.h"
+template< int Number >
+struct Line {};
+
+template< class Self, class Type, auto Get, auto Set >
+void scalar( TypeData & type, short id, char const * name );
+template< class Self, class Type, auto Get, auto Set >
+void entity( TypeData & type, short id, char const * name );
+template< class Self, class Key, class Type, auto Member, auto Set, auto Del >
+void map( TypeData & type, short id, char const * name );
+template< class Self, class Type, auto Member, auto Set, auto Del >
+void collection( TypeData & type, short id, char const * name );
+template< class Self, class Type, auto Member >
+void references( TypeData & type, short id, char const * name );
+template< class T >
+TypeData const & declaredType( char const * name );
+
+} // namespace Impl
+} // namespace Rex
 
 #define REX_ENTITY( Class, Base )                                                                                      \
  public:                                                                                                               \
@@ -301,9 +256,7 @@ class ReferencesAttribute {
    using RexBase::RexBase;                                                                                             \
    static constexpr int rexFirstLine = __LINE__;                                                                       \
    static ::Rex::TypeData const & rexType();                                                                           \
-   ::Rex::TypeData const & typeData() const override {                                                                 \
-      return rexType();                                                                                                \
-   }                                                                                                                   \
+   ::Rex::TypeData const & typeData() const override;                                                                  \
    static_assert( true )
 
 #define REX_KEY( keyName )                                                                                             \
@@ -357,18 +310,10 @@ class ReferencesAttribute {
       return attr##_.has( key );                                                                                       \
    }                                                                                                                   \
    void attr##Is( Key const & key, Type const & value ) {                                                              \
-      if ( attr##_.isNews( key, value ) ) {                                                                            \
-         writeCheck();                                                                                                 \
-         attr##_.set( *publisher(), id, key, value );                                                                  \
-      }                                                                                                                \
+      attr##_.set( *this, id, key, value );                                                                            \
    }                                                                                                                   \
    bool attr##Del( Key const & key ) {                                                                                 \
-      if ( !attr##_.has( key ) ) {                                                                                     \
-         return false;                                                                                                 \
-      }                                                                                                                \
-      writeCheck();                                                                                                    \
-      attr##_.del( *publisher(), id, key );                                                                            \
-      return true;                                                                                                     \
+      return attr##_.del( *this, id, key );                                                                            \
    }                                                                                                                   \
    static void rexDeclare( ::Rex::Impl::Line< __LINE__ >, auto & type ) {                                              \
       ::Rex::Impl::map< RexSelf, Key, Type, &RexSelf::attr##_, &RexSelf::attr##Is, &RexSelf::attr##Del >(              \
@@ -420,12 +365,10 @@ class ReferencesAttribute {
       return attr##_.all().has( key );                                                                                 \
    }                                                                                                                   \
    void attr##Is( ::Corvo::Ptr< Type > const & entity ) {                                                              \
-      writeCheck();                                                                                                    \
-      attr##_.set( *publisher(), id, entity );                                                                         \
+      attr##_.set( *this, id, entity );                                                                                \
    }                                                                                                                   \
    ::Corvo::Ptr< Type > attr##Del( ::Rex::ReferencesAttribute< Type >::Key const & key ) {                             \
-      writeCheck();                                                                                                    \
-      return attr##_.del( *publisher(), id, key );                                                                     \
+      return attr##_.del( *this, id, key );                                                                            \
    }                                                                                                                   \
    static void rexDeclare( ::Rex::Impl::Line< __LINE__ >, auto & type ) {                                              \
       ::Rex::Impl::references< RexSelf, Type, &RexSelf::attr##_ >( type, id, #attr );                                  \
@@ -439,5 +382,8 @@ class ReferencesAttribute {
    ::Rex::TypeData const & Class::rexType() {                                                                          \
       static ::Rex::TypeData const & type = ::Rex::Impl::declaredType< Class >( typeName );                            \
       return type;                                                                                                     \
+   }                                                                                                                   \
+   ::Rex::TypeData const & Class::typeData() const {                                                                   \
+      return rexType();                                                                                                \
    }                                                                                                                   \
    static_assert( true )

@@ -70,4 +70,7 @@ class TypeData {
    std::vector< std::unique_ptr< Attribute > > own_;
 };
 
+// The attribute of this name. Throws ValueError, with a name that is near, if the type has none.
+Attribute const & attributeOf( TypeData const & type, std::string const & name );
+
 } // namespace Rex

@@ -27,6 +27,21 @@ std::string quoted( std::string const & text ) {
 
 } // namespace
 
+// Compiled once: what a variant of six kinds needs for a copy is long.
+Value::Value() = default;
+Value::Value( Value const & ) = default;
+Value::Value( Value && ) noexcept = default;
+Value & Value::operator=( Value const & ) = default;
+Value & Value::operator=( Value && ) noexcept = default;
+Value::~Value() = default;
+Value::Value( std::nullptr_t ) {}
+Value::Value( bool value ) : value_( value ) {}
+Value::Value( Integer value ) : value_( value.value ) {}
+Value::Value( std::string value ) : value_( std::move( value ) ) {}
+Value::Value( char const * value ) : value_( std::string( value ) ) {}
+Value::Value( List value ) : value_( std::move( value ) ) {}
+Value::Value( Object value ) : value_( std::move( value ) ) {}
+
 bool operator==( Value const & left, Value const & right ) {
    return left.value_ == right.value_;
 }

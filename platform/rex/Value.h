@@ -24,16 +24,22 @@ class Value {
    using List = std::vector< Value >;
    using Object = std::map< std::string, Value >;
 
-   Value() = default;
-   Value( std::nullptr_t ) {}                                      // NOLINT(google-explicit-constructor)
-   Value( bool value ) : value_( value ) {}                        // NOLINT(google-explicit-constructor)
-   Value( std::string value ) : value_( std::move( value ) ) {}    // NOLINT(google-explicit-constructor)
-   Value( char const * value ) : value_( std::string( value ) ) {} // NOLINT(google-explicit-constructor)
-   Value( List value ) : value_( std::move( value ) ) {}           // NOLINT(google-explicit-constructor)
-   Value( Object value ) : value_( std::move( value ) ) {}         // NOLINT(google-explicit-constructor)
+   Value();
+   Value( Value const & );
+   Value( Value && ) noexcept;
+   Value & operator=( Value const & );
+   Value & operator=( Value && ) noexcept;
+   ~Value();
+   // NOLINTBEGIN(google-explicit-constructor)
+   Value( std::nullptr_t );
+   Value( bool value );
+   Value( std::string value );
+   Value( char const * value );
+   Value( List value );
+   Value( Object value );
    template< std::integral T >
-   requires( !std::same_as< T, bool > ) Value( T value )
-      : value_( static_cast< std::int64_t >( value ) ) {} // NOLINT(google-explicit-constructor)
+   requires( !std::same_as< T, bool > ) Value( T value ) : Value( Integer{ static_cast< std::int64_t >( value ) } ) {}
+   // NOLINTEND(google-explicit-constructor)
 
    bool isNull() const { return std::holds_alternative< std::monostate >( value_ ); }
    bool const * boolean() const { return std::get_if< bool >( &value_ ); }
@@ -47,6 +53,11 @@ class Value {
    friend bool operator==( Value const & left, Value const & right );
 
  private:
+   struct Integer {
+      std::int64_t value;
+   };
+   explicit Value( Integer value );
+
    std::variant< std::monostate, bool, std::int64_t, std::string, List, Object > value_;
 };
 

@@ -1,3 +1,4 @@
+#include "rex/EntityAttributes.h"
 #include "state/CellStatus.h"
 #include "state/Interfaces.h"
 #include "state/Overlays.h"

@@ -34,62 +34,22 @@ struct InterfaceWorld {
    Corvo::Ptr< Interface::SubIntfStatusLocalDir > subIntfLocals = Corvo::makePtr< Interface::SubIntfStatusLocalDir >();
    Corvo::Ptr< L3IntfSm > sm;
 
-   InterfaceWorld() { bridging->bridgeMacAddrIs( bridgeMac ); }
+   InterfaceWorld();
+   ~InterfaceWorld();
 
-   L3IntfSmArguments arguments() const {
-      return { bridging,
-               bridgingHw,
-               configDir,
-               statusDir,
-               localDir,
-               scheduler,
-               globalConfig,
-               helper,
-               slice,
-               ports,
-               routerMac,
-               capability,
-               subIntfs,
-               subIntfLocals };
-   }
-   void start() { sm = L3IntfSm::L3IntfSmIs( arguments() ); }
+   L3IntfSmArguments arguments() const;
+   void start();
    void modeIs( U8 mode ) { slice->smModeIs( Hardware::Dace::SmMode{ mode } ); }
 
    // An interface with configuration, status and local status.
-   Netka::IntfId intf( std::string const & name ) {
-      Netka::IntfId const id( name );
-      configDir->intfConfigIs( Corvo::makePtr< Interface::EthPhyIntfConfig >( id ) );
-      statusIs( id );
-      localDir->intfStatusLocalIs( Corvo::makePtr< Interface::EthPhyIntfStatusLocal >( id ) );
-      return id;
-   }
-   void statusIs( Netka::IntfId id ) {
-      auto const status = Corvo::makePtr< Interface::EthPhyIntfStatus >( id );
-      status->burnedInAddrIs( burnedIn );
-      statusDir->intfStatusIs( status );
-   }
-   Corvo::Ptr< PortState > port( U16 number, Netka::IntfId id, bool active = true ) {
-      auto const state = Corvo::makePtr< PortState >( Hardware::Dace::SystemPhyPortId{ number } );
-      state->intfIdIs( id );
-      state->activeIs( active );
-      ports->portStateIs( state );
-      return state;
-   }
+   Netka::IntfId intf( std::string const & name );
+   void statusIs( Netka::IntfId id );
+   Corvo::Ptr< PortState > port( U16 number, Netka::IntfId id, bool active = true );
    void portDel( U16 number ) { ports->portStateDel( Hardware::Dace::SystemPhyPortId{ number } ); }
-   Corvo::Ptr< Interface::SubIntfStatus > subIntf( std::string const & name, Netka::IntfId parent ) {
-      Netka::IntfId const id( name );
-      auto const status = Corvo::makePtr< Interface::SubIntfStatus >( id );
-      status->parentIntfIdIs( parent );
-      subIntfs->intfStatusIs( status );
-      subIntfLocals->intfStatusLocalIs( Corvo::makePtr< Interface::SubIntfStatusLocal >( id ) );
-      return status;
-   }
+   Corvo::Ptr< Interface::SubIntfStatus > subIntf( std::string const & name, Netka::IntfId parent );
 
    bool serves( Netka::IntfId id ) const { return sm->rexIpIntfConfigFilterHas( id ); }
-   bool manages( Netka::IntfId id ) const {
-      return sm->managedIntfStatusDir()->intfStatusHas( id ) &&
-             sm->managedIntfStatusLocalDir()->intfStatusLocalHas( id );
-   }
+   bool manages( Netka::IntfId id ) const;
    Corvo::Ptr< Filter > filter( Netka::IntfId id ) const { return sm->rexIpIntfConfigFilter( id ); }
    Corvo::Ptr< Interface::EthPhyIntfConfig > config( Netka::IntfId id ) const { return configDir->intfConfig( id ); }
    Corvo::Ptr< Interface::EthPhyIntfStatus > status( Netka::IntfId id ) const { return statusDir->intfStatus( id ); }
@@ -105,18 +65,10 @@ struct InterfaceWorld {
 // Records the traces of the interface machinery, as "<level> <text>".
 class Traces {
  public:
-   explicit Traces( int highest = 9 ) {
-      Rex::traceLevelIs( "DaceFapNiL3Sm", highest );
-      Rex::traceSinkIs( [this]( Rex::TraceRecord const & record ) {
-         seen_.push_back( std::to_string( record.level ) + " " + record.text );
-      } );
-   }
+   explicit Traces( int highest = 9 );
    Traces( Traces const & ) = delete;
    Traces & operator=( Traces const & ) = delete;
-   ~Traces() {
-      Rex::traceLevelIs( "DaceFapNiL3Sm", -1 );
-      Rex::traceSinkIs( {} );
-   }
+   ~Traces();
    // What was recorded since the last call.
    std::vector< std::string > take() { return std::exchange( seen_, {} ); }
 
@@ -127,13 +79,8 @@ class Traces {
 // Hears the changes of entities, as "<entity's name> <attribute>[ <key>]", and may act on one.
 class Ear {
  public:
-   explicit Ear( std::vector< Corvo::Ptr< Rex::Entity > > const & entities ) : slots_( entities.size() ) {
-      for ( std::size_t i = 0; i < entities.size(); ++i ) {
-         entities_.push_back( entities[i] );
-         slots_[i].dispatchIs( dispatch, this );
-         entities[i]->publisher()->subscriberAdd( slots_[i], false );
-      }
-   }
+   explicit Ear( std::vector< Corvo::Ptr< Rex::Entity > > const & entities );
+   ~Ear();
    std::vector< std::string > take() { return std::exchange( heard_, {} ); }
    // Runs once, when `text` is heard.
    void when( std::string const & text, std::function< void() > act ) {
@@ -143,20 +90,7 @@ class Ear {
 
  private:
    static void
-   dispatch( Corvo::Publisher * publisher, Corvo::Subscriber * slot, short id, void const * key, void const * ) {
-      auto & self = *slot->owner< Ear >();
-      auto const & entity = static_cast< Rex::Entity const & >( publisher->node() );
-      auto const * attribute = entity.typeData().attribute( id );
-      std::string text = entity.name().empty() ? std::string() : entity.name() + " ";
-      text += attribute->name;
-      if ( key ) {
-         text += " " + attribute->keyText( key );
-      }
-      self.heard_.push_back( text );
-      if ( self.act_ && text == self.text_ ) {
-         std::exchange( self.act_, nullptr )();
-      }
-   }
+   dispatch( Corvo::Publisher * publisher, Corvo::Subscriber * slot, short id, void const * key, void const * );
    std::vector< Corvo::Ptr< Rex::Entity > > entities_; // outlive the slots
    std::vector< Corvo::Subscriber > slots_;
    std::vector< std::string > heard_;

@@ -1,0 +1,58 @@
+#include "l3sm/VerbOptions.h"
+
+#include <CLI/CLI.hpp>
+
+namespace Cli {
+
+namespace {
+
+void typeIs( CLI::Option & option, char const * type ) {
+   if ( type ) {
+      option.type_name( type );
+   }
+}
+
+} // namespace
+
+void VerbOptions::text( char const * name, std::string & into, char const * help, char const * type ) {
+   typeIs( *app_.add_option( name, into, help ), type );
+}
+
+void VerbOptions::required( char const * name, std::string & into, char const * help ) {
+   app_.add_option( name, into, help )->required();
+}
+
+void VerbOptions::texts( char const * name, std::vector< std::string > & into, char const * help, char const * type ) {
+   typeIs( *app_.add_option( name, into, help ), type );
+}
+
+void VerbOptions::repeated( char const * name,
+                            std::vector< std::string > & into,
+                            char const * help,
+                            char const * type ) {
+   auto * const option = app_.add_option( name, into, help )->take_all()->expected( 1 )->allow_extra_args( false );
+   typeIs( *option, type );
+}
+
+void VerbOptions::number( char const * name, std::optional< U8 > & into, char const * help ) {
+   app_.add_option( name, into, help );
+}
+void VerbOptions::number( char const * name, std::optional< U16 > & into, char const * help ) {
+   app_.add_option( name, into, help );
+}
+void VerbOptions::number( char const * name, std::optional< U32 > & into, char const * help ) {
+   app_.add_option( name, into, help );
+}
+void VerbOptions::number( char const * name, std::optional< int > & into, char const * help ) {
+   app_.add_option( name, into, help );
+}
+
+void VerbOptions::flag( char const * name, bool & into, char const * help ) {
+   app_.add_flag( name, into, help );
+}
+
+void VerbOptions::footer( char const * text ) {
+   app_.footer( text );
+}
+
+} // namespace Cli
