@@ -98,7 +98,7 @@ struct Cost {
 
 Cost measure( std::size_t count ) {
    Cost cost;
-   for ( int turn = 0; turn < 3; ++turn ) {
+   for ( int turn = 0; turn < 5; ++turn ) {
       auto const all = worlds( count );
       auto const interfaces = static_cast< double >( all.size() * count );
       auto const forAll = [&]( auto work ) {
@@ -106,7 +106,7 @@ Cost measure( std::size_t count ) {
             work( *world );
          }
       };
-      malloc_trim( 0 ); // what earlier turns have left in the heap is their cost, not this one's
+      malloc_trim( 0 ); // every turn pays for fresh pages, as many at every count; what earlier ones left is no gift
       auto const before = mallinfo2();
       double start = now();
       forAll( []( World & world ) { world.serve(); } );

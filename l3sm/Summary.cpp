@@ -1,5 +1,6 @@
 #include "l3sm/Summary.h"
 
+#include "l3sm/Interfaces.h"
 #include "l3sm/WriteGroups.h"
 #include "simulator/BootImage.h"
 #include "simulator/TableMap.h"
@@ -61,7 +62,7 @@ class Summary {
       out_ << ( scenario_.name.empty() ? scenario_.file : scenario_.name ) << "\n\n";
       writeSwitch();
       writeToggles();
-      writeInterfaces();
+      writeInterfaces( out_, interfacesOf( sw_ ) );
       for ( U32 event = 0; event <= scenario_.events.size(); ++event ) {
          writeEvent( event );
       }
@@ -139,26 +140,6 @@ class Summary {
       return std::any_of( readings.begin(), readings.end(), [&]( Toggle::Reading const & reading ) {
          return reading.file == file && reading.name == name;
       } );
-   }
-
-   // Those that the plug-in has published, at the end of the run.
-   void writeInterfaces() {
-      auto const state = sw_.state().value();
-      auto const managed = state.object()->find( "managed/intfStatusDir" );
-      if ( managed == state.object()->end() ) {
-         return;
-      }
-      auto const & served = *managed->second.object()->at( "intfStatus" ).object();
-      if ( served.empty() ) {
-         return;
-      }
-      out_ << "Interfaces served at the end\n";
-      std::vector< std::string > names;
-      for ( auto const & [name, status] : served ) {
-         names.push_back( name );
-      }
-      writeWrapped( out_, "  ", names );
-      out_ << '\n';
    }
 
    void writeEvent( U32 event ) {

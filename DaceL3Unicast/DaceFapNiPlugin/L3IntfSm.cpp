@@ -18,12 +18,23 @@ constexpr short portStatePortGenId = 0x8f;
    Rex::throwMutatorArgNullPointerException( "DaceFapNi::L3IntfSm", attribute );
 }
 
+// Whether two entries, each null where there is none, hold the same entity.
+bool same( auto const * left, auto const * right ) {
+   return left && right ? *left == *right : !left && !right;
+}
+
 } // namespace
 
 L3IntfSm::L3IntfSm( L3IntfSmArguments const & arguments )
    : in_( arguments ), sliceSmState_( arguments.sliceSmState ), portStateInfo_( arguments.portStateInfo ) {
    sliceSmState_.subscribe( sliceSmStateDispatch, this );
    portStateInfo_.subscribe( portStateInfoDispatch, this );
+   if ( portStateInfo_ ) {
+      auto const ports = portStateInfo_->portState().size();
+      portState_.reserve( ports );
+      ethConfig_.reserve( ports );
+      rexIpIntfConfigFilter_.reserve( ports );
+   }
    handleInitialized();
    if ( portStateInfo_ ) {
       for ( auto const [port, entry] : portStateInfo_->portState() ) {
@@ -124,15 +135,26 @@ void L3IntfSm::handlePortState( PortStatePtr const & portState ) {
       return;
    }
    Netka::IntfId const intfId = portState->intfId();
-   auto const config = in_.ethConfigDir->intfConfig( intfId );
+   auto const * const config = in_.ethConfigDir->intfConfig().find( intfId );
    if ( !config || !portState->active() ) {
       return;
    }
    trace( 5, "handlePortState", " ", intfId, " active ", portState->active() );
-   ethConfigIs( config );
+   if ( !isServedBy( intfId, config->get() ) ) {
+      ethConfigIs( *config );
+   }
    if ( in_.ethIntfVrfSmHelper ) {
       doUpdateManagedIntfStatusDirs( intfId, true );
    }
+}
+
+// Whether ethConfigIs would find all as it is. At start-up each port comes by twice; looking whether anything is to be
+// done, without touching what isn't, keeps the second time from costing more the more interfaces there are.
+bool L3IntfSm::isServedBy( Netka::IntfId intfId, Interface::EthPhyIntfConfig const * config ) const {
+   auto const * const served = ethConfig_.find( intfId );
+   auto const * const filter = rexIpIntfConfigFilter_.find( intfId );
+   return served && served->get() == config && filter && ( *filter )->notifierEntity().get() == config &&
+          ( *filter )->isZombie() == isZombie();
 }
 
 void L3IntfSm::handlePortStateDelete( PortStatePtr const & portState ) {
@@ -160,12 +182,17 @@ void L3IntfSm::doUpdateManagedIntfStatusDirs( Netka::IntfId intfId, bool addOrUp
    if ( !in_.ethConfigDir->intfConfigHas( intfId ) ) {
       Rex::SassertHelper( "ethConfigDir()->intfConfigHas( intfId )" ) << "No intfConfig for " << intfId;
    }
-   managedIntfStatusDir_->intfStatusIs( in_.ethStatusDir->intfStatus( intfId ) ); // may be null: the directory decides
-   auto const episl = in_.ethPhyIntfStatusLocalDir->intfStatusLocal( intfId );
+   auto const * const status = in_.ethStatusDir->intfStatus().find( intfId );
+   if ( !same( managedIntfStatusDir_->intfStatus().find( intfId ), status ) ) {
+      managedIntfStatusDir_->intfStatusIs( in_.ethStatusDir->intfStatus( intfId ) ); // null: the directory decides
+   }
+   auto const * const episl = in_.ethPhyIntfStatusLocalDir->intfStatusLocal().find( intfId );
    if ( !episl ) {
       Rex::SassertHelper( "episl" ) << "No intfStatusLocal for " << intfId;
    }
-   managedIntfStatusLocalDir_->intfStatusLocalIs( episl );
+   if ( !same( managedIntfStatusLocalDir_->intfStatusLocal().find( intfId ), episl ) ) {
+      managedIntfStatusLocalDir_->intfStatusLocalIs( in_.ethPhyIntfStatusLocalDir->intfStatusLocal( intfId ) );
+   }
 }
 
 void L3IntfSm::portStateIs( PortStatePtr const & portState ) {

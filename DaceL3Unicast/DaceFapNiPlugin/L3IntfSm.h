@@ -111,6 +111,7 @@ class L3IntfSm : public Corvo::Node {
    void doUpdateManagedIntfStatusDirs( Netka::IntfId intfId, bool addOrUpdate );
 
  private:
+   bool isServedBy( Netka::IntfId intfId, Interface::EthPhyIntfConfig const * config ) const;
    static void sliceSmStateDispatch( Corvo::Publisher *, Corvo::Subscriber *, short, void const *, void const * );
    static void portStateInfoDispatch( Corvo::Publisher *, Corvo::Subscriber *, short, void const *, void const * );
 

@@ -40,12 +40,18 @@ void L3MtuSm::hasNotificationActiveIs( bool active ) {
    }
 }
 
-void L3MtuSm::handleMtu() {
-   U32 mtu = intfConfig_ ? intfConfig_->mtu() : 0;
-   if ( mtu == 0 && globalIntfConfig_ && ( !intfHwCapability_ || intfHwCapability_->globalL3MtuSupported() ) ) {
-      mtu = globalIntfConfig_->l3Mtu();
+U32 L3MtuSm::l3Mtu( IntfConfig const * intfConfig,
+                    GlobalIntfConfig const * globalIntfConfig,
+                    Hardware::Capability const * intfHwCapability ) {
+   U32 mtu = intfConfig ? intfConfig->mtu() : 0;
+   if ( mtu == 0 && globalIntfConfig && ( !intfHwCapability || intfHwCapability->globalL3MtuSupported() ) ) {
+      mtu = globalIntfConfig->l3Mtu();
    }
-   effectiveL3Mtu_->mtuIs( mtu ? mtu : defaultL3Mtu );
+   return mtu ? mtu : defaultL3Mtu;
+}
+
+void L3MtuSm::handleMtu() {
+   effectiveL3Mtu_->mtuIs( l3Mtu( intfConfig_.ptr().get(), globalIntfConfig_.ptr().get(), intfHwCapability_.get() ) );
 }
 
 void L3MtuSm::intfConfigDispatch(

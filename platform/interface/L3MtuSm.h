@@ -19,6 +19,11 @@ class L3MtuSm : public Corvo::Node {
  public:
    static constexpr U32 defaultL3Mtu = 1500; // bytes
 
+   // The L3 MTU that holds for an interface under these inputs.
+   static U32 l3Mtu( IntfConfig const * intfConfig,
+                     GlobalIntfConfig const * globalIntfConfig,
+                     Hardware::Capability const * intfHwCapability );
+
    L3MtuSm( Corvo::Ptr< IntfConfig const > const & intfConfig,
             Corvo::Ptr< GlobalIntfConfig const > const & globalIntfConfig,
             Corvo::Ptr< EffectiveL3Mtu > const & effectiveL3Mtu,

@@ -41,6 +41,8 @@ class SubIntfIndex::SubIntfNotifiee : public Rex::NotifieeConst {
 SubIntfIndex::SubIntfIndex( Corvo::Ptr< SubIntfStatusDir const > const & dir ) : dir_( dir ) {
    indexes()[dir.get()] = this;
    dir_.subscribe( dirDispatch, this );
+   groups_.reserve( dir->intfStatus().size() );
+   notifiees_.reserve( dir->intfStatus().size() );
    for ( auto const & [subIntfId, subIntf] : dir->intfStatus() ) {
       handleSubIntf( subIntfId );
    }

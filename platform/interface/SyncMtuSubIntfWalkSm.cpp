@@ -29,6 +29,8 @@ Corvo::Ptr< SyncMtuData > syncMtuDataFactory( Corvo::Ptr< IntfStatus > const & i
    return Corvo::makePtr< SyncMtuData >( intfStatus, intfStatusLocal, mtu, syncIntf, syncSubIntfs, subIntfLimit );
 }
 
+SyncMtuSubIntfWalkSm * SyncMtuSubIntfWalkSm::newest_ = nullptr;
+
 // One walk. A reset or a restart puts another, or none, in its place, by which the slice that is writing sees it.
 struct SyncMtuSubIntfWalkSm::Walk : Corvo::Node {
    explicit Walk( Corvo::Ptr< SyncMtuData > const & data_ ) : data( data_ ) {}
@@ -68,9 +70,18 @@ SyncMtuSubIntfWalkSm::SyncMtuSubIntfWalkSm( Corvo::Ptr< Orb::TaskScheduler > con
                                             Corvo::Ptr< SubIntfStatusDir const > const & subIntfStatusDir,
                                             Corvo::Ptr< SubIntfStatusLocalDir const > const & subIntfStatusLocalDir )
    : intfId_( intfId ), scheduler_( scheduler ), subIntfs_( SubIntfIndex::of( subIntfStatusDir ) ),
-     subIntfStatusLocalDir_( subIntfStatusLocalDir ) {}
+     subIntfStatusLocalDir_( subIntfStatusLocalDir ), older_( newest_ ) {
+   if ( older_ ) {
+      older_->younger_ = this;
+   }
+   newest_ = this;
+}
 
 SyncMtuSubIntfWalkSm::~SyncMtuSubIntfWalkSm() {
+   ( younger_ ? younger_->older_ : newest_ ) = older_;
+   if ( older_ ) {
+      older_->younger_ = younger_;
+   }
    if ( posted_ ) {
       posted_->walkGone();
    }

@@ -91,6 +91,10 @@ class SyncMtuSubIntfWalkSm : public Rex::Entity {
    ~SyncMtuSubIntfWalkSm() override;
 
    Netka::IntfId intfId() const { return intfId_; }
+   // All walks that are alive: one for each interface that this agent serves. The one made last, then each one's
+   // elder; null where there is none.
+   static SyncMtuSubIntfWalkSm const * newest() { return newest_; }
+   SyncMtuSubIntfWalkSm const * older() const { return older_; }
 
    // Starts a walk. Null: throws the null-argument exception.
    void syncMtu( Corvo::Ptr< SyncMtuData > const & data );
@@ -114,6 +118,9 @@ class SyncMtuSubIntfWalkSm : public Rex::Entity {
    Corvo::Ptr< SubIntfStatusLocalDir const > subIntfStatusLocalDir_;
    Corvo::Ptr< Walk > walk_;  // what is under way
    Slice * posted_ = nullptr; // the task that is waiting for the scheduler, which owns it; one at most
+   SyncMtuSubIntfWalkSm * older_ = nullptr;
+   SyncMtuSubIntfWalkSm * younger_ = nullptr;
+   static SyncMtuSubIntfWalkSm * newest_;
 };
 
 Corvo::Ptr< SyncMtuSubIntfWalkSm >

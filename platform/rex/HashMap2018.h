@@ -17,6 +17,7 @@
 #include "corvo/Types.h"
 #include "rex/Assert.h"
 
+#include <algorithm>
 #include <functional>
 #include <memory>
 #include <utility>
@@ -36,15 +37,31 @@ class HashMap2018 {
    // What the walks share with the map, so that the map itself may go.
    struct State {
       std::vector< Entry > entries;
-      std::vector< U32 > table; // by hash, next free place on collision: position of an entry plus 1, or 0
+      std::vector< U32 > table; // by hash, the next place in turn on collision: position of an entry plus 1, or 0
       U32 present = 0;
       U32 walks = 0;
 
+      // The table consists of lines of 16 places. Sixteen keys that follow one another share a line, and the lines of
+      // successive sixteens lie far apart: whoever goes through many keys in their order meets each line once, however
+      // large the table is, and keys of any other pattern spread as random ones do. The low four bits of a hash tell
+      // the place in the line, the others the line.
       static U32 hashOf( Key const & key ) {
-         return static_cast< U32 >( ( U64{ std::hash< Key >{}( key ) } * 0x9e3779b97f4a7c15ULL ) >> 32 );
+         U64 const id = std::hash< Key >{}( key );
+         U64 const sixteen = ( id >> 4 ) ^ ( id >> 36 );
+         U64 const line = ( sixteen * 0x9e3779b97f4a7c15ULL ) >> 36;
+         U64 const turned = ( sixteen * 0xd6e8feb86659fd93ULL ) >> 60;
+         return static_cast< U32 >( line << 4 | ( ( id ^ turned ) & 15 ) );
       }
-      std::size_t after( std::size_t place ) const { return ( place + 1 ) & ( table.size() - 1 ); }
-      std::size_t homeOf( U32 hash ) const { return hash & ( table.size() - 1 ); }
+      std::size_t lines() const { return table.size() / 16; }
+      std::size_t homeOf( U32 hash ) const { return ( ( U64{ hash } * lines() ) >> 32 ) * 16 + hash % 16; }
+      // All places in turn: one place of all the lines, then the next.
+      std::size_t after( std::size_t place ) const {
+         return place + 16 < table.size() ? place + 16 : ( place + 1 ) % 16;
+      }
+      std::size_t steps( std::size_t from, std::size_t to ) const {
+         auto const turn = [this]( std::size_t place ) { return place % 16 * lines() + place / 16; };
+         return ( turn( to ) - turn( from ) ) & ( table.size() - 1 );
+      }
 
       // The place in the table of an entry with this key, or of where it would go.
       std::size_t placeOf( Key const & key, U32 hash ) const {
@@ -54,6 +71,14 @@ class HashMap2018 {
             if ( entry.hash == hash && entry.key == key ) {
                break;
             }
+         }
+         return place;
+      }
+      // Where an entry with this hash goes.
+      std::size_t emptyPlace( U32 hash ) const {
+         std::size_t place = homeOf( hash );
+         while ( table[place] ) {
+            place = after( place );
          }
          return place;
       }
@@ -70,11 +95,11 @@ class HashMap2018 {
             closeGaps();
          }
          if ( ( std::size_t{ present } + 1 ) * 4 > table.size() * 3 ) {
-            tableIs( table.empty() ? 4 : table.size() * 2 );
+            tableIs( table.empty() ? 16 : table.size() * 2 );
          }
          U32 const hash = hashOf( key );
          entries.push_back( { std::move( value ), hash, true, key } );
-         table[placeOf( key, hash )] = static_cast< U32 >( entries.size() );
+         table[emptyPlace( hash )] = static_cast< U32 >( entries.size() );
          ++present;
       }
 
@@ -89,9 +114,7 @@ class HashMap2018 {
       void freePlace( std::size_t place ) {
          for ( std::size_t other = after( place ); table[other]; other = after( other ) ) {
             std::size_t const home = homeOf( entries[table[other] - 1].hash );
-            bool const passedHere =
-               place <= other ? ( home <= place || home > other ) : ( home <= place && home > other );
-            if ( passedHere ) {
+            if ( steps( home, other ) >= steps( place, other ) ) { // it has passed here
                table[place] = table[other];
                place = other;
             }
@@ -103,12 +126,19 @@ class HashMap2018 {
          table.assign( size, 0 );
          for ( std::size_t position = 0; position < entries.size(); ++position ) {
             if ( entries[position].present ) {
-               std::size_t place = homeOf( entries[position].hash );
-               while ( table[place] ) {
-                  place = after( place );
-               }
-               table[place] = static_cast< U32 >( position + 1 );
+               table[emptyPlace( entries[position].hash )] = static_cast< U32 >( position + 1 );
             }
+         }
+      }
+
+      void reserve( std::size_t count ) {
+         entries.reserve( count );
+         std::size_t size = std::max( table.size(), std::size_t{ 16 } );
+         while ( count * 4 > size * 3 ) {
+            size *= 2;
+         }
+         if ( size > table.size() ) {
+            tableIs( size );
          }
       }
 
@@ -212,8 +242,15 @@ class HashMap2018 {
 
    // The value under `key`, or a default one.
    Value get( Key const & key ) const {
+      Value const * const value = find( key );
+      return value ? *value : Value{};
+   }
+
+   // The value under `key` where it stands, or null; good until the map changes. Asking so leaves what it holds alone:
+   // even a pointer's copy writes to what it points to.
+   Value const * find( Key const & key ) const {
       Entry const * const entry = state_ ? state_->find( key ) : nullptr;
-      return entry ? entry->value : Value{};
+      return entry ? &entry->value : nullptr;
    }
 
    // Enters `value` under `key`, or replaces what is there; an entry keeps its place in the order.
@@ -226,6 +263,14 @@ class HashMap2018 {
       } else {
          state_->add( key, std::move( value ) );
       }
+   }
+
+   // Makes room for `count` entries at once, where so many are about to come.
+   void reserve( std::size_t count ) {
+      if ( !state_ ) {
+         state_ = std::make_shared< State >();
+      }
+      state_->reserve( count );
    }
 
    // Removes and returns the value under `key`; a default value if there is none.

@@ -243,4 +243,33 @@ TEST( HashMap, AgreesWithAPlainModel ) {
    }
 }
 
+// Keys in the patterns that ids come in, far more than one line of the table takes. Each key is met at its first or
+// one of its next places, or this takes minutes.
+TEST( HashMap, KeysOfAnyPatternAreFoundAndRemoved ) {
+   std::vector< std::function< U64( U64 ) > > const patterns{
+      []( U64 i ) { return i; },
+      []( U64 i ) { return i * 2; },
+      []( U64 i ) { return i * 17; },
+      []( U64 i ) { return i << 12; },
+      []( U64 i ) { return i << 32; },
+      []( U64 i ) { return i << 44; },
+      []( U64 i ) { return i % 2 << 40 | i / 2; },
+      []( U64 i ) { return i % 8 << 24 | i / 8; },
+   };
+   constexpr U64 count = 60'000;
+   for ( auto const & keyOf : patterns ) {
+      Rex::HashMap2018< U64, U64 > map;
+      for ( U64 i = 0; i < count; ++i ) {
+         map.set( keyOf( i ), i );
+      }
+      for ( U64 i = 0; i < count; i += 3 ) {
+         ASSERT_EQ( map.del( keyOf( i ) ), i );
+      }
+      for ( U64 i = 0; i < count; ++i ) {
+         ASSERT_EQ( map.get( keyOf( i ) ), i % 3 ? i : 0 );
+         ASSERT_EQ( map.has( keyOf( i ) ), i % 3 != 0 );
+      }
+   }
+}
+
 } // namespace

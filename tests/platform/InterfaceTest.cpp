@@ -168,6 +168,25 @@ struct WalkTest : testing::Test {
    unsigned result() const { return walk->syncMtuResult(); }
 };
 
+TEST_F( WalkTest, ThoseThatAreAliveAreToldNewestFirst ) {
+   auto const ids = [] {
+      std::string all;
+      for ( auto const * each = SyncMtuSubIntfWalkSm::newest(); each; each = each->older() ) {
+         all += each->intfId().stringValue() + " ";
+      }
+      return all;
+   };
+   auto second = syncMtuSubIntfWalkSmFactory( scheduler, eth2, dir, locals );
+   auto third = syncMtuSubIntfWalkSmFactory( scheduler, Netka::IntfId( "Ethernet3" ), dir, locals );
+   EXPECT_EQ( ids(), "Ethernet3 Ethernet2 Ethernet1 " );
+   second = nullptr;
+   EXPECT_EQ( ids(), "Ethernet3 Ethernet1 " );
+   third = nullptr;
+   EXPECT_EQ( ids(), "Ethernet1 " );
+   walk = nullptr;
+   EXPECT_EQ( SyncMtuSubIntfWalkSm::newest(), nullptr );
+}
+
 TEST_F( WalkTest, WritesTheInterfaceAndItsSubinterfacesAndNoOthers ) {
    auto const mine = subIntf( "Ethernet1.1", eth1 );
    auto const other = subIntf( "Ethernet2.1", eth2 );

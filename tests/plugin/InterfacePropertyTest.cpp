@@ -171,7 +171,12 @@ class History {
    }
 
    void check() {
+      std::set< Netka::IntfId > walked; // what others see of who is served
+      for ( auto const * walk = Interface::SyncMtuSubIntfWalkSm::newest(); walk; walk = walk->older() ) {
+         walked.insert( walk->intfId() );
+      }
       for ( auto const id : intfs_ ) {
+         RC_ASSERT( walked.contains( id ) == served_.contains( id ) );
          RC_ASSERT( world_.serves( id ) == served_.contains( id ) );
          RC_ASSERT( ( world_.sm->ethConfig( id ) != nullptr ) == served_.contains( id ) );
          RC_ASSERT( world_.manages( id ) == ( world_.helper && managed_.contains( id ) ) );
