@@ -1,6 +1,7 @@
 // The verb `compare`: one scenario on every kind of chip, and with each toggle flipped alone: where the programming
 // differs.
 #include "l3sm/Programming.h"
+#include "l3sm/Progress.h"
 #include "l3sm/TableNames.h"
 #include "l3sm/Terminal.h"
 #include "l3sm/Verbs.h"
