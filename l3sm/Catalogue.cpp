@@ -266,6 +266,9 @@ std::vector< Touch > touchesOf( Catalogue::Table const & table, Options const & 
 int answer( Options const & options ) {
    U8 const chipType = options.chip.empty() ? 0 : static_cast< U8 >( chipNamed( options.chip ) );
    Catalogue::Table const * const table = options.table.empty() ? nullptr : &tableNamed( options.table );
+   if ( !table && !options.journals.empty() ) {
+      throw InputError( "--journal tells which functions touch a table; name the table" );
+   }
    if ( table && !isOn( *table, chipType ) ) {
       throw InputError( std::string( "the " ) + options.chip + " has no table " + table->name );
    }

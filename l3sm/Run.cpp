@@ -35,16 +35,18 @@ int run( Options const & options ) {
    OutputFile const state( options.state );
    OutputFile const journal( options.journal );
    OutputFile const report( options.report );
+   eachAlone( { options.scenario, options.chips, options.state, options.journal, options.report, options.traceOut } );
    Tracing tracing( options.trace, options.traceOut );
    loadPlugin( options.plugin );
    tracing.start();
 
    Simulator::SimulatedSwitch sw( scenario.description );
    if ( journal.isWanted() ) {
-      sw.journal().fileIs( options.journal );
+      journal.writing( [&] { sw.journal().fileIs( options.journal ); } );
    }
    play( scenario, sw );
-   sw.journal().flush();
+   journal.writing( [&] { sw.journal().flush(); } );
+   tracing.flush();
 
    if ( chips.isWanted() ) {
       std::ostringstream text;
