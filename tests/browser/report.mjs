@@ -112,6 +112,10 @@ const steps = {
     await goTo('#event/1');
     const [box, picture] = await browser.until("const it = document.querySelector('.write .bits'); return it && [it.parentElement.clientWidth, it.clientWidth]");
     assert.ok(picture > box, 'the picture is scrolled in its own box');
+    await browser.until(`
+      const hit = document.querySelector('.write .hit').getBoundingClientRect();
+      const box = document.querySelector('.write .scroll').getBoundingClientRect();
+      return box.left <= hit.left && hit.right <= box.right`);
     await shot('report-narrow.png');
   },
   'asks nothing of a network, and has no error': async () => {
