@@ -286,7 +286,7 @@ void showStory( std::ostream & out, Subject const & subject, Story const & story
       columns.print( out, 2 );
    }
    bool const isUntouched = story.changed.empty() && story.same.empty() && story.looks.empty();
-   auto const & gates = isUntouched ? story.otherGates : story.gates;
+   auto const & gates = story.gates.empty() && isUntouched ? story.otherGates : story.gates;
    if ( !gates.empty() ) {
       out << '\n'
           << style.strong( "Kept from running" )
