@@ -2,6 +2,7 @@
 #include "l3sm/OutputFile.h"
 #include "l3sm/Play.h"
 #include "l3sm/Report.h"
+#include "l3sm/RunValue.h"
 #include "l3sm/Summary.h"
 #include "l3sm/Tracing.h"
 #include "l3sm/Verbs.h"
@@ -24,6 +25,7 @@ struct Options {
    std::vector< std::string > toggles;
    std::string plugin;
    bool quiet = false;
+   bool json = false;
 };
 
 int run( Options const & options ) {
@@ -59,7 +61,9 @@ int run( Options const & options ) {
    if ( report.isWanted() ) {
       report.write( reportOf( scenario, sw ) );
    }
-   if ( !options.quiet ) {
+   if ( options.json ) {
+      std::cout << toJson( runValue( scenario, sw ), 3 ) << '\n';
+   } else if ( !options.quiet ) {
       writeSummary( std::cout, scenario, sw );
    }
    return 0;
@@ -88,7 +92,8 @@ Action defineRun( CLI::App & verb ) {
       ->allow_extra_args( false );
    verb.add_option( "--plugin", options->plugin, "the plug-in's library; the default lies beside this program" )
       ->type_name( "PATH" );
-   verb.add_flag( "--quiet", options->quiet, "print no summary" );
+   auto * const quiet = verb.add_flag( "--quiet", options->quiet, "print no summary" );
+   verb.add_flag( "--json", options->json, "the summary, for programs" )->excludes( quiet );
    return [options] { return run( *options ); };
 }
 
