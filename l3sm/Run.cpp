@@ -29,6 +29,9 @@ struct Options {
 };
 
 int run( Options const & options ) {
+   if ( options.quiet && options.json ) {
+      throw InputError( "--quiet prints nothing and --json does; give one of them" );
+   }
    Scenario scenario = options.scenario.empty() ? builtInScenario() : readScenario( options.scenario );
    for ( auto const & toggle : options.toggles ) {
       toggleIs( scenario.description.toggles, toggle );
@@ -92,8 +95,8 @@ Action defineRun( CLI::App & verb ) {
       ->allow_extra_args( false );
    verb.add_option( "--plugin", options->plugin, "the plug-in's library; the default lies beside this program" )
       ->type_name( "PATH" );
-   auto * const quiet = verb.add_flag( "--quiet", options->quiet, "print no summary" );
-   verb.add_flag( "--json", options->json, "the summary, for programs" )->excludes( quiet );
+   verb.add_flag( "--quiet", options->quiet, "print no summary" );
+   verb.add_flag( "--json", options->json, "the summary, for programs" );
    return [options] { return run( *options ); };
 }
 
