@@ -8,6 +8,8 @@ _l3sm_tables() { "$1" catalogue 2> /dev/null | sed -n '2,/^$/s/ .*//p'; }
 
 _l3sm_fields() { "$1" catalogue "$2" --json 2> /dev/null | grep -o '"name": "[^"]*"' | sed 's/.*: "//; s/"$//' | sort -u; }
 
+_l3sm_options() { "$1" "$2" --help 2> /dev/null | sed -nE 's/^  (-h,)?(--[a-z-]+).*/\2/p'; }
+
 _l3sm() {
   local program=$1 current=${COMP_WORDS[COMP_CWORD]} previous=${COMP_WORDS[COMP_CWORD - 1]} verb=${COMP_WORDS[1]}
   COMPREPLY=()
@@ -30,7 +32,7 @@ _l3sm() {
       return ;;
   esac
   if [[ $current == -* ]]; then
-    mapfile -t COMPREPLY < <(compgen -W "$("$program" "$verb" --help 2> /dev/null | grep -o -- '--[a-z-]*' | sort -u)" -- "$current")
+    mapfile -t COMPREPLY < <(compgen -W "$(_l3sm_options "$program" "$verb")" -- "$current")
     return
   fi
   case $verb in

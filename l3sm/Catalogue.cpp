@@ -225,6 +225,7 @@ void showTable( std::ostream & out,
                 Catalogue::Table const & table,
                 U8 chipType,
                 std::vector< Touch > const & touches,
+                std::string const & runs,
                 Style const & style ) {
    out << style.title( table.name ) << "  " << kindText( table ) << ", "
        << counted( table.chips.size(), "chip", "chips" ) << ", " << counted( table.variantCount, "variant", "variants" )
@@ -239,40 +240,53 @@ void showTable( std::ostream & out,
       out << '\n';
       showFields( out, group, groups.front(), style );
    }
-   if ( !touches.empty() ) {
-      out << '\n' << style.strong( "Touched by" ) << '\n';
-      Columns columns;
-      for ( Touch const & touch : touches ) {
-         columns.row( { touch.function,
-                        style.faint( touch.source ),
-                        touch.writes == 0  ? "reads"
-                        : touch.reads == 0 ? "writes"
-                                           : "reads, writes",
-                        touch.fields } );
-      }
-      columns.print( out, 2 );
+   if ( !table.hasMemory ) {
+      return; // what no chip holds is touched by nobody
    }
+   out << '\n' << style.strong( "Touched by" ) << ( touches.empty() ? "  no function in " + runs : "" ) << '\n';
+   Columns columns;
+   for ( Touch const & touch : touches ) {
+      columns.row( { touch.function, style.faint( touch.source ), touch.does(), touch.fields } );
+   }
+   columns.print( out, 2 );
+}
+
+// From the journals that were named, or else from those of the examples.
+std::vector< Touch > touchesOf( Catalogue::Table const & table, Options const & options ) {
+   if ( options.journals.empty() ) {
+      return Cli::touchesOf( table );
+   }
+   std::vector< JournalFile > journals;
+   for ( std::string const & path : options.journals ) {
+      journals.push_back( readJournal( path ) );
+   }
+   return Cli::touchesOf( table, journals );
 }
 
 int answer( Options const & options ) {
    U8 const chipType = options.chip.empty() ? 0 : static_cast< U8 >( chipNamed( options.chip ) );
    Catalogue::Table const * const table = options.table.empty() ? nullptr : &tableNamed( options.table );
+   if ( !table && !options.journals.empty() ) {
+      throw InputError( "--journal tells which functions touch a table; name the table" );
+   }
    if ( table && !isOn( *table, chipType ) ) {
       throw InputError( std::string( "the " ) + options.chip + " has no table " + table->name );
    }
+   auto const touches = table ? touchesOf( *table, options ) : std::vector< Touch >();
    if ( options.json ) {
       Value::Object classes;
       for ( auto const & each : Catalogue::tables() ) {
          if ( ( !table || table == &each ) && isOn( each, chipType ) ) {
             classes[each.name] = tableValue( each, chipType );
-            if ( table && !options.journals.empty() ) {
-               classes[each.name].object()->emplace( "touchedBy", touchesValue( touchesOf( each, options.journals ) ) );
+            if ( table ) {
+               classes[each.name].object()->emplace( "touchedBy", touchesValue( touches ) );
             }
          }
       }
       std::cout << toJson( Value::Object{ { "classes", classes } }, 5 ) << '\n';
    } else if ( table ) {
-      showTable( std::cout, *table, chipType, touchesOf( *table, options.journals ), Style::of( std::cout ) );
+      std::string const runs = options.journals.empty() ? "the examples" : "these journals";
+      showTable( std::cout, *table, chipType, touches, runs, Style::of( std::cout ) );
    } else {
       listTables( std::cout, chipType, Style::of( std::cout ) );
    }
@@ -285,7 +299,10 @@ Action defineCatalogue( VerbOptions & verb ) {
    auto const options = std::make_shared< Options >();
    verb.text( "TABLE", options->table, "draw this table; without it, list all" );
    verb.text( "--chip", options->chip, "only what this chip has, as in BCM88690_B0" );
-   verb.texts( "--journal", options->journals, "tell which functions touch the table, from this journal", "FILE" );
+   verb.texts( "--journal",
+               options->journals,
+               "tell which functions touch the table from this journal, not from those of the examples",
+               "FILE" );
    verb.flag( "--json", options->json, "for programs" );
    return [options] { return answer( *options ); };
 }

@@ -1,6 +1,7 @@
 // The verb `check`: plays a scenario and verifies what the plug-in can verify on the chips afterwards.
 #include "l3sm/ChipsFile.h"
 #include "l3sm/Play.h"
+#include "l3sm/Progress.h"
 #include "l3sm/TableNames.h"
 #include "l3sm/Terminal.h"
 #include "l3sm/Verbs.h"
@@ -183,8 +184,12 @@ int answer( Options const & options ) {
    fill( sw, scenario, options.chips, chips );
 
    std::vector< Verdict > verdicts;
-   for ( std::string const & name : verifications() ) {
+   auto const names = verifications();
+   std::size_t const all = names.size() * scenario.description.faps.size();
+   Progress progress( "verifying" );
+   for ( std::string const & name : names ) {
       for ( auto const & [fapId, status] : sw.cellStatus()->fapStatus() ) {
+         progress.stands( verdicts.size(), all );
          verdicts.push_back( verify( sw, *status, name ) );
       }
    }

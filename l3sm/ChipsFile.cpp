@@ -134,7 +134,11 @@ Words wordsFromValue( Value const & value ) {
 }
 
 Hardware::ChipType chipTypeFromValue( Value const & value ) {
-   return Rex::Codec< Hardware::Dace::FapRevision >::fromValue( Value::Object{ { "chipType", value } } ).chipType();
+   try {
+      return Rex::Codec< Hardware::Dace::FapRevision >::fromValue( Value::Object{ { "chipType", value } } ).chipType();
+   } catch ( ValueError const & error ) {
+      throw ValueError( "", error.what() ); // the object is made here: its key is no place of the file
+   }
 }
 
 Simulator::TablesContents tablesFromValue( Value const & value ) {

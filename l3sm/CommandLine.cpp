@@ -76,7 +76,9 @@ int commandLine( int argc, char const * const * argv ) {
    }
    try {
       app.parse( argc, argv );
-      return action();
+      int const status = action();
+      std::cout.flush();
+      return std::cout ? status : failed( "standard output can't be written" );
    } catch ( CLI::CallForHelp const & help ) {
       return app.exit( help );
    } catch ( CLI::ParseError const & error ) {

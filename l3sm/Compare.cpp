@@ -1,6 +1,7 @@
 // The verb `compare`: one scenario on every kind of chip, and with each toggle flipped alone: where the programming
 // differs.
 #include "l3sm/Programming.h"
+#include "l3sm/Progress.h"
 #include "l3sm/TableNames.h"
 #include "l3sm/Terminal.h"
 #include "l3sm/Verbs.h"
@@ -35,17 +36,8 @@ using ByChip = std::array< Programming, chipCount >;
 using Row = std::array< std::optional< std::string >, chipCount >;
 using Matrix = std::map< ProgrammedPlace, Row >;
 
-// How many cores a kind of chip has: as many as the most copied table has copies.
 U16 coresOf( ChipType chipType ) {
-   std::size_t cores = 1;
-   for ( auto const & table : Catalogue::tables() ) {
-      for ( auto const & layout : table.layouts ) {
-         if ( layout.chipType == static_cast< U8 >( chipType ) ) {
-            cores = std::max( cores, layout.selectors.size() );
-         }
-      }
-   }
-   return static_cast< U16 >( cores );
+   return Simulator::FapDescription{ .revision = { 0, chipType, 0 } }.coreCount();
 }
 
 // The same switch with another kind of chip. The cores follow it, and the major revision: that of a chip with two

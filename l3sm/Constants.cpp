@@ -4,6 +4,7 @@
 #include "constants/MicrocodeActions.h"
 #include "constants/WellKnown.h"
 #include "l3sm/ChipsFile.h"
+#include "l3sm/Terminal.h"
 #include "l3sm/Verbs.h"
 #include "simulator/BootImage.h"
 #include "simulator/TableMap.h"
@@ -159,20 +160,21 @@ void writeJson( std::ostream & out ) {
 }
 
 void writeText( std::ostream & out ) {
-   constexpr int wide = 13;
+   Style const style = Style::of( out );
+   Columns columns;
    auto const head = [&]( std::string const & title ) {
-      out << std::left << std::setw( 40 ) << title;
+      std::vector< std::string > cells{ style.strong( title ) };
       for ( auto const chipType : Hardware::allChipTypes ) {
-         out << std::setw( wide ) << Hardware::chipTypeName( chipType );
+         cells.push_back( style.strong( Hardware::chipTypeName( chipType ) ) );
       }
-      out << '\n';
+      columns.row( cells );
    };
    auto const line = [&]( std::string const & what, auto const & values ) {
-      out << "  " << std::left << std::setw( 38 ) << what;
+      std::vector< std::string > cells{ "  " + what };
       for ( auto const value : values ) {
-         out << std::setw( wide ) << ( value == 0 ? "-" : std::to_string( value ) );
+         cells.push_back( value == 0 ? style.faint( "-" ) : std::to_string( value ) );
       }
-      out << '\n';
+      columns.row( cells );
    };
    out << "The reference platform's own numbers; the true ones belong to closed libraries. `-`: not on this chip.\n\n";
    for ( auto const & stage : stages() ) {
@@ -180,12 +182,13 @@ void writeText( std::ostream & out ) {
       for ( auto const & row : stage.rows ) {
          line( std::to_string( row.enumerator ) + " " + row.name, row.value );
       }
-      out << '\n';
+      columns.row( {} );
    }
    head( "egressPortProfiles" );
    for ( auto const & row : egressPortProfileRows() ) {
       line( std::string( row.name ) + " item " + std::to_string( row.item ), row.value );
    }
+   columns.print( out );
    out << "\netpsArpAcResultType " << unsigned{ EtpsArpAcResultType::hwValue() } << "\nrecycFwdProfileToTrapCode";
    for ( auto const & [profile, code] : jericho2IppeRecycFwdProfileToTrapMap ) {
       out << "  " << unsigned{ profile } << ": " << code;

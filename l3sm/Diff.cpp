@@ -1,5 +1,6 @@
 // The verb `diff`: two chip-contents files, entry by entry and field by field.
 #include "l3sm/Differences.h"
+#include "l3sm/Progress.h"
 #include "l3sm/TableNames.h"
 #include "l3sm/Verbs.h"
 
@@ -23,8 +24,11 @@ int answer( Options const & options ) {
    for ( std::string const & table : options.tables ) {
       tableNamed( table );
    }
+   Progress progress( "reading files" );
    auto const chipsA = readChips( options.a );
+   progress.stands( 1, 2 );
    auto const chipsB = readChips( options.b );
+   progress.stands( 2, 2 );
    if ( options.fap && !chipsA.contains( *options.fap ) && !chipsB.contains( *options.fap ) ) {
       throw InputError( "neither file has a FAP " + std::to_string( *options.fap ) );
    }

@@ -2,6 +2,7 @@
 
 #include "l3sm/ChipsFile.h"
 #include "l3sm/Json.h"
+#include "l3sm/Progress.h"
 #include "l3sm/TableNames.h"
 
 #include <algorithm>
@@ -136,9 +137,13 @@ Value parsed( std::string const & line, std::string const & place ) {
 
 JournalFile readJournal( std::string const & path ) {
    JournalFile journal( path );
-   std::istringstream in( readFile( path ) );
+   std::string const text = readFile( path );
+   auto const lines = static_cast< std::size_t >( std::ranges::count( text, '\n' ) );
+   std::istringstream in( text );
    std::string line;
+   Progress progress( "reading " + path );
    for ( std::size_t number = 1; std::getline( in, line ); ++number ) {
+      progress.stands( number, lines );
       std::string const place = path + ":" + std::to_string( number );
       Value const value = parsed( line, place );
       inFile( place, [&] { journal.rowIs( RowReader( journal, value ).row() ); } );

@@ -5,6 +5,8 @@
 //    chips.write( text );                 // once everything went well
 #pragma once
 
+#include <initializer_list>
+#include <stdexcept>
 #include <string>
 
 namespace Cli {
@@ -16,9 +18,23 @@ class OutputFile {
    bool isWanted() const { return !path_.empty(); }
    // Throws InputError.
    void write( std::string const & text ) const;
+   // Runs `write`, which writes the file itself and throws "<path>: <reason>" as a std::runtime_error where it can't.
+   template< class Write >
+   void writing( Write const & write ) const {
+      try {
+         write();
+      } catch ( std::runtime_error const & error ) {
+         refuse( error.what() );
+      }
+   }
 
  private:
+   [[noreturn]] void refuse( std::string const & why ) const;
    std::string path_;
 };
+
+// No two of the files may be one: what is read would be gone, or what is written be lost. Empty paths don't count.
+// InputError.
+void eachAlone( std::initializer_list< std::string > const & paths );
 
 } // namespace Cli

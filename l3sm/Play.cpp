@@ -1,5 +1,7 @@
 #include "l3sm/Play.h"
 
+#include "l3sm/Progress.h"
+
 #include <array>
 #include <cerrno>
 #include <cstring>
@@ -91,7 +93,9 @@ void loadPlugin( std::string const & path ) {
 void play( Scenario const & scenario, Simulator::SimulatedSwitch & sw ) {
    scenario.prepare( sw );
    sw.start();
+   Progress progress( "playing events" );
    for ( auto const & event : scenario.events ) {
+      progress.stands( event.number, scenario.events.size() );
       scenario.play( sw, event );
    }
 }

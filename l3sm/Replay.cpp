@@ -2,6 +2,7 @@
 #include "l3sm/Differences.h"
 #include "l3sm/JournalFile.h"
 #include "l3sm/OutputFile.h"
+#include "l3sm/Progress.h"
 #include "l3sm/Scenario.h"
 #include "l3sm/TableNames.h"
 #include "l3sm/Verbs.h"
@@ -53,7 +54,9 @@ class Replayer {
    bool hasChip( U16 fap ) const { return chipTypes_.contains( fap ); }
 
    void apply( JournalFile const & journal ) {
+      Progress progress( "replaying" );
       for ( Journal::Row const & row : journal.rows() ) {
+         progress.stands( static_cast< std::size_t >( &row - journal.rows().data() ), journal.rows().size() );
          auto & chip = *driver.chip( DaceSal::ChipId{ row.fap } );
          if ( row.kind == Journal::Kind::control ) {
             chip.controlIs( row.control, row.value );

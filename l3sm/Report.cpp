@@ -2,6 +2,7 @@
 
 #include "l3sm/Changes.h"
 #include "l3sm/ReportPage.h"
+#include "l3sm/RunValue.h"
 #include "l3sm/TableNames.h"
 #include "simulator/BootImage.h"
 #include "simulator/TableMap.h"
@@ -110,29 +111,6 @@ Value tablesValue( std::set< std::string_view > const & names, Simulator::Switch
    return tables;
 }
 
-Value switchValue( Simulator::SwitchDescription const & description ) {
-   Value::List faps;
-   for ( auto const & fap : description.faps ) {
-      Value::Object ports;
-      for ( auto const & [systemPort, fapPort] : fap.ports ) {
-         ports[std::to_string( systemPort )] = fapPort;
-      }
-      Value::Object one;
-      one["fapId"] = fap.fapId.value();
-      one["name"] = fap.name;
-      one["chipType"] = Hardware::chipTypeName( fap.revision.chipType() );
-      one["major"] = fap.revision.fapRevMajor();
-      one["sdkVersion"] = fap.revision.sdkVersion();
-      one["cores"] = fap.coreCount();
-      one["ports"] = std::move( ports );
-      faps.emplace_back( std::move( one ) );
-   }
-   Value::Object value;
-   value["slice"] = description.sliceName;
-   value["faps"] = std::move( faps );
-   return value;
-}
-
 Value eventsValue( Scenario const & scenario ) {
    Value::List events;
    Value::Object start;
@@ -144,31 +122,6 @@ Value eventsValue( Scenario const & scenario ) {
       events.emplace_back( std::move( one ) );
    }
    return events;
-}
-
-Value togglesValue() {
-   Value::List toggles;
-   for ( auto const & reading : Toggle::readings() ) {
-      Value::Object one;
-      one["name"] = reading.name;
-      one["file"] = reading.file;
-      one["state"] = reading.state;
-      toggles.emplace_back( std::move( one ) );
-   }
-   return toggles;
-}
-
-void addGates( Value::List & list, std::vector< Journal::Gate > const & gates ) {
-   for ( Journal::Gate const & gate : gates ) {
-      Value::Object one;
-      one["function"] = std::string( gate.function );
-      one["source"] = std::string( gate.source );
-      one["reason"] = std::string( gate.reason );
-      one["fap"] = gate.fap ? Value( *gate.fap ) : Value();
-      one["event"] = gate.event;
-      one["cause"] = std::string( gate.cause );
-      list.emplace_back( std::move( one ) );
-   }
 }
 
 Value dataOf( Scenario const & scenario, SimulatedSwitch const & sw ) {
@@ -195,8 +148,7 @@ Value dataOf( Scenario const & scenario, SimulatedSwitch const & sw ) {
       if ( row.kind != Journal::Kind::control ) {
          tables.insert( row.table );
       }
-      addGates( gates, row.gates );
-      addGates( gates, row.gatesAfter );
+      addGates( gates, row );
    }
    Value::Object data;
    data["name"] = scenario.name;

@@ -2,6 +2,7 @@
 #include "l3sm/OutputFile.h"
 #include "l3sm/Play.h"
 #include "l3sm/Report.h"
+#include "l3sm/RunValue.h"
 #include "l3sm/Summary.h"
 #include "l3sm/Tracing.h"
 #include "l3sm/Verbs.h"
@@ -25,9 +26,13 @@ struct Options {
    std::vector< std::string > toggles;
    std::string plugin;
    bool quiet = false;
+   bool json = false;
 };
 
 int run( Options const & options ) {
+   if ( options.quiet && options.json ) {
+      throw InputError( "--quiet prints nothing and --json does; give one of them" );
+   }
    Scenario scenario = options.scenario.empty() ? builtInScenario() : readScenario( options.scenario );
    for ( auto const & toggle : options.toggles ) {
       toggleIs( scenario.description.toggles, toggle );
@@ -36,16 +41,18 @@ int run( Options const & options ) {
    OutputFile const state( options.state );
    OutputFile const journal( options.journal );
    OutputFile const report( options.report );
+   eachAlone( { options.scenario, options.chips, options.state, options.journal, options.report, options.traceOut } );
    Tracing tracing( options.trace, options.traceOut );
    loadPlugin( options.plugin );
    tracing.start();
 
    Simulator::SimulatedSwitch sw( scenario.description );
    if ( journal.isWanted() ) {
-      sw.journal().fileIs( options.journal );
+      journal.writing( [&] { sw.journal().fileIs( options.journal ); } );
    }
    play( scenario, sw );
-   sw.journal().flush();
+   journal.writing( [&] { sw.journal().flush(); } );
+   tracing.flush();
 
    if ( chips.isWanted() ) {
       std::ostringstream text;
@@ -58,7 +65,9 @@ int run( Options const & options ) {
    if ( report.isWanted() ) {
       report.write( reportOf( scenario, sw ) );
    }
-   if ( !options.quiet ) {
+   if ( options.json ) {
+      std::cout << toJson( runValue( scenario, sw ), 3 ) << '\n';
+   } else if ( !options.quiet ) {
       writeSummary( std::cout, scenario, sw );
    }
    return 0;
@@ -80,6 +89,7 @@ Action defineRun( VerbOptions & verb ) {
    verb.repeated( "--toggle", options->toggles, "set a toggle; may be given several times", "FILE:NAME=on|off" );
    verb.text( "--plugin", options->plugin, "the plug-in's library; the default lies beside this program", "PATH" );
    verb.flag( "--quiet", options->quiet, "print no summary" );
+   verb.flag( "--json", options->json, "the summary, for programs" );
    return [options] { return run( *options ); };
 }
 

@@ -2,6 +2,7 @@
 
 #include "l3sm/ChipsFile.h"
 #include "l3sm/Example.h"
+#include "l3sm/Progress.h"
 #include "simulator/TableMap.h"
 
 namespace Cli {
@@ -139,7 +140,9 @@ Scenario checkedScenario( Value const & value, std::string const & file ) {
    description.journalled = false;
    Simulator::SimulatedSwitch rehearsal( description );
    scenario.prepare( rehearsal );
+   Progress progress( "checking events" );
    for ( auto const & event : scenario.events ) {
+      progress.stands( event.number, scenario.events.size() );
       scenario.play( rehearsal, event );
    }
    return scenario;

@@ -241,6 +241,9 @@ int answer( Options const & options ) {
       }
       isFirst = false;
    }
+   if ( chips.empty() && !options.json ) {
+      std::cout << "no FAP\n";
+   }
    if ( options.json ) {
       std::cout << toJson( Value::Object{ { "faps", faps } }, 7 ) << '\n';
    }

@@ -102,21 +102,4 @@ std::string counted( std::size_t number, std::string_view one, std::string_view 
    return std::to_string( number ) + " " + std::string( number == 1 ? one : many );
 }
 
-Progress::Progress( std::string doing ) : doing_( std::move( doing ) ), begin_( std::chrono::steady_clock::now() ) {}
-
-Progress::~Progress() {
-   if ( shown_ ) {
-      std::cerr << "\r\033[K" << std::flush;
-   }
-}
-
-void Progress::stands( std::size_t done, std::size_t all ) {
-   using namespace std::chrono_literals;
-   if ( !::isatty( STDERR_FILENO ) || std::chrono::steady_clock::now() - begin_ < 1s ) {
-      return;
-   }
-   shown_ = true;
-   std::cerr << "\r\033[K" << doing_ << ": " << done << " of " << all << std::flush;
-}
-
 } // namespace Cli

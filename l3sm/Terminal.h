@@ -1,4 +1,4 @@
-// How the answers for people look: colour on a terminal only, columns that line up, progress of what takes a while.
+// How the answers for people look: colour on a terminal only, columns that line up.
 //
 //    Style const style = Style::of( std::cout );
 //    Columns columns;
@@ -7,7 +7,6 @@
 //    columns.print( std::cout, 2 );
 #pragma once
 
-#include <chrono>
 #include <ostream>
 #include <string>
 #include <string_view>
@@ -62,20 +61,5 @@ class Columns {
 
 // "1 entry", "2 entries"
 std::string counted( std::size_t number, std::string_view one, std::string_view many );
-
-// What is under way, on standard error and on a terminal only, once it has taken a second.
-class Progress {
- public:
-   explicit Progress( std::string doing );
-   ~Progress();
-   Progress( Progress const & ) = delete;
-   Progress & operator=( Progress const & ) = delete;
-   void stands( std::size_t done, std::size_t all );
-
- private:
-   std::string doing_;
-   std::chrono::steady_clock::time_point begin_;
-   bool shown_ = false;
-};
 
 } // namespace Cli

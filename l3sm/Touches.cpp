@@ -4,11 +4,13 @@
 
 #include <map>
 #include <set>
+#include <sstream>
 
 namespace Cli {
 
 namespace {
 
+using Rex::Value;
 using Simulator::Journal;
 
 void add( std::map< std::string, Touch > & touches,
@@ -20,9 +22,10 @@ void add( std::map< std::string, Touch > & touches,
       if ( row.kind != Journal::Kind::control && row.table == table.name ) {
          std::string const function( row.function );
          Touch & touch = touches[function];
+         touch.table = table.name;
          touch.function = function;
          touch.source = row.source.substr( 0, row.source.find( ':' ) );
-         ++( row.kind == Journal::Kind::read ? touch.reads : touch.writes );
+         ( row.kind == Journal::Kind::read ? touch.reads : touch.writes ) = true;
          if ( row.kind == Journal::Kind::write ) {
             for ( auto const & change : fieldChanges( *layoutOf( row ), history.before( row ), row.words ) ) {
                if ( change.before && change.isChange() ) {
@@ -37,11 +40,25 @@ void add( std::map< std::string, Touch > & touches,
 
 } // namespace
 
-std::vector< Touch > touchesOf( Catalogue::Table const & table, std::vector< std::string > const & journals ) {
+std::string Touch::does() const {
+   return !writes ? "reads" : !reads ? "writes" : "reads, writes";
+}
+
+std::vector< Touch > touchesOf( Catalogue::Table const & table ) {
+   std::vector< Touch > all;
+   for ( Touch const & touch : knownTouches() ) {
+      if ( touch.table == table.name ) {
+         all.push_back( touch );
+      }
+   }
+   return all;
+}
+
+std::vector< Touch > touchesOf( Catalogue::Table const & table, std::vector< JournalFile > const & journals ) {
    std::map< std::string, Touch > touches;
    std::map< std::string, std::set< std::string > > fields;
-   for ( std::string const & path : journals ) {
-      add( touches, fields, table, readJournal( path ) );
+   for ( JournalFile const & journal : journals ) {
+      add( touches, fields, table, journal );
    }
    std::vector< Touch > all;
    for ( auto & [function, touch] : touches ) {
@@ -53,14 +70,20 @@ std::vector< Touch > touchesOf( Catalogue::Table const & table, std::vector< std
    return all;
 }
 
-Rex::Value touchesValue( std::vector< Touch > const & touches ) {
-   Rex::Value::List list;
+Value touchesValue( std::vector< Touch > const & touches ) {
+   Value::List list;
    for ( Touch const & touch : touches ) {
-      Rex::Value::Object one;
+      Value::List fields;
+      std::istringstream names( touch.fields );
+      for ( std::string name; names >> name; ) {
+         fields.emplace_back( name );
+      }
+      Value::Object one;
       one["function"] = touch.function;
       one["source"] = touch.source;
       one["reads"] = touch.reads;
       one["writes"] = touch.writes;
+      one["fields"] = fields;
       list.emplace_back( std::move( one ) );
    }
    return list;

@@ -61,4 +61,10 @@ void Tracing::start() {
    }
 }
 
+void Tracing::flush() {
+   if ( file_ && ( std::fflush( file_.get() ) != 0 || std::ferror( file_.get() ) ) ) {
+      throw InputError( path_, std::string( "can't be written: " ) + std::strerror( errno ) );
+   }
+}
+
 } // namespace Cli

@@ -23,6 +23,8 @@ class Tracing {
    // Opens the file and switches the facilities on. Call it once the plug-in is loaded: a facility that nobody has
    // registered is an InputError.
    void start();
+   // InputError where the file couldn't take all of it.
+   void flush();
 
  private:
    struct Facility {

@@ -286,7 +286,7 @@ void showStory( std::ostream & out, Subject const & subject, Story const & story
       columns.print( out, 2 );
    }
    bool const isUntouched = story.changed.empty() && story.same.empty() && story.looks.empty();
-   auto const & gates = isUntouched ? story.otherGates : story.gates;
+   auto const & gates = story.gates.empty() && isUntouched ? story.otherGates : story.gates;
    if ( !gates.empty() ) {
       out << '\n'
           << style.strong( "Kept from running" )
@@ -356,9 +356,44 @@ Value storyValue( Subject const & subject, Story const & story ) {
                          { "otherGates", gatesValue( story.otherGates ) } };
 }
 
+// A place that the table has on no chip.
+void checkPlace( Subject const & subject, Options const & options ) {
+   if ( !subject.table ) {
+      return;
+   }
+   auto const & layouts = subject.table->layouts;
+   bool const isThere = std::ranges::any_of( layouts, [&]( Catalogue::Layout const & layout ) {
+      int const first = layout.arrayIndexFirst;
+      return ( !options.variant || *options.variant == layout.variant ) &&
+             ( !options.array || ( *options.array >= first && *options.array < first + layout.arrayElements ) ) &&
+             ( !options.entry || *options.entry < std::max< U32 >( layout.entries, 1 ) );
+   } );
+   if ( !isThere ) {
+      throw InputError( std::string( subject.table->name ) +
+                        " has no such variant, array index and entry; `l3sm catalogue " + subject.table->name +
+                        "` tells what it has" );
+   }
+}
+
+void checkFap( JournalFile const & journal, U16 fap ) {
+   auto const isOf = [&]( std::vector< Journal::Gate > const & gates ) {
+      return std::ranges::any_of( gates, [&]( Journal::Gate const & gate ) { return gate.fap == fap; } );
+   };
+   auto const & rows = journal.rows();
+   if ( std::ranges::none_of( rows, [&]( Journal::Row const & row ) {
+           return row.fap == fap || isOf( row.gates ) || isOf( row.gatesAfter );
+        } ) ) {
+      throw InputError( journal.path(), "it tells nothing of a FAP " + std::to_string( fap ) );
+   }
+}
+
 int answer( Options const & options ) {
    Subject const subject = subjectOf( options.what );
+   checkPlace( subject, options );
    JournalFile const journal = readJournal( options.journal );
+   if ( options.fap ) {
+      checkFap( journal, *options.fap );
+   }
    Story const story = Teller( subject, options ).tell( journal );
    if ( options.json ) {
       std::cout << toJson( storyValue( subject, story ), 2 ) << '\n';

@@ -10,6 +10,7 @@
 #include <charconv>
 #include <cstring>
 #include <stdexcept>
+#include <utility>
 
 namespace Simulator {
 
@@ -144,12 +145,19 @@ void Journal::flush() {
          text += '\n';
       }
       if ( std::fwrite( text.data(), 1, text.size(), file_ ) != text.size() ) {
-         throw std::runtime_error( fileError( path_ ) );
+         giveUpFile();
       }
    }
    if ( std::fflush( file_ ) != 0 ) {
-      throw std::runtime_error( fileError( path_ ) );
+      giveUpFile();
    }
+}
+
+// It is told once: what follows goes nowhere.
+void Journal::giveUpFile() {
+   std::runtime_error const error( fileError( path_ ) );
+   std::fclose( std::exchange( file_, nullptr ) );
+   throw error;
 }
 
 // Nobody is left to hear of a file that can't be written but the one who reads standard error.

@@ -151,6 +151,7 @@ class Journal final : public DaceSal::OperationListener, public Rex::GateListene
    std::vector< Gate > gatesBefore( std::size_t operation ) const;
    U32 originNumber( std::source_location const & at );
    U32 causeNumber( std::string cause );
+   [[noreturn]] void giveUpFile();
    void flushAtFailure();
 
    std::function< std::string() > cause_;

@@ -4,6 +4,7 @@
 
 #include "FapGate.h"
 #include "Programming.h"
+#include "rex/Gate.h"
 #include "rex/Trace.h"
 
 namespace DaceFapNi {
@@ -84,15 +85,16 @@ void L3Sm::NestedSm_SlotLoadBalance::onAttribute( Rex::AttributeId attribute, vo
 }
 
 void L3Sm::NestedSm_SlotLoadBalance::handleGuePktTypeHashModeConfig() const {
-   if ( !parent_ || !parent_->initialized_ ) {
+   if ( !parent_ || !Rex::gate( parent_->initialized_, notInitialized ) ) {
       return;
    }
-   if ( chipTypeToFapType( parent_->in_.sliceSmState->revision().chipType() ) == fapType4 ) {
+   if ( !Rex::gate( chipTypeToFapType( parent_->in_.sliceSmState->revision().chipType() ) != fapType4,
+                    "FAP type 4 has no GUE tunnel termination" ) ) {
       return;
    }
    Fru::SlotId const slot = config_->slotId();
    trace( 8, "handleGuePktTypeHashModeConfig", ": slot:", slot );
-   if ( slot != parent_->mySlotId() ) {
+   if ( !Rex::gate( slot == parent_->mySlotId(), "the configuration is that of another slot" ) ) {
       dualTrace( 8, "handleGuePktTypeHashModeConfig", ": Skipping notification" );
       Rex::ringTrace( 8, "handleGuePktTypeHashModeConfig", ": Skiping notification for slot:", slot );
       return;

@@ -1,5 +1,6 @@
 #include "RexIpIntfConfigFilter.h"
 
+#include "rex/Gate.h"
 #include "rex/Trace.h"
 
 namespace DaceFapNi {
@@ -9,6 +10,10 @@ namespace {
 Rex::TraceFacility const trace{ "DaceFapNiL3Sm" };
 
 using Interface::SyncMtuResult;
+
+// Why a handler leaves an interface alone.
+constexpr auto standby = "the slice is not the active one";
+constexpr auto noStatus = "the interface has no status";
 
 // Attributes that are followed.
 constexpr Rex::AttributeId intfConfigEnabled = 0x10f;
@@ -143,11 +148,11 @@ bool Filter::handleAddr() {
    Rex::sassert( follows( intfConfig_ ), "intfConfig()" );
    Netka::EthAddr const configured = intfConfig_->notifier()->addr();
    trace( 8, "IpIntfConfigFilter::", "handleAddr", " ", intfId(), " addr ", configured );
-   if ( smMode() != Hardware::Dace::smModeActive() ) {
+   if ( !Rex::gate( smMode() == Hardware::Dace::smModeActive(), standby ) ) {
       trace( 0, "handleAddr early return for standby. smMode: ", smMode() );
       return true;
    }
-   if ( !follows( intfStatus_ ) ) {
+   if ( !Rex::gate( follows( intfStatus_ ), noStatus ) ) {
       trace( 9, "interface status not available" );
       resetWalk();
       return false;
@@ -161,21 +166,21 @@ bool Filter::handleAddr() {
 
 // Each test hides the later ones; what fails one abandons the walk.
 void Filter::handleMtuOrForwardingModel() {
-   if ( smMode() != Hardware::Dace::smModeActive() ) {
+   if ( !Rex::gate( smMode() == Hardware::Dace::smModeActive(), standby ) ) {
       trace( 0, "handleMtuOrForwardingModel early return for standby. smMode: ", smMode() );
       return resetWalk();
    }
    Rex::sassert( follows( intfConfig_ ), "intfConfig()" );
    trace( 8, "IpIntfConfigFilter::", "handleMtuOrForwardingModel", " ", intfId() );
-   if ( !follows( intfStatus_ ) ) {
+   if ( !Rex::gate( follows( intfStatus_ ), noStatus ) ) {
       trace( 9, "interface status not available" );
       return resetWalk();
    }
-   if ( !intfConfig_->notifier()->enabled() ) {
+   if ( !Rex::gate( intfConfig_->notifier()->enabled(), "the interface is not enabled" ) ) {
       trace( 9, "interface is not enabled" );
       return resetWalk();
    }
-   if ( !follows( effectiveL3Mtu_ ) ) {
+   if ( !Rex::gate( follows( effectiveL3Mtu_ ), "the interface has no MTU yet" ) ) {
       trace( 9, "effectiveL3Mtu still not avaliable" );
       return resetWalk();
    }

@@ -3,6 +3,7 @@
 #include "FapGate.h"
 #include "Toggles.h"
 #include "constants/DestinationId.h"
+#include "rex/Gate.h"
 #include "rex/Trace.h"
 
 namespace DaceFapNi {
@@ -127,7 +128,7 @@ void DaceL3UnicastVtiStatusDirSm::doSetupVxlanFloodSet() {
 }
 
 void DaceL3UnicastVtiStatusDirSm::doSetupVtepToVtepBridging( Netka::IntfId, bool ) {
-   if ( toggleCampusVtepToVtepBridgingGen4Enabled() ) {
+   if ( Rex::gate( toggleCampusVtepToVtepBridgingGen4Enabled(), "the toggle CampusVtepToVtepBridgingGen4 is off" ) ) {
       doSetupVxlanFloodSet();
    }
 }

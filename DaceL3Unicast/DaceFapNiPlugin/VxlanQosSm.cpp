@@ -1,6 +1,7 @@
 #include "VxlanQosSm.h"
 
 #include "constants/Contexts.h"
+#include "rex/Gate.h"
 #include "rex/Trace.h"
 
 namespace DaceFapNi {
@@ -92,8 +93,12 @@ void VxlanQosSm::handleBridgedQosPropagationEnabled() {
          readAny( cam, fap, { .entry = i } );
          U32 const program = cam.program();
          for ( auto const & [plain, qos] : pairs ) {
-            if ( enable && program == plain && isCurrentContextNop( cam, fapStatus.revision() ) ) {
-               cam.programIs( static_cast< U8 >( qos ) );
+            if ( enable && program == plain ) {
+               if ( Rex::gate( isCurrentContextNop( cam, fapStatus.revision() ),
+                               "the entry's current context is not the NOP",
+                               fap.id.value() ) ) {
+                  cam.programIs( static_cast< U8 >( qos ) );
+               }
             } else if ( !enable && program == qos ) {
                cam.programIs( static_cast< U8 >( plain ) );
             }

@@ -1,6 +1,7 @@
 #include "VxlanSplitHorizonSm.h"
 
 #include "Toggles.h"
+#include "rex/Gate.h"
 #include "rex/Trace.h"
 
 #include <initializer_list>
@@ -257,10 +258,13 @@ void VxlanSplitHorizonCfgSm::reloadSplitHorizonCfg() {
    dualTrace( 9, className, name, " VXLAN configured: ", vxlanConfigured, " DCI configured: ", dciConfigured );
    bool const gen4 = toggleCampusVtepToVtepBridgingGen4Enabled();
    bool const pfd = toggleDaceVxlanMplsDciMhDchVxlanPfdEnabled();
-   Inputs const in{ .vxlanConfigured = vxlanConfigured,
-                    .dciConfigured = dciConfigured,
-                    .keepBridged = vxlanConfigured && gen4 && vtepToVtepBridging,
-                    .pfd = pfd };
+   bool const keepBridged =
+      vxlanConfigured && vtepToVtepBridging && Rex::gate( gen4, "the toggle CampusVtepToVtepBridgingGen4 is off" );
+   if ( dciConfigured ) {
+      Rex::gate( pfd, "the toggle DaceVxlanMplsDciMhDchVxlanPfd is off" );
+   }
+   Inputs const in{
+      .vxlanConfigured = vxlanConfigured, .dciConfigured = dciConfigured, .keepBridged = keepBridged, .pfd = pfd };
    U64 const erppValue = pairsThatHold( erppRows, in );
    U64 const etppValue = erppValue | pairsThatHold( etppRows, in );
    trace( 9, className, name, " new ERPP register value: ", erppValue );

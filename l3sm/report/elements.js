@@ -84,13 +84,21 @@ function bitPicture(layout, hit = new Set(), title = '') {
         svgElement('rect', { x: x + .5, y: y + .5, width: width - 1, height, rx: 3 }), text));
     }
   });
-  return element('div.scroll', null, picture);
+  const box = element('div.scroll', null, picture);
+  if (hit.size) requestAnimationFrame(() => reveal(box, picture.querySelector('.hit')));
+  return box;
 }
 
-// A name of several words without a space between them, which may be broken where a word begins.
+// Where a box is too narrow for its contents, it is scrolled to the part that counts.
+function reveal(box, part) {
+  const here = box.getBoundingClientRect(), there = part.getBoundingClientRect();
+  box.scrollLeft = there.left - here.left - Math.max(8, (here.width - there.width) / 2);
+}
+
+// A name of several words without a space between them, or a path, which may be broken where a word begins.
 function breakable(name) {
   const made = element('span.what');
-  name.split(/(?=[A-Z][a-z])/).forEach((word, at) => { if (at) made.append(element('wbr')); made.append(word); });
+  name.split(/(?<=[/:])(?![/:])|(?=[A-Z][a-z])/).forEach((word, at) => { if (at) made.append(element('wbr')); made.append(word); });
   return made;
 }
 

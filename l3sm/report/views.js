@@ -22,7 +22,7 @@ function valueRows(operation) {
   return element('div.scroll', null, element('table.values', null,
     element('thead', null, element('tr', null, ...['field', 'bits', 'value'].map(it => element('th', { scope: 'col' }, it)))),
     element('tbody', null, ...all.map(change => element('tr', { 'data-field': change.field.name },
-      element('td', null, element('code', null, change.field.name)), element('td', null, bitsText(change.field)),
+      element('td', null, element('code', null, breakable(change.field.name))), element('td', null, bitsText(change.field)),
       element('td', null, element('span.b', null, readable(change.before)), arrow(), element('span.a', null, readable(change.after))))))));
 }
 
@@ -71,7 +71,7 @@ function gateRows(gates) {
   return element('div.scroll', null, element('table', null,
     element('thead', null, element('tr', null, ...['function', 'why not', 'FAP', 'cause'].map(it => element('th', { scope: 'col' }, it)))),
     element('tbody', null, ...gates.map(gate => element('tr', null,
-      element('td', null, element('code', null, gate.function)), element('td', null, element('span.gate', null, gate.reason)),
+      element('td', null, element('code', null, breakable(gate.function))), element('td', null, element('span.gate', null, gate.reason)),
       element('td', null, gate.fap === null ? '' : String(gate.fap)), element('td', null, gate.cause))))));
 }
 
@@ -103,7 +103,7 @@ function fieldList(layout) {
   return element('div.scroll', null, element('table', null,
     element('thead', null, element('tr', null, ...['field', 'bits', 'width'].map(it => element('th', { scope: 'col' }, it)))),
     element('tbody', null, ...[...layout.fields].sort((a, b) => a.offset - b.offset).map(field => element('tr', null,
-      element('td', null, element('code', null, field.name)), element('td.num', null, bitsText(field)), element('td.num', null, String(field.width)))))));
+      element('td', null, element('code', null, breakable(field.name))), element('td.num', null, bitsText(field)), element('td.num', null, String(field.width)))))));
 }
 
 // The pictures of a table: one for each way in which its fields lie.
@@ -146,7 +146,7 @@ function tableView(name) {
   }
   const functions = groupBy(list, it => it.function);
   parts.push(element('h2', null, 'Functions'), element('div.scroll', null, element('table', null, element('tbody', null,
-    ...[...functions].map(([fn, those]) => element('tr', null, element('td', null, element('code', null, fn)),
+    ...[...functions].map(([fn, those]) => element('tr', null, element('td', null, element('code', null, breakable(fn))),
       element('td', null, [...new Set(those.map(it => it.source))].slice(0, 4).join(', ')),
       element('td', null, tallyText(those))))))));
   parts.push(element('h2', null, 'Entries, newest write first'));
@@ -182,14 +182,14 @@ function switchView() {
     element('h2', null, 'Toggles'),
     data.toggles.length ? element('div.scroll', null, element('table', null,
       element('thead', null, element('tr', null, ...['toggle', 'file', 'state'].map(it => element('th', { scope: 'col' }, it)))),
-      element('tbody', null, ...data.toggles.map(toggle => element('tr', null, element('td', null, element('code', null, toggle.name)),
+      element('tbody', null, ...data.toggles.map(toggle => element('tr', null, element('td', null, element('code', null, breakable(toggle.name))),
         element('td', null, toggle.file), element('td', null, element(toggle.state ? 'span.on' : 'span.off', null, toggle.state ? 'on' : 'off'))))))) : element('p.empty', null, 'None was read.'),
     element('h2', null, 'Causes'),
     element('div.scroll', null, element('table', null,
       element('thead', null, element('tr', null, ...['cause', 'events', 'what it did'].map(it => element('th', { scope: 'col' }, it)))),
       element('tbody', null, ...[...groupBy(operations, it => it.cause)].map(([cause, those]) => {
         const numbers = [...new Set(those.map(it => it.event))];
-        return element('tr', null, element('td', null, element('code', null, cause)),
+        return element('tr', null, element('td', null, element('code', null, breakable(cause))),
           element('td', null, ...numbers.slice(0, 8).flatMap((it, at) => [at ? ', ' : '', eventLink(it)])), element('td', null, tallyText(those)));
       })))),
   ];

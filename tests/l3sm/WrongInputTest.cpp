@@ -173,6 +173,59 @@ TEST( WrongInput, aFileThatCannotBeWrittenIsToldBeforeTheRun ) {
    expectUsage( "run --trace */1 --trace-out no/where", "no/where: can't be written: No such file or directory" );
 }
 
+TEST( WrongInput, aFileThatCannotTakeEverythingIsToldOnce ) {
+   for ( char const * option : { "--chips", "--state", "--journal", "--report", "--trace */9 --trace-out" } ) {
+      expectUsage( std::string( "run --quiet " ) + option + " /dev/full",
+                   "/dev/full: can't be written: No space left on device" );
+   }
+   expectUsage( "run --journal /proc/none", "/proc/none: can't be written: No such file or directory" );
+   Command const l3sm( "catalogue 2>told >/dev/full; echo $?" );
+   EXPECT_EQ( l3sm.output, "2\n" );
+   EXPECT_EQ( l3sm.file( "told" ), "l3sm: standard output can't be written\n" );
+}
+
+TEST( WrongInput, aFileThatIsNamedTwiceIsTold ) {
+   expectUsage( "run --chips same --journal same", "same: is named twice; give each file a name of its own" );
+   std::string const scenario = scenarioWith( "" );
+   Command const l3sm( "run s.json --chips ./s.json", { { "s.json", scenario } } );
+   EXPECT_EQ( l3sm.status, 2 );
+   EXPECT_EQ( l3sm.errors, "l3sm: ./s.json: is named twice; give each file a name of its own\n" );
+   EXPECT_EQ( l3sm.file( "s.json" ), scenario );
+   EXPECT_EQ( Command( "run --quiet --chips /dev/null --journal /dev/null" ).status, 0 );
+}
+
+TEST( WrongInput, aPlaceThatNothingHasIsTold ) {
+   std::string const row = R"({"seq": 1, "event": 0, "op": "read", "fap": 0, "table": "IppdFerTrapCfg", "variant": 0,)"
+                           R"( "array": 0, "entry": null, "scope": "any", "words": ["0x00000123"],)"
+                           R"( "function": "f", "source": "s:1", "cause": "start"})"
+                           "\n";
+   auto const expectTold = [&]( std::string const & arguments, std::string const & line ) {
+      Command const l3sm( "why j IppdFerTrapCfg " + arguments, { { "j", row } } );
+      EXPECT_EQ( l3sm.status, line.empty() ? 0 : 2 );
+      EXPECT_EQ( l3sm.errors, line.empty() ? "" : "l3sm: " + line + "\n" );
+   };
+   std::string const none = "IppdFerTrapCfg has no such variant, array index and entry; `l3sm catalogue "
+                            "IppdFerTrapCfg` tells what it has";
+   expectTold( "--fap 0 --variant 0 --array 7 --entry 0", "" );
+   expectTold( "--variant 1", none );
+   expectTold( "--array 8", none );
+   expectTold( "--array -1", none );
+   expectTold( "--entry 1", none );
+   expectTold( "--fap 1", "j: it tells nothing of a FAP 1" );
+}
+
+TEST( WrongInput, aChipThatIsNoneIsToldWhereItStands ) {
+   std::string const kinds = "there is no chip type \"BCM9\"; there are BCM88690_B0, BCM88800_A0, BCM88850_A0, "
+                             "BCM88859_A2, BCM88480_A0, BCM88480_B0\n";
+   Command const show( "show c.json", { { "c.json", R"({"faps": {"0": {"chipType": "BCM9"}}})" } } );
+   EXPECT_EQ( show.status, 2 );
+   EXPECT_EQ( show.errors, "l3sm: c.json: /faps/0/chipType: " + kinds );
+}
+
+TEST( WrongInput, aJournalIsOfUseForOneTable ) {
+   expectUsage( "catalogue --journal j", "--journal tells which functions touch a table; name the table" );
+}
+
 TEST( WrongInput, aPluginThatCannotBeLoadedIsTold ) {
    expectUsage( "run --plugin ./none.so",
                 "--plugin: ./none.so: cannot open shared object file: No such file or directory; name the plug-in's "
