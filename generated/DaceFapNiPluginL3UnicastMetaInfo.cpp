@@ -51,8 +51,7 @@ constexpr U32 masks[] = {
    0xffffffff, 0xffffffff, 0x1, 0x0,
 };
 constexpr AsicUtils::FieldRow rows[] = {
-   { 0, 1, 1, 4, 0x1, 0x0 }, { 1, 16, 3, 4, 0x1fffe, 0x0 }, { 17, 1, 3, 4, 0x20000, 0x0 }, { 18, 8, 4, 4, 0x3fc0000, 0x0 },
-   { 26, 4, 4, 4, 0x3c000000, 0x0 }, { 30, 35, 9, 12, 0, 0 },
+   { 0, 1 }, { 1, 16 }, { 17, 1 }, { 18, 8 }, { 26, 4 }, { 30, 35 },
 };
 } // namespace AdditionalHeadersMapTable0Data
 
@@ -65,8 +64,6 @@ Raw128 AdditionalHeadersMapTable0::allFieldsMask() const {
    metaInfo.trace( "virtual Raw128 %::allFieldsMask() const", chipType, variant_ );
    return allFieldsMask( chipType, variant_ );
 }
-
-AdditionalHeadersMapTable0::WithStorage::~WithStorage() = default;
 
 // ---- CgmSnifTmTable
 
@@ -195,84 +192,45 @@ constexpr U32 masks[] = {
    0xffffffff, 0xffffffff, 0xffffffff, 0xffffffff, 0xffffffff, 0xffffffff, 0x1f, 0x0,
 };
 constexpr AsicUtils::FieldRow rows[] = {
-   { 0, 1, 1, 4, 0x1, 0x0 }, { 1, 1, 1, 4, 0x2, 0x0 }, { 2, 1, 1, 4, 0x4, 0x0 }, { 3, 8, 2, 4, 0x7f8, 0x0 },
-   { 11, 1, 2, 4, 0x800, 0x0 }, { 12, 80, 12, 12, 0, 0 }, { 92, 1, 12, 12, 0x10000000, 0x0 }, { 93, 1, 12, 12, 0x20000000, 0x0 },
-   { 94, 1, 12, 12, 0x40000000, 0x0 }, { 95, 1, 12, 12, 0x80000000, 0x0 }, { 96, 1, 13, 16, 0x1, 0x0 }, { 97, 1, 13, 16, 0x2, 0x0 },
-   { 98, 1, 13, 16, 0x4, 0x0 }, { 99, 1, 13, 16, 0x8, 0x0 }, { 100, 1, 13, 16, 0x10, 0x0 }, { 101, 1, 13, 16, 0x20, 0x0 },
-   { 102, 1, 13, 16, 0x40, 0x0 }, { 103, 1, 13, 16, 0x80, 0x0 }, { 104, 1, 14, 16, 0x100, 0x0 }, { 105, 1, 14, 16, 0x200, 0x0 },
-   { 106, 1, 14, 16, 0x400, 0x0 }, { 107, 1, 14, 16, 0x800, 0x0 }, { 108, 1, 14, 16, 0x1000, 0x0 }, { 109, 1, 14, 16, 0x2000, 0x0 },
-   { 110, 1, 14, 16, 0x4000, 0x0 }, { 111, 1, 14, 16, 0x8000, 0x0 }, { 112, 1, 15, 16, 0x10000, 0x0 }, { 113, 20, 17, 20, 0x1f, 0xfffe0000 },
-   { 133, 1, 17, 20, 0x20, 0x0 }, { 134, 20, 20, 20, 0x3ffffc0, 0x0 }, { 154, 1, 20, 20, 0x4000000, 0x0 }, { 155, 20, 22, 24, 0x7fff, 0xf8000000 },
-   { 175, 1, 22, 24, 0x8000, 0x0 }, { 176, 20, 25, 28, 0xf, 0xffff0000 }, { 196, 1, 25, 28, 0x10, 0x0 }, { 197, 20, 28, 28, 0x1ffffe0, 0x0 },
-   { 217, 1, 28, 28, 0x2000000, 0x0 }, { 218, 20, 30, 32, 0x3fff, 0xfc000000 }, { 238, 1, 30, 32, 0x4000, 0x0 }, { 239, 20, 33, 36, 0x7, 0xffff8000 },
-   { 259, 1, 33, 36, 0x8, 0x0 }, { 260, 20, 35, 36, 0xfffff0, 0x0 }, { 280, 1, 36, 36, 0x1000000, 0x0 }, { 281, 20, 38, 40, 0x1fff, 0xfe000000 },
-   { 301, 1, 38, 40, 0x2000, 0x0 }, { 302, 20, 41, 44, 0x3, 0xffffc000 }, { 322, 1, 41, 44, 0x4, 0x0 }, { 323, 2, 41, 44, 0x18, 0x0 },
-   { 325, 1, 41, 44, 0x20, 0x0 }, { 326, 2, 41, 44, 0xc0, 0x0 }, { 328, 1, 42, 44, 0x100, 0x0 }, { 329, 2, 42, 44, 0x600, 0x0 },
-   { 331, 1, 42, 44, 0x800, 0x0 }, { 332, 2, 42, 44, 0x3000, 0x0 }, { 334, 1, 42, 44, 0x4000, 0x0 }, { 335, 2, 43, 44, 0x18000, 0x0 },
-   { 337, 1, 43, 44, 0x20000, 0x0 }, { 338, 2, 43, 44, 0xc0000, 0x0 }, { 340, 1, 43, 44, 0x100000, 0x0 }, { 341, 2, 43, 44, 0x600000, 0x0 },
-   { 343, 1, 43, 44, 0x800000, 0x0 }, { 344, 2, 44, 44, 0x3000000, 0x0 }, { 346, 1, 44, 44, 0x4000000, 0x0 }, { 347, 2, 44, 44, 0x18000000, 0x0 },
-   { 349, 1, 44, 44, 0x20000000, 0x0 }, { 350, 2, 44, 44, 0xc0000000, 0x0 }, { 352, 1, 45, 48, 0x1, 0x0 }, { 353, 1, 45, 48, 0x2, 0x0 },
-   { 354, 1, 45, 48, 0x4, 0x0 }, { 355, 1, 45, 48, 0x8, 0x0 }, { 356, 1, 45, 48, 0x10, 0x0 }, { 357, 1, 45, 48, 0x20, 0x0 },
-   { 358, 1, 45, 48, 0x40, 0x0 }, { 359, 1, 45, 48, 0x80, 0x0 }, { 360, 1, 46, 48, 0x100, 0x0 }, { 361, 1, 46, 48, 0x200, 0x0 },
-   { 362, 1, 46, 48, 0x400, 0x0 }, { 363, 1, 46, 48, 0x800, 0x0 }, { 364, 1, 46, 48, 0x1000, 0x0 }, { 365, 16, 48, 48, 0x1fffe000, 0x0 },
-   { 381, 1, 48, 48, 0x20000000, 0x0 }, { 382, 8, 49, 52, 0x3f, 0xc0000000 }, { 390, 1, 49, 52, 0x40, 0x0 }, { 391, 8, 50, 52, 0x7f80, 0x0 },
-   { 399, 1, 50, 52, 0x8000, 0x0 }, { 400, 3, 51, 52, 0x70000, 0x0 }, { 403, 1, 51, 52, 0x80000, 0x0 }, { 404, 3, 51, 52, 0x700000, 0x0 },
-   { 407, 1, 51, 52, 0x800000, 0x0 }, { 408, 2, 52, 52, 0x3000000, 0x0 }, { 410, 1, 52, 52, 0x4000000, 0x0 }, { 411, 2, 52, 52, 0x18000000, 0x0 },
-   { 413, 1, 52, 52, 0x20000000, 0x0 }, { 414, 8, 53, 56, 0x3f, 0xc0000000 }, { 422, 1, 53, 56, 0x40, 0x0 }, { 423, 8, 54, 56, 0x7f80, 0x0 },
-   { 431, 1, 54, 56, 0x8000, 0x0 }, { 432, 8, 55, 56, 0xff0000, 0x0 }, { 440, 1, 56, 56, 0x1000000, 0x0 }, { 441, 8, 57, 60, 0x1, 0xfe000000 },
-   { 0, 0, 0xffff, 0xffff, 0, 0 }, { 0, 0, 0xffff, 0xffff, 0, 0 }, { 0, 0, 0xffff, 0xffff, 0, 0 }, { 0, 1, 1, 4, 0x1, 0x0 },
-   { 1, 1, 1, 4, 0x2, 0x0 }, { 2, 1, 1, 4, 0x4, 0x0 }, { 3, 8, 2, 4, 0x7f8, 0x0 }, { 11, 1, 2, 4, 0x800, 0x0 },
-   { 12, 80, 12, 12, 0, 0 }, { 92, 1, 12, 12, 0x10000000, 0x0 }, { 93, 1, 12, 12, 0x20000000, 0x0 }, { 94, 1, 12, 12, 0x40000000, 0x0 },
-   { 95, 1, 12, 12, 0x80000000, 0x0 }, { 96, 1, 13, 16, 0x1, 0x0 }, { 97, 1, 13, 16, 0x2, 0x0 }, { 98, 1, 13, 16, 0x4, 0x0 },
-   { 99, 1, 13, 16, 0x8, 0x0 }, { 100, 1, 13, 16, 0x10, 0x0 }, { 101, 1, 13, 16, 0x20, 0x0 }, { 102, 1, 13, 16, 0x40, 0x0 },
-   { 103, 1, 13, 16, 0x80, 0x0 }, { 104, 1, 14, 16, 0x100, 0x0 }, { 105, 1, 14, 16, 0x200, 0x0 }, { 106, 1, 14, 16, 0x400, 0x0 },
-   { 107, 1, 14, 16, 0x800, 0x0 }, { 108, 1, 14, 16, 0x1000, 0x0 }, { 109, 1, 14, 16, 0x2000, 0x0 }, { 110, 1, 14, 16, 0x4000, 0x0 },
-   { 111, 1, 14, 16, 0x8000, 0x0 }, { 112, 1, 15, 16, 0x10000, 0x0 }, { 113, 20, 17, 20, 0x1f, 0xfffe0000 }, { 133, 1, 17, 20, 0x20, 0x0 },
-   { 134, 20, 20, 20, 0x3ffffc0, 0x0 }, { 154, 1, 20, 20, 0x4000000, 0x0 }, { 155, 20, 22, 24, 0x7fff, 0xf8000000 }, { 175, 1, 22, 24, 0x8000, 0x0 },
-   { 176, 20, 25, 28, 0xf, 0xffff0000 }, { 196, 1, 25, 28, 0x10, 0x0 }, { 197, 20, 28, 28, 0x1ffffe0, 0x0 }, { 217, 1, 28, 28, 0x2000000, 0x0 },
-   { 218, 20, 30, 32, 0x3fff, 0xfc000000 }, { 238, 1, 30, 32, 0x4000, 0x0 }, { 239, 20, 33, 36, 0x7, 0xffff8000 }, { 259, 1, 33, 36, 0x8, 0x0 },
-   { 260, 20, 35, 36, 0xfffff0, 0x0 }, { 280, 1, 36, 36, 0x1000000, 0x0 }, { 281, 20, 38, 40, 0x1fff, 0xfe000000 }, { 301, 1, 38, 40, 0x2000, 0x0 },
-   { 302, 20, 41, 44, 0x3, 0xffffc000 }, { 322, 1, 41, 44, 0x4, 0x0 }, { 323, 2, 41, 44, 0x18, 0x0 }, { 325, 1, 41, 44, 0x20, 0x0 },
-   { 326, 2, 41, 44, 0xc0, 0x0 }, { 328, 1, 42, 44, 0x100, 0x0 }, { 329, 2, 42, 44, 0x600, 0x0 }, { 331, 1, 42, 44, 0x800, 0x0 },
-   { 332, 2, 42, 44, 0x3000, 0x0 }, { 334, 1, 42, 44, 0x4000, 0x0 }, { 335, 2, 43, 44, 0x18000, 0x0 }, { 337, 1, 43, 44, 0x20000, 0x0 },
-   { 338, 2, 43, 44, 0xc0000, 0x0 }, { 340, 1, 43, 44, 0x100000, 0x0 }, { 341, 2, 43, 44, 0x600000, 0x0 }, { 343, 1, 43, 44, 0x800000, 0x0 },
-   { 344, 2, 44, 44, 0x3000000, 0x0 }, { 346, 1, 44, 44, 0x4000000, 0x0 }, { 347, 2, 44, 44, 0x18000000, 0x0 }, { 349, 1, 44, 44, 0x20000000, 0x0 },
-   { 350, 2, 44, 44, 0xc0000000, 0x0 }, { 352, 1, 45, 48, 0x1, 0x0 }, { 353, 1, 45, 48, 0x2, 0x0 }, { 354, 1, 45, 48, 0x4, 0x0 },
-   { 355, 1, 45, 48, 0x8, 0x0 }, { 356, 1, 45, 48, 0x10, 0x0 }, { 357, 1, 45, 48, 0x20, 0x0 }, { 358, 1, 45, 48, 0x40, 0x0 },
-   { 359, 1, 45, 48, 0x80, 0x0 }, { 360, 1, 46, 48, 0x100, 0x0 }, { 361, 1, 46, 48, 0x200, 0x0 }, { 362, 1, 46, 48, 0x400, 0x0 },
-   { 363, 1, 46, 48, 0x800, 0x0 }, { 364, 1, 46, 48, 0x1000, 0x0 }, { 365, 16, 48, 48, 0x1fffe000, 0x0 }, { 381, 1, 48, 48, 0x20000000, 0x0 },
-   { 382, 10, 49, 52, 0xff, 0xc0000000 }, { 392, 1, 50, 52, 0x100, 0x0 }, { 393, 8, 51, 52, 0x1fe00, 0x0 }, { 401, 1, 51, 52, 0x20000, 0x0 },
-   { 402, 3, 51, 52, 0x1c0000, 0x0 }, { 0, 0, 0xffff, 0xffff, 0, 0 }, { 0, 0, 0xffff, 0xffff, 0, 0 }, { 409, 1, 52, 52, 0x2000000, 0x0 },
-   { 410, 2, 52, 52, 0xc000000, 0x0 }, { 412, 1, 52, 52, 0x10000000, 0x0 }, { 413, 2, 52, 52, 0x60000000, 0x0 }, { 415, 1, 52, 52, 0x80000000, 0x0 },
-   { 416, 8, 53, 56, 0xff, 0x0 }, { 424, 1, 54, 56, 0x100, 0x0 }, { 425, 8, 55, 56, 0x1fe00, 0x0 }, { 433, 1, 55, 56, 0x20000, 0x0 },
-   { 434, 8, 56, 56, 0x3fc0000, 0x0 }, { 442, 1, 56, 56, 0x4000000, 0x0 }, { 443, 8, 57, 60, 0x7, 0xf8000000 }, { 405, 1, 51, 52, 0x200000, 0x0 },
-   { 406, 3, 52, 52, 0x1c00000, 0x0 }, { 0, 0, 0xffff, 0xffff, 0, 0 }, { 0, 1, 1, 4, 0x1, 0x0 }, { 1, 1, 1, 4, 0x2, 0x0 },
-   { 2, 1, 1, 4, 0x4, 0x0 }, { 3, 8, 2, 4, 0x7f8, 0x0 }, { 11, 1, 2, 4, 0x800, 0x0 }, { 12, 80, 12, 12, 0, 0 },
-   { 92, 1, 12, 12, 0x10000000, 0x0 }, { 93, 1, 12, 12, 0x20000000, 0x0 }, { 94, 1, 12, 12, 0x40000000, 0x0 }, { 95, 1, 12, 12, 0x80000000, 0x0 },
-   { 96, 1, 13, 16, 0x1, 0x0 }, { 97, 1, 13, 16, 0x2, 0x0 }, { 98, 1, 13, 16, 0x4, 0x0 }, { 99, 1, 13, 16, 0x8, 0x0 },
-   { 100, 1, 13, 16, 0x10, 0x0 }, { 101, 1, 13, 16, 0x20, 0x0 }, { 102, 1, 13, 16, 0x40, 0x0 }, { 103, 1, 13, 16, 0x80, 0x0 },
-   { 104, 1, 14, 16, 0x100, 0x0 }, { 105, 1, 14, 16, 0x200, 0x0 }, { 106, 1, 14, 16, 0x400, 0x0 }, { 107, 1, 14, 16, 0x800, 0x0 },
-   { 108, 1, 14, 16, 0x1000, 0x0 }, { 109, 1, 14, 16, 0x2000, 0x0 }, { 110, 1, 14, 16, 0x4000, 0x0 }, { 111, 1, 14, 16, 0x8000, 0x0 },
-   { 112, 1, 15, 16, 0x10000, 0x0 }, { 113, 20, 17, 20, 0x1f, 0xfffe0000 }, { 133, 1, 17, 20, 0x20, 0x0 }, { 134, 20, 20, 20, 0x3ffffc0, 0x0 },
-   { 154, 1, 20, 20, 0x4000000, 0x0 }, { 155, 20, 22, 24, 0x7fff, 0xf8000000 }, { 175, 1, 22, 24, 0x8000, 0x0 }, { 176, 20, 25, 28, 0xf, 0xffff0000 },
-   { 196, 1, 25, 28, 0x10, 0x0 }, { 197, 20, 28, 28, 0x1ffffe0, 0x0 }, { 217, 1, 28, 28, 0x2000000, 0x0 }, { 218, 20, 30, 32, 0x3fff, 0xfc000000 },
-   { 238, 1, 30, 32, 0x4000, 0x0 }, { 239, 20, 33, 36, 0x7, 0xffff8000 }, { 259, 1, 33, 36, 0x8, 0x0 }, { 260, 20, 35, 36, 0xfffff0, 0x0 },
-   { 280, 1, 36, 36, 0x1000000, 0x0 }, { 281, 20, 38, 40, 0x1fff, 0xfe000000 }, { 301, 1, 38, 40, 0x2000, 0x0 }, { 302, 20, 41, 44, 0x3, 0xffffc000 },
-   { 322, 1, 41, 44, 0x4, 0x0 }, { 323, 2, 41, 44, 0x18, 0x0 }, { 325, 1, 41, 44, 0x20, 0x0 }, { 326, 2, 41, 44, 0xc0, 0x0 },
-   { 328, 1, 42, 44, 0x100, 0x0 }, { 329, 2, 42, 44, 0x600, 0x0 }, { 331, 1, 42, 44, 0x800, 0x0 }, { 332, 2, 42, 44, 0x3000, 0x0 },
-   { 334, 1, 42, 44, 0x4000, 0x0 }, { 335, 2, 43, 44, 0x18000, 0x0 }, { 337, 1, 43, 44, 0x20000, 0x0 }, { 338, 2, 43, 44, 0xc0000, 0x0 },
-   { 340, 1, 43, 44, 0x100000, 0x0 }, { 341, 2, 43, 44, 0x600000, 0x0 }, { 343, 1, 43, 44, 0x800000, 0x0 }, { 344, 2, 44, 44, 0x3000000, 0x0 },
-   { 346, 1, 44, 44, 0x4000000, 0x0 }, { 347, 2, 44, 44, 0x18000000, 0x0 }, { 349, 1, 44, 44, 0x20000000, 0x0 }, { 350, 2, 44, 44, 0xc0000000, 0x0 },
-   { 352, 1, 45, 48, 0x1, 0x0 }, { 353, 1, 45, 48, 0x2, 0x0 }, { 354, 1, 45, 48, 0x4, 0x0 }, { 355, 1, 45, 48, 0x8, 0x0 },
-   { 356, 1, 45, 48, 0x10, 0x0 }, { 357, 1, 45, 48, 0x20, 0x0 }, { 358, 1, 45, 48, 0x40, 0x0 }, { 359, 1, 45, 48, 0x80, 0x0 },
-   { 360, 1, 46, 48, 0x100, 0x0 }, { 361, 1, 46, 48, 0x200, 0x0 }, { 362, 1, 46, 48, 0x400, 0x0 }, { 363, 1, 46, 48, 0x800, 0x0 },
-   { 364, 1, 46, 48, 0x1000, 0x0 }, { 365, 16, 48, 48, 0x1fffe000, 0x0 }, { 381, 1, 48, 48, 0x20000000, 0x0 }, { 382, 8, 49, 52, 0x3f, 0xc0000000 },
-   { 390, 1, 49, 52, 0x40, 0x0 }, { 391, 8, 50, 52, 0x7f80, 0x0 }, { 399, 1, 50, 52, 0x8000, 0x0 }, { 400, 3, 51, 52, 0x70000, 0x0 },
-   { 0, 0, 0xffff, 0xffff, 0, 0 }, { 0, 0, 0xffff, 0xffff, 0, 0 }, { 407, 1, 51, 52, 0x800000, 0x0 }, { 408, 2, 52, 52, 0x3000000, 0x0 },
-   { 410, 1, 52, 52, 0x4000000, 0x0 }, { 411, 2, 52, 52, 0x18000000, 0x0 }, { 413, 1, 52, 52, 0x20000000, 0x0 }, { 414, 8, 53, 56, 0x3f, 0xc0000000 },
-   { 422, 1, 53, 56, 0x40, 0x0 }, { 423, 9, 54, 56, 0xff80, 0x0 }, { 432, 1, 55, 56, 0x10000, 0x0 }, { 433, 10, 56, 56, 0x7fe0000, 0x0 },
-   { 443, 1, 56, 56, 0x8000000, 0x0 }, { 444, 8, 57, 60, 0xf, 0xf0000000 }, { 403, 1, 51, 52, 0x80000, 0x0 }, { 404, 3, 51, 52, 0x700000, 0x0 },
-   { 452, 1, 57, 60, 0x10, 0x0 },
+   { 0, 1 }, { 1, 1 }, { 2, 1 }, { 3, 8 }, { 11, 1 }, { 12, 80 }, { 92, 1 }, { 93, 1 },
+   { 94, 1 }, { 95, 1 }, { 96, 1 }, { 97, 1 }, { 98, 1 }, { 99, 1 }, { 100, 1 }, { 101, 1 },
+   { 102, 1 }, { 103, 1 }, { 104, 1 }, { 105, 1 }, { 106, 1 }, { 107, 1 }, { 108, 1 }, { 109, 1 },
+   { 110, 1 }, { 111, 1 }, { 112, 1 }, { 113, 20 }, { 133, 1 }, { 134, 20 }, { 154, 1 }, { 155, 20 },
+   { 175, 1 }, { 176, 20 }, { 196, 1 }, { 197, 20 }, { 217, 1 }, { 218, 20 }, { 238, 1 }, { 239, 20 },
+   { 259, 1 }, { 260, 20 }, { 280, 1 }, { 281, 20 }, { 301, 1 }, { 302, 20 }, { 322, 1 }, { 323, 2 },
+   { 325, 1 }, { 326, 2 }, { 328, 1 }, { 329, 2 }, { 331, 1 }, { 332, 2 }, { 334, 1 }, { 335, 2 },
+   { 337, 1 }, { 338, 2 }, { 340, 1 }, { 341, 2 }, { 343, 1 }, { 344, 2 }, { 346, 1 }, { 347, 2 },
+   { 349, 1 }, { 350, 2 }, { 352, 1 }, { 353, 1 }, { 354, 1 }, { 355, 1 }, { 356, 1 }, { 357, 1 },
+   { 358, 1 }, { 359, 1 }, { 360, 1 }, { 361, 1 }, { 362, 1 }, { 363, 1 }, { 364, 1 }, { 365, 16 },
+   { 381, 1 }, { 382, 8 }, { 390, 1 }, { 391, 8 }, { 399, 1 }, { 400, 3 }, { 403, 1 }, { 404, 3 },
+   { 407, 1 }, { 408, 2 }, { 410, 1 }, { 411, 2 }, { 413, 1 }, { 414, 8 }, { 422, 1 }, { 423, 8 },
+   { 431, 1 }, { 432, 8 }, { 440, 1 }, { 441, 8 }, {}, {}, {}, { 0, 1 },
+   { 1, 1 }, { 2, 1 }, { 3, 8 }, { 11, 1 }, { 12, 80 }, { 92, 1 }, { 93, 1 }, { 94, 1 },
+   { 95, 1 }, { 96, 1 }, { 97, 1 }, { 98, 1 }, { 99, 1 }, { 100, 1 }, { 101, 1 }, { 102, 1 },
+   { 103, 1 }, { 104, 1 }, { 105, 1 }, { 106, 1 }, { 107, 1 }, { 108, 1 }, { 109, 1 }, { 110, 1 },
+   { 111, 1 }, { 112, 1 }, { 113, 20 }, { 133, 1 }, { 134, 20 }, { 154, 1 }, { 155, 20 }, { 175, 1 },
+   { 176, 20 }, { 196, 1 }, { 197, 20 }, { 217, 1 }, { 218, 20 }, { 238, 1 }, { 239, 20 }, { 259, 1 },
+   { 260, 20 }, { 280, 1 }, { 281, 20 }, { 301, 1 }, { 302, 20 }, { 322, 1 }, { 323, 2 }, { 325, 1 },
+   { 326, 2 }, { 328, 1 }, { 329, 2 }, { 331, 1 }, { 332, 2 }, { 334, 1 }, { 335, 2 }, { 337, 1 },
+   { 338, 2 }, { 340, 1 }, { 341, 2 }, { 343, 1 }, { 344, 2 }, { 346, 1 }, { 347, 2 }, { 349, 1 },
+   { 350, 2 }, { 352, 1 }, { 353, 1 }, { 354, 1 }, { 355, 1 }, { 356, 1 }, { 357, 1 }, { 358, 1 },
+   { 359, 1 }, { 360, 1 }, { 361, 1 }, { 362, 1 }, { 363, 1 }, { 364, 1 }, { 365, 16 }, { 381, 1 },
+   { 382, 10 }, { 392, 1 }, { 393, 8 }, { 401, 1 }, { 402, 3 }, {}, {}, { 409, 1 },
+   { 410, 2 }, { 412, 1 }, { 413, 2 }, { 415, 1 }, { 416, 8 }, { 424, 1 }, { 425, 8 }, { 433, 1 },
+   { 434, 8 }, { 442, 1 }, { 443, 8 }, { 405, 1 }, { 406, 3 }, {}, { 0, 1 }, { 1, 1 },
+   { 2, 1 }, { 3, 8 }, { 11, 1 }, { 12, 80 }, { 92, 1 }, { 93, 1 }, { 94, 1 }, { 95, 1 },
+   { 96, 1 }, { 97, 1 }, { 98, 1 }, { 99, 1 }, { 100, 1 }, { 101, 1 }, { 102, 1 }, { 103, 1 },
+   { 104, 1 }, { 105, 1 }, { 106, 1 }, { 107, 1 }, { 108, 1 }, { 109, 1 }, { 110, 1 }, { 111, 1 },
+   { 112, 1 }, { 113, 20 }, { 133, 1 }, { 134, 20 }, { 154, 1 }, { 155, 20 }, { 175, 1 }, { 176, 20 },
+   { 196, 1 }, { 197, 20 }, { 217, 1 }, { 218, 20 }, { 238, 1 }, { 239, 20 }, { 259, 1 }, { 260, 20 },
+   { 280, 1 }, { 281, 20 }, { 301, 1 }, { 302, 20 }, { 322, 1 }, { 323, 2 }, { 325, 1 }, { 326, 2 },
+   { 328, 1 }, { 329, 2 }, { 331, 1 }, { 332, 2 }, { 334, 1 }, { 335, 2 }, { 337, 1 }, { 338, 2 },
+   { 340, 1 }, { 341, 2 }, { 343, 1 }, { 344, 2 }, { 346, 1 }, { 347, 2 }, { 349, 1 }, { 350, 2 },
+   { 352, 1 }, { 353, 1 }, { 354, 1 }, { 355, 1 }, { 356, 1 }, { 357, 1 }, { 358, 1 }, { 359, 1 },
+   { 360, 1 }, { 361, 1 }, { 362, 1 }, { 363, 1 }, { 364, 1 }, { 365, 16 }, { 381, 1 }, { 382, 8 },
+   { 390, 1 }, { 391, 8 }, { 399, 1 }, { 400, 3 }, {}, {}, { 407, 1 }, { 408, 2 },
+   { 410, 1 }, { 411, 2 }, { 413, 1 }, { 414, 8 }, { 422, 1 }, { 423, 9 }, { 432, 1 }, { 433, 10 },
+   { 443, 1 }, { 444, 8 }, { 403, 1 }, { 404, 3 }, { 452, 1 },
 };
 } // namespace CgmSnifTmTableData
 
@@ -285,8 +243,6 @@ Raw512 CgmSnifTmTable::allFieldsMask() const {
    metaInfo.trace( "virtual Raw512 %::allFieldsMask() const", chipType, variant_ );
    return allFieldsMask( chipType, variant_ );
 }
-
-CgmSnifTmTable::WithStorage::~WithStorage() = default;
 
 // ---- EgressOutrifMaxValue
 
@@ -322,9 +278,8 @@ constexpr U32 masks[] = {
    0x3ffff, 0x3ffff, 0x3fffff,
 };
 constexpr AsicUtils::FieldRow rows[] = {
-   { 0, 18, 3, 4, 0x3ffff, 0x0 }, { 0, 0, 0xffff, 0xffff, 0, 0 }, { 0, 0, 0xffff, 0xffff, 0, 0 }, { 0, 0, 0xffff, 0xffff, 0, 0 },
-   { 0, 18, 3, 4, 0x3ffff, 0x0 }, { 0, 0, 0xffff, 0xffff, 0, 0 }, { 0, 0, 0xffff, 0xffff, 0, 0 }, { 0, 0, 0xffff, 0xffff, 0, 0 },
-   { 0, 22, 3, 4, 0x3fffff, 0x0 },
+   { 0, 18 }, {}, {}, {}, { 0, 18 }, {}, {}, {},
+   { 0, 22 },
 };
 } // namespace EgressOutrifMaxValueData
 
@@ -337,8 +292,6 @@ U32 EgressOutrifMaxValue::allFieldsMask() const {
    metaInfo.trace( "virtual U32 %::allFieldsMask() const", chipType, variant_ );
    return allFieldsMask( chipType, variant_ );
 }
-
-EgressOutrifMaxValue::WithStorage::~WithStorage() = default;
 
 // ---- EnableKapsInterfaceDefault
 
@@ -360,7 +313,7 @@ constexpr U32 masks[] = {
    0xf,
 };
 constexpr AsicUtils::FieldRow rows[] = {
-   { 0, 4, 1, 4, 0xf, 0x0 },
+   { 0, 4 },
 };
 } // namespace EnableKapsInterfaceDefaultData
 
@@ -373,8 +326,6 @@ U32 EnableKapsInterfaceDefault::allFieldsMask() const {
    metaInfo.trace( "virtual U32 %::allFieldsMask() const", chipType, variant_ );
    return allFieldsMask( chipType, variant_ );
 }
-
-EnableKapsInterfaceDefault::WithStorage::~WithStorage() = default;
 
 // ---- EnablersVectors
 
@@ -402,7 +353,7 @@ constexpr U32 masks[] = {
    0xffffffff, 0xffffffff,
 };
 constexpr AsicUtils::FieldRow rows[] = {
-   { 0, 64, 8, 8, 0, 0 },
+   { 0, 64 },
 };
 } // namespace EnablersVectorsData
 
@@ -415,8 +366,6 @@ U64 EnablersVectors::allFieldsMask() const {
    metaInfo.trace( "virtual U64 %::allFieldsMask() const", chipType, variant_ );
    return allFieldsMask( chipType, variant_ );
 }
-
-EnablersVectors::WithStorage::~WithStorage() = default;
 
 // ---- ErppCfgMappingOutLifProfile
 
@@ -444,8 +393,7 @@ constexpr U32 masks[] = {
    0xffff,
 };
 constexpr AsicUtils::FieldRow rows[] = {
-   { 0, 3, 1, 4, 0x7, 0x0 }, { 3, 2, 1, 4, 0x18, 0x0 }, { 5, 3, 1, 4, 0xe0, 0x0 }, { 8, 3, 2, 4, 0x700, 0x0 },
-   { 11, 1, 2, 4, 0x800, 0x0 }, { 12, 1, 2, 4, 0x1000, 0x0 }, { 13, 3, 2, 4, 0xe000, 0x0 },
+   { 0, 3 }, { 3, 2 }, { 5, 3 }, { 8, 3 }, { 11, 1 }, { 12, 1 }, { 13, 3 },
 };
 } // namespace ErppCfgMappingOutLifProfileData
 
@@ -458,8 +406,6 @@ U32 ErppCfgMappingOutLifProfile::allFieldsMask() const {
    metaInfo.trace( "virtual U32 %::allFieldsMask() const", chipType, variant_ );
    return allFieldsMask( chipType, variant_ );
 }
-
-ErppCfgMappingOutLifProfile::WithStorage::~WithStorage() = default;
 
 // ---- ErppCfgSplitHorizonFilter
 
@@ -481,7 +427,7 @@ constexpr U32 masks[] = {
    0xffffffff, 0xffffffff,
 };
 constexpr AsicUtils::FieldRow rows[] = {
-   { 0, 64, 8, 8, 0, 0 },
+   { 0, 64 },
 };
 } // namespace ErppCfgSplitHorizonFilterData
 
@@ -494,8 +440,6 @@ U64 ErppCfgSplitHorizonFilter::allFieldsMask() const {
    metaInfo.trace( "virtual U64 %::allFieldsMask() const", chipType, variant_ );
    return allFieldsMask( chipType, variant_ );
 }
-
-ErppCfgSplitHorizonFilter::WithStorage::~WithStorage() = default;
 
 // ---- ErppInlifOrientationMap
 
@@ -518,7 +462,7 @@ constexpr U32 masks[] = {
    0x1f,
 };
 constexpr AsicUtils::FieldRow rows[] = {
-   { 0, 3, 1, 4, 0x7, 0x0 }, { 3, 2, 1, 4, 0x18, 0x0 },
+   { 0, 3 }, { 3, 2 },
 };
 } // namespace ErppInlifOrientationMapData
 
@@ -531,8 +475,6 @@ U32 ErppInlifOrientationMap::allFieldsMask() const {
    metaInfo.trace( "virtual U32 %::allFieldsMask() const", chipType, variant_ );
    return allFieldsMask( chipType, variant_ );
 }
-
-ErppInlifOrientationMap::WithStorage::~WithStorage() = default;
 
 // ---- EthernetTrap
 
@@ -583,12 +525,9 @@ constexpr U32 masks[] = {
    0xffffffff, 0xffffffff, 0xffffffff, 0xffffffff,
 };
 constexpr AsicUtils::FieldRow rows[] = {
-   { 0, 9, 2, 4, 0x1ff, 0x0 }, { 9, 4, 2, 4, 0x1e00, 0x0 }, { 13, 3, 2, 4, 0xe000, 0x0 }, { 16, 9, 4, 4, 0x1ff0000, 0x0 },
-   { 25, 4, 4, 4, 0x1e000000, 0x0 }, { 29, 3, 4, 4, 0xe0000000, 0x0 }, { 32, 9, 6, 8, 0x1ff, 0x0 }, { 41, 4, 6, 8, 0x1e00, 0x0 },
-   { 45, 3, 6, 8, 0xe000, 0x0 }, { 48, 9, 8, 8, 0x1ff0000, 0x0 }, { 57, 4, 8, 8, 0x1e000000, 0x0 }, { 61, 3, 8, 8, 0xe0000000, 0x0 },
-   { 64, 9, 10, 12, 0x1ff, 0x0 }, { 73, 4, 10, 12, 0x1e00, 0x0 }, { 77, 3, 10, 12, 0xe000, 0x0 }, { 80, 9, 12, 12, 0x1ff0000, 0x0 },
-   { 89, 4, 12, 12, 0x1e000000, 0x0 }, { 93, 3, 12, 12, 0xe0000000, 0x0 }, { 96, 9, 14, 16, 0x1ff, 0x0 }, { 105, 4, 14, 16, 0x1e00, 0x0 },
-   { 109, 3, 14, 16, 0xe000, 0x0 }, { 112, 9, 16, 16, 0x1ff0000, 0x0 }, { 121, 4, 16, 16, 0x1e000000, 0x0 }, { 125, 3, 16, 16, 0xe0000000, 0x0 },
+   { 0, 9 }, { 9, 4 }, { 13, 3 }, { 16, 9 }, { 25, 4 }, { 29, 3 }, { 32, 9 }, { 41, 4 },
+   { 45, 3 }, { 48, 9 }, { 57, 4 }, { 61, 3 }, { 64, 9 }, { 73, 4 }, { 77, 3 }, { 80, 9 },
+   { 89, 4 }, { 93, 3 }, { 96, 9 }, { 105, 4 }, { 109, 3 }, { 112, 9 }, { 121, 4 }, { 125, 3 },
 };
 } // namespace EthernetTrapData
 
@@ -601,8 +540,6 @@ Raw128 EthernetTrap::allFieldsMask() const {
    metaInfo.trace( "virtual Raw128 %::allFieldsMask() const", chipType, variant_ );
    return allFieldsMask( chipType, variant_ );
 }
-
-EthernetTrap::WithStorage::~WithStorage() = default;
 
 // ---- EtppCfgFwdDoNotTtlDecrement
 
@@ -625,7 +562,7 @@ constexpr U32 masks[] = {
    0xffffffff, 0xffffffff, 0xffffffff, 0xffffffff, 0xffffffff, 0xffffffff, 0xffffffff, 0xffffffff,
 };
 constexpr AsicUtils::FieldRow rows[] = {
-   { 0, 512, 64, 64, 0, 0 },
+   { 0, 512 },
 };
 } // namespace EtppCfgFwdDoNotTtlDecrementData
 
@@ -638,8 +575,6 @@ Raw512 EtppCfgFwdDoNotTtlDecrement::allFieldsMask() const {
    metaInfo.trace( "virtual Raw512 %::allFieldsMask() const", chipType, variant_ );
    return allFieldsMask( chipType, variant_ );
 }
-
-EtppCfgFwdDoNotTtlDecrement::WithStorage::~WithStorage() = default;
 
 // ---- EtppCfgRifInStack
 
@@ -661,7 +596,7 @@ constexpr U32 masks[] = {
    0xffff,
 };
 constexpr AsicUtils::FieldRow rows[] = {
-   { 0, 16, 2, 4, 0xffff, 0x0 },
+   { 0, 16 },
 };
 } // namespace EtppCfgRifInStackData
 
@@ -674,8 +609,6 @@ U32 EtppCfgRifInStack::allFieldsMask() const {
    metaInfo.trace( "virtual U32 %::allFieldsMask() const", chipType, variant_ );
    return allFieldsMask( chipType, variant_ );
 }
-
-EtppCfgRifInStack::WithStorage::~WithStorage() = default;
 
 // ---- EtppCfgSplitHorizonFilter
 
@@ -697,7 +630,7 @@ constexpr U32 masks[] = {
    0xffffffff, 0xffffffff,
 };
 constexpr AsicUtils::FieldRow rows[] = {
-   { 0, 64, 8, 8, 0, 0 },
+   { 0, 64 },
 };
 } // namespace EtppCfgSplitHorizonFilterData
 
@@ -710,8 +643,6 @@ U64 EtppCfgSplitHorizonFilter::allFieldsMask() const {
    metaInfo.trace( "virtual U64 %::allFieldsMask() const", chipType, variant_ );
    return allFieldsMask( chipType, variant_ );
 }
-
-EtppCfgSplitHorizonFilter::WithStorage::~WithStorage() = default;
 
 // ---- EtppCfgSplitHorizonTrapParams
 
@@ -735,7 +666,7 @@ constexpr U32 masks[] = {
    0x3ff,
 };
 constexpr AsicUtils::FieldRow rows[] = {
-   { 0, 4, 1, 4, 0xf, 0x0 }, { 4, 3, 1, 4, 0x70, 0x0 }, { 7, 3, 2, 4, 0x380, 0x0 },
+   { 0, 4 }, { 4, 3 }, { 7, 3 },
 };
 } // namespace EtppCfgSplitHorizonTrapParamsData
 
@@ -748,8 +679,6 @@ U32 EtppCfgSplitHorizonTrapParams::allFieldsMask() const {
    metaInfo.trace( "virtual U32 %::allFieldsMask() const", chipType, variant_ );
    return allFieldsMask( chipType, variant_ );
 }
-
-EtppCfgSplitHorizonTrapParams::WithStorage::~WithStorage() = default;
 
 // ---- EtppEnc1ContextSelectionPortProfile
 
@@ -771,7 +700,7 @@ constexpr U32 masks[] = {
    0x3,
 };
 constexpr AsicUtils::FieldRow rows[] = {
-   { 0, 2, 1, 4, 0x3, 0x0 },
+   { 0, 2 },
 };
 } // namespace EtppEnc1ContextSelectionPortProfileData
 
@@ -784,8 +713,6 @@ U32 EtppEnc1ContextSelectionPortProfile::allFieldsMask() const {
    metaInfo.trace( "virtual U32 %::allFieldsMask() const", chipType, variant_ );
    return allFieldsMask( chipType, variant_ );
 }
-
-EtppEnc1ContextSelectionPortProfile::WithStorage::~WithStorage() = default;
 
 // ---- EtppEnc2ContextSelectionPortProfile
 
@@ -807,7 +734,7 @@ constexpr U32 masks[] = {
    0x3,
 };
 constexpr AsicUtils::FieldRow rows[] = {
-   { 0, 2, 1, 4, 0x3, 0x0 },
+   { 0, 2 },
 };
 } // namespace EtppEnc2ContextSelectionPortProfileData
 
@@ -820,8 +747,6 @@ U32 EtppEnc2ContextSelectionPortProfile::allFieldsMask() const {
    metaInfo.trace( "virtual U32 %::allFieldsMask() const", chipType, variant_ );
    return allFieldsMask( chipType, variant_ );
 }
-
-EtppEnc2ContextSelectionPortProfile::WithStorage::~WithStorage() = default;
 
 // ---- EtppEnc3ContextSelectionPortProfile
 
@@ -843,7 +768,7 @@ constexpr U32 masks[] = {
    0x3,
 };
 constexpr AsicUtils::FieldRow rows[] = {
-   { 0, 2, 1, 4, 0x3, 0x0 },
+   { 0, 2 },
 };
 } // namespace EtppEnc3ContextSelectionPortProfileData
 
@@ -856,8 +781,6 @@ U32 EtppEnc3ContextSelectionPortProfile::allFieldsMask() const {
    metaInfo.trace( "virtual U32 %::allFieldsMask() const", chipType, variant_ );
    return allFieldsMask( chipType, variant_ );
 }
-
-EtppEnc3ContextSelectionPortProfile::WithStorage::~WithStorage() = default;
 
 // ---- EtppEnc4ContextSelectionPortProfile
 
@@ -879,7 +802,7 @@ constexpr U32 masks[] = {
    0x3,
 };
 constexpr AsicUtils::FieldRow rows[] = {
-   { 0, 2, 1, 4, 0x3, 0x0 },
+   { 0, 2 },
 };
 } // namespace EtppEnc4ContextSelectionPortProfileData
 
@@ -892,8 +815,6 @@ U32 EtppEnc4ContextSelectionPortProfile::allFieldsMask() const {
    metaInfo.trace( "virtual U32 %::allFieldsMask() const", chipType, variant_ );
    return allFieldsMask( chipType, variant_ );
 }
-
-EtppEnc4ContextSelectionPortProfile::WithStorage::~WithStorage() = default;
 
 // ---- EtppEnc5ContextSelectionPortProfile
 
@@ -915,7 +836,7 @@ constexpr U32 masks[] = {
    0x3,
 };
 constexpr AsicUtils::FieldRow rows[] = {
-   { 0, 2, 1, 4, 0x3, 0x0 },
+   { 0, 2 },
 };
 } // namespace EtppEnc5ContextSelectionPortProfileData
 
@@ -928,8 +849,6 @@ U32 EtppEnc5ContextSelectionPortProfile::allFieldsMask() const {
    metaInfo.trace( "virtual U32 %::allFieldsMask() const", chipType, variant_ );
    return allFieldsMask( chipType, variant_ );
 }
-
-EtppEnc5ContextSelectionPortProfile::WithStorage::~WithStorage() = default;
 
 // ---- EtppInlifOrientationMap
 
@@ -951,7 +870,7 @@ constexpr U32 masks[] = {
    0x7,
 };
 constexpr AsicUtils::FieldRow rows[] = {
-   { 0, 3, 1, 4, 0x7, 0x0 },
+   { 0, 3 },
 };
 } // namespace EtppInlifOrientationMapData
 
@@ -964,8 +883,6 @@ U32 EtppInlifOrientationMap::allFieldsMask() const {
    metaInfo.trace( "virtual U32 %::allFieldsMask() const", chipType, variant_ );
    return allFieldsMask( chipType, variant_ );
 }
-
-EtppInlifOrientationMap::WithStorage::~WithStorage() = default;
 
 // ---- EtppOutlifOrientationMap
 
@@ -987,7 +904,7 @@ constexpr U32 masks[] = {
    0xffffffff, 0xffffffff, 0xffffffff, 0xffffffff, 0xffffffff, 0xffffffff, 0x0, 0x0,
 };
 constexpr AsicUtils::FieldRow rows[] = {
-   { 0, 192, 24, 24, 0, 0 },
+   { 0, 192 },
 };
 } // namespace EtppOutlifOrientationMapData
 
@@ -1000,8 +917,6 @@ Raw256 EtppOutlifOrientationMap::allFieldsMask() const {
    metaInfo.trace( "virtual Raw256 %::allFieldsMask() const", chipType, variant_ );
    return allFieldsMask( chipType, variant_ );
 }
-
-EtppOutlifOrientationMap::WithStorage::~WithStorage() = default;
 
 // ---- EtppTrapBitCruncherProgram
 
@@ -1032,9 +947,8 @@ constexpr U32 masks[] = {
    0xffffffff, 0xffffffff, 0xffffffff, 0xffffffff, 0xfffff, 0x0, 0x0, 0x0,
 };
 constexpr AsicUtils::FieldRow rows[] = {
-   { 0, 4, 1, 4, 0xf, 0x0 }, { 4, 50, 7, 8, 0, 0 }, { 54, 50, 13, 16, 0, 0 }, { 104, 50, 20, 20, 0, 0 },
-   { 154, 50, 26, 28, 0, 0 }, { 204, 50, 32, 32, 0, 0 }, { 254, 50, 38, 40, 0, 0 }, { 304, 50, 45, 48, 0, 0 },
-   { 354, 50, 51, 52, 0, 0 },
+   { 0, 4 }, { 4, 50 }, { 54, 50 }, { 104, 50 }, { 154, 50 }, { 204, 50 }, { 254, 50 }, { 304, 50 },
+   { 354, 50 },
 };
 } // namespace EtppTrapBitCruncherProgramData
 
@@ -1047,8 +961,6 @@ Raw512 EtppTrapBitCruncherProgram::allFieldsMask() const {
    metaInfo.trace( "virtual Raw512 %::allFieldsMask() const", chipType, variant_ );
    return allFieldsMask( chipType, variant_ );
 }
-
-EtppTrapBitCruncherProgram::WithStorage::~WithStorage() = default;
 
 // ---- EtppTrapContextSelectionPortProfile
 
@@ -1070,7 +982,7 @@ constexpr U32 masks[] = {
    0x7, 0xf,
 };
 constexpr AsicUtils::FieldRow rows[] = {
-   { 0, 3, 1, 4, 0x7, 0x0 }, { 0, 4, 1, 4, 0xf, 0x0 },
+   { 0, 3 }, { 0, 4 },
 };
 } // namespace EtppTrapContextSelectionPortProfileData
 
@@ -1083,8 +995,6 @@ U32 EtppTrapContextSelectionPortProfile::allFieldsMask() const {
    metaInfo.trace( "virtual U32 %::allFieldsMask() const", chipType, variant_ );
    return allFieldsMask( chipType, variant_ );
 }
-
-EtppTrapContextSelectionPortProfile::WithStorage::~WithStorage() = default;
 
 // ---- EtppaPrpFesProgramTable
 
@@ -1107,7 +1017,7 @@ constexpr U32 masks[] = {
    0xfc000, 0x1f8, 0x0, 0x0, 0x0, 0x0, 0x0, 0x0,
 };
 constexpr AsicUtils::FieldRow rows[] = {
-   { 14, 6, 3, 4, 0xfc000, 0x0 }, { 35, 6, 6, 8, 0x1f8, 0x0 },
+   { 14, 6 }, { 35, 6 },
 };
 } // namespace EtppaPrpFesProgramTableData
 
@@ -1120,8 +1030,6 @@ Raw256 EtppaPrpFesProgramTable::allFieldsMask() const {
    metaInfo.trace( "virtual Raw256 %::allFieldsMask() const", chipType, variant_ );
    return allFieldsMask( chipType, variant_ );
 }
-
-EtppaPrpFesProgramTable::WithStorage::~WithStorage() = default;
 
 // ---- EtppbEnc5Arr0FormatCfg
 
@@ -1160,11 +1068,9 @@ constexpr U32 masks[] = {
    0x7ff, 0x0, 0x0, 0x0, 0x0, 0x0, 0x0, 0x0,
 };
 constexpr AsicUtils::FieldRow rows[] = {
-   { 0, 16, 2, 4, 0xffff, 0x0 }, { 16, 16, 4, 4, 0xffff0000, 0x0 }, { 32, 16, 6, 8, 0xffff, 0x0 }, { 48, 14, 8, 8, 0x3fff0000, 0x0 },
-   { 62, 14, 10, 12, 0xfff, 0xc0000000 }, { 76, 17, 12, 12, 0x1ffff000, 0x0 }, { 93, 15, 14, 16, 0xfff, 0xe0000000 }, { 108, 18, 16, 16, 0x3ffff000, 0x0 },
-   { 126, 15, 18, 20, 0x1fff, 0xc0000000 }, { 141, 14, 20, 20, 0x7ffe000, 0x0 }, { 155, 17, 22, 24, 0xfff, 0xf8000000 }, { 172, 15, 24, 24, 0x7fff000, 0x0 },
-   { 187, 16, 26, 28, 0x7ff, 0xf8000000 }, { 203, 17, 28, 28, 0xffff800, 0x0 }, { 220, 15, 30, 32, 0x7ff, 0xf0000000 }, { 235, 19, 32, 32, 0x3ffff800, 0x0 },
-   { 254, 13, 34, 36, 0x7ff, 0xc0000000 },
+   { 0, 16 }, { 16, 16 }, { 32, 16 }, { 48, 14 }, { 62, 14 }, { 76, 17 }, { 93, 15 }, { 108, 18 },
+   { 126, 15 }, { 141, 14 }, { 155, 17 }, { 172, 15 }, { 187, 16 }, { 203, 17 }, { 220, 15 }, { 235, 19 },
+   { 254, 13 },
 };
 } // namespace EtppbEnc5Arr0FormatCfgData
 
@@ -1177,8 +1083,6 @@ Raw512 EtppbEnc5Arr0FormatCfg::allFieldsMask() const {
    metaInfo.trace( "virtual Raw512 %::allFieldsMask() const", chipType, variant_ );
    return allFieldsMask( chipType, variant_ );
 }
-
-EtppbEnc5Arr0FormatCfg::WithStorage::~WithStorage() = default;
 
 // ---- EtppcEnc1Arr0FormatCfg
 
@@ -1217,11 +1121,9 @@ constexpr U32 masks[] = {
    0x7ff, 0x0, 0x0, 0x0, 0x0, 0x0, 0x0, 0x0,
 };
 constexpr AsicUtils::FieldRow rows[] = {
-   { 0, 16, 2, 4, 0xffff, 0x0 }, { 16, 16, 4, 4, 0xffff0000, 0x0 }, { 32, 16, 6, 8, 0xffff, 0x0 }, { 48, 14, 8, 8, 0x3fff0000, 0x0 },
-   { 62, 14, 10, 12, 0xfff, 0xc0000000 }, { 76, 17, 12, 12, 0x1ffff000, 0x0 }, { 93, 15, 14, 16, 0xfff, 0xe0000000 }, { 108, 18, 16, 16, 0x3ffff000, 0x0 },
-   { 126, 15, 18, 20, 0x1fff, 0xc0000000 }, { 141, 14, 20, 20, 0x7ffe000, 0x0 }, { 155, 17, 22, 24, 0xfff, 0xf8000000 }, { 172, 15, 24, 24, 0x7fff000, 0x0 },
-   { 187, 16, 26, 28, 0x7ff, 0xf8000000 }, { 203, 17, 28, 28, 0xffff800, 0x0 }, { 220, 15, 30, 32, 0x7ff, 0xf0000000 }, { 235, 19, 32, 32, 0x3ffff800, 0x0 },
-   { 254, 13, 34, 36, 0x7ff, 0xc0000000 },
+   { 0, 16 }, { 16, 16 }, { 32, 16 }, { 48, 14 }, { 62, 14 }, { 76, 17 }, { 93, 15 }, { 108, 18 },
+   { 126, 15 }, { 141, 14 }, { 155, 17 }, { 172, 15 }, { 187, 16 }, { 203, 17 }, { 220, 15 }, { 235, 19 },
+   { 254, 13 },
 };
 } // namespace EtppcEnc1Arr0FormatCfgData
 
@@ -1234,8 +1136,6 @@ Raw512 EtppcEnc1Arr0FormatCfg::allFieldsMask() const {
    metaInfo.trace( "virtual Raw512 %::allFieldsMask() const", chipType, variant_ );
    return allFieldsMask( chipType, variant_ );
 }
-
-EtppcEnc1Arr0FormatCfg::WithStorage::~WithStorage() = default;
 
 // ---- EtppcEncapsulation2ContextSelectionCam
 
@@ -1276,16 +1176,11 @@ constexpr U32 masks[] = {
    0xffffffff, 0xfffffff, 0xffffffff, 0xfffffff,
 };
 constexpr AsicUtils::FieldRow rows[] = {
-   { 0, 6, 1, 4, 0x3f, 0x0 }, { 6, 6, 2, 4, 0xfc0, 0x0 }, { 12, 6, 3, 4, 0x3f000, 0x0 }, { 18, 2, 3, 4, 0xc0000, 0x0 },
-   { 20, 4, 3, 4, 0xf00000, 0x0 }, { 24, 2, 4, 4, 0x3000000, 0x0 }, { 26, 6, 4, 4, 0xfc000000, 0x0 }, { 32, 6, 5, 8, 0x3f, 0x0 },
-   { 38, 6, 6, 8, 0xfc0, 0x0 }, { 44, 2, 6, 8, 0x3000, 0x0 }, { 46, 4, 7, 8, 0x3c000, 0x0 }, { 50, 2, 7, 8, 0xc0000, 0x0 },
-   { 52, 7, 8, 8, 0x7f00000, 0x0 }, { 59, 1, 8, 8, 0x8000000, 0x0 }, { 0, 0, 0xffff, 0xffff, 0, 0 }, { 0, 0, 0xffff, 0xffff, 0, 0 },
-   { 0, 0, 0xffff, 0xffff, 0, 0 }, { 0, 0, 0xffff, 0xffff, 0, 0 }, { 0, 0, 0xffff, 0xffff, 0, 0 }, { 0, 0, 0xffff, 0xffff, 0, 0 },
-   { 0, 0, 0xffff, 0xffff, 0, 0 }, { 0, 0, 0xffff, 0xffff, 0, 0 }, { 0, 0, 0xffff, 0xffff, 0, 0 }, { 18, 2, 3, 4, 0xc0000, 0x0 },
-   { 20, 4, 3, 4, 0xf00000, 0x0 }, { 24, 2, 4, 4, 0x3000000, 0x0 }, { 0, 0, 0xffff, 0xffff, 0, 0 }, { 0, 0, 0xffff, 0xffff, 0, 0 },
-   { 0, 0, 0xffff, 0xffff, 0, 0 }, { 44, 2, 6, 8, 0x3000, 0x0 }, { 46, 4, 7, 8, 0x3c000, 0x0 }, { 50, 2, 7, 8, 0xc0000, 0x0 },
-   { 52, 7, 8, 8, 0x7f00000, 0x0 }, { 59, 1, 8, 8, 0x8000000, 0x0 }, { 0, 6, 1, 4, 0x3f, 0x0 }, { 6, 6, 2, 4, 0xfc0, 0x0 },
-   { 12, 6, 3, 4, 0x3f000, 0x0 }, { 26, 6, 4, 4, 0xfc000000, 0x0 }, { 32, 6, 5, 8, 0x3f, 0x0 }, { 38, 6, 6, 8, 0xfc0, 0x0 },
+   { 0, 6 }, { 6, 6 }, { 12, 6 }, { 18, 2 }, { 20, 4 }, { 24, 2 }, { 26, 6 }, { 32, 6 },
+   { 38, 6 }, { 44, 2 }, { 46, 4 }, { 50, 2 }, { 52, 7 }, { 59, 1 }, {}, {},
+   {}, {}, {}, {}, {}, {}, {}, { 18, 2 },
+   { 20, 4 }, { 24, 2 }, {}, {}, {}, { 44, 2 }, { 46, 4 }, { 50, 2 },
+   { 52, 7 }, { 59, 1 }, { 0, 6 }, { 6, 6 }, { 12, 6 }, { 26, 6 }, { 32, 6 }, { 38, 6 },
 };
 } // namespace EtppcEncapsulation2ContextSelectionCamData
 
@@ -1298,8 +1193,6 @@ U64 EtppcEncapsulation2ContextSelectionCam::allFieldsMask() const {
    metaInfo.trace( "virtual U64 %::allFieldsMask() const", chipType, variant_ );
    return allFieldsMask( chipType, variant_ );
 }
-
-EtppcEncapsulation2ContextSelectionCam::WithStorage::~WithStorage() = default;
 
 // ---- FfcInstruction
 
@@ -1364,10 +1257,8 @@ constexpr AsicUtils::TagRow tags[] = {
    { 1 << 6, 3, 27, 2, 0 },
 };
 constexpr AsicUtils::FieldRow rows[] = {
-   { 0, 8, 1, 4, 0xff, 0x0 }, { 8, 5, 2, 4, 0x1f00, 0x0 }, { 13, 11, 3, 4, 0xffe000, 0x0 }, { 24, 3, 4, 4, 0x7000000, 0x0 },
-   { 27, 2, 4, 4, 0x18000000, 0x0 }, { 0, 8, 1, 4, 0xff, 0x0 }, { 8, 5, 2, 4, 0x1f00, 0x0 }, { 13, 5, 3, 4, 0x3e000, 0x0 },
-   { 24, 3, 4, 4, 0x7000000, 0x0 }, { 27, 2, 4, 4, 0x18000000, 0x0 }, { 0, 8, 1, 4, 0xff, 0x0 }, { 8, 5, 2, 4, 0x1f00, 0x0 },
-   { 13, 12, 4, 4, 0x1ffe000, 0x0 }, { 0, 0, 0xffff, 0xffff, 0, 0 }, { 25, 4, 4, 4, 0x1e000000, 0x0 },
+   { 0, 8 }, { 8, 5 }, { 13, 11 }, { 24, 3 }, { 27, 2 }, { 0, 8 }, { 8, 5 }, { 13, 5 },
+   { 24, 3 }, { 27, 2 }, { 0, 8 }, { 8, 5 }, { 13, 12 }, {}, { 25, 4 },
 };
 } // namespace FfcInstructionData
 
@@ -1380,8 +1271,6 @@ Raw1024 FfcInstruction::allFieldsMask() const {
    metaInfo.trace( "virtual Raw1024 %::allFieldsMask() const", chipType, variant_ );
    return allFieldsMask( chipType, variant_ );
 }
-
-FfcInstruction::WithStorage::~WithStorage() = default;
 
 // ---- FlpKapsStrengthMapping
 
@@ -1406,9 +1295,8 @@ constexpr U32 masks[] = {
    0xff, 0x0, 0x3f, 0x0, 0xffffffff, 0xffff,
 };
 constexpr AsicUtils::FieldRow rows[] = {
-   { 0, 3, 1, 4, 0x7, 0x0 }, { 3, 3, 1, 4, 0x38, 0x0 }, { 6, 2, 1, 4, 0xc0, 0x0 }, { 0, 0, 0xffff, 0xffff, 0, 0 },
-   { 0, 3, 1, 4, 0x7, 0x0 }, { 3, 3, 1, 4, 0x38, 0x0 }, { 0, 0, 0xffff, 0xffff, 0, 0 }, { 0, 0, 0xffff, 0xffff, 0, 0 },
-   { 0, 3, 1, 4, 0x7, 0x0 }, { 3, 3, 1, 4, 0x38, 0x0 }, { 0, 0, 0xffff, 0xffff, 0, 0 }, { 0, 48, 6, 8, 0, 0 },
+   { 0, 3 }, { 3, 3 }, { 6, 2 }, {}, { 0, 3 }, { 3, 3 }, {}, {},
+   { 0, 3 }, { 3, 3 }, {}, { 0, 48 },
 };
 } // namespace FlpKapsStrengthMappingData
 
@@ -1421,8 +1309,6 @@ U64 FlpKapsStrengthMapping::allFieldsMask() const {
    metaInfo.trace( "virtual U64 %::allFieldsMask() const", chipType, variant_ );
    return allFieldsMask( chipType, variant_ );
 }
-
-FlpKapsStrengthMapping::WithStorage::~WithStorage() = default;
 
 // ---- FlpRpfFormatConfiguration
 
@@ -1451,8 +1337,7 @@ constexpr U32 masks[] = {
    0xffffffff, 0xffffffff, 0xffffffff, 0x3ff,
 };
 constexpr AsicUtils::FieldRow rows[] = {
-   { 0, 12, 2, 4, 0xfff, 0x0 }, { 12, 15, 4, 4, 0x7fff000, 0x0 }, { 27, 15, 6, 8, 0x3ff, 0xf8000000 }, { 42, 15, 8, 8, 0x1fffc00, 0x0 },
-   { 57, 13, 9, 12, 0x3f, 0xfe000000 }, { 70, 14, 11, 12, 0xfffc0, 0x0 }, { 84, 11, 12, 12, 0x7ff00000, 0x0 }, { 95, 11, 14, 16, 0x3ff, 0x80000000 },
+   { 0, 12 }, { 12, 15 }, { 27, 15 }, { 42, 15 }, { 57, 13 }, { 70, 14 }, { 84, 11 }, { 95, 11 },
 };
 } // namespace FlpRpfFormatConfigurationData
 
@@ -1465,8 +1350,6 @@ Raw128 FlpRpfFormatConfiguration::allFieldsMask() const {
    metaInfo.trace( "virtual Raw128 %::allFieldsMask() const", chipType, variant_ );
    return allFieldsMask( chipType, variant_ );
 }
-
-FlpRpfFormatConfiguration::WithStorage::~WithStorage() = default;
 
 // ---- FlpaInitContextEnablers
 
@@ -1533,29 +1416,18 @@ constexpr U32 masks[] = {
    0xffffffff, 0x7fffffff, 0x0, 0x0, 0xffffffff, 0x3ffff, 0x0, 0x0,
 };
 constexpr AsicUtils::FieldRow rows[] = {
-   { 0, 1, 1, 4, 0x1, 0x0 }, { 1, 1, 1, 4, 0x2, 0x0 }, { 2, 1, 1, 4, 0x4, 0x0 }, { 3, 1, 1, 4, 0x8, 0x0 },
-   { 4, 1, 1, 4, 0x10, 0x0 }, { 5, 1, 1, 4, 0x20, 0x0 }, { 6, 1, 1, 4, 0x40, 0x0 }, { 7, 1, 1, 4, 0x80, 0x0 },
-   { 8, 1, 2, 4, 0x100, 0x0 }, { 9, 1, 2, 4, 0x200, 0x0 }, { 10, 1, 2, 4, 0x400, 0x0 }, { 11, 1, 2, 4, 0x800, 0x0 },
-   { 12, 1, 2, 4, 0x1000, 0x0 }, { 13, 1, 2, 4, 0x2000, 0x0 }, { 14, 1, 2, 4, 0x4000, 0x0 }, { 15, 1, 2, 4, 0x8000, 0x0 },
-   { 16, 1, 3, 4, 0x10000, 0x0 }, { 17, 1, 3, 4, 0x20000, 0x0 }, { 18, 1, 3, 4, 0x40000, 0x0 }, { 19, 1, 3, 4, 0x80000, 0x0 },
-   { 20, 1, 3, 4, 0x100000, 0x0 }, { 21, 1, 3, 4, 0x200000, 0x0 }, { 22, 1, 3, 4, 0x400000, 0x0 }, { 23, 1, 3, 4, 0x800000, 0x0 },
-   { 24, 1, 4, 4, 0x1000000, 0x0 }, { 25, 1, 4, 4, 0x2000000, 0x0 }, { 26, 1, 4, 4, 0x4000000, 0x0 }, { 27, 1, 4, 4, 0x8000000, 0x0 },
-   { 28, 1, 4, 4, 0x10000000, 0x0 }, { 29, 1, 4, 4, 0x20000000, 0x0 }, { 30, 1, 4, 4, 0x40000000, 0x0 }, { 31, 1, 4, 4, 0x80000000, 0x0 },
-   { 32, 1, 5, 8, 0x1, 0x0 }, { 33, 1, 5, 8, 0x2, 0x0 }, { 34, 1, 5, 8, 0x4, 0x0 }, { 35, 1, 5, 8, 0x8, 0x0 },
-   { 36, 1, 5, 8, 0x10, 0x0 }, { 37, 1, 5, 8, 0x20, 0x0 }, { 38, 1, 5, 8, 0x40, 0x0 }, { 39, 1, 5, 8, 0x80, 0x0 },
-   { 40, 1, 6, 8, 0x100, 0x0 }, { 41, 1, 6, 8, 0x200, 0x0 }, { 42, 6, 6, 8, 0xfc00, 0x0 }, { 48, 1, 7, 8, 0x10000, 0x0 },
-   { 49, 14, 8, 8, 0x7ffe0000, 0x0 }, { 0, 0, 0xffff, 0xffff, 0, 0 }, { 0, 1, 1, 4, 0x1, 0x0 }, { 1, 1, 1, 4, 0x2, 0x0 },
-   { 2, 1, 1, 4, 0x4, 0x0 }, { 3, 1, 1, 4, 0x8, 0x0 }, { 4, 1, 1, 4, 0x10, 0x0 }, { 5, 1, 1, 4, 0x20, 0x0 },
-   { 6, 1, 1, 4, 0x40, 0x0 }, { 7, 1, 1, 4, 0x80, 0x0 }, { 8, 1, 2, 4, 0x100, 0x0 }, { 9, 1, 2, 4, 0x200, 0x0 },
-   { 10, 1, 2, 4, 0x400, 0x0 }, { 11, 1, 2, 4, 0x800, 0x0 }, { 12, 1, 2, 4, 0x1000, 0x0 }, { 13, 1, 2, 4, 0x2000, 0x0 },
-   { 14, 1, 2, 4, 0x4000, 0x0 }, { 15, 1, 2, 4, 0x8000, 0x0 }, { 16, 1, 3, 4, 0x10000, 0x0 }, { 17, 1, 3, 4, 0x20000, 0x0 },
-   { 18, 1, 3, 4, 0x40000, 0x0 }, { 19, 1, 3, 4, 0x80000, 0x0 }, { 20, 1, 3, 4, 0x100000, 0x0 }, { 21, 1, 3, 4, 0x200000, 0x0 },
-   { 22, 1, 3, 4, 0x400000, 0x0 }, { 23, 1, 3, 4, 0x800000, 0x0 }, { 24, 1, 4, 4, 0x1000000, 0x0 }, { 25, 1, 4, 4, 0x2000000, 0x0 },
-   { 26, 1, 4, 4, 0x4000000, 0x0 }, { 27, 1, 4, 4, 0x8000000, 0x0 }, { 28, 1, 4, 4, 0x10000000, 0x0 }, { 29, 1, 4, 4, 0x20000000, 0x0 },
-   { 30, 1, 4, 4, 0x40000000, 0x0 }, { 31, 1, 4, 4, 0x80000000, 0x0 }, { 32, 1, 5, 8, 0x1, 0x0 }, { 33, 1, 5, 8, 0x2, 0x0 },
-   { 34, 1, 5, 8, 0x4, 0x0 }, { 35, 1, 5, 8, 0x8, 0x0 }, { 36, 1, 5, 8, 0x10, 0x0 }, { 37, 1, 5, 8, 0x20, 0x0 },
-   { 38, 1, 5, 8, 0x40, 0x0 }, { 39, 1, 5, 8, 0x80, 0x0 }, { 40, 1, 6, 8, 0x100, 0x0 }, { 41, 1, 6, 8, 0x200, 0x0 },
-   { 42, 6, 6, 8, 0xfc00, 0x0 }, { 48, 1, 7, 8, 0x10000, 0x0 }, { 0, 0, 0xffff, 0xffff, 0, 0 }, { 49, 1, 7, 8, 0x20000, 0x0 },
+   { 0, 1 }, { 1, 1 }, { 2, 1 }, { 3, 1 }, { 4, 1 }, { 5, 1 }, { 6, 1 }, { 7, 1 },
+   { 8, 1 }, { 9, 1 }, { 10, 1 }, { 11, 1 }, { 12, 1 }, { 13, 1 }, { 14, 1 }, { 15, 1 },
+   { 16, 1 }, { 17, 1 }, { 18, 1 }, { 19, 1 }, { 20, 1 }, { 21, 1 }, { 22, 1 }, { 23, 1 },
+   { 24, 1 }, { 25, 1 }, { 26, 1 }, { 27, 1 }, { 28, 1 }, { 29, 1 }, { 30, 1 }, { 31, 1 },
+   { 32, 1 }, { 33, 1 }, { 34, 1 }, { 35, 1 }, { 36, 1 }, { 37, 1 }, { 38, 1 }, { 39, 1 },
+   { 40, 1 }, { 41, 1 }, { 42, 6 }, { 48, 1 }, { 49, 14 }, {}, { 0, 1 }, { 1, 1 },
+   { 2, 1 }, { 3, 1 }, { 4, 1 }, { 5, 1 }, { 6, 1 }, { 7, 1 }, { 8, 1 }, { 9, 1 },
+   { 10, 1 }, { 11, 1 }, { 12, 1 }, { 13, 1 }, { 14, 1 }, { 15, 1 }, { 16, 1 }, { 17, 1 },
+   { 18, 1 }, { 19, 1 }, { 20, 1 }, { 21, 1 }, { 22, 1 }, { 23, 1 }, { 24, 1 }, { 25, 1 },
+   { 26, 1 }, { 27, 1 }, { 28, 1 }, { 29, 1 }, { 30, 1 }, { 31, 1 }, { 32, 1 }, { 33, 1 },
+   { 34, 1 }, { 35, 1 }, { 36, 1 }, { 37, 1 }, { 38, 1 }, { 39, 1 }, { 40, 1 }, { 41, 1 },
+   { 42, 6 }, { 48, 1 }, {}, { 49, 1 },
 };
 } // namespace FlpaInitContextEnablersData
 
@@ -1568,8 +1440,6 @@ Raw128 FlpaInitContextEnablers::allFieldsMask() const {
    metaInfo.trace( "virtual Raw128 %::allFieldsMask() const", chipType, variant_ );
    return allFieldsMask( chipType, variant_ );
 }
-
-FlpaInitContextEnablers::WithStorage::~WithStorage() = default;
 
 // ---- FlpaResContextEnablers
 
@@ -1617,27 +1487,17 @@ constexpr U32 masks[] = {
    0xffffffff, 0x7f, 0xffffffff, 0x1, 0xffffffff, 0xf,
 };
 constexpr AsicUtils::FieldRow rows[] = {
-   { 0, 1, 1, 4, 0x1, 0x0 }, { 1, 1, 1, 4, 0x2, 0x0 }, { 2, 1, 1, 4, 0x4, 0x0 }, { 3, 1, 1, 4, 0x8, 0x0 },
-   { 4, 1, 1, 4, 0x10, 0x0 }, { 5, 1, 1, 4, 0x20, 0x0 }, { 6, 3, 2, 4, 0x1c0, 0x0 }, { 9, 4, 2, 4, 0x1e00, 0x0 },
-   { 13, 1, 2, 4, 0x2000, 0x0 }, { 14, 4, 3, 4, 0x3c000, 0x0 }, { 18, 1, 3, 4, 0x40000, 0x0 }, { 19, 1, 3, 4, 0x80000, 0x0 },
-   { 20, 1, 3, 4, 0x100000, 0x0 }, { 21, 1, 3, 4, 0x200000, 0x0 }, { 22, 1, 3, 4, 0x400000, 0x0 }, { 23, 1, 3, 4, 0x800000, 0x0 },
-   { 24, 1, 4, 4, 0x1000000, 0x0 }, { 25, 1, 4, 4, 0x2000000, 0x0 }, { 26, 1, 4, 4, 0x4000000, 0x0 }, { 27, 1, 4, 4, 0x8000000, 0x0 },
-   { 28, 1, 4, 4, 0x10000000, 0x0 }, { 29, 1, 4, 4, 0x20000000, 0x0 }, { 30, 9, 5, 8, 0x7f, 0xc0000000 }, { 0, 0, 0xffff, 0xffff, 0, 0 },
-   { 0, 0, 0xffff, 0xffff, 0, 0 }, { 0, 0, 0xffff, 0xffff, 0, 0 }, { 0, 0, 0xffff, 0xffff, 0, 0 }, { 0, 1, 1, 4, 0x1, 0x0 },
-   { 1, 1, 1, 4, 0x2, 0x0 }, { 2, 1, 1, 4, 0x4, 0x0 }, { 3, 1, 1, 4, 0x8, 0x0 }, { 4, 1, 1, 4, 0x10, 0x0 },
-   { 5, 1, 1, 4, 0x20, 0x0 }, { 6, 3, 2, 4, 0x1c0, 0x0 }, { 9, 4, 2, 4, 0x1e00, 0x0 }, { 13, 1, 2, 4, 0x2000, 0x0 },
-   { 14, 4, 3, 4, 0x3c000, 0x0 }, { 18, 1, 3, 4, 0x40000, 0x0 }, { 19, 1, 3, 4, 0x80000, 0x0 }, { 20, 1, 3, 4, 0x100000, 0x0 },
-   { 21, 1, 3, 4, 0x200000, 0x0 }, { 22, 1, 3, 4, 0x400000, 0x0 }, { 23, 1, 3, 4, 0x800000, 0x0 }, { 24, 1, 4, 4, 0x1000000, 0x0 },
-   { 25, 1, 4, 4, 0x2000000, 0x0 }, { 26, 1, 4, 4, 0x4000000, 0x0 }, { 27, 1, 4, 4, 0x8000000, 0x0 }, { 28, 1, 4, 4, 0x10000000, 0x0 },
-   { 29, 1, 4, 4, 0x20000000, 0x0 }, { 0, 0, 0xffff, 0xffff, 0, 0 }, { 30, 1, 4, 4, 0x40000000, 0x0 }, { 31, 2, 5, 8, 0x1, 0x80000000 },
-   { 0, 0, 0xffff, 0xffff, 0, 0 }, { 0, 0, 0xffff, 0xffff, 0, 0 }, { 0, 1, 1, 4, 0x1, 0x0 }, { 1, 1, 1, 4, 0x2, 0x0 },
-   { 2, 1, 1, 4, 0x4, 0x0 }, { 3, 1, 1, 4, 0x8, 0x0 }, { 4, 1, 1, 4, 0x10, 0x0 }, { 5, 1, 1, 4, 0x20, 0x0 },
-   { 6, 3, 2, 4, 0x1c0, 0x0 }, { 9, 4, 2, 4, 0x1e00, 0x0 }, { 13, 1, 2, 4, 0x2000, 0x0 }, { 14, 4, 3, 4, 0x3c000, 0x0 },
-   { 18, 1, 3, 4, 0x40000, 0x0 }, { 19, 1, 3, 4, 0x80000, 0x0 }, { 20, 1, 3, 4, 0x100000, 0x0 }, { 21, 1, 3, 4, 0x200000, 0x0 },
-   { 22, 1, 3, 4, 0x400000, 0x0 }, { 23, 1, 3, 4, 0x800000, 0x0 }, { 24, 1, 4, 4, 0x1000000, 0x0 }, { 25, 1, 4, 4, 0x2000000, 0x0 },
-   { 26, 1, 4, 4, 0x4000000, 0x0 }, { 27, 1, 4, 4, 0x8000000, 0x0 }, { 28, 1, 4, 4, 0x10000000, 0x0 }, { 29, 1, 4, 4, 0x20000000, 0x0 },
-   { 0, 0, 0xffff, 0xffff, 0, 0 }, { 30, 1, 4, 4, 0x40000000, 0x0 }, { 31, 2, 5, 8, 0x1, 0x80000000 }, { 33, 1, 5, 8, 0x2, 0x0 },
-   { 34, 2, 5, 8, 0xc, 0x0 },
+   { 0, 1 }, { 1, 1 }, { 2, 1 }, { 3, 1 }, { 4, 1 }, { 5, 1 }, { 6, 3 }, { 9, 4 },
+   { 13, 1 }, { 14, 4 }, { 18, 1 }, { 19, 1 }, { 20, 1 }, { 21, 1 }, { 22, 1 }, { 23, 1 },
+   { 24, 1 }, { 25, 1 }, { 26, 1 }, { 27, 1 }, { 28, 1 }, { 29, 1 }, { 30, 9 }, {},
+   {}, {}, {}, { 0, 1 }, { 1, 1 }, { 2, 1 }, { 3, 1 }, { 4, 1 },
+   { 5, 1 }, { 6, 3 }, { 9, 4 }, { 13, 1 }, { 14, 4 }, { 18, 1 }, { 19, 1 }, { 20, 1 },
+   { 21, 1 }, { 22, 1 }, { 23, 1 }, { 24, 1 }, { 25, 1 }, { 26, 1 }, { 27, 1 }, { 28, 1 },
+   { 29, 1 }, {}, { 30, 1 }, { 31, 2 }, {}, {}, { 0, 1 }, { 1, 1 },
+   { 2, 1 }, { 3, 1 }, { 4, 1 }, { 5, 1 }, { 6, 3 }, { 9, 4 }, { 13, 1 }, { 14, 4 },
+   { 18, 1 }, { 19, 1 }, { 20, 1 }, { 21, 1 }, { 22, 1 }, { 23, 1 }, { 24, 1 }, { 25, 1 },
+   { 26, 1 }, { 27, 1 }, { 28, 1 }, { 29, 1 }, {}, { 30, 1 }, { 31, 2 }, { 33, 1 },
+   { 34, 2 },
 };
 } // namespace FlpaResContextEnablersData
 
@@ -1650,8 +1510,6 @@ U64 FlpaResContextEnablers::allFieldsMask() const {
    metaInfo.trace( "virtual U64 %::allFieldsMask() const", chipType, variant_ );
    return allFieldsMask( chipType, variant_ );
 }
-
-FlpaResContextEnablers::WithStorage::~WithStorage() = default;
 
 // ---- FwdFfcTable
 
@@ -1714,19 +1572,13 @@ constexpr AsicUtils::FieldRun runs[] = {
    { "ffcInstruction", ffcInstructionRun },
 };
 constexpr AsicUtils::FieldRow rows[] = {
-   { 0, 29, 4, 4, 0x1fffffff, 0x0 }, { 0, 58, 8, 8, 0, 0 }, { 2, 1, 1, 4, 0x4, 0x0 }, { 29, 29, 8, 8, 0x3ffffff, 0xe0000000 },
-   { 0, 0, 0xffff, 0xffff, 0, 0 }, { 0, 0, 0xffff, 0xffff, 0, 0 }, { 0, 0, 0xffff, 0xffff, 0, 0 }, { 0, 0, 0xffff, 0xffff, 0, 0 },
-   { 0, 0, 0xffff, 0xffff, 0, 0 }, { 0, 0, 0xffff, 0xffff, 0, 0 }, { 0, 29, 4, 4, 0x1fffffff, 0x0 }, { 0, 116, 15, 16, 0, 0 },
-   { 0, 0, 0xffff, 0xffff, 0, 0 }, { 29, 29, 8, 8, 0x3ffffff, 0xe0000000 }, { 4, 1, 1, 4, 0x10, 0x0 }, { 58, 29, 11, 12, 0x7fffff, 0xfc000000 },
-   { 87, 29, 15, 16, 0xfffff, 0xff800000 }, { 0, 0, 0xffff, 0xffff, 0, 0 }, { 0, 0, 0xffff, 0xffff, 0, 0 }, { 0, 0, 0xffff, 0xffff, 0, 0 },
-   { 0, 29, 4, 4, 0x1fffffff, 0x0 }, { 0, 116, 15, 16, 0, 0 }, { 0, 0, 0xffff, 0xffff, 0, 0 }, { 29, 29, 8, 8, 0x3ffffff, 0xe0000000 },
-   { 0, 0, 0xffff, 0xffff, 0, 0 }, { 58, 29, 11, 12, 0x7fffff, 0xfc000000 }, { 87, 29, 15, 16, 0xfffff, 0xff800000 }, { 8, 1, 2, 4, 0x100, 0x0 },
-   { 0, 0, 0xffff, 0xffff, 0, 0 }, { 0, 0, 0xffff, 0xffff, 0, 0 }, { 0, 29, 4, 4, 0x1fffffff, 0x0 }, { 0, 116, 15, 16, 0, 0 },
-   { 0, 0, 0xffff, 0xffff, 0, 0 }, { 29, 29, 8, 8, 0x3ffffff, 0xe0000000 }, { 0, 0, 0xffff, 0xffff, 0, 0 }, { 58, 29, 11, 12, 0x7fffff, 0xfc000000 },
-   { 87, 29, 15, 16, 0xfffff, 0xff800000 }, { 0, 0, 0xffff, 0xffff, 0, 0 }, { 16, 1, 3, 4, 0x10000, 0x0 }, { 0, 0, 0xffff, 0xffff, 0, 0 },
-   { 0, 29, 4, 4, 0x1fffffff, 0x0 }, { 0, 116, 15, 16, 0, 0 }, { 0, 0, 0xffff, 0xffff, 0, 0 }, { 29, 29, 8, 8, 0x3ffffff, 0xe0000000 },
-   { 0, 0, 0xffff, 0xffff, 0, 0 }, { 58, 29, 11, 12, 0x7fffff, 0xfc000000 }, { 87, 29, 15, 16, 0xfffff, 0xff800000 }, { 0, 0, 0xffff, 0xffff, 0, 0 },
-   { 0, 0, 0xffff, 0xffff, 0, 0 }, { 8, 1, 2, 4, 0x100, 0x0 },
+   { 0, 29 }, { 0, 58 }, { 2, 1 }, { 29, 29 }, {}, {}, {}, {},
+   {}, {}, { 0, 29 }, { 0, 116 }, {}, { 29, 29 }, { 4, 1 }, { 58, 29 },
+   { 87, 29 }, {}, {}, {}, { 0, 29 }, { 0, 116 }, {}, { 29, 29 },
+   {}, { 58, 29 }, { 87, 29 }, { 8, 1 }, {}, {}, { 0, 29 }, { 0, 116 },
+   {}, { 29, 29 }, {}, { 58, 29 }, { 87, 29 }, {}, { 16, 1 }, {},
+   { 0, 29 }, { 0, 116 }, {}, { 29, 29 }, {}, { 58, 29 }, { 87, 29 }, {},
+   {}, { 8, 1 },
 };
 } // namespace FwdFfcTableData
 
@@ -1739,8 +1591,6 @@ Raw128 FwdFfcTable::allFieldsMask() const {
    metaInfo.trace( "virtual Raw128 %::allFieldsMask() const", chipType, variant_ );
    return allFieldsMask( chipType, variant_ );
 }
-
-FwdFfcTable::WithStorage::~WithStorage() = default;
 
 // ---- FwdKbrTable
 
@@ -1763,7 +1613,7 @@ constexpr U32 masks[] = {
    0xffffffff, 0xfff,
 };
 constexpr AsicUtils::FieldRow rows[] = {
-   { 0, 38, 5, 8, 0, 0 }, { 38, 6, 6, 8, 0xfc0, 0x0 },
+   { 0, 38 }, { 38, 6 },
 };
 } // namespace FwdKbrTableData
 
@@ -1776,8 +1626,6 @@ U64 FwdKbrTable::allFieldsMask() const {
    metaInfo.trace( "virtual U64 %::allFieldsMask() const", chipType, variant_ );
    return allFieldsMask( chipType, variant_ );
 }
-
-FwdKbrTable::WithStorage::~WithStorage() = default;
 
 // ---- InLifProfileCsFlagsLsb
 
@@ -1948,39 +1796,23 @@ constexpr AsicUtils::FieldRun runs[] = {
    { "csProfile", csProfileRun },
 };
 constexpr AsicUtils::FieldRow rows[] = {
-   { 0, 4, 1, 4, 0xf, 0x0 }, { 0, 4, 1, 4, 0xf, 0x0 }, { 0, 512, 64, 64, 0, 0 }, { 4, 4, 1, 4, 0xf0, 0x0 },
-   { 8, 4, 2, 4, 0xf00, 0x0 }, { 12, 4, 2, 4, 0xf000, 0x0 }, { 16, 4, 3, 4, 0xf0000, 0x0 }, { 20, 4, 3, 4, 0xf00000, 0x0 },
-   { 24, 4, 4, 4, 0xf000000, 0x0 }, { 28, 4, 4, 4, 0xf0000000, 0x0 }, { 32, 4, 5, 8, 0xf, 0x0 }, { 36, 4, 5, 8, 0xf0, 0x0 },
-   { 40, 4, 6, 8, 0xf00, 0x0 }, { 44, 4, 6, 8, 0xf000, 0x0 }, { 48, 4, 7, 8, 0xf0000, 0x0 }, { 52, 4, 7, 8, 0xf00000, 0x0 },
-   { 56, 4, 8, 8, 0xf000000, 0x0 }, { 60, 4, 8, 8, 0xf0000000, 0x0 }, { 64, 4, 9, 12, 0xf, 0x0 }, { 68, 4, 9, 12, 0xf0, 0x0 },
-   { 72, 4, 10, 12, 0xf00, 0x0 }, { 76, 4, 10, 12, 0xf000, 0x0 }, { 80, 4, 11, 12, 0xf0000, 0x0 }, { 84, 4, 11, 12, 0xf00000, 0x0 },
-   { 88, 4, 12, 12, 0xf000000, 0x0 }, { 92, 4, 12, 12, 0xf0000000, 0x0 }, { 96, 4, 13, 16, 0xf, 0x0 }, { 100, 4, 13, 16, 0xf0, 0x0 },
-   { 104, 4, 14, 16, 0xf00, 0x0 }, { 108, 4, 14, 16, 0xf000, 0x0 }, { 112, 4, 15, 16, 0xf0000, 0x0 }, { 116, 4, 15, 16, 0xf00000, 0x0 },
-   { 120, 4, 16, 16, 0xf000000, 0x0 }, { 124, 4, 16, 16, 0xf0000000, 0x0 }, { 128, 4, 17, 20, 0xf, 0x0 }, { 132, 4, 17, 20, 0xf0, 0x0 },
-   { 136, 4, 18, 20, 0xf00, 0x0 }, { 140, 4, 18, 20, 0xf000, 0x0 }, { 144, 4, 19, 20, 0xf0000, 0x0 }, { 148, 4, 19, 20, 0xf00000, 0x0 },
-   { 152, 4, 20, 20, 0xf000000, 0x0 }, { 156, 4, 20, 20, 0xf0000000, 0x0 }, { 160, 4, 21, 24, 0xf, 0x0 }, { 164, 4, 21, 24, 0xf0, 0x0 },
-   { 168, 4, 22, 24, 0xf00, 0x0 }, { 172, 4, 22, 24, 0xf000, 0x0 }, { 176, 4, 23, 24, 0xf0000, 0x0 }, { 180, 4, 23, 24, 0xf00000, 0x0 },
-   { 184, 4, 24, 24, 0xf000000, 0x0 }, { 188, 4, 24, 24, 0xf0000000, 0x0 }, { 192, 4, 25, 28, 0xf, 0x0 }, { 196, 4, 25, 28, 0xf0, 0x0 },
-   { 200, 4, 26, 28, 0xf00, 0x0 }, { 204, 4, 26, 28, 0xf000, 0x0 }, { 208, 4, 27, 28, 0xf0000, 0x0 }, { 212, 4, 27, 28, 0xf00000, 0x0 },
-   { 216, 4, 28, 28, 0xf000000, 0x0 }, { 220, 4, 28, 28, 0xf0000000, 0x0 }, { 224, 4, 29, 32, 0xf, 0x0 }, { 228, 4, 29, 32, 0xf0, 0x0 },
-   { 232, 4, 30, 32, 0xf00, 0x0 }, { 236, 4, 30, 32, 0xf000, 0x0 }, { 240, 4, 31, 32, 0xf0000, 0x0 }, { 244, 4, 31, 32, 0xf00000, 0x0 },
-   { 248, 4, 32, 32, 0xf000000, 0x0 }, { 252, 4, 32, 32, 0xf0000000, 0x0 }, { 256, 4, 33, 36, 0xf, 0x0 }, { 260, 4, 33, 36, 0xf0, 0x0 },
-   { 264, 4, 34, 36, 0xf00, 0x0 }, { 268, 4, 34, 36, 0xf000, 0x0 }, { 272, 4, 35, 36, 0xf0000, 0x0 }, { 276, 4, 35, 36, 0xf00000, 0x0 },
-   { 280, 4, 36, 36, 0xf000000, 0x0 }, { 284, 4, 36, 36, 0xf0000000, 0x0 }, { 288, 4, 37, 40, 0xf, 0x0 }, { 292, 4, 37, 40, 0xf0, 0x0 },
-   { 296, 4, 38, 40, 0xf00, 0x0 }, { 300, 4, 38, 40, 0xf000, 0x0 }, { 304, 4, 39, 40, 0xf0000, 0x0 }, { 308, 4, 39, 40, 0xf00000, 0x0 },
-   { 312, 4, 40, 40, 0xf000000, 0x0 }, { 316, 4, 40, 40, 0xf0000000, 0x0 }, { 320, 4, 41, 44, 0xf, 0x0 }, { 324, 4, 41, 44, 0xf0, 0x0 },
-   { 328, 4, 42, 44, 0xf00, 0x0 }, { 332, 4, 42, 44, 0xf000, 0x0 }, { 336, 4, 43, 44, 0xf0000, 0x0 }, { 340, 4, 43, 44, 0xf00000, 0x0 },
-   { 344, 4, 44, 44, 0xf000000, 0x0 }, { 348, 4, 44, 44, 0xf0000000, 0x0 }, { 352, 4, 45, 48, 0xf, 0x0 }, { 356, 4, 45, 48, 0xf0, 0x0 },
-   { 360, 4, 46, 48, 0xf00, 0x0 }, { 364, 4, 46, 48, 0xf000, 0x0 }, { 368, 4, 47, 48, 0xf0000, 0x0 }, { 372, 4, 47, 48, 0xf00000, 0x0 },
-   { 376, 4, 48, 48, 0xf000000, 0x0 }, { 380, 4, 48, 48, 0xf0000000, 0x0 }, { 384, 4, 49, 52, 0xf, 0x0 }, { 388, 4, 49, 52, 0xf0, 0x0 },
-   { 392, 4, 50, 52, 0xf00, 0x0 }, { 396, 4, 50, 52, 0xf000, 0x0 }, { 400, 4, 51, 52, 0xf0000, 0x0 }, { 404, 4, 51, 52, 0xf00000, 0x0 },
-   { 408, 4, 52, 52, 0xf000000, 0x0 }, { 412, 4, 52, 52, 0xf0000000, 0x0 }, { 416, 4, 53, 56, 0xf, 0x0 }, { 420, 4, 53, 56, 0xf0, 0x0 },
-   { 424, 4, 54, 56, 0xf00, 0x0 }, { 428, 4, 54, 56, 0xf000, 0x0 }, { 432, 4, 55, 56, 0xf0000, 0x0 }, { 436, 4, 55, 56, 0xf00000, 0x0 },
-   { 440, 4, 56, 56, 0xf000000, 0x0 }, { 444, 4, 56, 56, 0xf0000000, 0x0 }, { 448, 4, 57, 60, 0xf, 0x0 }, { 452, 4, 57, 60, 0xf0, 0x0 },
-   { 456, 4, 58, 60, 0xf00, 0x0 }, { 460, 4, 58, 60, 0xf000, 0x0 }, { 464, 4, 59, 60, 0xf0000, 0x0 }, { 468, 4, 59, 60, 0xf00000, 0x0 },
-   { 472, 4, 60, 60, 0xf000000, 0x0 }, { 476, 4, 60, 60, 0xf0000000, 0x0 }, { 480, 4, 61, 64, 0xf, 0x0 }, { 484, 4, 61, 64, 0xf0, 0x0 },
-   { 488, 4, 62, 64, 0xf00, 0x0 }, { 492, 4, 62, 64, 0xf000, 0x0 }, { 496, 4, 63, 64, 0xf0000, 0x0 }, { 500, 4, 63, 64, 0xf00000, 0x0 },
-   { 504, 4, 64, 64, 0xf000000, 0x0 }, { 508, 4, 64, 64, 0xf0000000, 0x0 },
+   { 0, 4 }, { 0, 4 }, { 0, 512 }, { 4, 4 }, { 8, 4 }, { 12, 4 }, { 16, 4 }, { 20, 4 },
+   { 24, 4 }, { 28, 4 }, { 32, 4 }, { 36, 4 }, { 40, 4 }, { 44, 4 }, { 48, 4 }, { 52, 4 },
+   { 56, 4 }, { 60, 4 }, { 64, 4 }, { 68, 4 }, { 72, 4 }, { 76, 4 }, { 80, 4 }, { 84, 4 },
+   { 88, 4 }, { 92, 4 }, { 96, 4 }, { 100, 4 }, { 104, 4 }, { 108, 4 }, { 112, 4 }, { 116, 4 },
+   { 120, 4 }, { 124, 4 }, { 128, 4 }, { 132, 4 }, { 136, 4 }, { 140, 4 }, { 144, 4 }, { 148, 4 },
+   { 152, 4 }, { 156, 4 }, { 160, 4 }, { 164, 4 }, { 168, 4 }, { 172, 4 }, { 176, 4 }, { 180, 4 },
+   { 184, 4 }, { 188, 4 }, { 192, 4 }, { 196, 4 }, { 200, 4 }, { 204, 4 }, { 208, 4 }, { 212, 4 },
+   { 216, 4 }, { 220, 4 }, { 224, 4 }, { 228, 4 }, { 232, 4 }, { 236, 4 }, { 240, 4 }, { 244, 4 },
+   { 248, 4 }, { 252, 4 }, { 256, 4 }, { 260, 4 }, { 264, 4 }, { 268, 4 }, { 272, 4 }, { 276, 4 },
+   { 280, 4 }, { 284, 4 }, { 288, 4 }, { 292, 4 }, { 296, 4 }, { 300, 4 }, { 304, 4 }, { 308, 4 },
+   { 312, 4 }, { 316, 4 }, { 320, 4 }, { 324, 4 }, { 328, 4 }, { 332, 4 }, { 336, 4 }, { 340, 4 },
+   { 344, 4 }, { 348, 4 }, { 352, 4 }, { 356, 4 }, { 360, 4 }, { 364, 4 }, { 368, 4 }, { 372, 4 },
+   { 376, 4 }, { 380, 4 }, { 384, 4 }, { 388, 4 }, { 392, 4 }, { 396, 4 }, { 400, 4 }, { 404, 4 },
+   { 408, 4 }, { 412, 4 }, { 416, 4 }, { 420, 4 }, { 424, 4 }, { 428, 4 }, { 432, 4 }, { 436, 4 },
+   { 440, 4 }, { 444, 4 }, { 448, 4 }, { 452, 4 }, { 456, 4 }, { 460, 4 }, { 464, 4 }, { 468, 4 },
+   { 472, 4 }, { 476, 4 }, { 480, 4 }, { 484, 4 }, { 488, 4 }, { 492, 4 }, { 496, 4 }, { 500, 4 },
+   { 504, 4 }, { 508, 4 },
 };
 } // namespace InLifProfileCsFlagsLsbData
 
@@ -1993,8 +1825,6 @@ Raw512 InLifProfileCsFlagsLsb::allFieldsMask() const {
    metaInfo.trace( "virtual Raw512 %::allFieldsMask() const", chipType, variant_ );
    return allFieldsMask( chipType, variant_ );
 }
-
-InLifProfileCsFlagsLsb::WithStorage::~WithStorage() = default;
 
 // ---- InLifProfileCsFlagsMsb
 
@@ -2164,39 +1994,23 @@ constexpr AsicUtils::FieldRun runs[] = {
    { "csProfile", csProfileRun },
 };
 constexpr AsicUtils::FieldRow rows[] = {
-   { 0, 4, 1, 4, 0xf, 0x0 }, { 0, 512, 64, 64, 0, 0 }, { 4, 4, 1, 4, 0xf0, 0x0 }, { 8, 4, 2, 4, 0xf00, 0x0 },
-   { 12, 4, 2, 4, 0xf000, 0x0 }, { 16, 4, 3, 4, 0xf0000, 0x0 }, { 20, 4, 3, 4, 0xf00000, 0x0 }, { 24, 4, 4, 4, 0xf000000, 0x0 },
-   { 28, 4, 4, 4, 0xf0000000, 0x0 }, { 32, 4, 5, 8, 0xf, 0x0 }, { 36, 4, 5, 8, 0xf0, 0x0 }, { 40, 4, 6, 8, 0xf00, 0x0 },
-   { 44, 4, 6, 8, 0xf000, 0x0 }, { 48, 4, 7, 8, 0xf0000, 0x0 }, { 52, 4, 7, 8, 0xf00000, 0x0 }, { 56, 4, 8, 8, 0xf000000, 0x0 },
-   { 60, 4, 8, 8, 0xf0000000, 0x0 }, { 64, 4, 9, 12, 0xf, 0x0 }, { 68, 4, 9, 12, 0xf0, 0x0 }, { 72, 4, 10, 12, 0xf00, 0x0 },
-   { 76, 4, 10, 12, 0xf000, 0x0 }, { 80, 4, 11, 12, 0xf0000, 0x0 }, { 84, 4, 11, 12, 0xf00000, 0x0 }, { 88, 4, 12, 12, 0xf000000, 0x0 },
-   { 92, 4, 12, 12, 0xf0000000, 0x0 }, { 96, 4, 13, 16, 0xf, 0x0 }, { 100, 4, 13, 16, 0xf0, 0x0 }, { 104, 4, 14, 16, 0xf00, 0x0 },
-   { 108, 4, 14, 16, 0xf000, 0x0 }, { 112, 4, 15, 16, 0xf0000, 0x0 }, { 116, 4, 15, 16, 0xf00000, 0x0 }, { 120, 4, 16, 16, 0xf000000, 0x0 },
-   { 124, 4, 16, 16, 0xf0000000, 0x0 }, { 128, 4, 17, 20, 0xf, 0x0 }, { 132, 4, 17, 20, 0xf0, 0x0 }, { 136, 4, 18, 20, 0xf00, 0x0 },
-   { 140, 4, 18, 20, 0xf000, 0x0 }, { 144, 4, 19, 20, 0xf0000, 0x0 }, { 148, 4, 19, 20, 0xf00000, 0x0 }, { 152, 4, 20, 20, 0xf000000, 0x0 },
-   { 156, 4, 20, 20, 0xf0000000, 0x0 }, { 160, 4, 21, 24, 0xf, 0x0 }, { 164, 4, 21, 24, 0xf0, 0x0 }, { 168, 4, 22, 24, 0xf00, 0x0 },
-   { 172, 4, 22, 24, 0xf000, 0x0 }, { 176, 4, 23, 24, 0xf0000, 0x0 }, { 180, 4, 23, 24, 0xf00000, 0x0 }, { 184, 4, 24, 24, 0xf000000, 0x0 },
-   { 188, 4, 24, 24, 0xf0000000, 0x0 }, { 192, 4, 25, 28, 0xf, 0x0 }, { 196, 4, 25, 28, 0xf0, 0x0 }, { 200, 4, 26, 28, 0xf00, 0x0 },
-   { 204, 4, 26, 28, 0xf000, 0x0 }, { 208, 4, 27, 28, 0xf0000, 0x0 }, { 212, 4, 27, 28, 0xf00000, 0x0 }, { 216, 4, 28, 28, 0xf000000, 0x0 },
-   { 220, 4, 28, 28, 0xf0000000, 0x0 }, { 224, 4, 29, 32, 0xf, 0x0 }, { 228, 4, 29, 32, 0xf0, 0x0 }, { 232, 4, 30, 32, 0xf00, 0x0 },
-   { 236, 4, 30, 32, 0xf000, 0x0 }, { 240, 4, 31, 32, 0xf0000, 0x0 }, { 244, 4, 31, 32, 0xf00000, 0x0 }, { 248, 4, 32, 32, 0xf000000, 0x0 },
-   { 252, 4, 32, 32, 0xf0000000, 0x0 }, { 256, 4, 33, 36, 0xf, 0x0 }, { 260, 4, 33, 36, 0xf0, 0x0 }, { 264, 4, 34, 36, 0xf00, 0x0 },
-   { 268, 4, 34, 36, 0xf000, 0x0 }, { 272, 4, 35, 36, 0xf0000, 0x0 }, { 276, 4, 35, 36, 0xf00000, 0x0 }, { 280, 4, 36, 36, 0xf000000, 0x0 },
-   { 284, 4, 36, 36, 0xf0000000, 0x0 }, { 288, 4, 37, 40, 0xf, 0x0 }, { 292, 4, 37, 40, 0xf0, 0x0 }, { 296, 4, 38, 40, 0xf00, 0x0 },
-   { 300, 4, 38, 40, 0xf000, 0x0 }, { 304, 4, 39, 40, 0xf0000, 0x0 }, { 308, 4, 39, 40, 0xf00000, 0x0 }, { 312, 4, 40, 40, 0xf000000, 0x0 },
-   { 316, 4, 40, 40, 0xf0000000, 0x0 }, { 320, 4, 41, 44, 0xf, 0x0 }, { 324, 4, 41, 44, 0xf0, 0x0 }, { 328, 4, 42, 44, 0xf00, 0x0 },
-   { 332, 4, 42, 44, 0xf000, 0x0 }, { 336, 4, 43, 44, 0xf0000, 0x0 }, { 340, 4, 43, 44, 0xf00000, 0x0 }, { 344, 4, 44, 44, 0xf000000, 0x0 },
-   { 348, 4, 44, 44, 0xf0000000, 0x0 }, { 352, 4, 45, 48, 0xf, 0x0 }, { 356, 4, 45, 48, 0xf0, 0x0 }, { 360, 4, 46, 48, 0xf00, 0x0 },
-   { 364, 4, 46, 48, 0xf000, 0x0 }, { 368, 4, 47, 48, 0xf0000, 0x0 }, { 372, 4, 47, 48, 0xf00000, 0x0 }, { 376, 4, 48, 48, 0xf000000, 0x0 },
-   { 380, 4, 48, 48, 0xf0000000, 0x0 }, { 384, 4, 49, 52, 0xf, 0x0 }, { 388, 4, 49, 52, 0xf0, 0x0 }, { 392, 4, 50, 52, 0xf00, 0x0 },
-   { 396, 4, 50, 52, 0xf000, 0x0 }, { 400, 4, 51, 52, 0xf0000, 0x0 }, { 404, 4, 51, 52, 0xf00000, 0x0 }, { 408, 4, 52, 52, 0xf000000, 0x0 },
-   { 412, 4, 52, 52, 0xf0000000, 0x0 }, { 416, 4, 53, 56, 0xf, 0x0 }, { 420, 4, 53, 56, 0xf0, 0x0 }, { 424, 4, 54, 56, 0xf00, 0x0 },
-   { 428, 4, 54, 56, 0xf000, 0x0 }, { 432, 4, 55, 56, 0xf0000, 0x0 }, { 436, 4, 55, 56, 0xf00000, 0x0 }, { 440, 4, 56, 56, 0xf000000, 0x0 },
-   { 444, 4, 56, 56, 0xf0000000, 0x0 }, { 448, 4, 57, 60, 0xf, 0x0 }, { 452, 4, 57, 60, 0xf0, 0x0 }, { 456, 4, 58, 60, 0xf00, 0x0 },
-   { 460, 4, 58, 60, 0xf000, 0x0 }, { 464, 4, 59, 60, 0xf0000, 0x0 }, { 468, 4, 59, 60, 0xf00000, 0x0 }, { 472, 4, 60, 60, 0xf000000, 0x0 },
-   { 476, 4, 60, 60, 0xf0000000, 0x0 }, { 480, 4, 61, 64, 0xf, 0x0 }, { 484, 4, 61, 64, 0xf0, 0x0 }, { 488, 4, 62, 64, 0xf00, 0x0 },
-   { 492, 4, 62, 64, 0xf000, 0x0 }, { 496, 4, 63, 64, 0xf0000, 0x0 }, { 500, 4, 63, 64, 0xf00000, 0x0 }, { 504, 4, 64, 64, 0xf000000, 0x0 },
-   { 508, 4, 64, 64, 0xf0000000, 0x0 },
+   { 0, 4 }, { 0, 512 }, { 4, 4 }, { 8, 4 }, { 12, 4 }, { 16, 4 }, { 20, 4 }, { 24, 4 },
+   { 28, 4 }, { 32, 4 }, { 36, 4 }, { 40, 4 }, { 44, 4 }, { 48, 4 }, { 52, 4 }, { 56, 4 },
+   { 60, 4 }, { 64, 4 }, { 68, 4 }, { 72, 4 }, { 76, 4 }, { 80, 4 }, { 84, 4 }, { 88, 4 },
+   { 92, 4 }, { 96, 4 }, { 100, 4 }, { 104, 4 }, { 108, 4 }, { 112, 4 }, { 116, 4 }, { 120, 4 },
+   { 124, 4 }, { 128, 4 }, { 132, 4 }, { 136, 4 }, { 140, 4 }, { 144, 4 }, { 148, 4 }, { 152, 4 },
+   { 156, 4 }, { 160, 4 }, { 164, 4 }, { 168, 4 }, { 172, 4 }, { 176, 4 }, { 180, 4 }, { 184, 4 },
+   { 188, 4 }, { 192, 4 }, { 196, 4 }, { 200, 4 }, { 204, 4 }, { 208, 4 }, { 212, 4 }, { 216, 4 },
+   { 220, 4 }, { 224, 4 }, { 228, 4 }, { 232, 4 }, { 236, 4 }, { 240, 4 }, { 244, 4 }, { 248, 4 },
+   { 252, 4 }, { 256, 4 }, { 260, 4 }, { 264, 4 }, { 268, 4 }, { 272, 4 }, { 276, 4 }, { 280, 4 },
+   { 284, 4 }, { 288, 4 }, { 292, 4 }, { 296, 4 }, { 300, 4 }, { 304, 4 }, { 308, 4 }, { 312, 4 },
+   { 316, 4 }, { 320, 4 }, { 324, 4 }, { 328, 4 }, { 332, 4 }, { 336, 4 }, { 340, 4 }, { 344, 4 },
+   { 348, 4 }, { 352, 4 }, { 356, 4 }, { 360, 4 }, { 364, 4 }, { 368, 4 }, { 372, 4 }, { 376, 4 },
+   { 380, 4 }, { 384, 4 }, { 388, 4 }, { 392, 4 }, { 396, 4 }, { 400, 4 }, { 404, 4 }, { 408, 4 },
+   { 412, 4 }, { 416, 4 }, { 420, 4 }, { 424, 4 }, { 428, 4 }, { 432, 4 }, { 436, 4 }, { 440, 4 },
+   { 444, 4 }, { 448, 4 }, { 452, 4 }, { 456, 4 }, { 460, 4 }, { 464, 4 }, { 468, 4 }, { 472, 4 },
+   { 476, 4 }, { 480, 4 }, { 484, 4 }, { 488, 4 }, { 492, 4 }, { 496, 4 }, { 500, 4 }, { 504, 4 },
+   { 508, 4 },
 };
 } // namespace InLifProfileCsFlagsMsbData
 
@@ -2209,8 +2023,6 @@ Raw512 InLifProfileCsFlagsMsb::allFieldsMask() const {
    metaInfo.trace( "virtual Raw512 %::allFieldsMask() const", chipType, variant_ );
    return allFieldsMask( chipType, variant_ );
 }
-
-InLifProfileCsFlagsMsb::WithStorage::~WithStorage() = default;
 
 // ---- IppaVtecsAction
 
@@ -2232,7 +2044,7 @@ constexpr U32 masks[] = {
    0x1fff,
 };
 constexpr AsicUtils::FieldRow rows[] = {
-   { 0, 13, 2, 4, 0x1fff, 0x0 },
+   { 0, 13 },
 };
 } // namespace IppaVtecsActionData
 
@@ -2245,8 +2057,6 @@ U32 IppaVtecsAction::allFieldsMask() const {
    metaInfo.trace( "virtual U32 %::allFieldsMask() const", chipType, variant_ );
    return allFieldsMask( chipType, variant_ );
 }
-
-IppaVtecsAction::WithStorage::~WithStorage() = default;
 
 // ---- IppbFlpLePd0
 
@@ -2274,9 +2084,8 @@ constexpr U32 masks[] = {
    0xffffffff, 0xffffffff, 0xffffffff, 0xffffffff, 0xffffffff, 0xffff, 0x0, 0x0,
 };
 constexpr AsicUtils::FieldRow rows[] = {
-   { 0, 32, 4, 4, 0xffffffff, 0x0 }, { 0, 176, 22, 24, 0, 0 }, { 16, 1, 3, 4, 0x10000, 0x0 }, { 32, 64, 12, 12, 0, 0 },
-   { 96, 80, 22, 24, 0, 0 }, { 176, 40, 27, 28, 0, 0 }, { 0, 32, 4, 4, 0xffffffff, 0x0 }, { 0, 176, 22, 24, 0, 0 },
-   { 16, 1, 3, 4, 0x10000, 0x0 }, { 32, 64, 12, 12, 0, 0 }, { 96, 80, 22, 24, 0, 0 }, { 0, 0, 0xffff, 0xffff, 0, 0 },
+   { 0, 32 }, { 0, 176 }, { 16, 1 }, { 32, 64 }, { 96, 80 }, { 176, 40 }, { 0, 32 }, { 0, 176 },
+   { 16, 1 }, { 32, 64 }, { 96, 80 }, {},
 };
 } // namespace IppbFlpLePd0Data
 
@@ -2289,8 +2098,6 @@ Raw256 IppbFlpLePd0::allFieldsMask() const {
    metaInfo.trace( "virtual Raw256 %::allFieldsMask() const", chipType, variant_ );
    return allFieldsMask( chipType, variant_ );
 }
-
-IppbFlpLePd0::WithStorage::~WithStorage() = default;
 
 // ---- IppbFlpLePd1
 
@@ -2318,9 +2125,8 @@ constexpr U32 masks[] = {
    0xffffffff, 0xffffffff, 0xffffffff, 0xffffffff, 0xffffffff, 0xffff, 0x0, 0x0,
 };
 constexpr AsicUtils::FieldRow rows[] = {
-   { 0, 32, 4, 4, 0xffffffff, 0x0 }, { 0, 176, 22, 24, 0, 0 }, { 16, 1, 3, 4, 0x10000, 0x0 }, { 32, 64, 12, 12, 0, 0 },
-   { 96, 80, 22, 24, 0, 0 }, { 176, 40, 27, 28, 0, 0 }, { 0, 32, 4, 4, 0xffffffff, 0x0 }, { 0, 176, 22, 24, 0, 0 },
-   { 16, 1, 3, 4, 0x10000, 0x0 }, { 32, 64, 12, 12, 0, 0 }, { 96, 80, 22, 24, 0, 0 }, { 0, 0, 0xffff, 0xffff, 0, 0 },
+   { 0, 32 }, { 0, 176 }, { 16, 1 }, { 32, 64 }, { 96, 80 }, { 176, 40 }, { 0, 32 }, { 0, 176 },
+   { 16, 1 }, { 32, 64 }, { 96, 80 }, {},
 };
 } // namespace IppbFlpLePd1Data
 
@@ -2333,8 +2139,6 @@ Raw256 IppbFlpLePd1::allFieldsMask() const {
    metaInfo.trace( "virtual Raw256 %::allFieldsMask() const", chipType, variant_ );
    return allFieldsMask( chipType, variant_ );
 }
-
-IppbFlpLePd1::WithStorage::~WithStorage() = default;
 
 // ---- IppbFlpLePd2
 
@@ -2362,9 +2166,8 @@ constexpr U32 masks[] = {
    0xffffffff, 0xffffffff, 0xffffffff, 0xffffffff, 0xffffffff, 0xffff, 0x0, 0x0,
 };
 constexpr AsicUtils::FieldRow rows[] = {
-   { 0, 32, 4, 4, 0xffffffff, 0x0 }, { 0, 176, 22, 24, 0, 0 }, { 16, 1, 3, 4, 0x10000, 0x0 }, { 32, 64, 12, 12, 0, 0 },
-   { 96, 80, 22, 24, 0, 0 }, { 176, 40, 27, 28, 0, 0 }, { 0, 32, 4, 4, 0xffffffff, 0x0 }, { 0, 176, 22, 24, 0, 0 },
-   { 16, 1, 3, 4, 0x10000, 0x0 }, { 32, 64, 12, 12, 0, 0 }, { 96, 80, 22, 24, 0, 0 }, { 0, 0, 0xffff, 0xffff, 0, 0 },
+   { 0, 32 }, { 0, 176 }, { 16, 1 }, { 32, 64 }, { 96, 80 }, { 176, 40 }, { 0, 32 }, { 0, 176 },
+   { 16, 1 }, { 32, 64 }, { 96, 80 }, {},
 };
 } // namespace IppbFlpLePd2Data
 
@@ -2377,8 +2180,6 @@ Raw256 IppbFlpLePd2::allFieldsMask() const {
    metaInfo.trace( "virtual Raw256 %::allFieldsMask() const", chipType, variant_ );
    return allFieldsMask( chipType, variant_ );
 }
-
-IppbFlpLePd2::WithStorage::~WithStorage() = default;
 
 // ---- IppbFlpPortProfileMap
 
@@ -2400,7 +2201,7 @@ constexpr U32 masks[] = {
    0x1f,
 };
 constexpr AsicUtils::FieldRow rows[] = {
-   { 0, 5, 1, 4, 0x1f, 0x0 },
+   { 0, 5 },
 };
 } // namespace IppbFlpPortProfileMapData
 
@@ -2413,8 +2214,6 @@ U32 IppbFlpPortProfileMap::allFieldsMask() const {
    metaInfo.trace( "virtual U32 %::allFieldsMask() const", chipType, variant_ );
    return allFieldsMask( chipType, variant_ );
 }
-
-IppbFlpPortProfileMap::WithStorage::~WithStorage() = default;
 
 // ---- IppbFlpacsAction
 
@@ -2436,7 +2235,7 @@ constexpr U32 masks[] = {
    0x1fff,
 };
 constexpr AsicUtils::FieldRow rows[] = {
-   { 0, 13, 2, 4, 0x1fff, 0x0 },
+   { 0, 13 },
 };
 } // namespace IppbFlpacsActionData
 
@@ -2449,8 +2248,6 @@ U32 IppbFlpacsAction::allFieldsMask() const {
    metaInfo.trace( "virtual U32 %::allFieldsMask() const", chipType, variant_ );
    return allFieldsMask( chipType, variant_ );
 }
-
-IppbFlpacsAction::WithStorage::~WithStorage() = default;
 
 // ---- IppbFlpbResContextEnablers
 
@@ -2506,33 +2303,20 @@ constexpr U32 masks[] = {
    0xffffffff, 0x7, 0xffffffff, 0x1f, 0xffffffff, 0xff,
 };
 constexpr AsicUtils::FieldRow rows[] = {
-   { 0, 1, 1, 4, 0x1, 0x0 }, { 1, 1, 1, 4, 0x2, 0x0 }, { 2, 1, 1, 4, 0x4, 0x0 }, { 3, 1, 1, 4, 0x8, 0x0 },
-   { 4, 1, 1, 4, 0x10, 0x0 }, { 5, 1, 1, 4, 0x20, 0x0 }, { 6, 1, 1, 4, 0x40, 0x0 }, { 7, 1, 1, 4, 0x80, 0x0 },
-   { 8, 1, 2, 4, 0x100, 0x0 }, { 9, 4, 2, 4, 0x1e00, 0x0 }, { 13, 1, 2, 4, 0x2000, 0x0 }, { 14, 1, 2, 4, 0x4000, 0x0 },
-   { 15, 1, 2, 4, 0x8000, 0x0 }, { 16, 1, 3, 4, 0x10000, 0x0 }, { 17, 1, 3, 4, 0x20000, 0x0 }, { 18, 1, 3, 4, 0x40000, 0x0 },
-   { 19, 1, 3, 4, 0x80000, 0x0 }, { 20, 1, 3, 4, 0x100000, 0x0 }, { 21, 1, 3, 4, 0x200000, 0x0 }, { 22, 2, 3, 4, 0xc00000, 0x0 },
-   { 24, 1, 4, 4, 0x1000000, 0x0 }, { 25, 1, 4, 4, 0x2000000, 0x0 }, { 26, 1, 4, 4, 0x4000000, 0x0 }, { 27, 1, 4, 4, 0x8000000, 0x0 },
-   { 28, 1, 4, 4, 0x10000000, 0x0 }, { 29, 1, 4, 4, 0x20000000, 0x0 }, { 30, 1, 4, 4, 0x40000000, 0x0 }, { 31, 1, 4, 4, 0x80000000, 0x0 },
-   { 32, 1, 5, 8, 0x1, 0x0 }, { 33, 1, 5, 8, 0x2, 0x0 }, { 34, 1, 5, 8, 0x4, 0x0 }, { 0, 0, 0xffff, 0xffff, 0, 0 },
-   { 0, 0, 0xffff, 0xffff, 0, 0 }, { 0, 0, 0xffff, 0xffff, 0, 0 }, { 0, 0, 0xffff, 0xffff, 0, 0 }, { 0, 1, 1, 4, 0x1, 0x0 },
-   { 1, 1, 1, 4, 0x2, 0x0 }, { 2, 1, 1, 4, 0x4, 0x0 }, { 3, 1, 1, 4, 0x8, 0x0 }, { 4, 1, 1, 4, 0x10, 0x0 },
-   { 5, 1, 1, 4, 0x20, 0x0 }, { 6, 1, 1, 4, 0x40, 0x0 }, { 7, 1, 1, 4, 0x80, 0x0 }, { 8, 1, 2, 4, 0x100, 0x0 },
-   { 9, 4, 2, 4, 0x1e00, 0x0 }, { 13, 1, 2, 4, 0x2000, 0x0 }, { 14, 1, 2, 4, 0x4000, 0x0 }, { 15, 1, 2, 4, 0x8000, 0x0 },
-   { 16, 1, 3, 4, 0x10000, 0x0 }, { 17, 1, 3, 4, 0x20000, 0x0 }, { 18, 1, 3, 4, 0x40000, 0x0 }, { 19, 1, 3, 4, 0x80000, 0x0 },
-   { 20, 1, 3, 4, 0x100000, 0x0 }, { 21, 1, 3, 4, 0x200000, 0x0 }, { 22, 2, 3, 4, 0xc00000, 0x0 }, { 24, 1, 4, 4, 0x1000000, 0x0 },
-   { 25, 1, 4, 4, 0x2000000, 0x0 }, { 26, 1, 4, 4, 0x4000000, 0x0 }, { 27, 1, 4, 4, 0x8000000, 0x0 }, { 28, 1, 4, 4, 0x10000000, 0x0 },
-   { 29, 1, 4, 4, 0x20000000, 0x0 }, { 30, 1, 4, 4, 0x40000000, 0x0 }, { 31, 1, 4, 4, 0x80000000, 0x0 }, { 32, 1, 5, 8, 0x1, 0x0 },
-   { 33, 1, 5, 8, 0x2, 0x0 }, { 0, 0, 0xffff, 0xffff, 0, 0 }, { 34, 1, 5, 8, 0x4, 0x0 }, { 35, 2, 5, 8, 0x18, 0x0 },
-   { 0, 0, 0xffff, 0xffff, 0, 0 }, { 0, 0, 0xffff, 0xffff, 0, 0 }, { 0, 1, 1, 4, 0x1, 0x0 }, { 1, 1, 1, 4, 0x2, 0x0 },
-   { 2, 1, 1, 4, 0x4, 0x0 }, { 3, 1, 1, 4, 0x8, 0x0 }, { 4, 1, 1, 4, 0x10, 0x0 }, { 5, 1, 1, 4, 0x20, 0x0 },
-   { 6, 1, 1, 4, 0x40, 0x0 }, { 7, 1, 1, 4, 0x80, 0x0 }, { 8, 1, 2, 4, 0x100, 0x0 }, { 9, 4, 2, 4, 0x1e00, 0x0 },
-   { 13, 1, 2, 4, 0x2000, 0x0 }, { 14, 1, 2, 4, 0x4000, 0x0 }, { 15, 1, 2, 4, 0x8000, 0x0 }, { 16, 1, 3, 4, 0x10000, 0x0 },
-   { 17, 1, 3, 4, 0x20000, 0x0 }, { 18, 1, 3, 4, 0x40000, 0x0 }, { 19, 1, 3, 4, 0x80000, 0x0 }, { 20, 1, 3, 4, 0x100000, 0x0 },
-   { 21, 1, 3, 4, 0x200000, 0x0 }, { 22, 2, 3, 4, 0xc00000, 0x0 }, { 24, 1, 4, 4, 0x1000000, 0x0 }, { 25, 1, 4, 4, 0x2000000, 0x0 },
-   { 26, 1, 4, 4, 0x4000000, 0x0 }, { 27, 1, 4, 4, 0x8000000, 0x0 }, { 28, 1, 4, 4, 0x10000000, 0x0 }, { 29, 1, 4, 4, 0x20000000, 0x0 },
-   { 30, 1, 4, 4, 0x40000000, 0x0 }, { 31, 1, 4, 4, 0x80000000, 0x0 }, { 32, 1, 5, 8, 0x1, 0x0 }, { 33, 1, 5, 8, 0x2, 0x0 },
-   { 0, 0, 0xffff, 0xffff, 0, 0 }, { 34, 1, 5, 8, 0x4, 0x0 }, { 35, 2, 5, 8, 0x18, 0x0 }, { 37, 1, 5, 8, 0x20, 0x0 },
-   { 38, 2, 5, 8, 0xc0, 0x0 },
+   { 0, 1 }, { 1, 1 }, { 2, 1 }, { 3, 1 }, { 4, 1 }, { 5, 1 }, { 6, 1 }, { 7, 1 },
+   { 8, 1 }, { 9, 4 }, { 13, 1 }, { 14, 1 }, { 15, 1 }, { 16, 1 }, { 17, 1 }, { 18, 1 },
+   { 19, 1 }, { 20, 1 }, { 21, 1 }, { 22, 2 }, { 24, 1 }, { 25, 1 }, { 26, 1 }, { 27, 1 },
+   { 28, 1 }, { 29, 1 }, { 30, 1 }, { 31, 1 }, { 32, 1 }, { 33, 1 }, { 34, 1 }, {},
+   {}, {}, {}, { 0, 1 }, { 1, 1 }, { 2, 1 }, { 3, 1 }, { 4, 1 },
+   { 5, 1 }, { 6, 1 }, { 7, 1 }, { 8, 1 }, { 9, 4 }, { 13, 1 }, { 14, 1 }, { 15, 1 },
+   { 16, 1 }, { 17, 1 }, { 18, 1 }, { 19, 1 }, { 20, 1 }, { 21, 1 }, { 22, 2 }, { 24, 1 },
+   { 25, 1 }, { 26, 1 }, { 27, 1 }, { 28, 1 }, { 29, 1 }, { 30, 1 }, { 31, 1 }, { 32, 1 },
+   { 33, 1 }, {}, { 34, 1 }, { 35, 2 }, {}, {}, { 0, 1 }, { 1, 1 },
+   { 2, 1 }, { 3, 1 }, { 4, 1 }, { 5, 1 }, { 6, 1 }, { 7, 1 }, { 8, 1 }, { 9, 4 },
+   { 13, 1 }, { 14, 1 }, { 15, 1 }, { 16, 1 }, { 17, 1 }, { 18, 1 }, { 19, 1 }, { 20, 1 },
+   { 21, 1 }, { 22, 2 }, { 24, 1 }, { 25, 1 }, { 26, 1 }, { 27, 1 }, { 28, 1 }, { 29, 1 },
+   { 30, 1 }, { 31, 1 }, { 32, 1 }, { 33, 1 }, {}, { 34, 1 }, { 35, 2 }, { 37, 1 },
+   { 38, 2 },
 };
 } // namespace IppbFlpbResContextEnablersData
 
@@ -2545,8 +2329,6 @@ U64 IppbFlpbResContextEnablers::allFieldsMask() const {
    metaInfo.trace( "virtual U64 %::allFieldsMask() const", chipType, variant_ );
    return allFieldsMask( chipType, variant_ );
 }
-
-IppbFlpbResContextEnablers::WithStorage::~WithStorage() = default;
 
 // ---- IppbIpv4ActionProfilesCfg
 
@@ -2584,15 +2366,11 @@ constexpr U32 masks[] = {
    0xffffffff, 0xffffff, 0xffffffff, 0xffffff,
 };
 constexpr AsicUtils::FieldRow rows[] = {
-   { 0, 4, 1, 4, 0xf, 0x0 }, { 4, 3, 1, 4, 0x70, 0x0 }, { 7, 4, 2, 4, 0x780, 0x0 }, { 11, 3, 2, 4, 0x3800, 0x0 },
-   { 14, 4, 3, 4, 0x3c000, 0x0 }, { 18, 3, 3, 4, 0x1c0000, 0x0 }, { 21, 4, 4, 4, 0x1e00000, 0x0 }, { 25, 3, 4, 4, 0xe000000, 0x0 },
-   { 28, 4, 4, 4, 0xf0000000, 0x0 }, { 32, 3, 5, 8, 0x7, 0x0 }, { 35, 4, 5, 8, 0x78, 0x0 }, { 39, 3, 6, 8, 0x380, 0x0 },
-   { 42, 4, 6, 8, 0x3c00, 0x0 }, { 46, 3, 7, 8, 0x1c000, 0x0 }, { 49, 4, 7, 8, 0x1e0000, 0x0 }, { 53, 3, 7, 8, 0xe00000, 0x0 },
-   { 0, 0, 0xffff, 0xffff, 0, 0 }, { 0, 4, 1, 4, 0xf, 0x0 }, { 4, 3, 1, 4, 0x70, 0x0 }, { 7, 4, 2, 4, 0x780, 0x0 },
-   { 0, 0, 0xffff, 0xffff, 0, 0 }, { 14, 4, 3, 4, 0x3c000, 0x0 }, { 18, 3, 3, 4, 0x1c0000, 0x0 }, { 21, 4, 4, 4, 0x1e00000, 0x0 },
-   { 25, 3, 4, 4, 0xe000000, 0x0 }, { 28, 4, 4, 4, 0xf0000000, 0x0 }, { 32, 3, 5, 8, 0x7, 0x0 }, { 35, 4, 5, 8, 0x78, 0x0 },
-   { 39, 3, 6, 8, 0x380, 0x0 }, { 42, 4, 6, 8, 0x3c00, 0x0 }, { 46, 3, 7, 8, 0x1c000, 0x0 }, { 49, 4, 7, 8, 0x1e0000, 0x0 },
-   { 53, 3, 7, 8, 0xe00000, 0x0 }, { 11, 3, 2, 4, 0x3800, 0x0 },
+   { 0, 4 }, { 4, 3 }, { 7, 4 }, { 11, 3 }, { 14, 4 }, { 18, 3 }, { 21, 4 }, { 25, 3 },
+   { 28, 4 }, { 32, 3 }, { 35, 4 }, { 39, 3 }, { 42, 4 }, { 46, 3 }, { 49, 4 }, { 53, 3 },
+   {}, { 0, 4 }, { 4, 3 }, { 7, 4 }, {}, { 14, 4 }, { 18, 3 }, { 21, 4 },
+   { 25, 3 }, { 28, 4 }, { 32, 3 }, { 35, 4 }, { 39, 3 }, { 42, 4 }, { 46, 3 }, { 49, 4 },
+   { 53, 3 }, { 11, 3 },
 };
 } // namespace IppbIpv4ActionProfilesCfgData
 
@@ -2605,8 +2383,6 @@ U64 IppbIpv4ActionProfilesCfg::allFieldsMask() const {
    metaInfo.trace( "virtual U64 %::allFieldsMask() const", chipType, variant_ );
    return allFieldsMask( chipType, variant_ );
 }
-
-IppbIpv4ActionProfilesCfg::WithStorage::~WithStorage() = default;
 
 // ---- IppbIpv6ActionProfiles0Cfg
 
@@ -2647,11 +2423,9 @@ constexpr U32 masks[] = {
    0xffffffff, 0xffffffff, 0x3f, 0x0,
 };
 constexpr AsicUtils::FieldRow rows[] = {
-   { 0, 4, 1, 4, 0xf, 0x0 }, { 4, 3, 1, 4, 0x70, 0x0 }, { 7, 4, 2, 4, 0x780, 0x0 }, { 11, 3, 2, 4, 0x3800, 0x0 },
-   { 14, 4, 3, 4, 0x3c000, 0x0 }, { 18, 3, 3, 4, 0x1c0000, 0x0 }, { 21, 4, 4, 4, 0x1e00000, 0x0 }, { 25, 3, 4, 4, 0xe000000, 0x0 },
-   { 28, 4, 4, 4, 0xf0000000, 0x0 }, { 32, 3, 5, 8, 0x7, 0x0 }, { 35, 4, 5, 8, 0x78, 0x0 }, { 39, 3, 6, 8, 0x380, 0x0 },
-   { 42, 4, 6, 8, 0x3c00, 0x0 }, { 46, 3, 7, 8, 0x1c000, 0x0 }, { 49, 4, 7, 8, 0x1e0000, 0x0 }, { 53, 3, 7, 8, 0xe00000, 0x0 },
-   { 56, 4, 8, 8, 0xf000000, 0x0 }, { 60, 3, 8, 8, 0x70000000, 0x0 }, { 63, 4, 9, 12, 0x7, 0x80000000 }, { 67, 3, 9, 12, 0x38, 0x0 },
+   { 0, 4 }, { 4, 3 }, { 7, 4 }, { 11, 3 }, { 14, 4 }, { 18, 3 }, { 21, 4 }, { 25, 3 },
+   { 28, 4 }, { 32, 3 }, { 35, 4 }, { 39, 3 }, { 42, 4 }, { 46, 3 }, { 49, 4 }, { 53, 3 },
+   { 56, 4 }, { 60, 3 }, { 63, 4 }, { 67, 3 },
 };
 } // namespace IppbIpv6ActionProfiles0CfgData
 
@@ -2664,8 +2438,6 @@ Raw128 IppbIpv6ActionProfiles0Cfg::allFieldsMask() const {
    metaInfo.trace( "virtual Raw128 %::allFieldsMask() const", chipType, variant_ );
    return allFieldsMask( chipType, variant_ );
 }
-
-IppbIpv6ActionProfiles0Cfg::WithStorage::~WithStorage() = default;
 
 // ---- IppbLifMcBridgeFallbackAllow
 
@@ -2684,7 +2456,7 @@ constexpr U32 masks[] = {
    0xffffffff, 0xffffffff, 0xffffffff, 0xffffffff, 0xffffffff, 0xffffffff, 0xffffffff, 0xffffffff,
 };
 constexpr AsicUtils::FieldRow rows[] = {
-   { 0, 256, 32, 32, 0, 0 },
+   { 0, 256 },
 };
 } // namespace IppbLifMcBridgeFallbackAllowData
 
@@ -2697,8 +2469,6 @@ Raw256 IppbLifMcBridgeFallbackAllow::allFieldsMask() const {
    metaInfo.trace( "virtual Raw256 %::allFieldsMask() const", chipType, variant_ );
    return allFieldsMask( chipType, variant_ );
 }
-
-IppbLifMcBridgeFallbackAllow::WithStorage::~WithStorage() = default;
 
 // ---- IppbProgTrapCfg
 
@@ -2737,11 +2507,9 @@ constexpr U32 masks[] = {
    0x3f, 0x0, 0x0, 0x0, 0x0, 0x0, 0x0, 0x0,
 };
 constexpr AsicUtils::FieldRow rows[] = {
-   { 0, 48, 6, 8, 0, 0 }, { 48, 6, 7, 8, 0x3f0000, 0x0 }, { 54, 48, 13, 16, 0, 0 }, { 102, 6, 14, 16, 0xfc0, 0x0 },
-   { 108, 16, 16, 16, 0xffff000, 0x0 }, { 124, 8, 17, 20, 0xf, 0xf0000000 }, { 132, 8, 18, 20, 0xff0, 0x0 }, { 140, 8, 19, 20, 0xff000, 0x0 },
-   { 148, 32, 23, 24, 0xfffff, 0xfff00000 }, { 180, 32, 27, 28, 0xfffff, 0xfff00000 }, { 212, 9, 28, 28, 0x1ff00000, 0x0 }, { 221, 9, 29, 32, 0x3f, 0xe0000000 },
-   { 230, 8, 30, 32, 0x3fc0, 0x0 }, { 238, 9, 31, 32, 0x7fc000, 0x0 }, { 247, 4, 32, 32, 0x7800000, 0x0 }, { 251, 3, 32, 32, 0x38000000, 0x0 },
-   { 254, 8, 33, 36, 0x3f, 0xc0000000 },
+   { 0, 48 }, { 48, 6 }, { 54, 48 }, { 102, 6 }, { 108, 16 }, { 124, 8 }, { 132, 8 }, { 140, 8 },
+   { 148, 32 }, { 180, 32 }, { 212, 9 }, { 221, 9 }, { 230, 8 }, { 238, 9 }, { 247, 4 }, { 251, 3 },
+   { 254, 8 },
 };
 } // namespace IppbProgTrapCfgData
 
@@ -2754,8 +2522,6 @@ Raw512 IppbProgTrapCfg::allFieldsMask() const {
    metaInfo.trace( "virtual Raw512 %::allFieldsMask() const", chipType, variant_ );
    return allFieldsMask( chipType, variant_ );
 }
-
-IppbProgTrapCfg::WithStorage::~WithStorage() = default;
 
 // ---- IppbTtl0ActionProfile
 
@@ -2783,8 +2549,7 @@ constexpr U32 masks[] = {
    0xffffffff, 0xffffffff,
 };
 constexpr AsicUtils::FieldRow rows[] = {
-   { 0, 4, 1, 4, 0xf, 0x0 }, { 0, 16, 2, 4, 0xffff, 0x0 }, { 4, 3, 1, 4, 0x70, 0x0 }, { 7, 9, 2, 4, 0xff80, 0x0 },
-   { 16, 16, 4, 4, 0xffff0000, 0x0 }, { 32, 16, 6, 8, 0xffff, 0x0 }, { 48, 16, 8, 8, 0xffff0000, 0x0 },
+   { 0, 4 }, { 0, 16 }, { 4, 3 }, { 7, 9 }, { 16, 16 }, { 32, 16 }, { 48, 16 },
 };
 } // namespace IppbTtl0ActionProfileData
 
@@ -2797,8 +2562,6 @@ U64 IppbTtl0ActionProfile::allFieldsMask() const {
    metaInfo.trace( "virtual U64 %::allFieldsMask() const", chipType, variant_ );
    return allFieldsMask( chipType, variant_ );
 }
-
-IppbTtl0ActionProfile::WithStorage::~WithStorage() = default;
 
 // ---- IppcInLifProfileCsFlags
 
@@ -2826,7 +2589,7 @@ constexpr U32 masks[] = {
    0xf,
 };
 constexpr AsicUtils::FieldRow rows[] = {
-   { 0, 4, 1, 4, 0xf, 0x0 },
+   { 0, 4 },
 };
 } // namespace IppcInLifProfileCsFlagsData
 
@@ -2839,8 +2602,6 @@ U32 IppcInLifProfileCsFlags::allFieldsMask() const {
    metaInfo.trace( "virtual U32 %::allFieldsMask() const", chipType, variant_ );
    return allFieldsMask( chipType, variant_ );
 }
-
-IppcInLifProfileCsFlags::WithStorage::~WithStorage() = default;
 
 // ---- IppdFerTrapCfg
 
@@ -2864,7 +2625,7 @@ constexpr U32 masks[] = {
    0xffff,
 };
 constexpr AsicUtils::FieldRow rows[] = {
-   { 0, 9, 2, 4, 0x1ff, 0x0 }, { 9, 4, 2, 4, 0x1e00, 0x0 }, { 13, 3, 2, 4, 0xe000, 0x0 },
+   { 0, 9 }, { 9, 4 }, { 13, 3 },
 };
 } // namespace IppdFerTrapCfgData
 
@@ -2877,8 +2638,6 @@ U32 IppdFerTrapCfg::allFieldsMask() const {
    metaInfo.trace( "virtual U32 %::allFieldsMask() const", chipType, variant_ );
    return allFieldsMask( chipType, variant_ );
 }
-
-IppdFerTrapCfg::WithStorage::~WithStorage() = default;
 
 // ---- IppdInLifProfileMap
 
@@ -2898,7 +2657,7 @@ constexpr U32 masks[] = {
    0xff,
 };
 constexpr AsicUtils::FieldRow rows[] = {
-   { 0, 8, 1, 4, 0xff, 0x0 },
+   { 0, 8 },
 };
 } // namespace IppdInLifProfileMapData
 
@@ -2911,8 +2670,6 @@ U32 IppdInLifProfileMap::allFieldsMask() const {
    metaInfo.trace( "virtual U32 %::allFieldsMask() const", chipType, variant_ );
    return allFieldsMask( chipType, variant_ );
 }
-
-IppdInLifProfileMap::WithStorage::~WithStorage() = default;
 
 // ---- IppdInLifProfileTable
 
@@ -2937,8 +2694,7 @@ constexpr U32 masks[] = {
    0xf, 0x3f,
 };
 constexpr AsicUtils::FieldRow rows[] = {
-   { 0, 2, 1, 4, 0x3, 0x0 }, { 2, 2, 1, 4, 0xc, 0x0 }, { 0, 0, 0xffff, 0xffff, 0, 0 }, { 0, 0, 0xffff, 0xffff, 0, 0 },
-   { 0, 0, 0xffff, 0xffff, 0, 0 }, { 4, 2, 1, 4, 0x30, 0x0 }, { 0, 2, 1, 4, 0x3, 0x0 }, { 2, 2, 1, 4, 0xc, 0x0 },
+   { 0, 2 }, { 2, 2 }, {}, {}, {}, { 4, 2 }, { 0, 2 }, { 2, 2 },
 };
 } // namespace IppdInLifProfileTableData
 
@@ -2951,8 +2707,6 @@ U32 IppdInLifProfileTable::allFieldsMask() const {
    metaInfo.trace( "virtual U32 %::allFieldsMask() const", chipType, variant_ );
    return allFieldsMask( chipType, variant_ );
 }
-
-IppdInLifProfileTable::WithStorage::~WithStorage() = default;
 
 // ---- IppdPphAttributesByEei
 
@@ -2976,7 +2730,7 @@ constexpr U32 masks[] = {
    0x7f,
 };
 constexpr AsicUtils::FieldRow rows[] = {
-   { 0, 1, 1, 4, 0x1, 0x0 }, { 1, 4, 1, 4, 0x1e, 0x0 }, { 5, 2, 1, 4, 0x60, 0x0 },
+   { 0, 1 }, { 1, 4 }, { 5, 2 },
 };
 } // namespace IppdPphAttributesByEeiData
 
@@ -2989,8 +2743,6 @@ U32 IppdPphAttributesByEei::allFieldsMask() const {
    metaInfo.trace( "virtual U32 %::allFieldsMask() const", chipType, variant_ );
    return allFieldsMask( chipType, variant_ );
 }
-
-IppdPphAttributesByEei::WithStorage::~WithStorage() = default;
 
 // ---- IppeRecycFwdProfileMapping
 
@@ -3057,15 +2809,11 @@ constexpr AsicUtils::FieldRun runs[] = {
    { "recycFwdStrength", recycFwdStrengthRun },
 };
 constexpr AsicUtils::FieldRow rows[] = {
-   { 0, 9, 2, 4, 0x1ff, 0x0 }, { 0, 9, 2, 4, 0x1ff, 0x0 }, { 0, 13, 2, 4, 0x1fff, 0x0 }, { 0, 208, 26, 28, 0, 0 },
-   { 9, 4, 2, 4, 0x1e00, 0x0 }, { 9, 4, 2, 4, 0x1e00, 0x0 }, { 13, 9, 3, 4, 0x3fe000, 0x0 }, { 22, 4, 4, 4, 0x3c00000, 0x0 },
-   { 26, 9, 5, 8, 0x7, 0xfc000000 }, { 35, 4, 5, 8, 0x78, 0x0 }, { 39, 9, 6, 8, 0xff80, 0x0 }, { 48, 4, 7, 8, 0xf0000, 0x0 },
-   { 52, 9, 8, 8, 0x1ff00000, 0x0 }, { 61, 4, 9, 12, 0x1, 0xe0000000 }, { 65, 9, 10, 12, 0x3fe, 0x0 }, { 74, 4, 10, 12, 0x3c00, 0x0 },
-   { 78, 9, 11, 12, 0x7fc000, 0x0 }, { 87, 4, 12, 12, 0x7800000, 0x0 }, { 91, 9, 13, 16, 0xf, 0xf8000000 }, { 100, 4, 13, 16, 0xf0, 0x0 },
-   { 104, 9, 15, 16, 0x1ff00, 0x0 }, { 113, 4, 15, 16, 0x1e0000, 0x0 }, { 117, 9, 16, 16, 0x3fe00000, 0x0 }, { 126, 4, 17, 20, 0x3, 0xc0000000 },
-   { 130, 9, 18, 20, 0x7fc, 0x0 }, { 139, 4, 18, 20, 0x7800, 0x0 }, { 143, 9, 19, 20, 0xff8000, 0x0 }, { 152, 4, 20, 20, 0xf000000, 0x0 },
-   { 156, 9, 21, 24, 0x1f, 0xf0000000 }, { 165, 4, 22, 24, 0x1e0, 0x0 }, { 169, 9, 23, 24, 0x3fe00, 0x0 }, { 178, 4, 23, 24, 0x3c0000, 0x0 },
-   { 182, 9, 24, 24, 0x7fc00000, 0x0 }, { 191, 4, 25, 28, 0x7, 0x80000000 }, { 195, 9, 26, 28, 0xff8, 0x0 }, { 204, 4, 26, 28, 0xf000, 0x0 },
+   { 0, 9 }, { 0, 9 }, { 0, 13 }, { 0, 208 }, { 9, 4 }, { 9, 4 }, { 13, 9 }, { 22, 4 },
+   { 26, 9 }, { 35, 4 }, { 39, 9 }, { 48, 4 }, { 52, 9 }, { 61, 4 }, { 65, 9 }, { 74, 4 },
+   { 78, 9 }, { 87, 4 }, { 91, 9 }, { 100, 4 }, { 104, 9 }, { 113, 4 }, { 117, 9 }, { 126, 4 },
+   { 130, 9 }, { 139, 4 }, { 143, 9 }, { 152, 4 }, { 156, 9 }, { 165, 4 }, { 169, 9 }, { 178, 4 },
+   { 182, 9 }, { 191, 4 }, { 195, 9 }, { 204, 4 },
 };
 } // namespace IppeRecycFwdProfileMappingData
 
@@ -3078,8 +2826,6 @@ Raw256 IppeRecycFwdProfileMapping::allFieldsMask() const {
    metaInfo.trace( "virtual Raw256 %::allFieldsMask() const", chipType, variant_ );
    return allFieldsMask( chipType, variant_ );
 }
-
-IppeRecycFwdProfileMapping::WithStorage::~WithStorage() = default;
 
 // ---- Ipv4PcremFwdDestPcrem
 
@@ -3145,15 +2891,11 @@ constexpr AsicUtils::TagRow tags[] = {
    { 1 << 6, 0, 291, 6, 23 },
 };
 constexpr AsicUtils::FieldRow rows[] = {
-   { 0, 9, 2, 4, 0x1ff, 0x0 }, { 9, 21, 4, 4, 0x3ffffe00, 0x0 }, { 9, 26, 5, 8, 0x7, 0xfffffe00 }, { 9, 257, 34, 36, 0, 0 },
-   { 30, 5, 5, 8, 0x7, 0xc0000000 }, { 57, 80, 18, 20, 0, 0 }, { 57, 86, 18, 20, 0, 0 }, { 137, 6, 18, 20, 0x7e00, 0x0 },
-   { 143, 3, 19, 20, 0x38000, 0x0 }, { 266, 4, 34, 36, 0x3c00, 0x0 }, { 270, 3, 35, 36, 0x1c000, 0x0 }, { 273, 17, 37, 40, 0x3, 0xfffe0000 },
-   { 290, 3, 37, 40, 0x1c, 0x0 }, { 293, 6, 38, 40, 0x7e0, 0x0 }, { 293, 6, 38, 40, 0x7e0, 0x0 }, { 299, 8, 39, 40, 0x7f800, 0x0 },
-   { 307, 1, 39, 40, 0x80000, 0x0 }, { 0, 9, 2, 4, 0x1ff, 0x0 }, { 9, 21, 4, 4, 0x3ffffe00, 0x0 }, { 9, 25, 5, 8, 0x3, 0xfffffe00 },
-   { 9, 256, 34, 36, 0, 0 }, { 30, 4, 5, 8, 0x3, 0xc0000000 }, { 56, 80, 17, 20, 0, 0 }, { 56, 86, 18, 20, 0, 0 },
-   { 136, 6, 18, 20, 0x3f00, 0x0 }, { 142, 3, 19, 20, 0x1c000, 0x0 }, { 265, 4, 34, 36, 0x1e00, 0x0 }, { 269, 3, 34, 36, 0xe000, 0x0 },
-   { 272, 16, 36, 36, 0xffff0000, 0x0 }, { 288, 3, 37, 40, 0x7, 0x0 }, { 291, 6, 38, 40, 0x1f8, 0x0 }, { 291, 6, 38, 40, 0x1f8, 0x0 },
-   { 297, 8, 39, 40, 0x1fe00, 0x0 }, { 305, 1, 39, 40, 0x20000, 0x0 },
+   { 0, 9 }, { 9, 21 }, { 9, 26 }, { 9, 257 }, { 30, 5 }, { 57, 80 }, { 57, 86 }, { 137, 6 },
+   { 143, 3 }, { 266, 4 }, { 270, 3 }, { 273, 17 }, { 290, 3 }, { 293, 6 }, { 293, 6 }, { 299, 8 },
+   { 307, 1 }, { 0, 9 }, { 9, 21 }, { 9, 25 }, { 9, 256 }, { 30, 4 }, { 56, 80 }, { 56, 86 },
+   { 136, 6 }, { 142, 3 }, { 265, 4 }, { 269, 3 }, { 272, 16 }, { 288, 3 }, { 291, 6 }, { 291, 6 },
+   { 297, 8 }, { 305, 1 },
 };
 } // namespace Ipv4PcremFwdDestPcremData
 
@@ -3166,8 +2908,6 @@ Raw512 Ipv4PcremFwdDestPcrem::allFieldsMask() const {
    metaInfo.trace( "virtual Raw512 %::allFieldsMask() const", chipType, variant_ );
    return allFieldsMask( chipType, variant_ );
 }
-
-Ipv4PcremFwdDestPcrem::WithStorage::~WithStorage() = default;
 
 // ---- MappingFwdInfoToEnTerm
 
@@ -3195,7 +2935,7 @@ constexpr U32 masks[] = {
    0xffffffff, 0xffffffff, 0xffffffff, 0xffffffff,
 };
 constexpr AsicUtils::FieldRow rows[] = {
-   { 0, 128, 16, 16, 0, 0 },
+   { 0, 128 },
 };
 } // namespace MappingFwdInfoToEnTermData
 
@@ -3208,8 +2948,6 @@ Raw128 MappingFwdInfoToEnTerm::allFieldsMask() const {
    metaInfo.trace( "virtual Raw128 %::allFieldsMask() const", chipType, variant_ );
    return allFieldsMask( chipType, variant_ );
 }
-
-MappingFwdInfoToEnTerm::WithStorage::~WithStorage() = default;
 
 // ---- PpmcDoubleOutLifSwap
 
@@ -3257,7 +2995,7 @@ constexpr AsicUtils::TagRow tags[] = {
    { 1 << 6, 0, 170, 0, 0 },
 };
 constexpr AsicUtils::FieldRow rows[] = {
-   { 80, 6, 11, 12, 0x3f0000, 0x0 }, { 79, 6, 11, 12, 0x1f8000, 0x0 },
+   { 80, 6 }, { 79, 6 },
 };
 } // namespace PpmcDoubleOutLifSwapData
 
@@ -3270,8 +3008,6 @@ Raw256 PpmcDoubleOutLifSwap::allFieldsMask() const {
    metaInfo.trace( "virtual Raw256 %::allFieldsMask() const", chipType, variant_ );
    return allFieldsMask( chipType, variant_ );
 }
-
-PpmcDoubleOutLifSwap::WithStorage::~WithStorage() = default;
 
 // ---- PrivateHostReducedVrf
 
@@ -3337,15 +3073,11 @@ constexpr AsicUtils::TagRow tags[] = {
    { 1 << 6, 0, 291, 6, 22 },
 };
 constexpr AsicUtils::FieldRow rows[] = {
-   { 0, 9, 2, 4, 0x1ff, 0x0 }, { 9, 32, 6, 8, 0x1ff, 0xfffffe00 }, { 9, 37, 6, 8, 0, 0 }, { 9, 257, 34, 36, 0, 0 },
-   { 41, 5, 6, 8, 0x3e00, 0x0 }, { 56, 21, 10, 12, 0x1fff, 0xff000000 }, { 56, 27, 11, 12, 0x7ffff, 0xff000000 }, { 77, 6, 11, 12, 0x7e000, 0x0 },
-   { 83, 3, 11, 12, 0x380000, 0x0 }, { 266, 4, 34, 36, 0x3c00, 0x0 }, { 270, 3, 35, 36, 0x1c000, 0x0 }, { 273, 17, 37, 40, 0x3, 0xfffe0000 },
-   { 290, 3, 37, 40, 0x1c, 0x0 }, { 293, 6, 38, 40, 0x7e0, 0x0 }, { 293, 6, 38, 40, 0x7e0, 0x0 }, { 299, 8, 39, 40, 0x7f800, 0x0 },
-   { 307, 1, 39, 40, 0x80000, 0x0 }, { 0, 9, 2, 4, 0x1ff, 0x0 }, { 9, 32, 6, 8, 0x1ff, 0xfffffe00 }, { 9, 36, 6, 8, 0, 0 },
-   { 9, 256, 34, 36, 0, 0 }, { 41, 4, 6, 8, 0x1e00, 0x0 }, { 55, 21, 10, 12, 0xfff, 0xff800000 }, { 55, 27, 11, 12, 0x3ffff, 0xff800000 },
-   { 76, 6, 11, 12, 0x3f000, 0x0 }, { 82, 3, 11, 12, 0x1c0000, 0x0 }, { 265, 4, 34, 36, 0x1e00, 0x0 }, { 269, 3, 34, 36, 0xe000, 0x0 },
-   { 272, 16, 36, 36, 0xffff0000, 0x0 }, { 288, 3, 37, 40, 0x7, 0x0 }, { 291, 6, 38, 40, 0x1f8, 0x0 }, { 291, 6, 38, 40, 0x1f8, 0x0 },
-   { 297, 8, 39, 40, 0x1fe00, 0x0 }, { 305, 1, 39, 40, 0x20000, 0x0 },
+   { 0, 9 }, { 9, 32 }, { 9, 37 }, { 9, 257 }, { 41, 5 }, { 56, 21 }, { 56, 27 }, { 77, 6 },
+   { 83, 3 }, { 266, 4 }, { 270, 3 }, { 273, 17 }, { 290, 3 }, { 293, 6 }, { 293, 6 }, { 299, 8 },
+   { 307, 1 }, { 0, 9 }, { 9, 32 }, { 9, 36 }, { 9, 256 }, { 41, 4 }, { 55, 21 }, { 55, 27 },
+   { 76, 6 }, { 82, 3 }, { 265, 4 }, { 269, 3 }, { 272, 16 }, { 288, 3 }, { 291, 6 }, { 291, 6 },
+   { 297, 8 }, { 305, 1 },
 };
 } // namespace PrivateHostReducedVrfData
 
@@ -3358,8 +3090,6 @@ Raw512 PrivateHostReducedVrf::allFieldsMask() const {
    metaInfo.trace( "virtual Raw512 %::allFieldsMask() const", chipType, variant_ );
    return allFieldsMask( chipType, variant_ );
 }
-
-PrivateHostReducedVrf::WithStorage::~WithStorage() = default;
 
 // ---- PweInlifCsProfile
 
@@ -3385,7 +3115,7 @@ constexpr U32 masks[] = {
    0x0, 0x0, 0x0, 0x0, 0x0, 0x0, 0x0, 0x0,
 };
 constexpr AsicUtils::FieldRow rows[] = {
-   { 0, 1, 1, 4, 0x1, 0x0 }, { 1, 2, 1, 4, 0x6, 0x0 }, { 3, 1, 1, 4, 0x8, 0x0 },
+   { 0, 1 }, { 1, 2 }, { 3, 1 },
 };
 } // namespace PweInlifCsProfileData
 
@@ -3398,8 +3128,6 @@ Raw1024 PweInlifCsProfile::allFieldsMask() const {
    metaInfo.trace( "virtual Raw1024 %::allFieldsMask() const", chipType, variant_ );
    return allFieldsMask( chipType, variant_ );
 }
-
-PweInlifCsProfile::WithStorage::~WithStorage() = default;
 
 // ---- RoutingInlifCsProfile
 
@@ -3426,7 +3154,7 @@ constexpr U32 masks[] = {
    0x0, 0x0, 0x0, 0x0, 0x0, 0x0, 0x0, 0x0,
 };
 constexpr AsicUtils::FieldRow rows[] = {
-   { 0, 1, 1, 4, 0x1, 0x0 }, { 1, 1, 1, 4, 0x2, 0x0 }, { 2, 1, 1, 4, 0x4, 0x0 }, { 3, 1, 1, 4, 0x8, 0x0 },
+   { 0, 1 }, { 1, 1 }, { 2, 1 }, { 3, 1 },
 };
 } // namespace RoutingInlifCsProfileData
 
@@ -3439,8 +3167,6 @@ Raw1024 RoutingInlifCsProfile::allFieldsMask() const {
    metaInfo.trace( "virtual Raw1024 %::allFieldsMask() const", chipType, variant_ );
    return allFieldsMask( chipType, variant_ );
 }
-
-RoutingInlifCsProfile::WithStorage::~WithStorage() = default;
 
 // ---- RoutingVeloroInlifCsProfile
 
@@ -3467,7 +3193,7 @@ constexpr U32 masks[] = {
    0x0, 0x0, 0x0, 0x0, 0x0, 0x0, 0x0, 0x0,
 };
 constexpr AsicUtils::FieldRow rows[] = {
-   { 0, 1, 1, 4, 0x1, 0x0 }, { 1, 1, 1, 4, 0x2, 0x0 }, { 2, 1, 1, 4, 0x4, 0x0 }, { 3, 1, 1, 4, 0x8, 0x0 },
+   { 0, 1 }, { 1, 1 }, { 2, 1 }, { 3, 1 },
 };
 } // namespace RoutingVeloroInlifCsProfileData
 
@@ -3480,8 +3206,6 @@ Raw1024 RoutingVeloroInlifCsProfile::allFieldsMask() const {
    metaInfo.trace( "virtual Raw1024 %::allFieldsMask() const", chipType, variant_ );
    return allFieldsMask( chipType, variant_ );
 }
-
-RoutingVeloroInlifCsProfile::WithStorage::~WithStorage() = default;
 
 // ---- SystemHeaderPph
 
@@ -3513,9 +3237,8 @@ constexpr U32 masks[] = {
    0xffff, 0x7ffff,
 };
 constexpr AsicUtils::FieldRow rows[] = {
-   { 0, 8, 1, 4, 0xff, 0x0 }, { 8, 8, 2, 4, 0xff00, 0x0 }, { 0, 0, 0xffff, 0xffff, 0, 0 }, { 0, 0, 0xffff, 0xffff, 0, 0 },
-   { 0, 0, 0xffff, 0xffff, 0, 0 }, { 0, 8, 1, 4, 0xff, 0x0 }, { 8, 8, 2, 4, 0xff00, 0x0 }, { 16, 1, 3, 4, 0x10000, 0x0 },
-   { 17, 1, 3, 4, 0x20000, 0x0 }, { 18, 1, 3, 4, 0x40000, 0x0 },
+   { 0, 8 }, { 8, 8 }, {}, {}, {}, { 0, 8 }, { 8, 8 }, { 16, 1 },
+   { 17, 1 }, { 18, 1 },
 };
 } // namespace SystemHeaderPphData
 
@@ -3528,8 +3251,6 @@ U32 SystemHeaderPph::allFieldsMask() const {
    metaInfo.trace( "virtual U32 %::allFieldsMask() const", chipType, variant_ );
    return allFieldsMask( chipType, variant_ );
 }
-
-SystemHeaderPph::WithStorage::~WithStorage() = default;
 
 // ---- TerminateNetworkHeaders
 
@@ -3551,7 +3272,7 @@ constexpr U32 masks[] = {
    0xffffffff, 0xffffffff, 0xffffffff, 0xffffffff,
 };
 constexpr AsicUtils::FieldRow rows[] = {
-   { 0, 128, 16, 16, 0, 0 },
+   { 0, 128 },
 };
 } // namespace TerminateNetworkHeadersData
 
@@ -3564,8 +3285,6 @@ Raw128 TerminateNetworkHeaders::allFieldsMask() const {
    metaInfo.trace( "virtual Raw128 %::allFieldsMask() const", chipType, variant_ );
    return allFieldsMask( chipType, variant_ );
 }
-
-TerminateNetworkHeaders::WithStorage::~WithStorage() = default;
 
 // ---- UnknownDaProfile
 
@@ -3588,7 +3307,7 @@ constexpr U32 masks[] = {
    0x3fffff,
 };
 constexpr AsicUtils::FieldRow rows[] = {
-   { 0, 21, 3, 4, 0x1fffff, 0x0 }, { 21, 1, 3, 4, 0x200000, 0x0 },
+   { 0, 21 }, { 21, 1 },
 };
 } // namespace UnknownDaProfileData
 
@@ -3601,8 +3320,6 @@ U32 UnknownDaProfile::allFieldsMask() const {
    metaInfo.trace( "virtual U32 %::allFieldsMask() const", chipType, variant_ );
    return allFieldsMask( chipType, variant_ );
 }
-
-UnknownDaProfile::WithStorage::~WithStorage() = default;
 
 // ---- VeloroL2FodoProfile
 
@@ -3629,7 +3346,7 @@ constexpr U32 masks[] = {
    0x0, 0x0, 0x0, 0x0, 0x0, 0x0, 0x0, 0x0,
 };
 constexpr AsicUtils::FieldRow rows[] = {
-   { 0, 1, 1, 4, 0x1, 0x0 }, { 1, 1, 1, 4, 0x2, 0x0 }, { 2, 1, 1, 4, 0x4, 0x0 }, { 3, 1, 1, 4, 0x8, 0x0 },
+   { 0, 1 }, { 1, 1 }, { 2, 1 }, { 3, 1 },
 };
 } // namespace VeloroL2FodoProfileData
 
@@ -3642,8 +3359,6 @@ Raw1024 VeloroL2FodoProfile::allFieldsMask() const {
    metaInfo.trace( "virtual Raw1024 %::allFieldsMask() const", chipType, variant_ );
    return allFieldsMask( chipType, variant_ );
 }
-
-VeloroL2FodoProfile::WithStorage::~WithStorage() = default;
 
 // ---- VsiProfileEnablers
 
@@ -3680,7 +3395,7 @@ constexpr AsicUtils::FieldRun runs[] = {
    { "routingProfile", routingProfileRun },
 };
 constexpr AsicUtils::FieldRow rows[] = {
-   { 0, 5, 1, 4, 0x1f, 0x0 }, { 5, 5, 2, 4, 0x3e0, 0x0 }, { 10, 5, 2, 4, 0x7c00, 0x0 }, { 15, 5, 3, 4, 0xf8000, 0x0 },
+   { 0, 5 }, { 5, 5 }, { 10, 5 }, { 15, 5 },
 };
 } // namespace VsiProfileEnablersData
 
@@ -3693,8 +3408,6 @@ U32 VsiProfileEnablers::allFieldsMask() const {
    metaInfo.trace( "virtual U32 %::allFieldsMask() const", chipType, variant_ );
    return allFieldsMask( chipType, variant_ );
 }
-
-VsiProfileEnablers::WithStorage::~WithStorage() = default;
 
 // ---- VsiProfileFlags
 
@@ -3723,7 +3436,7 @@ constexpr U32 masks[] = {
    0xffffffff, 0x0,
 };
 constexpr AsicUtils::FieldRow rows[] = {
-   { 0, 4, 1, 4, 0xf, 0x0 }, { 0, 32, 4, 4, 0xffffffff, 0x0 },
+   { 0, 4 }, { 0, 32 },
 };
 } // namespace VsiProfileFlagsData
 
@@ -3736,8 +3449,6 @@ U64 VsiProfileFlags::allFieldsMask() const {
    metaInfo.trace( "virtual U64 %::allFieldsMask() const", chipType, variant_ );
    return allFieldsMask( chipType, variant_ );
 }
-
-VsiProfileFlags::WithStorage::~WithStorage() = default;
 
 // ---- VttTrapStrengths3
 
@@ -3774,9 +3485,8 @@ constexpr U32 masks[] = {
    0xffffffff, 0x7,
 };
 constexpr AsicUtils::FieldRow rows[] = {
-   { 0, 4, 1, 4, 0xf, 0x0 }, { 4, 3, 1, 4, 0x70, 0x0 }, { 7, 4, 2, 4, 0x780, 0x0 }, { 11, 3, 2, 4, 0x3800, 0x0 },
-   { 14, 4, 3, 4, 0x3c000, 0x0 }, { 18, 3, 3, 4, 0x1c0000, 0x0 }, { 21, 4, 4, 4, 0x1e00000, 0x0 }, { 25, 3, 4, 4, 0xe000000, 0x0 },
-   { 28, 4, 4, 4, 0xf0000000, 0x0 }, { 32, 3, 5, 8, 0x7, 0x0 },
+   { 0, 4 }, { 4, 3 }, { 7, 4 }, { 11, 3 }, { 14, 4 }, { 18, 3 }, { 21, 4 }, { 25, 3 },
+   { 28, 4 }, { 32, 3 },
 };
 } // namespace VttTrapStrengths3Data
 
@@ -3789,8 +3499,6 @@ U64 VttTrapStrengths3::allFieldsMask() const {
    metaInfo.trace( "virtual U64 %::allFieldsMask() const", chipType, variant_ );
    return allFieldsMask( chipType, variant_ );
 }
-
-VttTrapStrengths3::WithStorage::~WithStorage() = default;
 
 // ---- VttTrapStrengths4
 
@@ -3829,9 +3537,8 @@ constexpr U32 masks[] = {
    0xffffffff, 0x3ff,
 };
 constexpr AsicUtils::FieldRow rows[] = {
-   { 0, 4, 1, 4, 0xf, 0x0 }, { 4, 3, 1, 4, 0x70, 0x0 }, { 7, 4, 2, 4, 0x780, 0x0 }, { 11, 3, 2, 4, 0x3800, 0x0 },
-   { 14, 4, 3, 4, 0x3c000, 0x0 }, { 18, 3, 3, 4, 0x1c0000, 0x0 }, { 21, 4, 4, 4, 0x1e00000, 0x0 }, { 25, 3, 4, 4, 0xe000000, 0x0 },
-   { 28, 4, 4, 4, 0xf0000000, 0x0 }, { 32, 3, 5, 8, 0x7, 0x0 }, { 35, 4, 5, 8, 0x78, 0x0 }, { 39, 3, 6, 8, 0x380, 0x0 },
+   { 0, 4 }, { 4, 3 }, { 7, 4 }, { 11, 3 }, { 14, 4 }, { 18, 3 }, { 21, 4 }, { 25, 3 },
+   { 28, 4 }, { 32, 3 }, { 35, 4 }, { 39, 3 },
 };
 } // namespace VttTrapStrengths4Data
 
@@ -3844,8 +3551,6 @@ U64 VttTrapStrengths4::allFieldsMask() const {
    metaInfo.trace( "virtual U64 %::allFieldsMask() const", chipType, variant_ );
    return allFieldsMask( chipType, variant_ );
 }
-
-VttTrapStrengths4::WithStorage::~WithStorage() = default;
 
 // ---- VttTrapStrengths5
 
@@ -3884,9 +3589,8 @@ constexpr U32 masks[] = {
    0xffffffff, 0x3ff,
 };
 constexpr AsicUtils::FieldRow rows[] = {
-   { 0, 4, 1, 4, 0xf, 0x0 }, { 4, 3, 1, 4, 0x70, 0x0 }, { 7, 4, 2, 4, 0x780, 0x0 }, { 11, 3, 2, 4, 0x3800, 0x0 },
-   { 14, 4, 3, 4, 0x3c000, 0x0 }, { 18, 3, 3, 4, 0x1c0000, 0x0 }, { 21, 4, 4, 4, 0x1e00000, 0x0 }, { 25, 3, 4, 4, 0xe000000, 0x0 },
-   { 28, 4, 4, 4, 0xf0000000, 0x0 }, { 32, 3, 5, 8, 0x7, 0x0 }, { 35, 4, 5, 8, 0x78, 0x0 }, { 39, 3, 6, 8, 0x380, 0x0 },
+   { 0, 4 }, { 4, 3 }, { 7, 4 }, { 11, 3 }, { 14, 4 }, { 18, 3 }, { 21, 4 }, { 25, 3 },
+   { 28, 4 }, { 32, 3 }, { 35, 4 }, { 39, 3 },
 };
 } // namespace VttTrapStrengths5Data
 
@@ -3899,8 +3603,6 @@ U64 VttTrapStrengths5::allFieldsMask() const {
    metaInfo.trace( "virtual U64 %::allFieldsMask() const", chipType, variant_ );
    return allFieldsMask( chipType, variant_ );
 }
-
-VttTrapStrengths5::WithStorage::~WithStorage() = default;
 
 // ---- VttTrapStrengths6
 
@@ -3939,9 +3641,8 @@ constexpr U32 masks[] = {
    0xffffffff, 0x3ff,
 };
 constexpr AsicUtils::FieldRow rows[] = {
-   { 0, 4, 1, 4, 0xf, 0x0 }, { 4, 3, 1, 4, 0x70, 0x0 }, { 7, 4, 2, 4, 0x780, 0x0 }, { 11, 3, 2, 4, 0x3800, 0x0 },
-   { 14, 4, 3, 4, 0x3c000, 0x0 }, { 18, 3, 3, 4, 0x1c0000, 0x0 }, { 21, 4, 4, 4, 0x1e00000, 0x0 }, { 25, 3, 4, 4, 0xe000000, 0x0 },
-   { 28, 4, 4, 4, 0xf0000000, 0x0 }, { 32, 3, 5, 8, 0x7, 0x0 }, { 35, 4, 5, 8, 0x78, 0x0 }, { 39, 3, 6, 8, 0x380, 0x0 },
+   { 0, 4 }, { 4, 3 }, { 7, 4 }, { 11, 3 }, { 14, 4 }, { 18, 3 }, { 21, 4 }, { 25, 3 },
+   { 28, 4 }, { 32, 3 }, { 35, 4 }, { 39, 3 },
 };
 } // namespace VttTrapStrengths6Data
 
@@ -3954,8 +3655,6 @@ U64 VttTrapStrengths6::allFieldsMask() const {
    metaInfo.trace( "virtual U64 %::allFieldsMask() const", chipType, variant_ );
    return allFieldsMask( chipType, variant_ );
 }
-
-VttTrapStrengths6::WithStorage::~WithStorage() = default;
 
 // ---- classes by name
 

@@ -107,7 +107,6 @@ class AdditionalHeadersMapTable0::WithStorage : public AdditionalHeadersMapTable
  public:
    explicit WithStorage( ChipType chip, bool bufferHoldsEntry = false, U8 variant = 0 )
       : AdditionalHeadersMapTable0( chip, storage_, sizeof storage_, bufferHoldsEntry, variant ) {}
-   ~WithStorage() override;
 
  private:
    alignas( 8 ) U8 storage_[12] = {};
@@ -872,7 +871,6 @@ class CgmSnifTmTable::WithStorage : public CgmSnifTmTable {
  public:
    explicit WithStorage( ChipType chip, bool bufferHoldsEntry = false, U8 variant = 0 )
       : CgmSnifTmTable( chip, storage_, sizeof storage_, bufferHoldsEntry, variant ) {}
-   ~WithStorage() override;
 
  private:
    alignas( 8 ) U8 storage_[60] = {};
@@ -937,7 +935,6 @@ class EgressOutrifMaxValue::WithStorage : public EgressOutrifMaxValue {
  public:
    explicit WithStorage( ChipType chip, bool bufferHoldsEntry = false, U8 variant = 0 )
       : EgressOutrifMaxValue( chip, storage_, sizeof storage_, bufferHoldsEntry, variant ) {}
-   ~WithStorage() override;
 
  private:
    alignas( 8 ) U8 storage_[4] = {};
@@ -988,7 +985,6 @@ class EnableKapsInterfaceDefault::WithStorage : public EnableKapsInterfaceDefaul
  public:
    explicit WithStorage( ChipType chip, bool bufferHoldsEntry = false, U8 variant = 0 )
       : EnableKapsInterfaceDefault( chip, storage_, sizeof storage_, bufferHoldsEntry, variant ) {}
-   ~WithStorage() override;
 
  private:
    alignas( 8 ) U8 storage_[4] = {};
@@ -1039,7 +1035,6 @@ class EnablersVectors::WithStorage : public EnablersVectors {
  public:
    explicit WithStorage( ChipType chip, bool bufferHoldsEntry = false, U8 variant = 0 )
       : EnablersVectors( chip, storage_, sizeof storage_, bufferHoldsEntry, variant ) {}
-   ~WithStorage() override;
 
  private:
    alignas( 8 ) U8 storage_[8] = {};
@@ -1132,7 +1127,6 @@ class ErppCfgMappingOutLifProfile::WithStorage : public ErppCfgMappingOutLifProf
  public:
    explicit WithStorage( ChipType chip, bool bufferHoldsEntry = false, U8 variant = 0 )
       : ErppCfgMappingOutLifProfile( chip, storage_, sizeof storage_, bufferHoldsEntry, variant ) {}
-   ~WithStorage() override;
 
  private:
    alignas( 8 ) U8 storage_[4] = {};
@@ -1183,7 +1177,6 @@ class ErppCfgSplitHorizonFilter::WithStorage : public ErppCfgSplitHorizonFilter 
  public:
    explicit WithStorage( ChipType chip, bool bufferHoldsEntry = false, U8 variant = 0 )
       : ErppCfgSplitHorizonFilter( chip, storage_, sizeof storage_, bufferHoldsEntry, variant ) {}
-   ~WithStorage() override;
 
  private:
    alignas( 8 ) U8 storage_[8] = {};
@@ -1241,7 +1234,6 @@ class ErppInlifOrientationMap::WithStorage : public ErppInlifOrientationMap {
  public:
    explicit WithStorage( ChipType chip, bool bufferHoldsEntry = false, U8 variant = 0 )
       : ErppInlifOrientationMap( chip, storage_, sizeof storage_, bufferHoldsEntry, variant ) {}
-   ~WithStorage() override;
 
  private:
    alignas( 8 ) U8 storage_[4] = {};
@@ -1453,7 +1445,6 @@ class EthernetTrap::WithStorage : public EthernetTrap {
  public:
    explicit WithStorage( ChipType chip, bool bufferHoldsEntry = false, U8 variant = 0 )
       : EthernetTrap( chip, storage_, sizeof storage_, bufferHoldsEntry, variant ) {}
-   ~WithStorage() override;
 
  private:
    alignas( 8 ) U8 storage_[16] = {};
@@ -1504,7 +1495,6 @@ class EtppCfgFwdDoNotTtlDecrement::WithStorage : public EtppCfgFwdDoNotTtlDecrem
  public:
    explicit WithStorage( ChipType chip, bool bufferHoldsEntry = false, U8 variant = 0 )
       : EtppCfgFwdDoNotTtlDecrement( chip, storage_, sizeof storage_, bufferHoldsEntry, variant ) {}
-   ~WithStorage() override;
 
  private:
    alignas( 8 ) U8 storage_[64] = {};
@@ -1555,7 +1545,6 @@ class EtppCfgRifInStack::WithStorage : public EtppCfgRifInStack {
  public:
    explicit WithStorage( ChipType chip, bool bufferHoldsEntry = false, U8 variant = 0 )
       : EtppCfgRifInStack( chip, storage_, sizeof storage_, bufferHoldsEntry, variant ) {}
-   ~WithStorage() override;
 
  private:
    alignas( 8 ) U8 storage_[4] = {};
@@ -1606,7 +1595,6 @@ class EtppCfgSplitHorizonFilter::WithStorage : public EtppCfgSplitHorizonFilter 
  public:
    explicit WithStorage( ChipType chip, bool bufferHoldsEntry = false, U8 variant = 0 )
       : EtppCfgSplitHorizonFilter( chip, storage_, sizeof storage_, bufferHoldsEntry, variant ) {}
-   ~WithStorage() override;
 
  private:
    alignas( 8 ) U8 storage_[8] = {};
@@ -1671,7 +1659,6 @@ class EtppCfgSplitHorizonTrapParams::WithStorage : public EtppCfgSplitHorizonTra
  public:
    explicit WithStorage( ChipType chip, bool bufferHoldsEntry = false, U8 variant = 0 )
       : EtppCfgSplitHorizonTrapParams( chip, storage_, sizeof storage_, bufferHoldsEntry, variant ) {}
-   ~WithStorage() override;
 
  private:
    alignas( 8 ) U8 storage_[4] = {};
@@ -1722,7 +1709,6 @@ class EtppEnc1ContextSelectionPortProfile::WithStorage : public EtppEnc1ContextS
  public:
    explicit WithStorage( ChipType chip, bool bufferHoldsEntry = false, U8 variant = 0 )
       : EtppEnc1ContextSelectionPortProfile( chip, storage_, sizeof storage_, bufferHoldsEntry, variant ) {}
-   ~WithStorage() override;
 
  private:
    alignas( 8 ) U8 storage_[4] = {};
@@ -1773,7 +1759,6 @@ class EtppEnc2ContextSelectionPortProfile::WithStorage : public EtppEnc2ContextS
  public:
    explicit WithStorage( ChipType chip, bool bufferHoldsEntry = false, U8 variant = 0 )
       : EtppEnc2ContextSelectionPortProfile( chip, storage_, sizeof storage_, bufferHoldsEntry, variant ) {}
-   ~WithStorage() override;
 
  private:
    alignas( 8 ) U8 storage_[4] = {};
@@ -1824,7 +1809,6 @@ class EtppEnc3ContextSelectionPortProfile::WithStorage : public EtppEnc3ContextS
  public:
    explicit WithStorage( ChipType chip, bool bufferHoldsEntry = false, U8 variant = 0 )
       : EtppEnc3ContextSelectionPortProfile( chip, storage_, sizeof storage_, bufferHoldsEntry, variant ) {}
-   ~WithStorage() override;
 
  private:
    alignas( 8 ) U8 storage_[4] = {};
@@ -1875,7 +1859,6 @@ class EtppEnc4ContextSelectionPortProfile::WithStorage : public EtppEnc4ContextS
  public:
    explicit WithStorage( ChipType chip, bool bufferHoldsEntry = false, U8 variant = 0 )
       : EtppEnc4ContextSelectionPortProfile( chip, storage_, sizeof storage_, bufferHoldsEntry, variant ) {}
-   ~WithStorage() override;
 
  private:
    alignas( 8 ) U8 storage_[4] = {};
@@ -1926,7 +1909,6 @@ class EtppEnc5ContextSelectionPortProfile::WithStorage : public EtppEnc5ContextS
  public:
    explicit WithStorage( ChipType chip, bool bufferHoldsEntry = false, U8 variant = 0 )
       : EtppEnc5ContextSelectionPortProfile( chip, storage_, sizeof storage_, bufferHoldsEntry, variant ) {}
-   ~WithStorage() override;
 
  private:
    alignas( 8 ) U8 storage_[4] = {};
@@ -1977,7 +1959,6 @@ class EtppInlifOrientationMap::WithStorage : public EtppInlifOrientationMap {
  public:
    explicit WithStorage( ChipType chip, bool bufferHoldsEntry = false, U8 variant = 0 )
       : EtppInlifOrientationMap( chip, storage_, sizeof storage_, bufferHoldsEntry, variant ) {}
-   ~WithStorage() override;
 
  private:
    alignas( 8 ) U8 storage_[4] = {};
@@ -2028,7 +2009,6 @@ class EtppOutlifOrientationMap::WithStorage : public EtppOutlifOrientationMap {
  public:
    explicit WithStorage( ChipType chip, bool bufferHoldsEntry = false, U8 variant = 0 )
       : EtppOutlifOrientationMap( chip, storage_, sizeof storage_, bufferHoldsEntry, variant ) {}
-   ~WithStorage() override;
 
  private:
    alignas( 8 ) U8 storage_[24] = {};
@@ -2135,7 +2115,6 @@ class EtppTrapBitCruncherProgram::WithStorage : public EtppTrapBitCruncherProgra
  public:
    explicit WithStorage( ChipType chip, bool bufferHoldsEntry = false, U8 variant = 0 )
       : EtppTrapBitCruncherProgram( chip, storage_, sizeof storage_, bufferHoldsEntry, variant ) {}
-   ~WithStorage() override;
 
  private:
    alignas( 8 ) U8 storage_[52] = {};
@@ -2186,7 +2165,6 @@ class EtppTrapContextSelectionPortProfile::WithStorage : public EtppTrapContextS
  public:
    explicit WithStorage( ChipType chip, bool bufferHoldsEntry = false, U8 variant = 0 )
       : EtppTrapContextSelectionPortProfile( chip, storage_, sizeof storage_, bufferHoldsEntry, variant ) {}
-   ~WithStorage() override;
 
  private:
    alignas( 8 ) U8 storage_[4] = {};
@@ -2244,7 +2222,6 @@ class EtppaPrpFesProgramTable::WithStorage : public EtppaPrpFesProgramTable {
  public:
    explicit WithStorage( ChipType chip, bool bufferHoldsEntry = false, U8 variant = 0 )
       : EtppaPrpFesProgramTable( chip, storage_, sizeof storage_, bufferHoldsEntry, variant ) {}
-   ~WithStorage() override;
 
  private:
    alignas( 8 ) U8 storage_[24] = {};
@@ -2407,7 +2384,6 @@ class EtppbEnc5Arr0FormatCfg::WithStorage : public EtppbEnc5Arr0FormatCfg {
  public:
    explicit WithStorage( ChipType chip, bool bufferHoldsEntry = false, U8 variant = 0 )
       : EtppbEnc5Arr0FormatCfg( chip, storage_, sizeof storage_, bufferHoldsEntry, variant ) {}
-   ~WithStorage() override;
 
  private:
    alignas( 8 ) U8 storage_[36] = {};
@@ -2570,7 +2546,6 @@ class EtppcEnc1Arr0FormatCfg::WithStorage : public EtppcEnc1Arr0FormatCfg {
  public:
    explicit WithStorage( ChipType chip, bool bufferHoldsEntry = false, U8 variant = 0 )
       : EtppcEnc1Arr0FormatCfg( chip, storage_, sizeof storage_, bufferHoldsEntry, variant ) {}
-   ~WithStorage() override;
 
  private:
    alignas( 8 ) U8 storage_[36] = {};
@@ -2754,7 +2729,6 @@ class EtppcEncapsulation2ContextSelectionCam::WithStorage : public EtppcEncapsul
  public:
    explicit WithStorage( ChipType chip, bool bufferHoldsEntry = false, U8 variant = 0 )
       : EtppcEncapsulation2ContextSelectionCam( chip, storage_, sizeof storage_, bufferHoldsEntry, variant ) {}
-   ~WithStorage() override;
 
  private:
    alignas( 8 ) U8 storage_[8] = {};
@@ -2845,7 +2819,6 @@ class FfcInstruction::WithStorage : public FfcInstruction {
          handleBuf( chip, storage_, sizeof storage_, true, variant );
       }
    }
-   ~WithStorage() override;
 
  private:
    alignas( 8 ) U8 storage_[80] = {};
@@ -2917,7 +2890,6 @@ class FlpKapsStrengthMapping::WithStorage : public FlpKapsStrengthMapping {
  public:
    explicit WithStorage( ChipType chip, bool bufferHoldsEntry = false, U8 variant = 0 )
       : FlpKapsStrengthMapping( chip, storage_, sizeof storage_, bufferHoldsEntry, variant ) {}
-   ~WithStorage() override;
 
  private:
    alignas( 8 ) U8 storage_[8] = {};
@@ -3017,7 +2989,6 @@ class FlpRpfFormatConfiguration::WithStorage : public FlpRpfFormatConfiguration 
  public:
    explicit WithStorage( ChipType chip, bool bufferHoldsEntry = false, U8 variant = 0 )
       : FlpRpfFormatConfiguration( chip, storage_, sizeof storage_, bufferHoldsEntry, variant ) {}
-   ~WithStorage() override;
 
  private:
    alignas( 8 ) U8 storage_[16] = {};
@@ -3383,7 +3354,6 @@ class FlpaInitContextEnablers::WithStorage : public FlpaInitContextEnablers {
  public:
    explicit WithStorage( ChipType chip, bool bufferHoldsEntry = false, U8 variant = 0 )
       : FlpaInitContextEnablers( chip, storage_, sizeof storage_, bufferHoldsEntry, variant ) {}
-   ~WithStorage() override;
 
  private:
    alignas( 8 ) U8 storage_[12] = {};
@@ -3616,7 +3586,6 @@ class FlpaResContextEnablers::WithStorage : public FlpaResContextEnablers {
  public:
    explicit WithStorage( ChipType chip, bool bufferHoldsEntry = false, U8 variant = 0 )
       : FlpaResContextEnablers( chip, storage_, sizeof storage_, bufferHoldsEntry, variant ) {}
-   ~WithStorage() override;
 
  private:
    alignas( 8 ) U8 storage_[8] = {};
@@ -3734,7 +3703,6 @@ class FwdFfcTable::WithStorage : public FwdFfcTable {
  public:
    explicit WithStorage( ChipType chip, bool bufferHoldsEntry = false, U8 variant = 0 )
       : FwdFfcTable( chip, storage_, sizeof storage_, bufferHoldsEntry, variant ) {}
-   ~WithStorage() override;
 
  private:
    alignas( 8 ) U8 storage_[16] = {};
@@ -3792,7 +3760,6 @@ class FwdKbrTable::WithStorage : public FwdKbrTable {
  public:
    explicit WithStorage( ChipType chip, bool bufferHoldsEntry = false, U8 variant = 0 )
       : FwdKbrTable( chip, storage_, sizeof storage_, bufferHoldsEntry, variant ) {}
-   ~WithStorage() override;
 
  private:
    alignas( 8 ) U8 storage_[8] = {};
@@ -4750,7 +4717,6 @@ class InLifProfileCsFlagsLsb::WithStorage : public InLifProfileCsFlagsLsb {
  public:
    explicit WithStorage( ChipType chip, bool bufferHoldsEntry = false, U8 variant = 0 )
       : InLifProfileCsFlagsLsb( chip, storage_, sizeof storage_, bufferHoldsEntry, variant ) {}
-   ~WithStorage() override;
 
  private:
    alignas( 8 ) U8 storage_[64] = {};
@@ -5701,7 +5667,6 @@ class InLifProfileCsFlagsMsb::WithStorage : public InLifProfileCsFlagsMsb {
  public:
    explicit WithStorage( ChipType chip, bool bufferHoldsEntry = false, U8 variant = 0 )
       : InLifProfileCsFlagsMsb( chip, storage_, sizeof storage_, bufferHoldsEntry, variant ) {}
-   ~WithStorage() override;
 
  private:
    alignas( 8 ) U8 storage_[64] = {};
@@ -5752,7 +5717,6 @@ class IppaVtecsAction::WithStorage : public IppaVtecsAction {
  public:
    explicit WithStorage( ChipType chip, bool bufferHoldsEntry = false, U8 variant = 0 )
       : IppaVtecsAction( chip, storage_, sizeof storage_, bufferHoldsEntry, variant ) {}
-   ~WithStorage() override;
 
  private:
    alignas( 8 ) U8 storage_[4] = {};
@@ -5838,7 +5802,6 @@ class IppbFlpLePd0::WithStorage : public IppbFlpLePd0 {
  public:
    explicit WithStorage( ChipType chip, bool bufferHoldsEntry = false, U8 variant = 0 )
       : IppbFlpLePd0( chip, storage_, sizeof storage_, bufferHoldsEntry, variant ) {}
-   ~WithStorage() override;
 
  private:
    alignas( 8 ) U8 storage_[32] = {};
@@ -5924,7 +5887,6 @@ class IppbFlpLePd1::WithStorage : public IppbFlpLePd1 {
  public:
    explicit WithStorage( ChipType chip, bool bufferHoldsEntry = false, U8 variant = 0 )
       : IppbFlpLePd1( chip, storage_, sizeof storage_, bufferHoldsEntry, variant ) {}
-   ~WithStorage() override;
 
  private:
    alignas( 8 ) U8 storage_[32] = {};
@@ -6010,7 +5972,6 @@ class IppbFlpLePd2::WithStorage : public IppbFlpLePd2 {
  public:
    explicit WithStorage( ChipType chip, bool bufferHoldsEntry = false, U8 variant = 0 )
       : IppbFlpLePd2( chip, storage_, sizeof storage_, bufferHoldsEntry, variant ) {}
-   ~WithStorage() override;
 
  private:
    alignas( 8 ) U8 storage_[32] = {};
@@ -6061,7 +6022,6 @@ class IppbFlpPortProfileMap::WithStorage : public IppbFlpPortProfileMap {
  public:
    explicit WithStorage( ChipType chip, bool bufferHoldsEntry = false, U8 variant = 0 )
       : IppbFlpPortProfileMap( chip, storage_, sizeof storage_, bufferHoldsEntry, variant ) {}
-   ~WithStorage() override;
 
  private:
    alignas( 8 ) U8 storage_[4] = {};
@@ -6112,7 +6072,6 @@ class IppbFlpacsAction::WithStorage : public IppbFlpacsAction {
  public:
    explicit WithStorage( ChipType chip, bool bufferHoldsEntry = false, U8 variant = 0 )
       : IppbFlpacsAction( chip, storage_, sizeof storage_, bufferHoldsEntry, variant ) {}
-   ~WithStorage() override;
 
  private:
    alignas( 8 ) U8 storage_[4] = {};
@@ -6401,7 +6360,6 @@ class IppbFlpbResContextEnablers::WithStorage : public IppbFlpbResContextEnabler
  public:
    explicit WithStorage( ChipType chip, bool bufferHoldsEntry = false, U8 variant = 0 )
       : IppbFlpbResContextEnablers( chip, storage_, sizeof storage_, bufferHoldsEntry, variant ) {}
-   ~WithStorage() override;
 
  private:
    alignas( 8 ) U8 storage_[8] = {};
@@ -6564,7 +6522,6 @@ class IppbIpv4ActionProfilesCfg::WithStorage : public IppbIpv4ActionProfilesCfg 
  public:
    explicit WithStorage( ChipType chip, bool bufferHoldsEntry = false, U8 variant = 0 )
       : IppbIpv4ActionProfilesCfg( chip, storage_, sizeof storage_, bufferHoldsEntry, variant ) {}
-   ~WithStorage() override;
 
  private:
    alignas( 8 ) U8 storage_[8] = {};
@@ -6748,7 +6705,6 @@ class IppbIpv6ActionProfiles0Cfg::WithStorage : public IppbIpv6ActionProfiles0Cf
  public:
    explicit WithStorage( ChipType chip, bool bufferHoldsEntry = false, U8 variant = 0 )
       : IppbIpv6ActionProfiles0Cfg( chip, storage_, sizeof storage_, bufferHoldsEntry, variant ) {}
-   ~WithStorage() override;
 
  private:
    alignas( 8 ) U8 storage_[12] = {};
@@ -6799,7 +6755,6 @@ class IppbLifMcBridgeFallbackAllow::WithStorage : public IppbLifMcBridgeFallback
  public:
    explicit WithStorage( ChipType chip, bool bufferHoldsEntry = false, U8 variant = 0 )
       : IppbLifMcBridgeFallbackAllow( chip, storage_, sizeof storage_, bufferHoldsEntry, variant ) {}
-   ~WithStorage() override;
 
  private:
    alignas( 8 ) U8 storage_[32] = {};
@@ -6962,7 +6917,6 @@ class IppbProgTrapCfg::WithStorage : public IppbProgTrapCfg {
  public:
    explicit WithStorage( ChipType chip, bool bufferHoldsEntry = false, U8 variant = 0 )
       : IppbProgTrapCfg( chip, storage_, sizeof storage_, bufferHoldsEntry, variant ) {}
-   ~WithStorage() override;
 
  private:
    alignas( 8 ) U8 storage_[36] = {};
@@ -7055,7 +7009,6 @@ class IppbTtl0ActionProfile::WithStorage : public IppbTtl0ActionProfile {
  public:
    explicit WithStorage( ChipType chip, bool bufferHoldsEntry = false, U8 variant = 0 )
       : IppbTtl0ActionProfile( chip, storage_, sizeof storage_, bufferHoldsEntry, variant ) {}
-   ~WithStorage() override;
 
  private:
    alignas( 8 ) U8 storage_[8] = {};
@@ -7106,7 +7059,6 @@ class IppcInLifProfileCsFlags::WithStorage : public IppcInLifProfileCsFlags {
  public:
    explicit WithStorage( ChipType chip, bool bufferHoldsEntry = false, U8 variant = 0 )
       : IppcInLifProfileCsFlags( chip, storage_, sizeof storage_, bufferHoldsEntry, variant ) {}
-   ~WithStorage() override;
 
  private:
    alignas( 8 ) U8 storage_[4] = {};
@@ -7171,7 +7123,6 @@ class IppdFerTrapCfg::WithStorage : public IppdFerTrapCfg {
  public:
    explicit WithStorage( ChipType chip, bool bufferHoldsEntry = false, U8 variant = 0 )
       : IppdFerTrapCfg( chip, storage_, sizeof storage_, bufferHoldsEntry, variant ) {}
-   ~WithStorage() override;
 
  private:
    alignas( 8 ) U8 storage_[4] = {};
@@ -7222,7 +7173,6 @@ class IppdInLifProfileMap::WithStorage : public IppdInLifProfileMap {
  public:
    explicit WithStorage( ChipType chip, bool bufferHoldsEntry = false, U8 variant = 0 )
       : IppdInLifProfileMap( chip, storage_, sizeof storage_, bufferHoldsEntry, variant ) {}
-   ~WithStorage() override;
 
  private:
    alignas( 8 ) U8 storage_[4] = {};
@@ -7294,7 +7244,6 @@ class IppdInLifProfileTable::WithStorage : public IppdInLifProfileTable {
  public:
    explicit WithStorage( ChipType chip, bool bufferHoldsEntry = false, U8 variant = 0 )
       : IppdInLifProfileTable( chip, storage_, sizeof storage_, bufferHoldsEntry, variant ) {}
-   ~WithStorage() override;
 
  private:
    alignas( 8 ) U8 storage_[4] = {};
@@ -7359,7 +7308,6 @@ class IppdPphAttributesByEei::WithStorage : public IppdPphAttributesByEei {
  public:
    explicit WithStorage( ChipType chip, bool bufferHoldsEntry = false, U8 variant = 0 )
       : IppdPphAttributesByEei( chip, storage_, sizeof storage_, bufferHoldsEntry, variant ) {}
-   ~WithStorage() override;
 
  private:
    alignas( 8 ) U8 storage_[4] = {};
@@ -7663,7 +7611,6 @@ class IppeRecycFwdProfileMapping::WithStorage : public IppeRecycFwdProfileMappin
  public:
    explicit WithStorage( ChipType chip, bool bufferHoldsEntry = false, U8 variant = 0 )
       : IppeRecycFwdProfileMapping( chip, storage_, sizeof storage_, bufferHoldsEntry, variant ) {}
-   ~WithStorage() override;
 
  private:
    alignas( 8 ) U8 storage_[28] = {};
@@ -7834,7 +7781,6 @@ class Ipv4PcremFwdDestPcrem::WithStorage : public Ipv4PcremFwdDestPcrem {
          handleBuf( chip, storage_, sizeof storage_, true, variant );
       }
    }
-   ~WithStorage() override;
 
  private:
    alignas( 8 ) U8 storage_[40] = {};
@@ -7885,7 +7831,6 @@ class MappingFwdInfoToEnTerm::WithStorage : public MappingFwdInfoToEnTerm {
  public:
    explicit WithStorage( ChipType chip, bool bufferHoldsEntry = false, U8 variant = 0 )
       : MappingFwdInfoToEnTerm( chip, storage_, sizeof storage_, bufferHoldsEntry, variant ) {}
-   ~WithStorage() override;
 
  private:
    alignas( 8 ) U8 storage_[16] = {};
@@ -7948,7 +7893,6 @@ class PpmcDoubleOutLifSwap::WithStorage : public PpmcDoubleOutLifSwap {
          handleBuf( chip, storage_, sizeof storage_, true, variant );
       }
    }
-   ~WithStorage() override;
 
  private:
    alignas( 8 ) U8 storage_[24] = {};
@@ -8119,7 +8063,6 @@ class PrivateHostReducedVrf::WithStorage : public PrivateHostReducedVrf {
          handleBuf( chip, storage_, sizeof storage_, true, variant );
       }
    }
-   ~WithStorage() override;
 
  private:
    alignas( 8 ) U8 storage_[40] = {};
@@ -8184,7 +8127,6 @@ class PweInlifCsProfile::WithStorage : public PweInlifCsProfile {
  public:
    explicit WithStorage( ChipType chip, bool bufferHoldsEntry = false, U8 variant = 0 )
       : PweInlifCsProfile( chip, storage_, sizeof storage_, bufferHoldsEntry, variant ) {}
-   ~WithStorage() override;
 
  private:
    alignas( 8 ) U8 storage_[80] = {};
@@ -8256,7 +8198,6 @@ class RoutingInlifCsProfile::WithStorage : public RoutingInlifCsProfile {
  public:
    explicit WithStorage( ChipType chip, bool bufferHoldsEntry = false, U8 variant = 0 )
       : RoutingInlifCsProfile( chip, storage_, sizeof storage_, bufferHoldsEntry, variant ) {}
-   ~WithStorage() override;
 
  private:
    alignas( 8 ) U8 storage_[80] = {};
@@ -8328,7 +8269,6 @@ class RoutingVeloroInlifCsProfile::WithStorage : public RoutingVeloroInlifCsProf
  public:
    explicit WithStorage( ChipType chip, bool bufferHoldsEntry = false, U8 variant = 0 )
       : RoutingVeloroInlifCsProfile( chip, storage_, sizeof storage_, bufferHoldsEntry, variant ) {}
-   ~WithStorage() override;
 
  private:
    alignas( 8 ) U8 storage_[80] = {};
@@ -8407,7 +8347,6 @@ class SystemHeaderPph::WithStorage : public SystemHeaderPph {
  public:
    explicit WithStorage( ChipType chip, bool bufferHoldsEntry = false, U8 variant = 0 )
       : SystemHeaderPph( chip, storage_, sizeof storage_, bufferHoldsEntry, variant ) {}
-   ~WithStorage() override;
 
  private:
    alignas( 8 ) U8 storage_[4] = {};
@@ -8458,7 +8397,6 @@ class TerminateNetworkHeaders::WithStorage : public TerminateNetworkHeaders {
  public:
    explicit WithStorage( ChipType chip, bool bufferHoldsEntry = false, U8 variant = 0 )
       : TerminateNetworkHeaders( chip, storage_, sizeof storage_, bufferHoldsEntry, variant ) {}
-   ~WithStorage() override;
 
  private:
    alignas( 8 ) U8 storage_[16] = {};
@@ -8516,7 +8454,6 @@ class UnknownDaProfile::WithStorage : public UnknownDaProfile {
  public:
    explicit WithStorage( ChipType chip, bool bufferHoldsEntry = false, U8 variant = 0 )
       : UnknownDaProfile( chip, storage_, sizeof storage_, bufferHoldsEntry, variant ) {}
-   ~WithStorage() override;
 
  private:
    alignas( 8 ) U8 storage_[4] = {};
@@ -8588,7 +8525,6 @@ class VeloroL2FodoProfile::WithStorage : public VeloroL2FodoProfile {
  public:
    explicit WithStorage( ChipType chip, bool bufferHoldsEntry = false, U8 variant = 0 )
       : VeloroL2FodoProfile( chip, storage_, sizeof storage_, bufferHoldsEntry, variant ) {}
-   ~WithStorage() override;
 
  private:
    alignas( 8 ) U8 storage_[80] = {};
@@ -8664,7 +8600,6 @@ class VsiProfileEnablers::WithStorage : public VsiProfileEnablers {
  public:
    explicit WithStorage( ChipType chip, bool bufferHoldsEntry = false, U8 variant = 0 )
       : VsiProfileEnablers( chip, storage_, sizeof storage_, bufferHoldsEntry, variant ) {}
-   ~WithStorage() override;
 
  private:
    alignas( 8 ) U8 storage_[4] = {};
@@ -8722,7 +8657,6 @@ class VsiProfileFlags::WithStorage : public VsiProfileFlags {
  public:
    explicit WithStorage( ChipType chip, bool bufferHoldsEntry = false, U8 variant = 0 )
       : VsiProfileFlags( chip, storage_, sizeof storage_, bufferHoldsEntry, variant ) {}
-   ~WithStorage() override;
 
  private:
    alignas( 8 ) U8 storage_[8] = {};
@@ -8836,7 +8770,6 @@ class VttTrapStrengths3::WithStorage : public VttTrapStrengths3 {
  public:
    explicit WithStorage( ChipType chip, bool bufferHoldsEntry = false, U8 variant = 0 )
       : VttTrapStrengths3( chip, storage_, sizeof storage_, bufferHoldsEntry, variant ) {}
-   ~WithStorage() override;
 
  private:
    alignas( 8 ) U8 storage_[8] = {};
@@ -8964,7 +8897,6 @@ class VttTrapStrengths4::WithStorage : public VttTrapStrengths4 {
  public:
    explicit WithStorage( ChipType chip, bool bufferHoldsEntry = false, U8 variant = 0 )
       : VttTrapStrengths4( chip, storage_, sizeof storage_, bufferHoldsEntry, variant ) {}
-   ~WithStorage() override;
 
  private:
    alignas( 8 ) U8 storage_[8] = {};
@@ -9092,7 +9024,6 @@ class VttTrapStrengths5::WithStorage : public VttTrapStrengths5 {
  public:
    explicit WithStorage( ChipType chip, bool bufferHoldsEntry = false, U8 variant = 0 )
       : VttTrapStrengths5( chip, storage_, sizeof storage_, bufferHoldsEntry, variant ) {}
-   ~WithStorage() override;
 
  private:
    alignas( 8 ) U8 storage_[8] = {};
@@ -9220,7 +9151,6 @@ class VttTrapStrengths6::WithStorage : public VttTrapStrengths6 {
  public:
    explicit WithStorage( ChipType chip, bool bufferHoldsEntry = false, U8 variant = 0 )
       : VttTrapStrengths6( chip, storage_, sizeof storage_, bufferHoldsEntry, variant ) {}
-   ~WithStorage() override;
 
  private:
    alignas( 8 ) U8 storage_[8] = {};

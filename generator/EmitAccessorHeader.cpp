@@ -244,7 +244,7 @@ class ClassWriter {
       } else {
          out_ << "      : " << name << "( chip, storage_, sizeof storage_, bufferHoldsEntry, variant ) {}\n";
       }
-      out_ << "   ~WithStorage() override;\n\n private:\n"
+      out_ << "\n private:\n"
            << "   alignas( 8 ) U8 storage_[" << table_.largestWidth() * 4 << "] = {};\n};\n";
    }
 

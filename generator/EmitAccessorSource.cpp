@@ -146,24 +146,12 @@ class ClassWriter {
       }
    }
 
-   static std::string rowText( Place const & place ) {
-      unsigned const end = place.offset + place.width;
-      std::string text = "{ " + std::to_string( place.offset ) + ", " + std::to_string( place.width ) + ", " +
-                         std::to_string( ( end + 7 ) / 8 ) + ", " + std::to_string( ( end + 31 ) / 32 * 4 );
-      if ( place.width > 32 ) {
-         return text + ", 0, 0 }";
-      }
-      std::uint64_t const mask = ( ( std::uint64_t{ 1 } << place.width ) - 1 ) << place.offset % 32;
-      auto const low = static_cast< std::uint32_t >( mask );
-      auto const high = static_cast< std::uint32_t >( mask >> 32 );
-      return text + ", " + hex( high ? high : low ) + ", " + hex( high ? low : 0 ) + " }";
-   }
-
    void rows() {
-      Items items( 4 );
+      Items items( 8 );
       for ( auto const & row : formats_.rows ) {
          for ( auto const & place : row ) {
-            items.add( place ? rowText( *place ) : "{ 0, 0, 0xffff, 0xffff, 0, 0 }" );
+            items.add( place ? "{ " + std::to_string( place->offset ) + ", " + std::to_string( place->width ) + " }"
+                             : "{}" );
          }
       }
       out_ << "constexpr AsicUtils::FieldRow rows[] = " << items.text() << ";\n";
@@ -181,8 +169,7 @@ class ClassWriter {
    void members() {
       out_ << entryType_ << " " << name_ << "::allFieldsMask() const {\n"
            << "   metaInfo.trace( \"virtual " << entryType_ << " %::allFieldsMask() const\", chipType, variant_ );\n"
-           << "   return allFieldsMask( chipType, variant_ );\n}\n\n"
-           << name_ << "::WithStorage::~WithStorage() = default;\n";
+           << "   return allFieldsMask( chipType, variant_ );\n}\n";
    }
 
    Catalogue const & catalogue_;

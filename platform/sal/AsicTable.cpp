@@ -1,5 +1,8 @@
 #include "sal/AsicTable.h"
 
+#include <cstdint>
+#include <cstring>
+
 namespace DaceSal::AsicUtils {
 
 namespace {
@@ -10,24 +13,32 @@ namespace {
    return *installed;
 }
 
-// The words of an entry on their way between the buffer, which may lie anywhere, and the driver.
-struct Words {
-   std::array< U32, Raw1024::words > word; // filled before it is read
+// The words of an entry on their way between the buffer and the driver: where they lie, if that is an address for
+// words, or else a copy.
+class Words {
+ public:
+   Words( U8 const * buf, unsigned width )
+      : inPlace_( reinterpret_cast< std::uintptr_t >( buf ) % alignof( U32 ) == 0 ), width_( width ) {
+      if ( !inPlace_ ) [[unlikely]] {
+         std::memcpy( copy_.data(), buf, bytes() );
+      }
+   }
+   std::span< U32 const > of( U8 const * buf ) const {
+      return { inPlace_ ? reinterpret_cast< U32 const * >( buf ) : copy_.data(), width_ };
+   }
+   std::span< U32 > of( U8 * buf ) { return { inPlace_ ? reinterpret_cast< U32 * >( buf ) : copy_.data(), width_ }; }
+   void give( U8 * buf ) const {
+      if ( !inPlace_ ) [[unlikely]] {
+         std::memcpy( buf, copy_.data(), bytes() );
+      }
+   }
 
-   std::span< U32 const > taken( U8 const * buf, unsigned width ) {
-      // Word by word: fields were just stored that way, and a wider load would wait for them.
-      for ( unsigned i = 0; i < width; ++i ) {
-         word[i] = Detail::loadWord( buf + 4 * i );
-         asm volatile( "" : : : "memory" ); // keeps the loop from becoming a call of memcpy
-      }
-      return { word.data(), width };
-   }
-   void give( U8 * buf, unsigned width ) const {
-      for ( unsigned i = 0; i < width; ++i ) {
-         Detail::storeWord( buf + 4 * i, word[i] );
-         asm volatile( "" : : : "memory" );
-      }
-   }
+ private:
+   std::size_t bytes() const { return width_ * sizeof( U32 ); }
+
+   std::array< U32, Raw1024::words > copy_; // filled before it is read
+   bool inPlace_;
+   unsigned width_;
 };
 
 Operation writing( Operation::Scope scope, bool changed ) {
@@ -90,19 +101,19 @@ DaceSalAsicTransferBase::route( Place const & place, char const * pattern ) cons
 [[gnu::always_inline]] inline void DaceSalAsicTransferBase::readAny( Place const & place,
                                                                      std::source_location const & origin ) {
    Route const way = route( place, "int %::doReadAny" );
-   Words words;
-   driver().read( place.chip, way.copy( 0 ), { words.word.data(), way.width } );
-   words.give( buf_, way.width );
+   Words words( buf_, way.width );
+   driver().read( place.chip, way.copy( 0 ), words.of( buf_ ) );
+   words.give( buf_ );
    if ( OperationListener * listener = operationListener() ) {
-      tell( *listener, Operation{}, place, { words.word.data(), way.width }, origin );
+      tell( *listener, Operation{}, place, words.of( buf_ ), origin );
    }
 }
 
 [[gnu::always_inline]] inline void DaceSalAsicTransferBase::writeAll( Place const & place,
                                                                       std::source_location const & origin ) const {
    Route const way = route( place, "void %::doWriteAll" );
-   Words words;
-   auto const taken = words.taken( buf_, way.width );
+   Words const words( buf_, way.width );
+   std::span< U32 const > const taken = words.of( buf_ );
    SchanDriver & to = driver();
    bool changed = false;
    for ( U32 instance = 0; instance < way.instances; ++instance ) {
@@ -123,8 +134,8 @@ void DaceSalAsicTransferBase::writeCore( Place const & place, int core, std::sou
               << ". No chip operation was made.";
       meta().failWith( "core < instanceCount()", message.str(), pattern );
    }
-   Words words;
-   auto const taken = words.taken( buf_, way.width );
+   Words const words( buf_, way.width );
+   std::span< U32 const > const taken = words.of( buf_ );
    Operation operation =
       writing( Operation::Scope::core, driver().write( place.chip, way.copy( static_cast< U32 >( core ) ), taken ) );
    operation.core = core;

@@ -113,8 +113,8 @@ FieldRow const & BcmAsicBase::checkedRow( U16 field, Access access ) const {
       failLacking( field, pattern( field, access ) );
    }
    FieldRow const & row = meta_->row( found->format, field );
-   if ( len_ < row.bytes ) {
-      meta_->fail( "len_ >= " + std::to_string( row.bytes ), pattern( field, access ) );
+   if ( len_ < row.bytes() ) {
+      meta_->fail( "len_ >= " + std::to_string( row.bytes() ), pattern( field, access ) );
    }
    // The pair is known to be valid now, also where the variant was changed.
    pairIs( *found );
@@ -305,7 +305,7 @@ void BcmAsicBase::maskedEntry( U32 * words ) const {
    for ( U16 field = 0; field < meta_->fields.size(); ++field ) {
       FieldRow const & row = meta_->row( found->format, field );
       if ( row.width != 0 ) {
-         bytes = std::max( bytes, row.bytes );
+         bytes = std::max( bytes, row.bytes() );
       }
    }
    if ( len_ < bytes ) {

@@ -72,51 +72,53 @@ class BcmAsicBase : public AsicBase {
    // A field of at most 32 bits whose place depends on the format, and which lies within a word in each.
    [[gnu::always_inline]] void fieldInIs( bool traced, U16 field, U32 value ) {
       FieldRow const & row = rows_[field];
-      U64 const placed = U64{ value } << row.offset % 32;
-      if ( traced || usable_ < row.wordBytes || ( placed & ~U64{ row.mask } ) != 0 ) [[unlikely]] {
+      U64 const placed = U64{ value } << row.shift;
+      if ( traced || usable_ < row.wordBytes || ( placed & row.keep ) != 0 ) [[unlikely]] {
          fieldIs( field, value );
          return;
       }
       U8 * const at = buf_ + row.wordBytes - 4;
-      Detail::storeWord( at, ( Detail::loadWord( at ) & ~row.mask ) | static_cast< U32 >( placed ) );
+      Detail::storeWord( at,
+                         ( Detail::loadWord( at ) & static_cast< U32 >( row.keep ) ) | static_cast< U32 >( placed ) );
    }
    [[gnu::always_inline]] U32 fieldIn( bool traced, U16 field ) const {
       FieldRow const & row = rows_[field];
       if ( traced || usable_ < row.wordBytes ) [[unlikely]] {
          return static_cast< U32 >( fieldValue( field ) );
       }
-      return ( Detail::loadWord( buf_ + row.wordBytes - 4 ) & row.mask ) >> row.offset % 32;
+      return ( Detail::loadWord( buf_ + row.wordBytes - 4 ) & ~static_cast< U32 >( row.keep ) ) >> row.shift;
    }
 
    // The same for a field that lies across two words in some format.
    [[gnu::always_inline]] void fieldAcrossIs( bool traced, U16 field, U32 value ) {
       FieldRow const & row = rows_[field];
-      if ( row.maskBefore == 0 ) {
+      if ( row.words == 1 ) {
          fieldInIs( traced, field, value );
          return;
       }
-      U64 const mask = U64{ row.mask } << 32 | row.maskBefore;
-      U64 const placed = U64{ value } << row.offset % 32;
-      if ( traced || usable_ < row.wordBytes || ( placed & ~mask ) != 0 ) [[unlikely]] {
+      U64 const placed = U64{ value } << row.shift;
+      if ( traced || usable_ < row.wordBytes || ( placed & row.keep ) != 0 ) [[unlikely]] {
          fieldIs( field, value );
          return;
       }
       U8 * const at = buf_ + row.wordBytes - 8;
-      Detail::storeWord( at, ( Detail::loadWord( at ) & ~row.maskBefore ) | static_cast< U32 >( placed ) );
-      Detail::storeWord( at + 4, ( Detail::loadWord( at + 4 ) & ~row.mask ) | static_cast< U32 >( placed >> 32 ) );
+      Detail::storeWord( at,
+                         ( Detail::loadWord( at ) & static_cast< U32 >( row.keep ) ) | static_cast< U32 >( placed ) );
+      Detail::storeWord( at + 4,
+                         ( Detail::loadWord( at + 4 ) & static_cast< U32 >( row.keep >> 32 ) ) |
+                            static_cast< U32 >( placed >> 32 ) );
    }
    [[gnu::always_inline]] U32 fieldAcross( bool traced, U16 field ) const {
       FieldRow const & row = rows_[field];
-      if ( row.maskBefore == 0 ) {
+      if ( row.words == 1 ) {
          return fieldIn( traced, field );
       }
       if ( traced || usable_ < row.wordBytes ) [[unlikely]] {
          return static_cast< U32 >( fieldValue( field ) );
       }
       U8 const * const at = buf_ + row.wordBytes - 8;
-      U64 const words =
-         U64{ Detail::loadWord( at + 4 ) & row.mask } << 32 | ( Detail::loadWord( at ) & row.maskBefore );
-      return static_cast< U32 >( words >> row.offset % 32 );
+      U64 const words = U64{ Detail::loadWord( at + 4 ) } << 32 | Detail::loadWord( at );
+      return static_cast< U32 >( ( words & ~row.keep ) >> row.shift );
    }
 
    // A wide field that fills its type and begins with a byte, at one place.

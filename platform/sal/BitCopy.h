@@ -16,14 +16,17 @@ static_assert( std::endian::native == std::endian::little );
 
 namespace Detail {
 
+// Typed as words, which may lie anywhere, rather than copied as bytes: so the compiler knows that a store leaves
+// pointers and lengths alone, and keeps a word in a register from one field to the next. A buffer of bytes holds words
+// as soon as they are used.
+using Word [[gnu::aligned( 1 )]] = U32;
+
 [[gnu::always_inline]] inline U32 loadWord( U8 const * at ) {
-   U32 word;
-   std::memcpy( &word, at, sizeof word );
-   return word;
+   return *reinterpret_cast< Word const * >( at );
 }
 
 [[gnu::always_inline]] inline void storeWord( U8 * at, U32 word ) {
-   std::memcpy( at, &word, sizeof word );
+   *reinterpret_cast< Word * >( at ) = word;
 }
 
 // The bytes up to the end of the 32-bit word that holds the last bit of a run: what loadBits and storeBits touch.

@@ -14,6 +14,7 @@
 #include "corvo/Types.h"
 #include "rex/Assert.h"
 #include "rex/Trace.h"
+#include "sal/BitCopy.h"
 #include "sal/Raw.h"
 
 #include <span>
@@ -54,16 +55,27 @@ struct FieldInfo {
    bool readOnly; // part of the format's tag
 };
 
-// Where a field lies in one format.
+// Where a field lies in one format, and what an access of a narrow one needs of that.
 struct FieldRow {
-   U16 offset;    // bits
-   U16 width;     // bits; 0 where the format lacks the field
-   U16 bytes;     // length of buffer that an access needs; `absent` where the format lacks the field
-   U16 wordBytes; // the same, rounded up to whole words
-   // The bits of a narrow field in the last word that it touches, which ends at wordBytes, and in the word before it.
-   U32 mask;
-   U32 maskBefore; // 0 where the field lies within a word
+   U16 offset = 0;         // bits
+   U16 width = 0;          // bits; 0 where the format lacks the field
+   U16 wordBytes = absent; // from the start of the buffer to the end of the last word that the field touches
+   U8 shift = 0;           // of the field in the first word that it touches
+   U8 words = 0;           // how many it touches
+   // For a field of at most 32 bits: the bits of its word, or of its two words, that are not its own. Where there is
+   // one word, the upper half is all ones, as no bit of a value may come to lie there.
+   U64 keep = 0;
+
    static constexpr U16 absent = 0xffff;
+
+   constexpr FieldRow() = default;
+   constexpr FieldRow( U16 offset_, U16 width_ )
+      : offset( offset_ ), width( width_ ), wordBytes( static_cast< U16 >( Detail::wordBytes( offset, width ) ) ),
+        shift( offset % 32 ), words( static_cast< U8 >( ( shift + width + 31 ) / 32 ) ),
+        keep( ~( ( ( U64{ 1 } << ( width <= 32 ? width : 0 ) ) - 1 ) << shift ) ) {}
+
+   // The length of buffer that an access needs.
+   constexpr U16 bytes() const { return static_cast< U16 >( ( offset + width + 7 ) / 8 ); }
 };
 
 // Geometry and address of one table on one chip.
