@@ -14,7 +14,7 @@ Rex::TraceFacility const trace{ "AsicUtilsDaceFapNiPluginL3UnicastMetaInfo" };
 
 namespace {
 
-constinit AsicUtils::MetaInfoUnit const unit{ "generated/DaceFapNiPluginL3UnicastMetaInfo.cpp", trace };
+char const source[] = "generated/DaceFapNiPluginL3UnicastMetaInfo.cpp";
 
 } // namespace
 
@@ -31,33 +31,33 @@ constexpr AsicUtils::FieldInfo fields[] = {
    { "additionalHeadersType", 51, AsicUtils::ValueType::U8, false },
    { "protocolSpecificInformation", 590, AsicUtils::ValueType::U64, false },
 };
-constexpr AsicUtils::TableLayout layouts[] = {
-   { { 0, 32u }, 3, 1, 0, 0, 1, 3299, 2, { { 28, 2 }, { 10, 10 } }, 0x150000, 0 },
-   { { 0, 32u }, 3, 1, 0, 0, 1, 3299, 1, { { 2, 9 } }, 0x150000, 0 },
-   { { 0, 32u }, 3, 1, 0, 0, 1, 3299, 2, { { 28, 13 }, { 28, 25 } }, 0x150000, 0 },
-   { { 0, 32u }, 3, 1, 0, 0, 1, 3299, 1, { { 28, 13 } }, 0x150000, 0 },
-   { { 0, 32u }, 3, 1, 0, 0, 1, 3299, 1, { { 16, 9 } }, 0x150000, 0 },
-   { { 0, 32u }, 3, 1, 0, 0, 1, 3443, 2, { { 30, 2 }, { 12, 10 } }, 0x26d0000, 0 },
-   { { 0, 32u }, 3, 1, 0, 0, 1, 3443, 1, { { 8, 4 } }, 0x26d0000, 0 },
-   { { 0, 32u }, 3, 1, 0, 0, 1, 3443, 2, { { 30, 13 }, { 30, 25 } }, 0x26d0000, 0 },
-   { { 0, 32u }, 3, 1, 0, 0, 1, 3443, 1, { { 30, 13 } }, 0x26d0000, 0 },
-   { { 0, 32u }, 3, 1, 0, 0, 1, 3443, 1, { { 24, 9 } }, 0x26d0000, 0 },
-};
-constexpr AsicUtils::PairRow pairs[] = {
-   { 0, 0 }, { 1, 0 }, { 2, 0 }, { 255, 0 }, { 3, 0 }, { 4, 0 }, { 4, 0 },
-   { 5, 0 }, { 6, 0 }, { 7, 0 }, { 255, 0 }, { 8, 0 }, { 9, 0 }, { 9, 0 },
+constexpr AsicUtils::FieldRow rows[] = {
+   { 0, 1 }, { 1, 16 }, { 17, 1 }, { 18, 8 }, { 26, 4 }, { 30, 35 },
 };
 constexpr U32 masks[] = {
    0xffffffff, 0xffffffff, 0x1, 0x0,
 };
-constexpr AsicUtils::FieldRow rows[] = {
-   { 0, 1 }, { 1, 16 }, { 17, 1 }, { 18, 8 }, { 26, 4 }, { 30, 35 },
+constexpr AsicUtils::TableLayout layouts[] = {
+   { { 0, 32u }, 3, 12, 1, 0, 0, 3299, 2, { { 28, 2 }, { 10, 10 } }, 0x150000, 0 },
+   { { 0, 32u }, 3, 12, 1, 0, 0, 3299, 1, { { 2, 9 } }, 0x150000, 0 },
+   { { 0, 32u }, 3, 12, 1, 0, 0, 3299, 2, { { 28, 13 }, { 28, 25 } }, 0x150000, 0 },
+   { { 0, 32u }, 3, 12, 1, 0, 0, 3299, 1, { { 28, 13 } }, 0x150000, 0 },
+   { { 0, 32u }, 3, 12, 1, 0, 0, 3299, 1, { { 16, 9 } }, 0x150000, 0 },
+   { { 0, 32u }, 3, 12, 1, 0, 0, 3443, 2, { { 30, 2 }, { 12, 10 } }, 0x26d0000, 0 },
+   { { 0, 32u }, 3, 12, 1, 0, 0, 3443, 1, { { 8, 4 } }, 0x26d0000, 0 },
+   { { 0, 32u }, 3, 12, 1, 0, 0, 3443, 2, { { 30, 13 }, { 30, 25 } }, 0x26d0000, 0 },
+   { { 0, 32u }, 3, 12, 1, 0, 0, 3443, 1, { { 30, 13 } }, 0x26d0000, 0 },
+   { { 0, 32u }, 3, 12, 1, 0, 0, 3443, 1, { { 24, 9 } }, 0x26d0000, 0 },
+};
+constexpr AsicUtils::PairRow pairs[] = {
+   { &layouts[0], &rows[0], &masks[0] }, { &layouts[1], &rows[0], &masks[0] }, { &layouts[2], &rows[0], &masks[0] }, {}, { &layouts[3], &rows[0], &masks[0] }, { &layouts[4], &rows[0], &masks[0] }, { &layouts[4], &rows[0], &masks[0] },
+   { &layouts[5], &rows[0], &masks[0] }, { &layouts[6], &rows[0], &masks[0] }, { &layouts[7], &rows[0], &masks[0] }, {}, { &layouts[8], &rows[0], &masks[0] }, { &layouts[9], &rows[0], &masks[0] }, { &layouts[9], &rows[0], &masks[0] },
 };
 } // namespace AdditionalHeadersMapTable0Data
 
 constinit AsicUtils::MetaInfo const AdditionalHeadersMapTable0::metaInfo{
-   Impl::unit, __LINE__, "AdditionalHeadersMapTable0", 0, true, 2, AsicUtils::ValueType::Raw128,
-   AdditionalHeadersMapTable0Data::fields, AdditionalHeadersMapTable0Data::pairs, AdditionalHeadersMapTable0Data::layouts, AdditionalHeadersMapTable0Data::rows, AdditionalHeadersMapTable0Data::masks, {}, {}
+   Impl::trace, Impl::source, __LINE__, "AdditionalHeadersMapTable0", 0, true, 2, AsicUtils::ValueType::Raw128,
+   AdditionalHeadersMapTable0Data::fields, AdditionalHeadersMapTable0Data::pairs, {}, {}
 };
 
 Raw128 AdditionalHeadersMapTable0::allFieldsMask() const {
@@ -173,24 +173,6 @@ constexpr AsicUtils::FieldInfo fields[] = {
    { "inTc", 342, AsicUtils::ValueType::U8, false },
    { "intTmStatFilter", 420, AsicUtils::ValueType::U8, false },
 };
-constexpr AsicUtils::TableLayout layouts[] = {
-   { { 0, 32u }, 15, 3, 0, 0, 3, 770, 2, { { 8, 1 }, { 22, 8 } }, 0xe50000, 32 },
-   { { 0, 32u }, 15, 3, 0, 0, 3, 770, 1, { { 22, 1 } }, 0x66b00, 32 },
-   { { 0, 32u }, 15, 3, 0, 0, 3, 770, 2, { { 0, 12 }, { 0, 24 } }, 0x1660000, 32 },
-   { { 0, 32u }, 15, 3, 0, 0, 3, 770, 1, { { 0, 12 } }, 0x1660000, 32 },
-   { { 0, 32u }, 15, 3, 0, 0, 3, 770, 1, { { 24, 13 } }, 0xba0000, 32 },
-};
-constexpr AsicUtils::PairRow pairs[] = {
-   { 0, 0 }, { 1, 1 }, { 2, 2 }, { 255, 0 }, { 3, 2 }, { 4, 1 }, { 4, 1 },
-};
-constexpr U32 masks[] = {
-   0xffffffff, 0xffffffff, 0xffffffff, 0xffffffff, 0xffffffff, 0xffffffff, 0xffffffff, 0xffffffff,
-   0xffffffff, 0xffffffff, 0xffffffff, 0xffffffff, 0xffffffff, 0xffffffff, 0x1, 0x0,
-   0xffffffff, 0xffffffff, 0xffffffff, 0xffffffff, 0xffffffff, 0xffffffff, 0xffffffff, 0xffffffff,
-   0xffffffff, 0xffffffff, 0xffffffff, 0xffffffff, 0xffffffff, 0xffffffff, 0x7, 0x0,
-   0xffffffff, 0xffffffff, 0xffffffff, 0xffffffff, 0xffffffff, 0xffffffff, 0xffffffff, 0xffffffff,
-   0xffffffff, 0xffffffff, 0xffffffff, 0xffffffff, 0xffffffff, 0xffffffff, 0x1f, 0x0,
-};
 constexpr AsicUtils::FieldRow rows[] = {
    { 0, 1 }, { 1, 1 }, { 2, 1 }, { 3, 8 }, { 11, 1 }, { 12, 80 }, { 92, 1 }, { 93, 1 },
    { 94, 1 }, { 95, 1 }, { 96, 1 }, { 97, 1 }, { 98, 1 }, { 99, 1 }, { 100, 1 }, { 101, 1 },
@@ -232,11 +214,29 @@ constexpr AsicUtils::FieldRow rows[] = {
    { 410, 1 }, { 411, 2 }, { 413, 1 }, { 414, 8 }, { 422, 1 }, { 423, 9 }, { 432, 1 }, { 433, 10 },
    { 443, 1 }, { 444, 8 }, { 403, 1 }, { 404, 3 }, { 452, 1 },
 };
+constexpr U32 masks[] = {
+   0xffffffff, 0xffffffff, 0xffffffff, 0xffffffff, 0xffffffff, 0xffffffff, 0xffffffff, 0xffffffff,
+   0xffffffff, 0xffffffff, 0xffffffff, 0xffffffff, 0xffffffff, 0xffffffff, 0x1, 0x0,
+   0xffffffff, 0xffffffff, 0xffffffff, 0xffffffff, 0xffffffff, 0xffffffff, 0xffffffff, 0xffffffff,
+   0xffffffff, 0xffffffff, 0xffffffff, 0xffffffff, 0xffffffff, 0xffffffff, 0x7, 0x0,
+   0xffffffff, 0xffffffff, 0xffffffff, 0xffffffff, 0xffffffff, 0xffffffff, 0xffffffff, 0xffffffff,
+   0xffffffff, 0xffffffff, 0xffffffff, 0xffffffff, 0xffffffff, 0xffffffff, 0x1f, 0x0,
+};
+constexpr AsicUtils::TableLayout layouts[] = {
+   { { 0, 32u }, 15, 60, 3, 0, 0, 770, 2, { { 8, 1 }, { 22, 8 } }, 0xe50000, 32 },
+   { { 0, 32u }, 15, 60, 3, 0, 0, 770, 1, { { 22, 1 } }, 0x66b00, 32 },
+   { { 0, 32u }, 15, 60, 3, 0, 0, 770, 2, { { 0, 12 }, { 0, 24 } }, 0x1660000, 32 },
+   { { 0, 32u }, 15, 60, 3, 0, 0, 770, 1, { { 0, 12 } }, 0x1660000, 32 },
+   { { 0, 32u }, 15, 60, 3, 0, 0, 770, 1, { { 24, 13 } }, 0xba0000, 32 },
+};
+constexpr AsicUtils::PairRow pairs[] = {
+   { &layouts[0], &rows[0], &masks[0] }, { &layouts[1], &rows[103], &masks[16] }, { &layouts[2], &rows[206], &masks[32] }, {}, { &layouts[3], &rows[206], &masks[32] }, { &layouts[4], &rows[103], &masks[16] }, { &layouts[4], &rows[103], &masks[16] },
+};
 } // namespace CgmSnifTmTableData
 
 constinit AsicUtils::MetaInfo const CgmSnifTmTable::metaInfo{
-   Impl::unit, __LINE__, "CgmSnifTmTable", 1, true, 1, AsicUtils::ValueType::Raw512,
-   CgmSnifTmTableData::fields, CgmSnifTmTableData::pairs, CgmSnifTmTableData::layouts, CgmSnifTmTableData::rows, CgmSnifTmTableData::masks, {}, {}
+   Impl::trace, Impl::source, __LINE__, "CgmSnifTmTable", 1, true, 1, AsicUtils::ValueType::Raw512,
+   CgmSnifTmTableData::fields, CgmSnifTmTableData::pairs, {}, {}
 };
 
 Raw512 CgmSnifTmTable::allFieldsMask() const {
@@ -252,40 +252,40 @@ constexpr AsicUtils::FieldInfo fields[] = {
    { "outrifMaxValue", 549, AsicUtils::ValueType::U32, false },
    { "cfgRifMaxValue", 63, AsicUtils::ValueType::U32, false },
 };
-constexpr AsicUtils::TableLayout layouts[] = {
-   { { 0, 1u }, 1, 1, 0, 0, 1, 30562, 2, { { 24, 2 }, { 6, 10 } }, 0x50b, 0 },
-   { { 0, 1u }, 1, 1, 0, 0, 1, 30562, 1, { { 0, 9 } }, 0x50b, 0 },
-   { { 0, 1u }, 1, 1, 0, 0, 1, 30562, 2, { { 24, 13 }, { 24, 25 } }, 0x50b, 0 },
-   { { 0, 1u }, 1, 1, 0, 0, 1, 30562, 1, { { 24, 13 } }, 0x50b, 0 },
-   { { 0, 1u }, 1, 1, 0, 0, 1, 30562, 1, { { 24, 17 } }, 0x50b, 0 },
-   { { 0, 1u }, 1, 1, 0, 0, 1, 31547, 2, { { 26, 2 }, { 8, 10 } }, 0x108, 0 },
-   { { 0, 1u }, 1, 1, 0, 0, 1, 31547, 1, { { 20, 5 } }, 0x108, 0 },
-   { { 0, 1u }, 1, 1, 0, 0, 1, 31547, 2, { { 26, 13 }, { 26, 25 } }, 0x108, 0 },
-   { { 0, 1u }, 1, 1, 0, 0, 1, 31547, 1, { { 26, 13 } }, 0x108, 0 },
-   { { 0, 1u }, 1, 1, 0, 0, 1, 31547, 1, { { 8, 8 } }, 0x108, 0 },
-   { { 0, 1u }, 1, 1, 0, 0, 1, 31490, 2, { { 26, 2 }, { 8, 10 } }, 0x904, 0 },
-   { { 0, 1u }, 1, 1, 0, 0, 1, 31490, 1, { { 20, 5 } }, 0x904, 0 },
-   { { 0, 1u }, 1, 1, 0, 0, 1, 31490, 2, { { 26, 13 }, { 26, 25 } }, 0x905, 0 },
-   { { 0, 1u }, 1, 1, 0, 0, 1, 31490, 1, { { 26, 13 } }, 0x905, 0 },
-   { { 0, 1u }, 1, 1, 0, 0, 1, 31490, 1, { { 8, 8 } }, 0x904, 0 },
-};
-constexpr AsicUtils::PairRow pairs[] = {
-   { 0, 0 }, { 1, 0 }, { 2, 0 }, { 255, 0 }, { 3, 0 }, { 4, 0 }, { 4, 0 },
-   { 5, 1 }, { 6, 1 }, { 7, 1 }, { 255, 0 }, { 8, 1 }, { 9, 1 }, { 9, 1 },
-   { 10, 2 }, { 11, 2 }, { 12, 2 }, { 255, 0 }, { 13, 2 }, { 14, 2 }, { 14, 2 },
-};
-constexpr U32 masks[] = {
-   0x3ffff, 0x3ffff, 0x3fffff,
-};
 constexpr AsicUtils::FieldRow rows[] = {
    { 0, 18 }, {}, {}, {}, { 0, 18 }, {}, {}, {},
    { 0, 22 },
 };
+constexpr U32 masks[] = {
+   0x3ffff, 0x3ffff, 0x3fffff,
+};
+constexpr AsicUtils::TableLayout layouts[] = {
+   { { 0, 1u }, 1, 4, 1, 0, 0, 30562, 2, { { 24, 2 }, { 6, 10 } }, 0x50b, 0 },
+   { { 0, 1u }, 1, 4, 1, 0, 0, 30562, 1, { { 0, 9 } }, 0x50b, 0 },
+   { { 0, 1u }, 1, 4, 1, 0, 0, 30562, 2, { { 24, 13 }, { 24, 25 } }, 0x50b, 0 },
+   { { 0, 1u }, 1, 4, 1, 0, 0, 30562, 1, { { 24, 13 } }, 0x50b, 0 },
+   { { 0, 1u }, 1, 4, 1, 0, 0, 30562, 1, { { 24, 17 } }, 0x50b, 0 },
+   { { 0, 1u }, 1, 4, 1, 0, 0, 31547, 2, { { 26, 2 }, { 8, 10 } }, 0x108, 0 },
+   { { 0, 1u }, 1, 4, 1, 0, 0, 31547, 1, { { 20, 5 } }, 0x108, 0 },
+   { { 0, 1u }, 1, 4, 1, 0, 0, 31547, 2, { { 26, 13 }, { 26, 25 } }, 0x108, 0 },
+   { { 0, 1u }, 1, 4, 1, 0, 0, 31547, 1, { { 26, 13 } }, 0x108, 0 },
+   { { 0, 1u }, 1, 4, 1, 0, 0, 31547, 1, { { 8, 8 } }, 0x108, 0 },
+   { { 0, 1u }, 1, 4, 1, 0, 0, 31490, 2, { { 26, 2 }, { 8, 10 } }, 0x904, 0 },
+   { { 0, 1u }, 1, 4, 1, 0, 0, 31490, 1, { { 20, 5 } }, 0x904, 0 },
+   { { 0, 1u }, 1, 4, 1, 0, 0, 31490, 2, { { 26, 13 }, { 26, 25 } }, 0x905, 0 },
+   { { 0, 1u }, 1, 4, 1, 0, 0, 31490, 1, { { 26, 13 } }, 0x905, 0 },
+   { { 0, 1u }, 1, 4, 1, 0, 0, 31490, 1, { { 8, 8 } }, 0x904, 0 },
+};
+constexpr AsicUtils::PairRow pairs[] = {
+   { &layouts[0], &rows[0], &masks[0] }, { &layouts[1], &rows[0], &masks[0] }, { &layouts[2], &rows[0], &masks[0] }, {}, { &layouts[3], &rows[0], &masks[0] }, { &layouts[4], &rows[0], &masks[0] }, { &layouts[4], &rows[0], &masks[0] },
+   { &layouts[5], &rows[3], &masks[1] }, { &layouts[6], &rows[3], &masks[1] }, { &layouts[7], &rows[3], &masks[1] }, {}, { &layouts[8], &rows[3], &masks[1] }, { &layouts[9], &rows[3], &masks[1] }, { &layouts[9], &rows[3], &masks[1] },
+   { &layouts[10], &rows[6], &masks[2] }, { &layouts[11], &rows[6], &masks[2] }, { &layouts[12], &rows[6], &masks[2] }, {}, { &layouts[13], &rows[6], &masks[2] }, { &layouts[14], &rows[6], &masks[2] }, { &layouts[14], &rows[6], &masks[2] },
+};
 } // namespace EgressOutrifMaxValueData
 
 constinit AsicUtils::MetaInfo const EgressOutrifMaxValue::metaInfo{
-   Impl::unit, __LINE__, "EgressOutrifMaxValue", 2, false, 3, AsicUtils::ValueType::U32,
-   EgressOutrifMaxValueData::fields, EgressOutrifMaxValueData::pairs, EgressOutrifMaxValueData::layouts, EgressOutrifMaxValueData::rows, EgressOutrifMaxValueData::masks, {}, {}
+   Impl::trace, Impl::source, __LINE__, "EgressOutrifMaxValue", 2, false, 3, AsicUtils::ValueType::U32,
+   EgressOutrifMaxValueData::fields, EgressOutrifMaxValueData::pairs, {}, {}
 };
 
 U32 EgressOutrifMaxValue::allFieldsMask() const {
@@ -299,27 +299,27 @@ namespace EnableKapsInterfaceDefaultData {
 constexpr AsicUtils::FieldInfo fields[] = {
    { "enableKapsInterfaceDefault", 245, AsicUtils::ValueType::U8, false },
 };
-constexpr AsicUtils::TableLayout layouts[] = {
-   { { 0, 1u }, 1, 1, 0, 0, 1, 54175, 2, { { 10, 2 }, { 24, 9 } }, 0x163, 0 },
-   { { 0, 1u }, 1, 1, 0, 0, 1, 54175, 1, { { 10, 10 } }, 0x163, 0 },
-   { { 0, 1u }, 1, 1, 0, 0, 1, 54175, 2, { { 6, 14 }, { 6, 26 } }, 0x161, 0 },
-   { { 0, 1u }, 1, 1, 0, 0, 1, 54175, 1, { { 6, 14 } }, 0x161, 0 },
-   { { 0, 1u }, 1, 1, 0, 0, 1, 54175, 1, { { 0, 17 } }, 0x163, 0 },
-};
-constexpr AsicUtils::PairRow pairs[] = {
-   { 0, 0 }, { 1, 0 }, { 2, 0 }, { 255, 0 }, { 3, 0 }, { 4, 0 }, { 4, 0 },
+constexpr AsicUtils::FieldRow rows[] = {
+   { 0, 4 },
 };
 constexpr U32 masks[] = {
    0xf,
 };
-constexpr AsicUtils::FieldRow rows[] = {
-   { 0, 4 },
+constexpr AsicUtils::TableLayout layouts[] = {
+   { { 0, 1u }, 1, 4, 1, 0, 0, 54175, 2, { { 10, 2 }, { 24, 9 } }, 0x163, 0 },
+   { { 0, 1u }, 1, 4, 1, 0, 0, 54175, 1, { { 10, 10 } }, 0x163, 0 },
+   { { 0, 1u }, 1, 4, 1, 0, 0, 54175, 2, { { 6, 14 }, { 6, 26 } }, 0x161, 0 },
+   { { 0, 1u }, 1, 4, 1, 0, 0, 54175, 1, { { 6, 14 } }, 0x161, 0 },
+   { { 0, 1u }, 1, 4, 1, 0, 0, 54175, 1, { { 0, 17 } }, 0x163, 0 },
+};
+constexpr AsicUtils::PairRow pairs[] = {
+   { &layouts[0], &rows[0], &masks[0] }, { &layouts[1], &rows[0], &masks[0] }, { &layouts[2], &rows[0], &masks[0] }, {}, { &layouts[3], &rows[0], &masks[0] }, { &layouts[4], &rows[0], &masks[0] }, { &layouts[4], &rows[0], &masks[0] },
 };
 } // namespace EnableKapsInterfaceDefaultData
 
 constinit AsicUtils::MetaInfo const EnableKapsInterfaceDefault::metaInfo{
-   Impl::unit, __LINE__, "EnableKapsInterfaceDefault", 3, false, 1, AsicUtils::ValueType::U32,
-   EnableKapsInterfaceDefaultData::fields, EnableKapsInterfaceDefaultData::pairs, EnableKapsInterfaceDefaultData::layouts, EnableKapsInterfaceDefaultData::rows, EnableKapsInterfaceDefaultData::masks, {}, {}
+   Impl::trace, Impl::source, __LINE__, "EnableKapsInterfaceDefault", 3, false, 1, AsicUtils::ValueType::U32,
+   EnableKapsInterfaceDefaultData::fields, EnableKapsInterfaceDefaultData::pairs, {}, {}
 };
 
 U32 EnableKapsInterfaceDefault::allFieldsMask() const {
@@ -333,33 +333,33 @@ namespace EnablersVectorsData {
 constexpr AsicUtils::FieldInfo fields[] = {
    { "routingEnableVector", 633, AsicUtils::ValueType::U64, false },
 };
-constexpr AsicUtils::TableLayout layouts[] = {
-   { { 0, 32u }, 2, 3, 0, 0, 3, 8278, 2, { { 18, 2 }, { 0, 10 } }, 0x930000, 32 },
-   { { 0, 32u }, 2, 3, 0, 0, 3, 8278, 1, { { 6, 10 } }, 0x930000, 32 },
-   { { 0, 32u }, 2, 3, 0, 0, 3, 8278, 2, { { 2, 14 }, { 2, 26 } }, 0x930000, 32 },
-   { { 0, 32u }, 2, 3, 0, 0, 3, 8278, 1, { { 2, 14 } }, 0x930000, 32 },
-   { { 0, 32u }, 2, 3, 0, 0, 3, 8278, 1, { { 24, 12 } }, 0x930000, 32 },
-   { { 0, 32u }, 2, 2, 3, 3, 5, 7780, 2, { { 8, 2 }, { 22, 9 } }, 0x8f0060, 32 },
-   { { 0, 32u }, 2, 2, 3, 3, 5, 7780, 1, { { 8, 10 } }, 0x8f0060, 32 },
-   { { 0, 32u }, 2, 2, 3, 3, 5, 7780, 2, { { 4, 14 }, { 4, 26 } }, 0x8f0060, 32 },
-   { { 0, 32u }, 2, 2, 3, 3, 5, 7780, 1, { { 4, 14 } }, 0x8f0060, 32 },
-   { { 0, 32u }, 2, 2, 3, 3, 5, 7780, 1, { { 8, 17 } }, 0x8f0060, 32 },
-};
-constexpr AsicUtils::PairRow pairs[] = {
-   { 0, 0 }, { 1, 0 }, { 2, 0 }, { 255, 0 }, { 3, 0 }, { 4, 0 }, { 4, 0 },
-   { 5, 0 }, { 6, 0 }, { 7, 0 }, { 255, 0 }, { 8, 0 }, { 9, 0 }, { 9, 0 },
+constexpr AsicUtils::FieldRow rows[] = {
+   { 0, 64 },
 };
 constexpr U32 masks[] = {
    0xffffffff, 0xffffffff,
 };
-constexpr AsicUtils::FieldRow rows[] = {
-   { 0, 64 },
+constexpr AsicUtils::TableLayout layouts[] = {
+   { { 0, 32u }, 2, 8, 3, 0, 0, 8278, 2, { { 18, 2 }, { 0, 10 } }, 0x930000, 32 },
+   { { 0, 32u }, 2, 8, 3, 0, 0, 8278, 1, { { 6, 10 } }, 0x930000, 32 },
+   { { 0, 32u }, 2, 8, 3, 0, 0, 8278, 2, { { 2, 14 }, { 2, 26 } }, 0x930000, 32 },
+   { { 0, 32u }, 2, 8, 3, 0, 0, 8278, 1, { { 2, 14 } }, 0x930000, 32 },
+   { { 0, 32u }, 2, 8, 3, 0, 0, 8278, 1, { { 24, 12 } }, 0x930000, 32 },
+   { { 0, 32u }, 2, 8, 2, 3, 3, 7780, 2, { { 8, 2 }, { 22, 9 } }, 0x8f0060, 32 },
+   { { 0, 32u }, 2, 8, 2, 3, 3, 7780, 1, { { 8, 10 } }, 0x8f0060, 32 },
+   { { 0, 32u }, 2, 8, 2, 3, 3, 7780, 2, { { 4, 14 }, { 4, 26 } }, 0x8f0060, 32 },
+   { { 0, 32u }, 2, 8, 2, 3, 3, 7780, 1, { { 4, 14 } }, 0x8f0060, 32 },
+   { { 0, 32u }, 2, 8, 2, 3, 3, 7780, 1, { { 8, 17 } }, 0x8f0060, 32 },
+};
+constexpr AsicUtils::PairRow pairs[] = {
+   { &layouts[0], &rows[0], &masks[0] }, { &layouts[1], &rows[0], &masks[0] }, { &layouts[2], &rows[0], &masks[0] }, {}, { &layouts[3], &rows[0], &masks[0] }, { &layouts[4], &rows[0], &masks[0] }, { &layouts[4], &rows[0], &masks[0] },
+   { &layouts[5], &rows[0], &masks[0] }, { &layouts[6], &rows[0], &masks[0] }, { &layouts[7], &rows[0], &masks[0] }, {}, { &layouts[8], &rows[0], &masks[0] }, { &layouts[9], &rows[0], &masks[0] }, { &layouts[9], &rows[0], &masks[0] },
 };
 } // namespace EnablersVectorsData
 
 constinit AsicUtils::MetaInfo const EnablersVectors::metaInfo{
-   Impl::unit, __LINE__, "EnablersVectors", 4, true, 2, AsicUtils::ValueType::U64,
-   EnablersVectorsData::fields, EnablersVectorsData::pairs, EnablersVectorsData::layouts, EnablersVectorsData::rows, EnablersVectorsData::masks, {}, {}
+   Impl::trace, Impl::source, __LINE__, "EnablersVectors", 4, true, 2, AsicUtils::ValueType::U64,
+   EnablersVectorsData::fields, EnablersVectorsData::pairs, {}, {}
 };
 
 U64 EnablersVectors::allFieldsMask() const {
@@ -379,27 +379,27 @@ constexpr AsicUtils::FieldInfo fields[] = {
    { "outlifEnableUcSameInterface", 543, AsicUtils::ValueType::U8, false },
    { "reserved", 631, AsicUtils::ValueType::U8, false },
 };
-constexpr AsicUtils::TableLayout layouts[] = {
-   { { 0, 16u }, 1, 1, 0, 0, 1, 3035, 2, { { 24, 2 }, { 6, 10 } }, 0x2f60000, 0 },
-   { { 0, 16u }, 1, 1, 0, 0, 1, 3035, 1, { { 0, 9 } }, 0x2f80000, 0 },
-   { { 0, 16u }, 1, 1, 0, 0, 1, 3035, 2, { { 24, 13 }, { 24, 25 } }, 0x2f80000, 0 },
-   { { 0, 16u }, 1, 1, 0, 0, 1, 3035, 1, { { 24, 13 } }, 0x2f80000, 0 },
-   { { 0, 16u }, 1, 1, 0, 0, 1, 3035, 1, { { 24, 17 } }, 0x2f80000, 0 },
-};
-constexpr AsicUtils::PairRow pairs[] = {
-   { 0, 0 }, { 1, 0 }, { 2, 0 }, { 255, 0 }, { 3, 0 }, { 4, 0 }, { 4, 0 },
+constexpr AsicUtils::FieldRow rows[] = {
+   { 0, 3 }, { 3, 2 }, { 5, 3 }, { 8, 3 }, { 11, 1 }, { 12, 1 }, { 13, 3 },
 };
 constexpr U32 masks[] = {
    0xffff,
 };
-constexpr AsicUtils::FieldRow rows[] = {
-   { 0, 3 }, { 3, 2 }, { 5, 3 }, { 8, 3 }, { 11, 1 }, { 12, 1 }, { 13, 3 },
+constexpr AsicUtils::TableLayout layouts[] = {
+   { { 0, 16u }, 1, 4, 1, 0, 0, 3035, 2, { { 24, 2 }, { 6, 10 } }, 0x2f60000, 0 },
+   { { 0, 16u }, 1, 4, 1, 0, 0, 3035, 1, { { 0, 9 } }, 0x2f80000, 0 },
+   { { 0, 16u }, 1, 4, 1, 0, 0, 3035, 2, { { 24, 13 }, { 24, 25 } }, 0x2f80000, 0 },
+   { { 0, 16u }, 1, 4, 1, 0, 0, 3035, 1, { { 24, 13 } }, 0x2f80000, 0 },
+   { { 0, 16u }, 1, 4, 1, 0, 0, 3035, 1, { { 24, 17 } }, 0x2f80000, 0 },
+};
+constexpr AsicUtils::PairRow pairs[] = {
+   { &layouts[0], &rows[0], &masks[0] }, { &layouts[1], &rows[0], &masks[0] }, { &layouts[2], &rows[0], &masks[0] }, {}, { &layouts[3], &rows[0], &masks[0] }, { &layouts[4], &rows[0], &masks[0] }, { &layouts[4], &rows[0], &masks[0] },
 };
 } // namespace ErppCfgMappingOutLifProfileData
 
 constinit AsicUtils::MetaInfo const ErppCfgMappingOutLifProfile::metaInfo{
-   Impl::unit, __LINE__, "ErppCfgMappingOutLifProfile", 5, true, 1, AsicUtils::ValueType::U32,
-   ErppCfgMappingOutLifProfileData::fields, ErppCfgMappingOutLifProfileData::pairs, ErppCfgMappingOutLifProfileData::layouts, ErppCfgMappingOutLifProfileData::rows, ErppCfgMappingOutLifProfileData::masks, {}, {}
+   Impl::trace, Impl::source, __LINE__, "ErppCfgMappingOutLifProfile", 5, true, 1, AsicUtils::ValueType::U32,
+   ErppCfgMappingOutLifProfileData::fields, ErppCfgMappingOutLifProfileData::pairs, {}, {}
 };
 
 U32 ErppCfgMappingOutLifProfile::allFieldsMask() const {
@@ -413,27 +413,27 @@ namespace ErppCfgSplitHorizonFilterData {
 constexpr AsicUtils::FieldInfo fields[] = {
    { "cfgSplitHorizonFilter", 65, AsicUtils::ValueType::U64, false },
 };
-constexpr AsicUtils::TableLayout layouts[] = {
-   { { 0, 1u }, 2, 1, 0, 0, 1, 30566, 2, { { 24, 2 }, { 6, 10 } }, 0x540, 0 },
-   { { 0, 1u }, 2, 1, 0, 0, 1, 30566, 1, { { 0, 9 } }, 0x58a, 0 },
-   { { 0, 1u }, 2, 1, 0, 0, 1, 30566, 2, { { 24, 13 }, { 24, 25 } }, 0x54a, 0 },
-   { { 0, 1u }, 2, 1, 0, 0, 1, 30566, 1, { { 24, 13 } }, 0x54a, 0 },
-   { { 0, 1u }, 2, 1, 0, 0, 1, 30566, 1, { { 24, 17 } }, 0x58a, 0 },
-};
-constexpr AsicUtils::PairRow pairs[] = {
-   { 0, 0 }, { 1, 0 }, { 2, 0 }, { 255, 0 }, { 3, 0 }, { 4, 0 }, { 4, 0 },
+constexpr AsicUtils::FieldRow rows[] = {
+   { 0, 64 },
 };
 constexpr U32 masks[] = {
    0xffffffff, 0xffffffff,
 };
-constexpr AsicUtils::FieldRow rows[] = {
-   { 0, 64 },
+constexpr AsicUtils::TableLayout layouts[] = {
+   { { 0, 1u }, 2, 8, 1, 0, 0, 30566, 2, { { 24, 2 }, { 6, 10 } }, 0x540, 0 },
+   { { 0, 1u }, 2, 8, 1, 0, 0, 30566, 1, { { 0, 9 } }, 0x58a, 0 },
+   { { 0, 1u }, 2, 8, 1, 0, 0, 30566, 2, { { 24, 13 }, { 24, 25 } }, 0x54a, 0 },
+   { { 0, 1u }, 2, 8, 1, 0, 0, 30566, 1, { { 24, 13 } }, 0x54a, 0 },
+   { { 0, 1u }, 2, 8, 1, 0, 0, 30566, 1, { { 24, 17 } }, 0x58a, 0 },
+};
+constexpr AsicUtils::PairRow pairs[] = {
+   { &layouts[0], &rows[0], &masks[0] }, { &layouts[1], &rows[0], &masks[0] }, { &layouts[2], &rows[0], &masks[0] }, {}, { &layouts[3], &rows[0], &masks[0] }, { &layouts[4], &rows[0], &masks[0] }, { &layouts[4], &rows[0], &masks[0] },
 };
 } // namespace ErppCfgSplitHorizonFilterData
 
 constinit AsicUtils::MetaInfo const ErppCfgSplitHorizonFilter::metaInfo{
-   Impl::unit, __LINE__, "ErppCfgSplitHorizonFilter", 6, false, 1, AsicUtils::ValueType::U64,
-   ErppCfgSplitHorizonFilterData::fields, ErppCfgSplitHorizonFilterData::pairs, ErppCfgSplitHorizonFilterData::layouts, ErppCfgSplitHorizonFilterData::rows, ErppCfgSplitHorizonFilterData::masks, {}, {}
+   Impl::trace, Impl::source, __LINE__, "ErppCfgSplitHorizonFilter", 6, false, 1, AsicUtils::ValueType::U64,
+   ErppCfgSplitHorizonFilterData::fields, ErppCfgSplitHorizonFilterData::pairs, {}, {}
 };
 
 U64 ErppCfgSplitHorizonFilter::allFieldsMask() const {
@@ -448,27 +448,27 @@ constexpr AsicUtils::FieldInfo fields[] = {
    { "inlifOrientation", 332, AsicUtils::ValueType::U8, false },
    { "inlifSameIfFilter", 337, AsicUtils::ValueType::U8, false },
 };
-constexpr AsicUtils::TableLayout layouts[] = {
-   { { 0, 256u }, 1, 1, 0, 0, 1, 3034, 2, { { 24, 2 }, { 6, 10 } }, 0x2f40000, 0 },
-   { { 0, 256u }, 1, 1, 0, 0, 1, 3034, 1, { { 0, 9 } }, 0x2f60000, 0 },
-   { { 0, 256u }, 1, 1, 0, 0, 1, 3034, 2, { { 24, 13 }, { 24, 25 } }, 0x2f60000, 0 },
-   { { 0, 256u }, 1, 1, 0, 0, 1, 3034, 1, { { 24, 13 } }, 0x2f60000, 0 },
-   { { 0, 256u }, 1, 1, 0, 0, 1, 3034, 1, { { 24, 17 } }, 0x2f60000, 0 },
-};
-constexpr AsicUtils::PairRow pairs[] = {
-   { 0, 0 }, { 1, 0 }, { 2, 0 }, { 255, 0 }, { 3, 0 }, { 4, 0 }, { 4, 0 },
+constexpr AsicUtils::FieldRow rows[] = {
+   { 0, 3 }, { 3, 2 },
 };
 constexpr U32 masks[] = {
    0x1f,
 };
-constexpr AsicUtils::FieldRow rows[] = {
-   { 0, 3 }, { 3, 2 },
+constexpr AsicUtils::TableLayout layouts[] = {
+   { { 0, 256u }, 1, 4, 1, 0, 0, 3034, 2, { { 24, 2 }, { 6, 10 } }, 0x2f40000, 0 },
+   { { 0, 256u }, 1, 4, 1, 0, 0, 3034, 1, { { 0, 9 } }, 0x2f60000, 0 },
+   { { 0, 256u }, 1, 4, 1, 0, 0, 3034, 2, { { 24, 13 }, { 24, 25 } }, 0x2f60000, 0 },
+   { { 0, 256u }, 1, 4, 1, 0, 0, 3034, 1, { { 24, 13 } }, 0x2f60000, 0 },
+   { { 0, 256u }, 1, 4, 1, 0, 0, 3034, 1, { { 24, 17 } }, 0x2f60000, 0 },
+};
+constexpr AsicUtils::PairRow pairs[] = {
+   { &layouts[0], &rows[0], &masks[0] }, { &layouts[1], &rows[0], &masks[0] }, { &layouts[2], &rows[0], &masks[0] }, {}, { &layouts[3], &rows[0], &masks[0] }, { &layouts[4], &rows[0], &masks[0] }, { &layouts[4], &rows[0], &masks[0] },
 };
 } // namespace ErppInlifOrientationMapData
 
 constinit AsicUtils::MetaInfo const ErppInlifOrientationMap::metaInfo{
-   Impl::unit, __LINE__, "ErppInlifOrientationMap", 7, true, 1, AsicUtils::ValueType::U32,
-   ErppInlifOrientationMapData::fields, ErppInlifOrientationMapData::pairs, ErppInlifOrientationMapData::layouts, ErppInlifOrientationMapData::rows, ErppInlifOrientationMapData::masks, {}, {}
+   Impl::trace, Impl::source, __LINE__, "ErppInlifOrientationMap", 7, true, 1, AsicUtils::ValueType::U32,
+   ErppInlifOrientationMapData::fields, ErppInlifOrientationMapData::pairs, {}, {}
 };
 
 U32 ErppInlifOrientationMap::allFieldsMask() const {
@@ -505,35 +505,35 @@ constexpr AsicUtils::FieldInfo fields[] = {
    { "eth7CpuTrapStrength", 277, AsicUtils::ValueType::U8, false },
    { "eth7SnoopStrength", 278, AsicUtils::ValueType::U8, false },
 };
-constexpr AsicUtils::TableLayout layouts[] = {
-   { { 0, 1u }, 4, 1, 0, 0, 1, 54780, 2, { { 18, 2 }, { 0, 10 } }, 0x19d, 0 },
-   { { 0, 1u }, 4, 1, 0, 0, 1, 54780, 1, { { 6, 10 } }, 0x1c7, 0 },
-   { { 0, 1u }, 4, 1, 0, 0, 1, 54780, 2, { { 2, 14 }, { 2, 26 } }, 0x1c7, 0 },
-   { { 0, 1u }, 4, 1, 0, 0, 1, 54780, 1, { { 2, 14 } }, 0x1c7, 0 },
-   { { 0, 1u }, 4, 1, 0, 0, 1, 54780, 1, { { 24, 12 } }, 0x1c7, 0 },
-   { { 0, 1u }, 4, 1, 0, 0, 1, 54019, 2, { { 8, 2 }, { 22, 9 } }, 0x19d, 0 },
-   { { 0, 1u }, 4, 1, 0, 0, 1, 54019, 1, { { 8, 10 } }, 0x19f, 0 },
-   { { 0, 1u }, 4, 1, 0, 0, 1, 54019, 2, { { 4, 14 }, { 4, 26 } }, 0x19f, 0 },
-   { { 0, 1u }, 4, 1, 0, 0, 1, 54019, 1, { { 4, 14 } }, 0x19f, 0 },
-   { { 0, 1u }, 4, 1, 0, 0, 1, 54019, 1, { { 8, 17 } }, 0x19f, 0 },
-};
-constexpr AsicUtils::PairRow pairs[] = {
-   { 0, 0 }, { 1, 0 }, { 2, 0 }, { 255, 0 }, { 3, 0 }, { 4, 0 }, { 4, 0 },
-   { 5, 0 }, { 6, 0 }, { 7, 0 }, { 255, 0 }, { 8, 0 }, { 9, 0 }, { 9, 0 },
-};
-constexpr U32 masks[] = {
-   0xffffffff, 0xffffffff, 0xffffffff, 0xffffffff,
-};
 constexpr AsicUtils::FieldRow rows[] = {
    { 0, 9 }, { 9, 4 }, { 13, 3 }, { 16, 9 }, { 25, 4 }, { 29, 3 }, { 32, 9 }, { 41, 4 },
    { 45, 3 }, { 48, 9 }, { 57, 4 }, { 61, 3 }, { 64, 9 }, { 73, 4 }, { 77, 3 }, { 80, 9 },
    { 89, 4 }, { 93, 3 }, { 96, 9 }, { 105, 4 }, { 109, 3 }, { 112, 9 }, { 121, 4 }, { 125, 3 },
 };
+constexpr U32 masks[] = {
+   0xffffffff, 0xffffffff, 0xffffffff, 0xffffffff,
+};
+constexpr AsicUtils::TableLayout layouts[] = {
+   { { 0, 1u }, 4, 16, 1, 0, 0, 54780, 2, { { 18, 2 }, { 0, 10 } }, 0x19d, 0 },
+   { { 0, 1u }, 4, 16, 1, 0, 0, 54780, 1, { { 6, 10 } }, 0x1c7, 0 },
+   { { 0, 1u }, 4, 16, 1, 0, 0, 54780, 2, { { 2, 14 }, { 2, 26 } }, 0x1c7, 0 },
+   { { 0, 1u }, 4, 16, 1, 0, 0, 54780, 1, { { 2, 14 } }, 0x1c7, 0 },
+   { { 0, 1u }, 4, 16, 1, 0, 0, 54780, 1, { { 24, 12 } }, 0x1c7, 0 },
+   { { 0, 1u }, 4, 16, 1, 0, 0, 54019, 2, { { 8, 2 }, { 22, 9 } }, 0x19d, 0 },
+   { { 0, 1u }, 4, 16, 1, 0, 0, 54019, 1, { { 8, 10 } }, 0x19f, 0 },
+   { { 0, 1u }, 4, 16, 1, 0, 0, 54019, 2, { { 4, 14 }, { 4, 26 } }, 0x19f, 0 },
+   { { 0, 1u }, 4, 16, 1, 0, 0, 54019, 1, { { 4, 14 } }, 0x19f, 0 },
+   { { 0, 1u }, 4, 16, 1, 0, 0, 54019, 1, { { 8, 17 } }, 0x19f, 0 },
+};
+constexpr AsicUtils::PairRow pairs[] = {
+   { &layouts[0], &rows[0], &masks[0] }, { &layouts[1], &rows[0], &masks[0] }, { &layouts[2], &rows[0], &masks[0] }, {}, { &layouts[3], &rows[0], &masks[0] }, { &layouts[4], &rows[0], &masks[0] }, { &layouts[4], &rows[0], &masks[0] },
+   { &layouts[5], &rows[0], &masks[0] }, { &layouts[6], &rows[0], &masks[0] }, { &layouts[7], &rows[0], &masks[0] }, {}, { &layouts[8], &rows[0], &masks[0] }, { &layouts[9], &rows[0], &masks[0] }, { &layouts[9], &rows[0], &masks[0] },
+};
 } // namespace EthernetTrapData
 
 constinit AsicUtils::MetaInfo const EthernetTrap::metaInfo{
-   Impl::unit, __LINE__, "EthernetTrap", 8, false, 2, AsicUtils::ValueType::Raw128,
-   EthernetTrapData::fields, EthernetTrapData::pairs, EthernetTrapData::layouts, EthernetTrapData::rows, EthernetTrapData::masks, {}, {}
+   Impl::trace, Impl::source, __LINE__, "EthernetTrap", 8, false, 2, AsicUtils::ValueType::Raw128,
+   EthernetTrapData::fields, EthernetTrapData::pairs, {}, {}
 };
 
 Raw128 EthernetTrap::allFieldsMask() const {
@@ -547,28 +547,28 @@ namespace EtppCfgFwdDoNotTtlDecrementData {
 constexpr AsicUtils::FieldInfo fields[] = {
    { "cfgFwdEgressDoNotTtlDecrement", 59, AsicUtils::ValueType::Raw512, false },
 };
-constexpr AsicUtils::TableLayout layouts[] = {
-   { { 0, 1u }, 16, 1, 0, 0, 1, 31814, 2, { { 30, 2 }, { 12, 10 } }, 0x700, 0 },
-   { { 0, 1u }, 16, 1, 0, 0, 1, 31814, 1, { { 8, 4 } }, 0x700, 0 },
-   { { 0, 1u }, 16, 1, 0, 0, 1, 31814, 2, { { 30, 13 }, { 30, 25 } }, 0x700, 0 },
-   { { 0, 1u }, 16, 1, 0, 0, 1, 31814, 1, { { 30, 13 } }, 0x700, 0 },
-   { { 0, 1u }, 16, 1, 0, 0, 1, 31814, 1, { { 24, 9 } }, 0x700, 0 },
-};
-constexpr AsicUtils::PairRow pairs[] = {
-   { 0, 0 }, { 1, 0 }, { 2, 0 }, { 255, 0 }, { 3, 0 }, { 4, 0 }, { 4, 0 },
+constexpr AsicUtils::FieldRow rows[] = {
+   { 0, 512 },
 };
 constexpr U32 masks[] = {
    0xffffffff, 0xffffffff, 0xffffffff, 0xffffffff, 0xffffffff, 0xffffffff, 0xffffffff, 0xffffffff,
    0xffffffff, 0xffffffff, 0xffffffff, 0xffffffff, 0xffffffff, 0xffffffff, 0xffffffff, 0xffffffff,
 };
-constexpr AsicUtils::FieldRow rows[] = {
-   { 0, 512 },
+constexpr AsicUtils::TableLayout layouts[] = {
+   { { 0, 1u }, 16, 64, 1, 0, 0, 31814, 2, { { 30, 2 }, { 12, 10 } }, 0x700, 0 },
+   { { 0, 1u }, 16, 64, 1, 0, 0, 31814, 1, { { 8, 4 } }, 0x700, 0 },
+   { { 0, 1u }, 16, 64, 1, 0, 0, 31814, 2, { { 30, 13 }, { 30, 25 } }, 0x700, 0 },
+   { { 0, 1u }, 16, 64, 1, 0, 0, 31814, 1, { { 30, 13 } }, 0x700, 0 },
+   { { 0, 1u }, 16, 64, 1, 0, 0, 31814, 1, { { 24, 9 } }, 0x700, 0 },
+};
+constexpr AsicUtils::PairRow pairs[] = {
+   { &layouts[0], &rows[0], &masks[0] }, { &layouts[1], &rows[0], &masks[0] }, { &layouts[2], &rows[0], &masks[0] }, {}, { &layouts[3], &rows[0], &masks[0] }, { &layouts[4], &rows[0], &masks[0] }, { &layouts[4], &rows[0], &masks[0] },
 };
 } // namespace EtppCfgFwdDoNotTtlDecrementData
 
 constinit AsicUtils::MetaInfo const EtppCfgFwdDoNotTtlDecrement::metaInfo{
-   Impl::unit, __LINE__, "EtppCfgFwdDoNotTtlDecrement", 9, false, 1, AsicUtils::ValueType::Raw512,
-   EtppCfgFwdDoNotTtlDecrementData::fields, EtppCfgFwdDoNotTtlDecrementData::pairs, EtppCfgFwdDoNotTtlDecrementData::layouts, EtppCfgFwdDoNotTtlDecrementData::rows, EtppCfgFwdDoNotTtlDecrementData::masks, {}, {}
+   Impl::trace, Impl::source, __LINE__, "EtppCfgFwdDoNotTtlDecrement", 9, false, 1, AsicUtils::ValueType::Raw512,
+   EtppCfgFwdDoNotTtlDecrementData::fields, EtppCfgFwdDoNotTtlDecrementData::pairs, {}, {}
 };
 
 Raw512 EtppCfgFwdDoNotTtlDecrement::allFieldsMask() const {
@@ -582,27 +582,27 @@ namespace EtppCfgRifInStackData {
 constexpr AsicUtils::FieldInfo fields[] = {
    { "cfgRifInStack", 62, AsicUtils::ValueType::U16, false },
 };
-constexpr AsicUtils::TableLayout layouts[] = {
-   { { 0, 1u }, 1, 1, 0, 0, 1, 31489, 2, { { 26, 2 }, { 8, 10 } }, 0x903, 0 },
-   { { 0, 1u }, 1, 1, 0, 0, 1, 31489, 1, { { 20, 5 } }, 0x903, 0 },
-   { { 0, 1u }, 1, 1, 0, 0, 1, 31489, 2, { { 26, 13 }, { 26, 25 } }, 0x904, 0 },
-   { { 0, 1u }, 1, 1, 0, 0, 1, 31489, 1, { { 26, 13 } }, 0x904, 0 },
-   { { 0, 1u }, 1, 1, 0, 0, 1, 31489, 1, { { 8, 8 } }, 0x903, 0 },
-};
-constexpr AsicUtils::PairRow pairs[] = {
-   { 0, 0 }, { 1, 0 }, { 2, 0 }, { 255, 0 }, { 3, 0 }, { 4, 0 }, { 4, 0 },
+constexpr AsicUtils::FieldRow rows[] = {
+   { 0, 16 },
 };
 constexpr U32 masks[] = {
    0xffff,
 };
-constexpr AsicUtils::FieldRow rows[] = {
-   { 0, 16 },
+constexpr AsicUtils::TableLayout layouts[] = {
+   { { 0, 1u }, 1, 4, 1, 0, 0, 31489, 2, { { 26, 2 }, { 8, 10 } }, 0x903, 0 },
+   { { 0, 1u }, 1, 4, 1, 0, 0, 31489, 1, { { 20, 5 } }, 0x903, 0 },
+   { { 0, 1u }, 1, 4, 1, 0, 0, 31489, 2, { { 26, 13 }, { 26, 25 } }, 0x904, 0 },
+   { { 0, 1u }, 1, 4, 1, 0, 0, 31489, 1, { { 26, 13 } }, 0x904, 0 },
+   { { 0, 1u }, 1, 4, 1, 0, 0, 31489, 1, { { 8, 8 } }, 0x903, 0 },
+};
+constexpr AsicUtils::PairRow pairs[] = {
+   { &layouts[0], &rows[0], &masks[0] }, { &layouts[1], &rows[0], &masks[0] }, { &layouts[2], &rows[0], &masks[0] }, {}, { &layouts[3], &rows[0], &masks[0] }, { &layouts[4], &rows[0], &masks[0] }, { &layouts[4], &rows[0], &masks[0] },
 };
 } // namespace EtppCfgRifInStackData
 
 constinit AsicUtils::MetaInfo const EtppCfgRifInStack::metaInfo{
-   Impl::unit, __LINE__, "EtppCfgRifInStack", 10, false, 1, AsicUtils::ValueType::U32,
-   EtppCfgRifInStackData::fields, EtppCfgRifInStackData::pairs, EtppCfgRifInStackData::layouts, EtppCfgRifInStackData::rows, EtppCfgRifInStackData::masks, {}, {}
+   Impl::trace, Impl::source, __LINE__, "EtppCfgRifInStack", 10, false, 1, AsicUtils::ValueType::U32,
+   EtppCfgRifInStackData::fields, EtppCfgRifInStackData::pairs, {}, {}
 };
 
 U32 EtppCfgRifInStack::allFieldsMask() const {
@@ -616,27 +616,27 @@ namespace EtppCfgSplitHorizonFilterData {
 constexpr AsicUtils::FieldInfo fields[] = {
    { "cfgSplitHorizonFilter", 65, AsicUtils::ValueType::U64, false },
 };
-constexpr AsicUtils::TableLayout layouts[] = {
-   { { 0, 1u }, 2, 1, 0, 0, 1, 31859, 2, { { 30, 2 }, { 12, 10 } }, 0x823, 0 },
-   { { 0, 1u }, 2, 1, 0, 0, 1, 31859, 1, { { 8, 4 } }, 0x824, 0 },
-   { { 0, 1u }, 2, 1, 0, 0, 1, 31859, 2, { { 30, 13 }, { 30, 25 } }, 0x828, 0 },
-   { { 0, 1u }, 2, 1, 0, 0, 1, 31859, 1, { { 30, 13 } }, 0x828, 0 },
-   { { 0, 1u }, 2, 1, 0, 0, 1, 31859, 1, { { 24, 9 } }, 0x824, 0 },
-};
-constexpr AsicUtils::PairRow pairs[] = {
-   { 0, 0 }, { 1, 0 }, { 2, 0 }, { 255, 0 }, { 3, 0 }, { 4, 0 }, { 4, 0 },
+constexpr AsicUtils::FieldRow rows[] = {
+   { 0, 64 },
 };
 constexpr U32 masks[] = {
    0xffffffff, 0xffffffff,
 };
-constexpr AsicUtils::FieldRow rows[] = {
-   { 0, 64 },
+constexpr AsicUtils::TableLayout layouts[] = {
+   { { 0, 1u }, 2, 8, 1, 0, 0, 31859, 2, { { 30, 2 }, { 12, 10 } }, 0x823, 0 },
+   { { 0, 1u }, 2, 8, 1, 0, 0, 31859, 1, { { 8, 4 } }, 0x824, 0 },
+   { { 0, 1u }, 2, 8, 1, 0, 0, 31859, 2, { { 30, 13 }, { 30, 25 } }, 0x828, 0 },
+   { { 0, 1u }, 2, 8, 1, 0, 0, 31859, 1, { { 30, 13 } }, 0x828, 0 },
+   { { 0, 1u }, 2, 8, 1, 0, 0, 31859, 1, { { 24, 9 } }, 0x824, 0 },
+};
+constexpr AsicUtils::PairRow pairs[] = {
+   { &layouts[0], &rows[0], &masks[0] }, { &layouts[1], &rows[0], &masks[0] }, { &layouts[2], &rows[0], &masks[0] }, {}, { &layouts[3], &rows[0], &masks[0] }, { &layouts[4], &rows[0], &masks[0] }, { &layouts[4], &rows[0], &masks[0] },
 };
 } // namespace EtppCfgSplitHorizonFilterData
 
 constinit AsicUtils::MetaInfo const EtppCfgSplitHorizonFilter::metaInfo{
-   Impl::unit, __LINE__, "EtppCfgSplitHorizonFilter", 11, false, 1, AsicUtils::ValueType::U64,
-   EtppCfgSplitHorizonFilterData::fields, EtppCfgSplitHorizonFilterData::pairs, EtppCfgSplitHorizonFilterData::layouts, EtppCfgSplitHorizonFilterData::rows, EtppCfgSplitHorizonFilterData::masks, {}, {}
+   Impl::trace, Impl::source, __LINE__, "EtppCfgSplitHorizonFilter", 11, false, 1, AsicUtils::ValueType::U64,
+   EtppCfgSplitHorizonFilterData::fields, EtppCfgSplitHorizonFilterData::pairs, {}, {}
 };
 
 U64 EtppCfgSplitHorizonFilter::allFieldsMask() const {
@@ -652,27 +652,27 @@ constexpr AsicUtils::FieldInfo fields[] = {
    { "cfgSplitHorizonSnoopActionStrength", 70, AsicUtils::ValueType::U8, false },
    { "cfgSplitHorizonActionProfile", 64, AsicUtils::ValueType::U8, false },
 };
-constexpr AsicUtils::TableLayout layouts[] = {
-   { { 0, 1u }, 1, 1, 0, 0, 1, 31863, 2, { { 30, 2 }, { 12, 10 } }, 0x831, 0 },
-   { { 0, 1u }, 1, 1, 0, 0, 1, 31863, 1, { { 8, 4 } }, 0x84a, 0 },
-   { { 0, 1u }, 1, 1, 0, 0, 1, 31863, 2, { { 30, 13 }, { 30, 25 } }, 0x836, 0 },
-   { { 0, 1u }, 1, 1, 0, 0, 1, 31863, 1, { { 30, 13 } }, 0x836, 0 },
-   { { 0, 1u }, 1, 1, 0, 0, 1, 31863, 1, { { 24, 9 } }, 0x84a, 0 },
-};
-constexpr AsicUtils::PairRow pairs[] = {
-   { 0, 0 }, { 1, 0 }, { 2, 0 }, { 255, 0 }, { 3, 0 }, { 4, 0 }, { 4, 0 },
+constexpr AsicUtils::FieldRow rows[] = {
+   { 0, 4 }, { 4, 3 }, { 7, 3 },
 };
 constexpr U32 masks[] = {
    0x3ff,
 };
-constexpr AsicUtils::FieldRow rows[] = {
-   { 0, 4 }, { 4, 3 }, { 7, 3 },
+constexpr AsicUtils::TableLayout layouts[] = {
+   { { 0, 1u }, 1, 4, 1, 0, 0, 31863, 2, { { 30, 2 }, { 12, 10 } }, 0x831, 0 },
+   { { 0, 1u }, 1, 4, 1, 0, 0, 31863, 1, { { 8, 4 } }, 0x84a, 0 },
+   { { 0, 1u }, 1, 4, 1, 0, 0, 31863, 2, { { 30, 13 }, { 30, 25 } }, 0x836, 0 },
+   { { 0, 1u }, 1, 4, 1, 0, 0, 31863, 1, { { 30, 13 } }, 0x836, 0 },
+   { { 0, 1u }, 1, 4, 1, 0, 0, 31863, 1, { { 24, 9 } }, 0x84a, 0 },
+};
+constexpr AsicUtils::PairRow pairs[] = {
+   { &layouts[0], &rows[0], &masks[0] }, { &layouts[1], &rows[0], &masks[0] }, { &layouts[2], &rows[0], &masks[0] }, {}, { &layouts[3], &rows[0], &masks[0] }, { &layouts[4], &rows[0], &masks[0] }, { &layouts[4], &rows[0], &masks[0] },
 };
 } // namespace EtppCfgSplitHorizonTrapParamsData
 
 constinit AsicUtils::MetaInfo const EtppCfgSplitHorizonTrapParams::metaInfo{
-   Impl::unit, __LINE__, "EtppCfgSplitHorizonTrapParams", 12, false, 1, AsicUtils::ValueType::U32,
-   EtppCfgSplitHorizonTrapParamsData::fields, EtppCfgSplitHorizonTrapParamsData::pairs, EtppCfgSplitHorizonTrapParamsData::layouts, EtppCfgSplitHorizonTrapParamsData::rows, EtppCfgSplitHorizonTrapParamsData::masks, {}, {}
+   Impl::trace, Impl::source, __LINE__, "EtppCfgSplitHorizonTrapParams", 12, false, 1, AsicUtils::ValueType::U32,
+   EtppCfgSplitHorizonTrapParamsData::fields, EtppCfgSplitHorizonTrapParamsData::pairs, {}, {}
 };
 
 U32 EtppCfgSplitHorizonTrapParams::allFieldsMask() const {
@@ -686,27 +686,27 @@ namespace EtppEnc1ContextSelectionPortProfileData {
 constexpr AsicUtils::FieldInfo fields[] = {
    { "contextSelectionPerPortProfile", 81, AsicUtils::ValueType::U8, false },
 };
-constexpr AsicUtils::TableLayout layouts[] = {
-   { { 0, 256u }, 1, 1, 0, 0, 1, 3464, 2, { { 30, 2 }, { 12, 10 } }, 0x2740000, 0 },
-   { { 0, 1024u }, 1, 1, 0, 0, 1, 3464, 1, { { 8, 4 } }, 0x2740000, 0 },
-   { { 0, 256u }, 1, 1, 0, 0, 1, 3464, 2, { { 30, 13 }, { 30, 25 } }, 0x2740000, 0 },
-   { { 0, 256u }, 1, 1, 0, 0, 1, 3464, 1, { { 30, 13 } }, 0x2740000, 0 },
-   { { 0, 1024u }, 1, 1, 0, 0, 1, 3464, 1, { { 24, 9 } }, 0x2740000, 0 },
-};
-constexpr AsicUtils::PairRow pairs[] = {
-   { 0, 0 }, { 1, 0 }, { 2, 0 }, { 255, 0 }, { 3, 0 }, { 4, 0 }, { 4, 0 },
+constexpr AsicUtils::FieldRow rows[] = {
+   { 0, 2 },
 };
 constexpr U32 masks[] = {
    0x3,
 };
-constexpr AsicUtils::FieldRow rows[] = {
-   { 0, 2 },
+constexpr AsicUtils::TableLayout layouts[] = {
+   { { 0, 256u }, 1, 4, 1, 0, 0, 3464, 2, { { 30, 2 }, { 12, 10 } }, 0x2740000, 0 },
+   { { 0, 1024u }, 1, 4, 1, 0, 0, 3464, 1, { { 8, 4 } }, 0x2740000, 0 },
+   { { 0, 256u }, 1, 4, 1, 0, 0, 3464, 2, { { 30, 13 }, { 30, 25 } }, 0x2740000, 0 },
+   { { 0, 256u }, 1, 4, 1, 0, 0, 3464, 1, { { 30, 13 } }, 0x2740000, 0 },
+   { { 0, 1024u }, 1, 4, 1, 0, 0, 3464, 1, { { 24, 9 } }, 0x2740000, 0 },
+};
+constexpr AsicUtils::PairRow pairs[] = {
+   { &layouts[0], &rows[0], &masks[0] }, { &layouts[1], &rows[0], &masks[0] }, { &layouts[2], &rows[0], &masks[0] }, {}, { &layouts[3], &rows[0], &masks[0] }, { &layouts[4], &rows[0], &masks[0] }, { &layouts[4], &rows[0], &masks[0] },
 };
 } // namespace EtppEnc1ContextSelectionPortProfileData
 
 constinit AsicUtils::MetaInfo const EtppEnc1ContextSelectionPortProfile::metaInfo{
-   Impl::unit, __LINE__, "EtppEnc1ContextSelectionPortProfile", 13, true, 1, AsicUtils::ValueType::U32,
-   EtppEnc1ContextSelectionPortProfileData::fields, EtppEnc1ContextSelectionPortProfileData::pairs, EtppEnc1ContextSelectionPortProfileData::layouts, EtppEnc1ContextSelectionPortProfileData::rows, EtppEnc1ContextSelectionPortProfileData::masks, {}, {}
+   Impl::trace, Impl::source, __LINE__, "EtppEnc1ContextSelectionPortProfile", 13, true, 1, AsicUtils::ValueType::U32,
+   EtppEnc1ContextSelectionPortProfileData::fields, EtppEnc1ContextSelectionPortProfileData::pairs, {}, {}
 };
 
 U32 EtppEnc1ContextSelectionPortProfile::allFieldsMask() const {
@@ -720,27 +720,27 @@ namespace EtppEnc2ContextSelectionPortProfileData {
 constexpr AsicUtils::FieldInfo fields[] = {
    { "contextSelectionPerPortProfile", 81, AsicUtils::ValueType::U8, false },
 };
-constexpr AsicUtils::TableLayout layouts[] = {
-   { { 0, 256u }, 1, 1, 0, 0, 1, 3475, 2, { { 30, 2 }, { 12, 10 } }, 0x2750000, 0 },
-   { { 0, 1024u }, 1, 1, 0, 0, 1, 3475, 1, { { 8, 4 } }, 0x2750000, 0 },
-   { { 0, 256u }, 1, 1, 0, 0, 1, 3475, 2, { { 30, 13 }, { 30, 25 } }, 0x2750000, 0 },
-   { { 0, 256u }, 1, 1, 0, 0, 1, 3475, 1, { { 30, 13 } }, 0x2750000, 0 },
-   { { 0, 1024u }, 1, 1, 0, 0, 1, 3475, 1, { { 24, 9 } }, 0x2750000, 0 },
-};
-constexpr AsicUtils::PairRow pairs[] = {
-   { 0, 0 }, { 1, 0 }, { 2, 0 }, { 255, 0 }, { 3, 0 }, { 4, 0 }, { 4, 0 },
+constexpr AsicUtils::FieldRow rows[] = {
+   { 0, 2 },
 };
 constexpr U32 masks[] = {
    0x3,
 };
-constexpr AsicUtils::FieldRow rows[] = {
-   { 0, 2 },
+constexpr AsicUtils::TableLayout layouts[] = {
+   { { 0, 256u }, 1, 4, 1, 0, 0, 3475, 2, { { 30, 2 }, { 12, 10 } }, 0x2750000, 0 },
+   { { 0, 1024u }, 1, 4, 1, 0, 0, 3475, 1, { { 8, 4 } }, 0x2750000, 0 },
+   { { 0, 256u }, 1, 4, 1, 0, 0, 3475, 2, { { 30, 13 }, { 30, 25 } }, 0x2750000, 0 },
+   { { 0, 256u }, 1, 4, 1, 0, 0, 3475, 1, { { 30, 13 } }, 0x2750000, 0 },
+   { { 0, 1024u }, 1, 4, 1, 0, 0, 3475, 1, { { 24, 9 } }, 0x2750000, 0 },
+};
+constexpr AsicUtils::PairRow pairs[] = {
+   { &layouts[0], &rows[0], &masks[0] }, { &layouts[1], &rows[0], &masks[0] }, { &layouts[2], &rows[0], &masks[0] }, {}, { &layouts[3], &rows[0], &masks[0] }, { &layouts[4], &rows[0], &masks[0] }, { &layouts[4], &rows[0], &masks[0] },
 };
 } // namespace EtppEnc2ContextSelectionPortProfileData
 
 constinit AsicUtils::MetaInfo const EtppEnc2ContextSelectionPortProfile::metaInfo{
-   Impl::unit, __LINE__, "EtppEnc2ContextSelectionPortProfile", 14, true, 1, AsicUtils::ValueType::U32,
-   EtppEnc2ContextSelectionPortProfileData::fields, EtppEnc2ContextSelectionPortProfileData::pairs, EtppEnc2ContextSelectionPortProfileData::layouts, EtppEnc2ContextSelectionPortProfileData::rows, EtppEnc2ContextSelectionPortProfileData::masks, {}, {}
+   Impl::trace, Impl::source, __LINE__, "EtppEnc2ContextSelectionPortProfile", 14, true, 1, AsicUtils::ValueType::U32,
+   EtppEnc2ContextSelectionPortProfileData::fields, EtppEnc2ContextSelectionPortProfileData::pairs, {}, {}
 };
 
 U32 EtppEnc2ContextSelectionPortProfile::allFieldsMask() const {
@@ -754,27 +754,27 @@ namespace EtppEnc3ContextSelectionPortProfileData {
 constexpr AsicUtils::FieldInfo fields[] = {
    { "contextSelectionPerPortProfile", 81, AsicUtils::ValueType::U8, false },
 };
-constexpr AsicUtils::TableLayout layouts[] = {
-   { { 0, 256u }, 1, 1, 0, 0, 1, 3346, 2, { { 28, 2 }, { 10, 10 } }, 0x1d0000, 0 },
-   { { 0, 1024u }, 1, 1, 0, 0, 1, 3346, 1, { { 2, 9 } }, 0x1d0000, 0 },
-   { { 0, 256u }, 1, 1, 0, 0, 1, 3346, 2, { { 28, 13 }, { 28, 25 } }, 0x1d0000, 0 },
-   { { 0, 256u }, 1, 1, 0, 0, 1, 3346, 1, { { 28, 13 } }, 0x1d0000, 0 },
-   { { 0, 1024u }, 1, 1, 0, 0, 1, 3346, 1, { { 16, 9 } }, 0x1d0000, 0 },
-};
-constexpr AsicUtils::PairRow pairs[] = {
-   { 0, 0 }, { 1, 0 }, { 2, 0 }, { 255, 0 }, { 3, 0 }, { 4, 0 }, { 4, 0 },
+constexpr AsicUtils::FieldRow rows[] = {
+   { 0, 2 },
 };
 constexpr U32 masks[] = {
    0x3,
 };
-constexpr AsicUtils::FieldRow rows[] = {
-   { 0, 2 },
+constexpr AsicUtils::TableLayout layouts[] = {
+   { { 0, 256u }, 1, 4, 1, 0, 0, 3346, 2, { { 28, 2 }, { 10, 10 } }, 0x1d0000, 0 },
+   { { 0, 1024u }, 1, 4, 1, 0, 0, 3346, 1, { { 2, 9 } }, 0x1d0000, 0 },
+   { { 0, 256u }, 1, 4, 1, 0, 0, 3346, 2, { { 28, 13 }, { 28, 25 } }, 0x1d0000, 0 },
+   { { 0, 256u }, 1, 4, 1, 0, 0, 3346, 1, { { 28, 13 } }, 0x1d0000, 0 },
+   { { 0, 1024u }, 1, 4, 1, 0, 0, 3346, 1, { { 16, 9 } }, 0x1d0000, 0 },
+};
+constexpr AsicUtils::PairRow pairs[] = {
+   { &layouts[0], &rows[0], &masks[0] }, { &layouts[1], &rows[0], &masks[0] }, { &layouts[2], &rows[0], &masks[0] }, {}, { &layouts[3], &rows[0], &masks[0] }, { &layouts[4], &rows[0], &masks[0] }, { &layouts[4], &rows[0], &masks[0] },
 };
 } // namespace EtppEnc3ContextSelectionPortProfileData
 
 constinit AsicUtils::MetaInfo const EtppEnc3ContextSelectionPortProfile::metaInfo{
-   Impl::unit, __LINE__, "EtppEnc3ContextSelectionPortProfile", 15, true, 1, AsicUtils::ValueType::U32,
-   EtppEnc3ContextSelectionPortProfileData::fields, EtppEnc3ContextSelectionPortProfileData::pairs, EtppEnc3ContextSelectionPortProfileData::layouts, EtppEnc3ContextSelectionPortProfileData::rows, EtppEnc3ContextSelectionPortProfileData::masks, {}, {}
+   Impl::trace, Impl::source, __LINE__, "EtppEnc3ContextSelectionPortProfile", 15, true, 1, AsicUtils::ValueType::U32,
+   EtppEnc3ContextSelectionPortProfileData::fields, EtppEnc3ContextSelectionPortProfileData::pairs, {}, {}
 };
 
 U32 EtppEnc3ContextSelectionPortProfile::allFieldsMask() const {
@@ -788,27 +788,27 @@ namespace EtppEnc4ContextSelectionPortProfileData {
 constexpr AsicUtils::FieldInfo fields[] = {
    { "contextSelectionPerPortProfile", 81, AsicUtils::ValueType::U8, false },
 };
-constexpr AsicUtils::TableLayout layouts[] = {
-   { { 0, 256u }, 1, 1, 0, 0, 1, 3363, 2, { { 28, 2 }, { 10, 10 } }, 0x1e0000, 0 },
-   { { 0, 1024u }, 1, 1, 0, 0, 1, 3363, 1, { { 2, 9 } }, 0x1e0000, 0 },
-   { { 0, 256u }, 1, 1, 0, 0, 1, 3363, 2, { { 28, 13 }, { 28, 25 } }, 0x1e0000, 0 },
-   { { 0, 256u }, 1, 1, 0, 0, 1, 3363, 1, { { 28, 13 } }, 0x1e0000, 0 },
-   { { 0, 1024u }, 1, 1, 0, 0, 1, 3363, 1, { { 16, 9 } }, 0x1e0000, 0 },
-};
-constexpr AsicUtils::PairRow pairs[] = {
-   { 0, 0 }, { 1, 0 }, { 2, 0 }, { 255, 0 }, { 3, 0 }, { 4, 0 }, { 4, 0 },
+constexpr AsicUtils::FieldRow rows[] = {
+   { 0, 2 },
 };
 constexpr U32 masks[] = {
    0x3,
 };
-constexpr AsicUtils::FieldRow rows[] = {
-   { 0, 2 },
+constexpr AsicUtils::TableLayout layouts[] = {
+   { { 0, 256u }, 1, 4, 1, 0, 0, 3363, 2, { { 28, 2 }, { 10, 10 } }, 0x1e0000, 0 },
+   { { 0, 1024u }, 1, 4, 1, 0, 0, 3363, 1, { { 2, 9 } }, 0x1e0000, 0 },
+   { { 0, 256u }, 1, 4, 1, 0, 0, 3363, 2, { { 28, 13 }, { 28, 25 } }, 0x1e0000, 0 },
+   { { 0, 256u }, 1, 4, 1, 0, 0, 3363, 1, { { 28, 13 } }, 0x1e0000, 0 },
+   { { 0, 1024u }, 1, 4, 1, 0, 0, 3363, 1, { { 16, 9 } }, 0x1e0000, 0 },
+};
+constexpr AsicUtils::PairRow pairs[] = {
+   { &layouts[0], &rows[0], &masks[0] }, { &layouts[1], &rows[0], &masks[0] }, { &layouts[2], &rows[0], &masks[0] }, {}, { &layouts[3], &rows[0], &masks[0] }, { &layouts[4], &rows[0], &masks[0] }, { &layouts[4], &rows[0], &masks[0] },
 };
 } // namespace EtppEnc4ContextSelectionPortProfileData
 
 constinit AsicUtils::MetaInfo const EtppEnc4ContextSelectionPortProfile::metaInfo{
-   Impl::unit, __LINE__, "EtppEnc4ContextSelectionPortProfile", 16, true, 1, AsicUtils::ValueType::U32,
-   EtppEnc4ContextSelectionPortProfileData::fields, EtppEnc4ContextSelectionPortProfileData::pairs, EtppEnc4ContextSelectionPortProfileData::layouts, EtppEnc4ContextSelectionPortProfileData::rows, EtppEnc4ContextSelectionPortProfileData::masks, {}, {}
+   Impl::trace, Impl::source, __LINE__, "EtppEnc4ContextSelectionPortProfile", 16, true, 1, AsicUtils::ValueType::U32,
+   EtppEnc4ContextSelectionPortProfileData::fields, EtppEnc4ContextSelectionPortProfileData::pairs, {}, {}
 };
 
 U32 EtppEnc4ContextSelectionPortProfile::allFieldsMask() const {
@@ -822,27 +822,27 @@ namespace EtppEnc5ContextSelectionPortProfileData {
 constexpr AsicUtils::FieldInfo fields[] = {
    { "contextSelectionPerPortProfile", 81, AsicUtils::ValueType::U8, false },
 };
-constexpr AsicUtils::TableLayout layouts[] = {
-   { { 0, 256u }, 1, 1, 0, 0, 1, 3380, 2, { { 28, 2 }, { 10, 10 } }, 0x1f0000, 0 },
-   { { 0, 1024u }, 1, 1, 0, 0, 1, 3380, 1, { { 2, 9 } }, 0x1f0000, 0 },
-   { { 0, 256u }, 1, 1, 0, 0, 1, 3380, 2, { { 28, 13 }, { 28, 25 } }, 0x1f0000, 0 },
-   { { 0, 256u }, 1, 1, 0, 0, 1, 3380, 1, { { 28, 13 } }, 0x1f0000, 0 },
-   { { 0, 1024u }, 1, 1, 0, 0, 1, 3380, 1, { { 16, 9 } }, 0x1f0000, 0 },
-};
-constexpr AsicUtils::PairRow pairs[] = {
-   { 0, 0 }, { 1, 0 }, { 2, 0 }, { 255, 0 }, { 3, 0 }, { 4, 0 }, { 4, 0 },
+constexpr AsicUtils::FieldRow rows[] = {
+   { 0, 2 },
 };
 constexpr U32 masks[] = {
    0x3,
 };
-constexpr AsicUtils::FieldRow rows[] = {
-   { 0, 2 },
+constexpr AsicUtils::TableLayout layouts[] = {
+   { { 0, 256u }, 1, 4, 1, 0, 0, 3380, 2, { { 28, 2 }, { 10, 10 } }, 0x1f0000, 0 },
+   { { 0, 1024u }, 1, 4, 1, 0, 0, 3380, 1, { { 2, 9 } }, 0x1f0000, 0 },
+   { { 0, 256u }, 1, 4, 1, 0, 0, 3380, 2, { { 28, 13 }, { 28, 25 } }, 0x1f0000, 0 },
+   { { 0, 256u }, 1, 4, 1, 0, 0, 3380, 1, { { 28, 13 } }, 0x1f0000, 0 },
+   { { 0, 1024u }, 1, 4, 1, 0, 0, 3380, 1, { { 16, 9 } }, 0x1f0000, 0 },
+};
+constexpr AsicUtils::PairRow pairs[] = {
+   { &layouts[0], &rows[0], &masks[0] }, { &layouts[1], &rows[0], &masks[0] }, { &layouts[2], &rows[0], &masks[0] }, {}, { &layouts[3], &rows[0], &masks[0] }, { &layouts[4], &rows[0], &masks[0] }, { &layouts[4], &rows[0], &masks[0] },
 };
 } // namespace EtppEnc5ContextSelectionPortProfileData
 
 constinit AsicUtils::MetaInfo const EtppEnc5ContextSelectionPortProfile::metaInfo{
-   Impl::unit, __LINE__, "EtppEnc5ContextSelectionPortProfile", 17, true, 1, AsicUtils::ValueType::U32,
-   EtppEnc5ContextSelectionPortProfileData::fields, EtppEnc5ContextSelectionPortProfileData::pairs, EtppEnc5ContextSelectionPortProfileData::layouts, EtppEnc5ContextSelectionPortProfileData::rows, EtppEnc5ContextSelectionPortProfileData::masks, {}, {}
+   Impl::trace, Impl::source, __LINE__, "EtppEnc5ContextSelectionPortProfile", 17, true, 1, AsicUtils::ValueType::U32,
+   EtppEnc5ContextSelectionPortProfileData::fields, EtppEnc5ContextSelectionPortProfileData::pairs, {}, {}
 };
 
 U32 EtppEnc5ContextSelectionPortProfile::allFieldsMask() const {
@@ -856,27 +856,27 @@ namespace EtppInlifOrientationMapData {
 constexpr AsicUtils::FieldInfo fields[] = {
    { "inlifOrientationMapping", 333, AsicUtils::ValueType::U8, false },
 };
-constexpr AsicUtils::TableLayout layouts[] = {
-   { { 0, 256u }, 1, 1, 0, 0, 1, 3504, 2, { { 30, 2 }, { 12, 10 } }, 0x2110000, 0 },
-   { { 0, 256u }, 1, 1, 0, 0, 1, 3504, 1, { { 8, 4 } }, 0x2120000, 0 },
-   { { 0, 256u }, 1, 1, 0, 0, 1, 3504, 2, { { 30, 13 }, { 30, 25 } }, 0x21a0000, 0 },
-   { { 0, 256u }, 1, 1, 0, 0, 1, 3504, 1, { { 30, 13 } }, 0x21a0000, 0 },
-   { { 0, 256u }, 1, 1, 0, 0, 1, 3504, 1, { { 24, 9 } }, 0x2120000, 0 },
-};
-constexpr AsicUtils::PairRow pairs[] = {
-   { 0, 0 }, { 1, 0 }, { 2, 0 }, { 255, 0 }, { 3, 0 }, { 4, 0 }, { 4, 0 },
+constexpr AsicUtils::FieldRow rows[] = {
+   { 0, 3 },
 };
 constexpr U32 masks[] = {
    0x7,
 };
-constexpr AsicUtils::FieldRow rows[] = {
-   { 0, 3 },
+constexpr AsicUtils::TableLayout layouts[] = {
+   { { 0, 256u }, 1, 4, 1, 0, 0, 3504, 2, { { 30, 2 }, { 12, 10 } }, 0x2110000, 0 },
+   { { 0, 256u }, 1, 4, 1, 0, 0, 3504, 1, { { 8, 4 } }, 0x2120000, 0 },
+   { { 0, 256u }, 1, 4, 1, 0, 0, 3504, 2, { { 30, 13 }, { 30, 25 } }, 0x21a0000, 0 },
+   { { 0, 256u }, 1, 4, 1, 0, 0, 3504, 1, { { 30, 13 } }, 0x21a0000, 0 },
+   { { 0, 256u }, 1, 4, 1, 0, 0, 3504, 1, { { 24, 9 } }, 0x2120000, 0 },
+};
+constexpr AsicUtils::PairRow pairs[] = {
+   { &layouts[0], &rows[0], &masks[0] }, { &layouts[1], &rows[0], &masks[0] }, { &layouts[2], &rows[0], &masks[0] }, {}, { &layouts[3], &rows[0], &masks[0] }, { &layouts[4], &rows[0], &masks[0] }, { &layouts[4], &rows[0], &masks[0] },
 };
 } // namespace EtppInlifOrientationMapData
 
 constinit AsicUtils::MetaInfo const EtppInlifOrientationMap::metaInfo{
-   Impl::unit, __LINE__, "EtppInlifOrientationMap", 18, true, 1, AsicUtils::ValueType::U32,
-   EtppInlifOrientationMapData::fields, EtppInlifOrientationMapData::pairs, EtppInlifOrientationMapData::layouts, EtppInlifOrientationMapData::rows, EtppInlifOrientationMapData::masks, {}, {}
+   Impl::trace, Impl::source, __LINE__, "EtppInlifOrientationMap", 18, true, 1, AsicUtils::ValueType::U32,
+   EtppInlifOrientationMapData::fields, EtppInlifOrientationMapData::pairs, {}, {}
 };
 
 U32 EtppInlifOrientationMap::allFieldsMask() const {
@@ -890,27 +890,27 @@ namespace EtppOutlifOrientationMapData {
 constexpr AsicUtils::FieldInfo fields[] = {
    { "outlifOrientationMapping", 546, AsicUtils::ValueType::Raw256, false },
 };
-constexpr AsicUtils::TableLayout layouts[] = {
-   { { 0, 1u }, 6, 1, 0, 0, 1, 31951, 2, { { 30, 2 }, { 12, 10 } }, 0x81d, 0 },
-   { { 0, 1u }, 6, 1, 0, 0, 1, 31951, 1, { { 8, 4 } }, 0x81e, 0 },
-   { { 0, 1u }, 6, 1, 0, 0, 1, 31951, 2, { { 30, 13 }, { 30, 25 } }, 0x822, 0 },
-   { { 0, 1u }, 6, 1, 0, 0, 1, 31951, 1, { { 30, 13 } }, 0x822, 0 },
-   { { 0, 1u }, 6, 1, 0, 0, 1, 31951, 1, { { 24, 9 } }, 0x81e, 0 },
-};
-constexpr AsicUtils::PairRow pairs[] = {
-   { 0, 0 }, { 1, 0 }, { 2, 0 }, { 255, 0 }, { 3, 0 }, { 4, 0 }, { 4, 0 },
+constexpr AsicUtils::FieldRow rows[] = {
+   { 0, 192 },
 };
 constexpr U32 masks[] = {
    0xffffffff, 0xffffffff, 0xffffffff, 0xffffffff, 0xffffffff, 0xffffffff, 0x0, 0x0,
 };
-constexpr AsicUtils::FieldRow rows[] = {
-   { 0, 192 },
+constexpr AsicUtils::TableLayout layouts[] = {
+   { { 0, 1u }, 6, 24, 1, 0, 0, 31951, 2, { { 30, 2 }, { 12, 10 } }, 0x81d, 0 },
+   { { 0, 1u }, 6, 24, 1, 0, 0, 31951, 1, { { 8, 4 } }, 0x81e, 0 },
+   { { 0, 1u }, 6, 24, 1, 0, 0, 31951, 2, { { 30, 13 }, { 30, 25 } }, 0x822, 0 },
+   { { 0, 1u }, 6, 24, 1, 0, 0, 31951, 1, { { 30, 13 } }, 0x822, 0 },
+   { { 0, 1u }, 6, 24, 1, 0, 0, 31951, 1, { { 24, 9 } }, 0x81e, 0 },
+};
+constexpr AsicUtils::PairRow pairs[] = {
+   { &layouts[0], &rows[0], &masks[0] }, { &layouts[1], &rows[0], &masks[0] }, { &layouts[2], &rows[0], &masks[0] }, {}, { &layouts[3], &rows[0], &masks[0] }, { &layouts[4], &rows[0], &masks[0] }, { &layouts[4], &rows[0], &masks[0] },
 };
 } // namespace EtppOutlifOrientationMapData
 
 constinit AsicUtils::MetaInfo const EtppOutlifOrientationMap::metaInfo{
-   Impl::unit, __LINE__, "EtppOutlifOrientationMap", 19, false, 1, AsicUtils::ValueType::Raw256,
-   EtppOutlifOrientationMapData::fields, EtppOutlifOrientationMapData::pairs, EtppOutlifOrientationMapData::layouts, EtppOutlifOrientationMapData::rows, EtppOutlifOrientationMapData::masks, {}, {}
+   Impl::trace, Impl::source, __LINE__, "EtppOutlifOrientationMap", 19, false, 1, AsicUtils::ValueType::Raw256,
+   EtppOutlifOrientationMapData::fields, EtppOutlifOrientationMapData::pairs, {}, {}
 };
 
 Raw256 EtppOutlifOrientationMap::allFieldsMask() const {
@@ -932,29 +932,29 @@ constexpr AsicUtils::FieldInfo fields[] = {
    { "doubleInstruction6", 236, AsicUtils::ValueType::U64, false },
    { "doubleInstruction7", 237, AsicUtils::ValueType::U64, false },
 };
-constexpr AsicUtils::TableLayout layouts[] = {
-   { { 0, 64u }, 13, 1, 0, 0, 1, 3424, 2, { { 28, 2 }, { 10, 10 } }, 0x1270000, 0 },
-   { { 0, 64u }, 13, 1, 0, 0, 1, 3424, 1, { { 2, 9 } }, 0x1270000, 0 },
-   { { 0, 64u }, 13, 1, 0, 0, 1, 3424, 2, { { 28, 13 }, { 28, 25 } }, 0x1270000, 0 },
-   { { 0, 64u }, 13, 1, 0, 0, 1, 3424, 1, { { 28, 13 } }, 0x1270000, 0 },
-   { { 0, 64u }, 13, 1, 0, 0, 1, 3424, 1, { { 16, 9 } }, 0x1270000, 0 },
-};
-constexpr AsicUtils::PairRow pairs[] = {
-   { 0, 0 }, { 1, 0 }, { 2, 0 }, { 255, 0 }, { 3, 0 }, { 4, 0 }, { 4, 0 },
+constexpr AsicUtils::FieldRow rows[] = {
+   { 0, 4 }, { 4, 50 }, { 54, 50 }, { 104, 50 }, { 154, 50 }, { 204, 50 }, { 254, 50 }, { 304, 50 },
+   { 354, 50 },
 };
 constexpr U32 masks[] = {
    0xffffffff, 0xffffffff, 0xffffffff, 0xffffffff, 0xffffffff, 0xffffffff, 0xffffffff, 0xffffffff,
    0xffffffff, 0xffffffff, 0xffffffff, 0xffffffff, 0xfffff, 0x0, 0x0, 0x0,
 };
-constexpr AsicUtils::FieldRow rows[] = {
-   { 0, 4 }, { 4, 50 }, { 54, 50 }, { 104, 50 }, { 154, 50 }, { 204, 50 }, { 254, 50 }, { 304, 50 },
-   { 354, 50 },
+constexpr AsicUtils::TableLayout layouts[] = {
+   { { 0, 64u }, 13, 52, 1, 0, 0, 3424, 2, { { 28, 2 }, { 10, 10 } }, 0x1270000, 0 },
+   { { 0, 64u }, 13, 52, 1, 0, 0, 3424, 1, { { 2, 9 } }, 0x1270000, 0 },
+   { { 0, 64u }, 13, 52, 1, 0, 0, 3424, 2, { { 28, 13 }, { 28, 25 } }, 0x1270000, 0 },
+   { { 0, 64u }, 13, 52, 1, 0, 0, 3424, 1, { { 28, 13 } }, 0x1270000, 0 },
+   { { 0, 64u }, 13, 52, 1, 0, 0, 3424, 1, { { 16, 9 } }, 0x1270000, 0 },
+};
+constexpr AsicUtils::PairRow pairs[] = {
+   { &layouts[0], &rows[0], &masks[0] }, { &layouts[1], &rows[0], &masks[0] }, { &layouts[2], &rows[0], &masks[0] }, {}, { &layouts[3], &rows[0], &masks[0] }, { &layouts[4], &rows[0], &masks[0] }, { &layouts[4], &rows[0], &masks[0] },
 };
 } // namespace EtppTrapBitCruncherProgramData
 
 constinit AsicUtils::MetaInfo const EtppTrapBitCruncherProgram::metaInfo{
-   Impl::unit, __LINE__, "EtppTrapBitCruncherProgram", 20, true, 1, AsicUtils::ValueType::Raw512,
-   EtppTrapBitCruncherProgramData::fields, EtppTrapBitCruncherProgramData::pairs, EtppTrapBitCruncherProgramData::layouts, EtppTrapBitCruncherProgramData::rows, EtppTrapBitCruncherProgramData::masks, {}, {}
+   Impl::trace, Impl::source, __LINE__, "EtppTrapBitCruncherProgram", 20, true, 1, AsicUtils::ValueType::Raw512,
+   EtppTrapBitCruncherProgramData::fields, EtppTrapBitCruncherProgramData::pairs, {}, {}
 };
 
 Raw512 EtppTrapBitCruncherProgram::allFieldsMask() const {
@@ -968,27 +968,27 @@ namespace EtppTrapContextSelectionPortProfileData {
 constexpr AsicUtils::FieldInfo fields[] = {
    { "contextSelectionPerPortProfile", 81, AsicUtils::ValueType::U8, false },
 };
-constexpr AsicUtils::TableLayout layouts[] = {
-   { { 0, 256u }, 1, 1, 0, 0, 1, 3431, 2, { { 28, 2 }, { 10, 10 } }, 0x200000, 0 },
-   { { 0, 1024u }, 1, 1, 0, 0, 1, 3431, 1, { { 2, 9 } }, 0x200000, 0 },
-   { { 0, 256u }, 1, 1, 0, 0, 1, 3431, 2, { { 28, 13 }, { 28, 25 } }, 0x200000, 0 },
-   { { 0, 256u }, 1, 1, 0, 0, 1, 3431, 1, { { 28, 13 } }, 0x200000, 0 },
-   { { 0, 1024u }, 1, 1, 0, 0, 1, 3431, 1, { { 16, 9 } }, 0x200000, 0 },
-};
-constexpr AsicUtils::PairRow pairs[] = {
-   { 0, 0 }, { 1, 0 }, { 2, 1 }, { 255, 0 }, { 3, 1 }, { 4, 0 }, { 4, 0 },
+constexpr AsicUtils::FieldRow rows[] = {
+   { 0, 3 }, { 0, 4 },
 };
 constexpr U32 masks[] = {
    0x7, 0xf,
 };
-constexpr AsicUtils::FieldRow rows[] = {
-   { 0, 3 }, { 0, 4 },
+constexpr AsicUtils::TableLayout layouts[] = {
+   { { 0, 256u }, 1, 4, 1, 0, 0, 3431, 2, { { 28, 2 }, { 10, 10 } }, 0x200000, 0 },
+   { { 0, 1024u }, 1, 4, 1, 0, 0, 3431, 1, { { 2, 9 } }, 0x200000, 0 },
+   { { 0, 256u }, 1, 4, 1, 0, 0, 3431, 2, { { 28, 13 }, { 28, 25 } }, 0x200000, 0 },
+   { { 0, 256u }, 1, 4, 1, 0, 0, 3431, 1, { { 28, 13 } }, 0x200000, 0 },
+   { { 0, 1024u }, 1, 4, 1, 0, 0, 3431, 1, { { 16, 9 } }, 0x200000, 0 },
+};
+constexpr AsicUtils::PairRow pairs[] = {
+   { &layouts[0], &rows[0], &masks[0] }, { &layouts[1], &rows[0], &masks[0] }, { &layouts[2], &rows[1], &masks[1] }, {}, { &layouts[3], &rows[1], &masks[1] }, { &layouts[4], &rows[0], &masks[0] }, { &layouts[4], &rows[0], &masks[0] },
 };
 } // namespace EtppTrapContextSelectionPortProfileData
 
 constinit AsicUtils::MetaInfo const EtppTrapContextSelectionPortProfile::metaInfo{
-   Impl::unit, __LINE__, "EtppTrapContextSelectionPortProfile", 21, true, 1, AsicUtils::ValueType::U32,
-   EtppTrapContextSelectionPortProfileData::fields, EtppTrapContextSelectionPortProfileData::pairs, EtppTrapContextSelectionPortProfileData::layouts, EtppTrapContextSelectionPortProfileData::rows, EtppTrapContextSelectionPortProfileData::masks, {}, {}
+   Impl::trace, Impl::source, __LINE__, "EtppTrapContextSelectionPortProfile", 21, true, 1, AsicUtils::ValueType::U32,
+   EtppTrapContextSelectionPortProfileData::fields, EtppTrapContextSelectionPortProfileData::pairs, {}, {}
 };
 
 U32 EtppTrapContextSelectionPortProfile::allFieldsMask() const {
@@ -1003,27 +1003,27 @@ constexpr AsicUtils::FieldInfo fields[] = {
    { "actionType0", 46, AsicUtils::ValueType::U8, false },
    { "actionType1", 47, AsicUtils::ValueType::U8, false },
 };
-constexpr AsicUtils::TableLayout layouts[] = {
-   { { 0, 64u }, 6, 1, 0, 0, 1, 3279, 2, { { 26, 2 }, { 8, 10 } }, 0x2300000, 0 },
-   { { 0, 64u }, 6, 1, 0, 0, 1, 3279, 1, { { 20, 5 } }, 0x2300000, 0 },
-   { { 0, 64u }, 6, 1, 0, 0, 1, 3279, 2, { { 26, 13 }, { 26, 25 } }, 0x2320000, 0 },
-   { { 0, 64u }, 6, 1, 0, 0, 1, 3279, 1, { { 26, 13 } }, 0x2320000, 0 },
-   { { 0, 64u }, 6, 1, 0, 0, 1, 3279, 1, { { 8, 8 } }, 0x2300000, 0 },
-};
-constexpr AsicUtils::PairRow pairs[] = {
-   { 0, 0 }, { 1, 0 }, { 2, 0 }, { 255, 0 }, { 3, 0 }, { 4, 0 }, { 4, 0 },
+constexpr AsicUtils::FieldRow rows[] = {
+   { 14, 6 }, { 35, 6 },
 };
 constexpr U32 masks[] = {
    0xfc000, 0x1f8, 0x0, 0x0, 0x0, 0x0, 0x0, 0x0,
 };
-constexpr AsicUtils::FieldRow rows[] = {
-   { 14, 6 }, { 35, 6 },
+constexpr AsicUtils::TableLayout layouts[] = {
+   { { 0, 64u }, 6, 24, 1, 0, 0, 3279, 2, { { 26, 2 }, { 8, 10 } }, 0x2300000, 0 },
+   { { 0, 64u }, 6, 24, 1, 0, 0, 3279, 1, { { 20, 5 } }, 0x2300000, 0 },
+   { { 0, 64u }, 6, 24, 1, 0, 0, 3279, 2, { { 26, 13 }, { 26, 25 } }, 0x2320000, 0 },
+   { { 0, 64u }, 6, 24, 1, 0, 0, 3279, 1, { { 26, 13 } }, 0x2320000, 0 },
+   { { 0, 64u }, 6, 24, 1, 0, 0, 3279, 1, { { 8, 8 } }, 0x2300000, 0 },
+};
+constexpr AsicUtils::PairRow pairs[] = {
+   { &layouts[0], &rows[0], &masks[0] }, { &layouts[1], &rows[0], &masks[0] }, { &layouts[2], &rows[0], &masks[0] }, {}, { &layouts[3], &rows[0], &masks[0] }, { &layouts[4], &rows[0], &masks[0] }, { &layouts[4], &rows[0], &masks[0] },
 };
 } // namespace EtppaPrpFesProgramTableData
 
 constinit AsicUtils::MetaInfo const EtppaPrpFesProgramTable::metaInfo{
-   Impl::unit, __LINE__, "EtppaPrpFesProgramTable", 22, true, 1, AsicUtils::ValueType::Raw256,
-   EtppaPrpFesProgramTableData::fields, EtppaPrpFesProgramTableData::pairs, EtppaPrpFesProgramTableData::layouts, EtppaPrpFesProgramTableData::rows, EtppaPrpFesProgramTableData::masks, {}, {}
+   Impl::trace, Impl::source, __LINE__, "EtppaPrpFesProgramTable", 22, true, 1, AsicUtils::ValueType::Raw256,
+   EtppaPrpFesProgramTableData::fields, EtppaPrpFesProgramTableData::pairs, {}, {}
 };
 
 Raw256 EtppaPrpFesProgramTable::allFieldsMask() const {
@@ -1053,30 +1053,30 @@ constexpr AsicUtils::FieldInfo fields[] = {
    { "encapDestinationConfig", 247, AsicUtils::ValueType::U32, false },
    { "egressLastLayerConfig", 243, AsicUtils::ValueType::U16, false },
 };
-constexpr AsicUtils::TableLayout layouts[] = {
-   { { 0, 64u }, 9, 1, 0, 0, 1, 3373, 2, { { 28, 2 }, { 10, 10 } }, 0x1120000, 0 },
-   { { 0, 64u }, 9, 1, 0, 0, 1, 3373, 1, { { 2, 9 } }, 0x1120000, 0 },
-   { { 0, 128u }, 9, 1, 0, 0, 1, 3373, 2, { { 28, 13 }, { 28, 25 } }, 0x1120000, 0 },
-   { { 0, 128u }, 9, 1, 0, 0, 1, 3373, 1, { { 28, 13 } }, 0x1120000, 0 },
-   { { 0, 64u }, 9, 1, 0, 0, 1, 3373, 1, { { 16, 9 } }, 0x1120000, 0 },
-};
-constexpr AsicUtils::PairRow pairs[] = {
-   { 0, 0 }, { 1, 0 }, { 2, 0 }, { 255, 0 }, { 3, 0 }, { 4, 0 }, { 4, 0 },
-};
-constexpr U32 masks[] = {
-   0xffffffff, 0xffffffff, 0xffffffff, 0xffffffff, 0xffffffff, 0xffffffff, 0xffffffff, 0xffffffff,
-   0x7ff, 0x0, 0x0, 0x0, 0x0, 0x0, 0x0, 0x0,
-};
 constexpr AsicUtils::FieldRow rows[] = {
    { 0, 16 }, { 16, 16 }, { 32, 16 }, { 48, 14 }, { 62, 14 }, { 76, 17 }, { 93, 15 }, { 108, 18 },
    { 126, 15 }, { 141, 14 }, { 155, 17 }, { 172, 15 }, { 187, 16 }, { 203, 17 }, { 220, 15 }, { 235, 19 },
    { 254, 13 },
 };
+constexpr U32 masks[] = {
+   0xffffffff, 0xffffffff, 0xffffffff, 0xffffffff, 0xffffffff, 0xffffffff, 0xffffffff, 0xffffffff,
+   0x7ff, 0x0, 0x0, 0x0, 0x0, 0x0, 0x0, 0x0,
+};
+constexpr AsicUtils::TableLayout layouts[] = {
+   { { 0, 64u }, 9, 36, 1, 0, 0, 3373, 2, { { 28, 2 }, { 10, 10 } }, 0x1120000, 0 },
+   { { 0, 64u }, 9, 36, 1, 0, 0, 3373, 1, { { 2, 9 } }, 0x1120000, 0 },
+   { { 0, 128u }, 9, 36, 1, 0, 0, 3373, 2, { { 28, 13 }, { 28, 25 } }, 0x1120000, 0 },
+   { { 0, 128u }, 9, 36, 1, 0, 0, 3373, 1, { { 28, 13 } }, 0x1120000, 0 },
+   { { 0, 64u }, 9, 36, 1, 0, 0, 3373, 1, { { 16, 9 } }, 0x1120000, 0 },
+};
+constexpr AsicUtils::PairRow pairs[] = {
+   { &layouts[0], &rows[0], &masks[0] }, { &layouts[1], &rows[0], &masks[0] }, { &layouts[2], &rows[0], &masks[0] }, {}, { &layouts[3], &rows[0], &masks[0] }, { &layouts[4], &rows[0], &masks[0] }, { &layouts[4], &rows[0], &masks[0] },
+};
 } // namespace EtppbEnc5Arr0FormatCfgData
 
 constinit AsicUtils::MetaInfo const EtppbEnc5Arr0FormatCfg::metaInfo{
-   Impl::unit, __LINE__, "EtppbEnc5Arr0FormatCfg", 23, true, 1, AsicUtils::ValueType::Raw512,
-   EtppbEnc5Arr0FormatCfgData::fields, EtppbEnc5Arr0FormatCfgData::pairs, EtppbEnc5Arr0FormatCfgData::layouts, EtppbEnc5Arr0FormatCfgData::rows, EtppbEnc5Arr0FormatCfgData::masks, {}, {}
+   Impl::trace, Impl::source, __LINE__, "EtppbEnc5Arr0FormatCfg", 23, true, 1, AsicUtils::ValueType::Raw512,
+   EtppbEnc5Arr0FormatCfgData::fields, EtppbEnc5Arr0FormatCfgData::pairs, {}, {}
 };
 
 Raw512 EtppbEnc5Arr0FormatCfg::allFieldsMask() const {
@@ -1106,30 +1106,30 @@ constexpr AsicUtils::FieldInfo fields[] = {
    { "encapDestinationConfig", 247, AsicUtils::ValueType::U32, false },
    { "egressLastLayerConfig", 243, AsicUtils::ValueType::U16, false },
 };
-constexpr AsicUtils::TableLayout layouts[] = {
-   { { 0, 64u }, 9, 1, 0, 0, 1, 3460, 2, { { 30, 2 }, { 12, 10 } }, 0x1720000, 0 },
-   { { 0, 64u }, 9, 1, 0, 0, 1, 3460, 1, { { 8, 4 } }, 0x1720000, 0 },
-   { { 0, 128u }, 9, 1, 0, 0, 1, 3460, 2, { { 30, 13 }, { 30, 25 } }, 0x1720000, 0 },
-   { { 0, 128u }, 9, 1, 0, 0, 1, 3460, 1, { { 30, 13 } }, 0x1720000, 0 },
-   { { 0, 64u }, 9, 1, 0, 0, 1, 3460, 1, { { 24, 9 } }, 0x1720000, 0 },
-};
-constexpr AsicUtils::PairRow pairs[] = {
-   { 0, 0 }, { 1, 0 }, { 2, 0 }, { 255, 0 }, { 3, 0 }, { 4, 0 }, { 4, 0 },
-};
-constexpr U32 masks[] = {
-   0xffffffff, 0xffffffff, 0xffffffff, 0xffffffff, 0xffffffff, 0xffffffff, 0xffffffff, 0xffffffff,
-   0x7ff, 0x0, 0x0, 0x0, 0x0, 0x0, 0x0, 0x0,
-};
 constexpr AsicUtils::FieldRow rows[] = {
    { 0, 16 }, { 16, 16 }, { 32, 16 }, { 48, 14 }, { 62, 14 }, { 76, 17 }, { 93, 15 }, { 108, 18 },
    { 126, 15 }, { 141, 14 }, { 155, 17 }, { 172, 15 }, { 187, 16 }, { 203, 17 }, { 220, 15 }, { 235, 19 },
    { 254, 13 },
 };
+constexpr U32 masks[] = {
+   0xffffffff, 0xffffffff, 0xffffffff, 0xffffffff, 0xffffffff, 0xffffffff, 0xffffffff, 0xffffffff,
+   0x7ff, 0x0, 0x0, 0x0, 0x0, 0x0, 0x0, 0x0,
+};
+constexpr AsicUtils::TableLayout layouts[] = {
+   { { 0, 64u }, 9, 36, 1, 0, 0, 3460, 2, { { 30, 2 }, { 12, 10 } }, 0x1720000, 0 },
+   { { 0, 64u }, 9, 36, 1, 0, 0, 3460, 1, { { 8, 4 } }, 0x1720000, 0 },
+   { { 0, 128u }, 9, 36, 1, 0, 0, 3460, 2, { { 30, 13 }, { 30, 25 } }, 0x1720000, 0 },
+   { { 0, 128u }, 9, 36, 1, 0, 0, 3460, 1, { { 30, 13 } }, 0x1720000, 0 },
+   { { 0, 64u }, 9, 36, 1, 0, 0, 3460, 1, { { 24, 9 } }, 0x1720000, 0 },
+};
+constexpr AsicUtils::PairRow pairs[] = {
+   { &layouts[0], &rows[0], &masks[0] }, { &layouts[1], &rows[0], &masks[0] }, { &layouts[2], &rows[0], &masks[0] }, {}, { &layouts[3], &rows[0], &masks[0] }, { &layouts[4], &rows[0], &masks[0] }, { &layouts[4], &rows[0], &masks[0] },
+};
 } // namespace EtppcEnc1Arr0FormatCfgData
 
 constinit AsicUtils::MetaInfo const EtppcEnc1Arr0FormatCfg::metaInfo{
-   Impl::unit, __LINE__, "EtppcEnc1Arr0FormatCfg", 24, true, 1, AsicUtils::ValueType::Raw512,
-   EtppcEnc1Arr0FormatCfgData::fields, EtppcEnc1Arr0FormatCfgData::pairs, EtppcEnc1Arr0FormatCfgData::layouts, EtppcEnc1Arr0FormatCfgData::rows, EtppcEnc1Arr0FormatCfgData::masks, {}, {}
+   Impl::trace, Impl::source, __LINE__, "EtppcEnc1Arr0FormatCfg", 24, true, 1, AsicUtils::ValueType::Raw512,
+   EtppcEnc1Arr0FormatCfgData::fields, EtppcEnc1Arr0FormatCfgData::pairs, {}, {}
 };
 
 Raw512 EtppcEnc1Arr0FormatCfg::allFieldsMask() const {
@@ -1162,19 +1162,6 @@ constexpr AsicUtils::FieldInfo fields[] = {
    { "etpsTosEntryTypeProfileMask", 290, AsicUtils::ValueType::U8, false },
    { "etpsSecondEntryTypeProfileMask", 286, AsicUtils::ValueType::U8, false },
 };
-constexpr AsicUtils::TableLayout layouts[] = {
-   { { 0, 68u }, 2, 1, 0, 0, 1, 3459, 2, { { 30, 2 }, { 12, 10 } }, 0x2670000, 0 },
-   { { 0, 68u }, 2, 1, 0, 0, 1, 3459, 1, { { 8, 4 } }, 0x2670000, 0 },
-   { { 0, 68u }, 2, 1, 0, 0, 1, 3459, 2, { { 30, 13 }, { 30, 25 } }, 0x2670000, 0 },
-   { { 0, 68u }, 2, 1, 0, 0, 1, 3459, 1, { { 30, 13 } }, 0x2670000, 0 },
-   { { 0, 68u }, 2, 1, 0, 0, 1, 3459, 1, { { 24, 9 } }, 0x2670000, 0 },
-};
-constexpr AsicUtils::PairRow pairs[] = {
-   { 0, 0 }, { 1, 0 }, { 2, 1 }, { 255, 0 }, { 3, 1 }, { 4, 0 }, { 4, 0 },
-};
-constexpr U32 masks[] = {
-   0xffffffff, 0xfffffff, 0xffffffff, 0xfffffff,
-};
 constexpr AsicUtils::FieldRow rows[] = {
    { 0, 6 }, { 6, 6 }, { 12, 6 }, { 18, 2 }, { 20, 4 }, { 24, 2 }, { 26, 6 }, { 32, 6 },
    { 38, 6 }, { 44, 2 }, { 46, 4 }, { 50, 2 }, { 52, 7 }, { 59, 1 }, {}, {},
@@ -1182,11 +1169,24 @@ constexpr AsicUtils::FieldRow rows[] = {
    { 20, 4 }, { 24, 2 }, {}, {}, {}, { 44, 2 }, { 46, 4 }, { 50, 2 },
    { 52, 7 }, { 59, 1 }, { 0, 6 }, { 6, 6 }, { 12, 6 }, { 26, 6 }, { 32, 6 }, { 38, 6 },
 };
+constexpr U32 masks[] = {
+   0xffffffff, 0xfffffff, 0xffffffff, 0xfffffff,
+};
+constexpr AsicUtils::TableLayout layouts[] = {
+   { { 0, 68u }, 2, 8, 1, 0, 0, 3459, 2, { { 30, 2 }, { 12, 10 } }, 0x2670000, 0 },
+   { { 0, 68u }, 2, 8, 1, 0, 0, 3459, 1, { { 8, 4 } }, 0x2670000, 0 },
+   { { 0, 68u }, 2, 8, 1, 0, 0, 3459, 2, { { 30, 13 }, { 30, 25 } }, 0x2670000, 0 },
+   { { 0, 68u }, 2, 8, 1, 0, 0, 3459, 1, { { 30, 13 } }, 0x2670000, 0 },
+   { { 0, 68u }, 2, 8, 1, 0, 0, 3459, 1, { { 24, 9 } }, 0x2670000, 0 },
+};
+constexpr AsicUtils::PairRow pairs[] = {
+   { &layouts[0], &rows[0], &masks[0] }, { &layouts[1], &rows[0], &masks[0] }, { &layouts[2], &rows[20], &masks[2] }, {}, { &layouts[3], &rows[20], &masks[2] }, { &layouts[4], &rows[0], &masks[0] }, { &layouts[4], &rows[0], &masks[0] },
+};
 } // namespace EtppcEncapsulation2ContextSelectionCamData
 
 constinit AsicUtils::MetaInfo const EtppcEncapsulation2ContextSelectionCam::metaInfo{
-   Impl::unit, __LINE__, "EtppcEncapsulation2ContextSelectionCam", 25, true, 1, AsicUtils::ValueType::U64,
-   EtppcEncapsulation2ContextSelectionCamData::fields, EtppcEncapsulation2ContextSelectionCamData::pairs, EtppcEncapsulation2ContextSelectionCamData::layouts, EtppcEncapsulation2ContextSelectionCamData::rows, EtppcEncapsulation2ContextSelectionCamData::masks, {}, {}
+   Impl::trace, Impl::source, __LINE__, "EtppcEncapsulation2ContextSelectionCam", 25, true, 1, AsicUtils::ValueType::U64,
+   EtppcEncapsulation2ContextSelectionCamData::fields, EtppcEncapsulation2ContextSelectionCamData::pairs, {}, {}
 };
 
 U64 EtppcEncapsulation2ContextSelectionCam::allFieldsMask() const {
@@ -1204,17 +1204,9 @@ constexpr AsicUtils::FieldInfo fields[] = {
    { "ffcIndex", 304, AsicUtils::ValueType::U8, false },
    { "resultType", 632, AsicUtils::ValueType::U8, true },
 };
-constexpr AsicUtils::TableLayout layouts[] = {
-   { { 0, 4294967295u }, 20, 1, 0, 0, 1, -1, 1, { { 10, 1 } }, 0x0, 0 },
-   { { 0, 4294967295u }, 20, 1, 0, 0, 1, -1, 1, { { 4, 5 } }, 0x0, 0 },
-   { { 0, 4294967295u }, 20, 1, 0, 0, 1, -1, 1, { { 28, 12 } }, 0x0, 0 },
-   { { 0, 4294967295u }, 20, 1, 0, 0, 1, -1, 1, { { 16, 15 } }, 0x0, 0 },
-};
-constexpr AsicUtils::PairRow pairs[] = {
-   { 0, 0 }, { 1, 0 }, { 2, 0 }, { 255, 0 }, { 2, 0 }, { 3, 0 }, { 3, 0 },
-   { 0, 1 }, { 1, 1 }, { 2, 1 }, { 255, 0 }, { 2, 1 }, { 3, 1 }, { 3, 1 },
-   { 0, 2 }, { 1, 2 }, { 2, 2 }, { 255, 0 }, { 2, 2 }, { 3, 2 }, { 3, 2 },
-   { 0, 0 }, { 1, 0 }, { 2, 0 }, { 255, 0 }, { 2, 0 }, { 3, 0 }, { 3, 0 },
+constexpr AsicUtils::FieldRow rows[] = {
+   { 0, 8 }, { 8, 5 }, { 13, 11 }, { 24, 3 }, { 27, 2 }, { 0, 8 }, { 8, 5 }, { 13, 5 },
+   { 24, 3 }, { 27, 2 }, { 0, 8 }, { 8, 5 }, { 13, 12 }, {}, { 25, 4 },
 };
 constexpr U32 masks[] = {
    0x1fffffff, 0x0, 0x0, 0x0, 0x0, 0x0, 0x0, 0x0,
@@ -1229,6 +1221,18 @@ constexpr U32 masks[] = {
    0x0, 0x0, 0x0, 0x0, 0x0, 0x0, 0x0, 0x0,
    0x0, 0x0, 0x0, 0x0, 0x0, 0x0, 0x0, 0x0,
    0x0, 0x0, 0x0, 0x0, 0x0, 0x0, 0x0, 0x0,
+};
+constexpr AsicUtils::TableLayout layouts[] = {
+   { { 0, 4294967295u }, 20, 80, 1, 0, 0, -1, 1, { { 10, 1 } }, 0x0, 0 },
+   { { 0, 4294967295u }, 20, 80, 1, 0, 0, -1, 1, { { 4, 5 } }, 0x0, 0 },
+   { { 0, 4294967295u }, 20, 80, 1, 0, 0, -1, 1, { { 28, 12 } }, 0x0, 0 },
+   { { 0, 4294967295u }, 20, 80, 1, 0, 0, -1, 1, { { 16, 15 } }, 0x0, 0 },
+};
+constexpr AsicUtils::PairRow pairs[] = {
+   { &layouts[0], &rows[0], &masks[0] }, { &layouts[1], &rows[0], &masks[0] }, { &layouts[2], &rows[0], &masks[0] }, {}, { &layouts[2], &rows[0], &masks[0] }, { &layouts[3], &rows[0], &masks[0] }, { &layouts[3], &rows[0], &masks[0] },
+   { &layouts[0], &rows[5], &masks[32] }, { &layouts[1], &rows[5], &masks[32] }, { &layouts[2], &rows[5], &masks[32] }, {}, { &layouts[2], &rows[5], &masks[32] }, { &layouts[3], &rows[5], &masks[32] }, { &layouts[3], &rows[5], &masks[32] },
+   { &layouts[0], &rows[10], &masks[64] }, { &layouts[1], &rows[10], &masks[64] }, { &layouts[2], &rows[10], &masks[64] }, {}, { &layouts[2], &rows[10], &masks[64] }, { &layouts[3], &rows[10], &masks[64] }, { &layouts[3], &rows[10], &masks[64] },
+   { &layouts[0], &rows[0], &masks[0] }, { &layouts[1], &rows[0], &masks[0] }, { &layouts[2], &rows[0], &masks[0] }, {}, { &layouts[2], &rows[0], &masks[0] }, { &layouts[3], &rows[0], &masks[0] }, { &layouts[3], &rows[0], &masks[0] },
 };
 constexpr AsicUtils::TagRow tags[] = {
    { 1 << 0, 0, 27, 2, 1 },
@@ -1256,15 +1260,11 @@ constexpr AsicUtils::TagRow tags[] = {
    { 1 << 6, 2, 25, 4, 8 },
    { 1 << 6, 3, 27, 2, 0 },
 };
-constexpr AsicUtils::FieldRow rows[] = {
-   { 0, 8 }, { 8, 5 }, { 13, 11 }, { 24, 3 }, { 27, 2 }, { 0, 8 }, { 8, 5 }, { 13, 5 },
-   { 24, 3 }, { 27, 2 }, { 0, 8 }, { 8, 5 }, { 13, 12 }, {}, { 25, 4 },
-};
 } // namespace FfcInstructionData
 
 constinit AsicUtils::MetaInfo const FfcInstruction::metaInfo{
-   Impl::unit, __LINE__, "FfcInstruction", 26, true, 4, AsicUtils::ValueType::Raw1024,
-   FfcInstructionData::fields, FfcInstructionData::pairs, FfcInstructionData::layouts, FfcInstructionData::rows, FfcInstructionData::masks, FfcInstructionData::tags, {}
+   Impl::trace, Impl::source, __LINE__, "FfcInstruction", 26, true, 4, AsicUtils::ValueType::Raw1024,
+   FfcInstructionData::fields, FfcInstructionData::pairs, FfcInstructionData::tags, {}
 };
 
 Raw1024 FfcInstruction::allFieldsMask() const {
@@ -1281,28 +1281,28 @@ constexpr AsicUtils::FieldInfo fields[] = {
    { "reserved", 631, AsicUtils::ValueType::U8, false },
    { "strengthVec", 663, AsicUtils::ValueType::U64, false },
 };
-constexpr AsicUtils::TableLayout layouts[] = {
-   { { 0, 256u }, 1, 4, 0, 0, 4, 7988, 2, { { 10, 2 }, { 24, 9 } }, 0x16b0000, 256 },
-   { { 0, 256u }, 1, 4, 0, 0, 4, 7988, 1, { { 10, 10 } }, 0x16b0000, 256 },
-   { { 0, 256u }, 2, 4, 0, 0, 4, 7988, 2, { { 6, 14 }, { 6, 26 } }, 0x16b0000, 256 },
-   { { 0, 256u }, 2, 4, 0, 0, 4, 7988, 1, { { 6, 14 } }, 0x16b0000, 256 },
-   { { 0, 256u }, 1, 4, 0, 0, 4, 7988, 1, { { 0, 17 } }, 0x16b0000, 256 },
-};
-constexpr AsicUtils::PairRow pairs[] = {
-   { 0, 0 }, { 1, 1 }, { 2, 2 }, { 255, 0 }, { 3, 2 }, { 4, 1 }, { 4, 1 },
-};
-constexpr U32 masks[] = {
-   0xff, 0x0, 0x3f, 0x0, 0xffffffff, 0xffff,
-};
 constexpr AsicUtils::FieldRow rows[] = {
    { 0, 3 }, { 3, 3 }, { 6, 2 }, {}, { 0, 3 }, { 3, 3 }, {}, {},
    { 0, 3 }, { 3, 3 }, {}, { 0, 48 },
 };
+constexpr U32 masks[] = {
+   0xff, 0x0, 0x3f, 0x0, 0xffffffff, 0xffff,
+};
+constexpr AsicUtils::TableLayout layouts[] = {
+   { { 0, 256u }, 1, 4, 4, 0, 0, 7988, 2, { { 10, 2 }, { 24, 9 } }, 0x16b0000, 256 },
+   { { 0, 256u }, 1, 4, 4, 0, 0, 7988, 1, { { 10, 10 } }, 0x16b0000, 256 },
+   { { 0, 256u }, 2, 8, 4, 0, 0, 7988, 2, { { 6, 14 }, { 6, 26 } }, 0x16b0000, 256 },
+   { { 0, 256u }, 2, 8, 4, 0, 0, 7988, 1, { { 6, 14 } }, 0x16b0000, 256 },
+   { { 0, 256u }, 1, 4, 4, 0, 0, 7988, 1, { { 0, 17 } }, 0x16b0000, 256 },
+};
+constexpr AsicUtils::PairRow pairs[] = {
+   { &layouts[0], &rows[0], &masks[0] }, { &layouts[1], &rows[4], &masks[2] }, { &layouts[2], &rows[8], &masks[4] }, {}, { &layouts[3], &rows[8], &masks[4] }, { &layouts[4], &rows[4], &masks[2] }, { &layouts[4], &rows[4], &masks[2] },
+};
 } // namespace FlpKapsStrengthMappingData
 
 constinit AsicUtils::MetaInfo const FlpKapsStrengthMapping::metaInfo{
-   Impl::unit, __LINE__, "FlpKapsStrengthMapping", 27, true, 1, AsicUtils::ValueType::U64,
-   FlpKapsStrengthMappingData::fields, FlpKapsStrengthMappingData::pairs, FlpKapsStrengthMappingData::layouts, FlpKapsStrengthMappingData::rows, FlpKapsStrengthMappingData::masks, {}, {}
+   Impl::trace, Impl::source, __LINE__, "FlpKapsStrengthMapping", 27, true, 1, AsicUtils::ValueType::U64,
+   FlpKapsStrengthMappingData::fields, FlpKapsStrengthMappingData::pairs, {}, {}
 };
 
 U64 FlpKapsStrengthMapping::allFieldsMask() const {
@@ -1323,27 +1323,27 @@ constexpr AsicUtils::FieldInfo fields[] = {
    { "saDropConfig", 643, AsicUtils::ValueType::U16, false },
    { "defaultConfig", 226, AsicUtils::ValueType::U16, false },
 };
-constexpr AsicUtils::TableLayout layouts[] = {
-   { { 0, 64u }, 4, 2, 0, 0, 2, 7991, 2, { { 10, 2 }, { 24, 9 } }, 0xf0000, 64 },
-   { { 0, 64u }, 4, 2, 0, 0, 2, 7991, 1, { { 10, 10 } }, 0xf0000, 64 },
-   { { 0, 64u }, 4, 2, 0, 0, 2, 7991, 2, { { 6, 14 }, { 6, 26 } }, 0xf0000, 64 },
-   { { 0, 64u }, 4, 2, 0, 0, 2, 7991, 1, { { 6, 14 } }, 0xf0000, 64 },
-   { { 0, 64u }, 4, 2, 0, 0, 2, 7991, 1, { { 0, 17 } }, 0xf0000, 64 },
-};
-constexpr AsicUtils::PairRow pairs[] = {
-   { 0, 0 }, { 1, 0 }, { 2, 0 }, { 255, 0 }, { 3, 0 }, { 4, 0 }, { 4, 0 },
+constexpr AsicUtils::FieldRow rows[] = {
+   { 0, 12 }, { 12, 15 }, { 27, 15 }, { 42, 15 }, { 57, 13 }, { 70, 14 }, { 84, 11 }, { 95, 11 },
 };
 constexpr U32 masks[] = {
    0xffffffff, 0xffffffff, 0xffffffff, 0x3ff,
 };
-constexpr AsicUtils::FieldRow rows[] = {
-   { 0, 12 }, { 12, 15 }, { 27, 15 }, { 42, 15 }, { 57, 13 }, { 70, 14 }, { 84, 11 }, { 95, 11 },
+constexpr AsicUtils::TableLayout layouts[] = {
+   { { 0, 64u }, 4, 16, 2, 0, 0, 7991, 2, { { 10, 2 }, { 24, 9 } }, 0xf0000, 64 },
+   { { 0, 64u }, 4, 16, 2, 0, 0, 7991, 1, { { 10, 10 } }, 0xf0000, 64 },
+   { { 0, 64u }, 4, 16, 2, 0, 0, 7991, 2, { { 6, 14 }, { 6, 26 } }, 0xf0000, 64 },
+   { { 0, 64u }, 4, 16, 2, 0, 0, 7991, 1, { { 6, 14 } }, 0xf0000, 64 },
+   { { 0, 64u }, 4, 16, 2, 0, 0, 7991, 1, { { 0, 17 } }, 0xf0000, 64 },
+};
+constexpr AsicUtils::PairRow pairs[] = {
+   { &layouts[0], &rows[0], &masks[0] }, { &layouts[1], &rows[0], &masks[0] }, { &layouts[2], &rows[0], &masks[0] }, {}, { &layouts[3], &rows[0], &masks[0] }, { &layouts[4], &rows[0], &masks[0] }, { &layouts[4], &rows[0], &masks[0] },
 };
 } // namespace FlpRpfFormatConfigurationData
 
 constinit AsicUtils::MetaInfo const FlpRpfFormatConfiguration::metaInfo{
-   Impl::unit, __LINE__, "FlpRpfFormatConfiguration", 28, true, 1, AsicUtils::ValueType::Raw128,
-   FlpRpfFormatConfigurationData::fields, FlpRpfFormatConfigurationData::pairs, FlpRpfFormatConfigurationData::layouts, FlpRpfFormatConfigurationData::rows, FlpRpfFormatConfigurationData::masks, {}, {}
+   Impl::trace, Impl::source, __LINE__, "FlpRpfFormatConfiguration", 28, true, 1, AsicUtils::ValueType::Raw128,
+   FlpRpfFormatConfigurationData::fields, FlpRpfFormatConfigurationData::pairs, {}, {}
 };
 
 Raw128 FlpRpfFormatConfiguration::allFieldsMask() const {
@@ -1402,19 +1402,6 @@ constexpr AsicUtils::FieldInfo fields[] = {
    { "reserved", 631, AsicUtils::ValueType::U16, false },
    { "ethernetSaEqualZeroTrapEnable", 281, AsicUtils::ValueType::U8, false },
 };
-constexpr AsicUtils::TableLayout layouts[] = {
-   { { 0, 64u }, 3, 1, 0, 0, 1, 7906, 2, { { 10, 2 }, { 24, 9 } }, 0x1630000, 0 },
-   { { 0, 64u }, 2, 1, 0, 0, 1, 7906, 1, { { 10, 10 } }, 0x1630000, 0 },
-   { { 0, 64u }, 2, 1, 0, 0, 1, 7906, 2, { { 6, 14 }, { 6, 26 } }, 0x1630000, 0 },
-   { { 0, 64u }, 2, 1, 0, 0, 1, 7906, 1, { { 6, 14 } }, 0x1630000, 0 },
-   { { 0, 64u }, 2, 1, 0, 0, 1, 7906, 1, { { 0, 17 } }, 0x1630000, 0 },
-};
-constexpr AsicUtils::PairRow pairs[] = {
-   { 0, 0 }, { 1, 1 }, { 2, 1 }, { 255, 0 }, { 3, 1 }, { 4, 1 }, { 4, 1 },
-};
-constexpr U32 masks[] = {
-   0xffffffff, 0x7fffffff, 0x0, 0x0, 0xffffffff, 0x3ffff, 0x0, 0x0,
-};
 constexpr AsicUtils::FieldRow rows[] = {
    { 0, 1 }, { 1, 1 }, { 2, 1 }, { 3, 1 }, { 4, 1 }, { 5, 1 }, { 6, 1 }, { 7, 1 },
    { 8, 1 }, { 9, 1 }, { 10, 1 }, { 11, 1 }, { 12, 1 }, { 13, 1 }, { 14, 1 }, { 15, 1 },
@@ -1429,11 +1416,24 @@ constexpr AsicUtils::FieldRow rows[] = {
    { 34, 1 }, { 35, 1 }, { 36, 1 }, { 37, 1 }, { 38, 1 }, { 39, 1 }, { 40, 1 }, { 41, 1 },
    { 42, 6 }, { 48, 1 }, {}, { 49, 1 },
 };
+constexpr U32 masks[] = {
+   0xffffffff, 0x7fffffff, 0x0, 0x0, 0xffffffff, 0x3ffff, 0x0, 0x0,
+};
+constexpr AsicUtils::TableLayout layouts[] = {
+   { { 0, 64u }, 3, 12, 1, 0, 0, 7906, 2, { { 10, 2 }, { 24, 9 } }, 0x1630000, 0 },
+   { { 0, 64u }, 2, 8, 1, 0, 0, 7906, 1, { { 10, 10 } }, 0x1630000, 0 },
+   { { 0, 64u }, 2, 8, 1, 0, 0, 7906, 2, { { 6, 14 }, { 6, 26 } }, 0x1630000, 0 },
+   { { 0, 64u }, 2, 8, 1, 0, 0, 7906, 1, { { 6, 14 } }, 0x1630000, 0 },
+   { { 0, 64u }, 2, 8, 1, 0, 0, 7906, 1, { { 0, 17 } }, 0x1630000, 0 },
+};
+constexpr AsicUtils::PairRow pairs[] = {
+   { &layouts[0], &rows[0], &masks[0] }, { &layouts[1], &rows[46], &masks[4] }, { &layouts[2], &rows[46], &masks[4] }, {}, { &layouts[3], &rows[46], &masks[4] }, { &layouts[4], &rows[46], &masks[4] }, { &layouts[4], &rows[46], &masks[4] },
+};
 } // namespace FlpaInitContextEnablersData
 
 constinit AsicUtils::MetaInfo const FlpaInitContextEnablers::metaInfo{
-   Impl::unit, __LINE__, "FlpaInitContextEnablers", 29, true, 1, AsicUtils::ValueType::Raw128,
-   FlpaInitContextEnablersData::fields, FlpaInitContextEnablersData::pairs, FlpaInitContextEnablersData::layouts, FlpaInitContextEnablersData::rows, FlpaInitContextEnablersData::masks, {}, {}
+   Impl::trace, Impl::source, __LINE__, "FlpaInitContextEnablers", 29, true, 1, AsicUtils::ValueType::Raw128,
+   FlpaInitContextEnablersData::fields, FlpaInitContextEnablersData::pairs, {}, {}
 };
 
 Raw128 FlpaInitContextEnablers::allFieldsMask() const {
@@ -1473,19 +1473,6 @@ constexpr AsicUtils::FieldInfo fields[] = {
    { "faiCompatibleMcEnable", 297, AsicUtils::ValueType::U8, false },
    { "faiCompatibleMcOffset", 298, AsicUtils::ValueType::U8, false },
 };
-constexpr AsicUtils::TableLayout layouts[] = {
-   { { 0, 64u }, 2, 1, 0, 0, 1, 7915, 2, { { 10, 2 }, { 24, 9 } }, 0x1690000, 0 },
-   { { 0, 64u }, 2, 1, 0, 0, 1, 7915, 1, { { 10, 10 } }, 0x1690000, 0 },
-   { { 0, 64u }, 2, 1, 0, 0, 1, 7915, 2, { { 6, 14 }, { 6, 26 } }, 0x1690000, 0 },
-   { { 0, 64u }, 2, 1, 0, 0, 1, 7915, 1, { { 6, 14 } }, 0x1690000, 0 },
-   { { 0, 64u }, 2, 1, 0, 0, 1, 7915, 1, { { 0, 17 } }, 0x1690000, 0 },
-};
-constexpr AsicUtils::PairRow pairs[] = {
-   { 0, 0 }, { 1, 1 }, { 2, 2 }, { 255, 0 }, { 3, 2 }, { 4, 1 }, { 4, 1 },
-};
-constexpr U32 masks[] = {
-   0xffffffff, 0x7f, 0xffffffff, 0x1, 0xffffffff, 0xf,
-};
 constexpr AsicUtils::FieldRow rows[] = {
    { 0, 1 }, { 1, 1 }, { 2, 1 }, { 3, 1 }, { 4, 1 }, { 5, 1 }, { 6, 3 }, { 9, 4 },
    { 13, 1 }, { 14, 4 }, { 18, 1 }, { 19, 1 }, { 20, 1 }, { 21, 1 }, { 22, 1 }, { 23, 1 },
@@ -1499,11 +1486,24 @@ constexpr AsicUtils::FieldRow rows[] = {
    { 26, 1 }, { 27, 1 }, { 28, 1 }, { 29, 1 }, {}, { 30, 1 }, { 31, 2 }, { 33, 1 },
    { 34, 2 },
 };
+constexpr U32 masks[] = {
+   0xffffffff, 0x7f, 0xffffffff, 0x1, 0xffffffff, 0xf,
+};
+constexpr AsicUtils::TableLayout layouts[] = {
+   { { 0, 64u }, 2, 8, 1, 0, 0, 7915, 2, { { 10, 2 }, { 24, 9 } }, 0x1690000, 0 },
+   { { 0, 64u }, 2, 8, 1, 0, 0, 7915, 1, { { 10, 10 } }, 0x1690000, 0 },
+   { { 0, 64u }, 2, 8, 1, 0, 0, 7915, 2, { { 6, 14 }, { 6, 26 } }, 0x1690000, 0 },
+   { { 0, 64u }, 2, 8, 1, 0, 0, 7915, 1, { { 6, 14 } }, 0x1690000, 0 },
+   { { 0, 64u }, 2, 8, 1, 0, 0, 7915, 1, { { 0, 17 } }, 0x1690000, 0 },
+};
+constexpr AsicUtils::PairRow pairs[] = {
+   { &layouts[0], &rows[0], &masks[0] }, { &layouts[1], &rows[27], &masks[2] }, { &layouts[2], &rows[54], &masks[4] }, {}, { &layouts[3], &rows[54], &masks[4] }, { &layouts[4], &rows[27], &masks[2] }, { &layouts[4], &rows[27], &masks[2] },
+};
 } // namespace FlpaResContextEnablersData
 
 constinit AsicUtils::MetaInfo const FlpaResContextEnablers::metaInfo{
-   Impl::unit, __LINE__, "FlpaResContextEnablers", 30, true, 1, AsicUtils::ValueType::U64,
-   FlpaResContextEnablersData::fields, FlpaResContextEnablersData::pairs, FlpaResContextEnablersData::layouts, FlpaResContextEnablersData::rows, FlpaResContextEnablersData::masks, {}, {}
+   Impl::trace, Impl::source, __LINE__, "FlpaResContextEnablers", 30, true, 1, AsicUtils::ValueType::U64,
+   FlpaResContextEnablersData::fields, FlpaResContextEnablersData::pairs, {}, {}
 };
 
 U64 FlpaResContextEnablers::allFieldsMask() const {
@@ -1526,51 +1526,6 @@ constexpr AsicUtils::FieldInfo fields[] = {
    { "nofFfcInstructionInGroup3Quad", 524, AsicUtils::ValueType::U8, false },
    { "nofFfcInstructionInGroup4Quad", 525, AsicUtils::ValueType::U8, false },
 };
-constexpr AsicUtils::TableLayout layouts[] = {
-   { { 0, 64u }, 3, 1, 0, 0, 1, 7939, 2, { { 10, 2 }, { 24, 9 } }, 0x2510000, 0 },
-   { { 0, 64u }, 3, 1, 0, 0, 1, 7939, 1, { { 10, 10 } }, 0x2510000, 0 },
-   { { 0, 64u }, 3, 1, 0, 0, 1, 7939, 2, { { 6, 14 }, { 6, 26 } }, 0x2510000, 0 },
-   { { 0, 64u }, 3, 1, 0, 0, 1, 7939, 1, { { 6, 14 } }, 0x2510000, 0 },
-   { { 0, 64u }, 3, 1, 0, 0, 1, 7939, 1, { { 0, 17 } }, 0x2510000, 0 },
-   { { 0, 64u }, 4, 1, 0, 0, 1, 7941, 2, { { 10, 2 }, { 24, 9 } }, 0x2530000, 0 },
-   { { 0, 64u }, 4, 1, 0, 0, 1, 7941, 1, { { 10, 10 } }, 0x2530000, 0 },
-   { { 0, 64u }, 4, 1, 0, 0, 1, 7941, 2, { { 6, 14 }, { 6, 26 } }, 0x2530000, 0 },
-   { { 0, 64u }, 4, 1, 0, 0, 1, 7941, 1, { { 6, 14 } }, 0x2530000, 0 },
-   { { 0, 64u }, 4, 1, 0, 0, 1, 7941, 1, { { 0, 17 } }, 0x2530000, 0 },
-   { { 0, 64u }, 4, 2, 0, 0, 2, 7943, 2, { { 10, 2 }, { 24, 9 } }, 0x2550000, 64 },
-   { { 0, 64u }, 4, 2, 0, 0, 2, 7943, 1, { { 10, 10 } }, 0x2550000, 64 },
-   { { 0, 64u }, 4, 2, 0, 0, 2, 7943, 2, { { 6, 14 }, { 6, 26 } }, 0x2550000, 64 },
-   { { 0, 64u }, 4, 2, 0, 0, 2, 7943, 1, { { 6, 14 } }, 0x2550000, 64 },
-   { { 0, 64u }, 4, 2, 0, 0, 2, 7943, 1, { { 0, 17 } }, 0x2550000, 64 },
-   { { 0, 64u }, 4, 4, 0, 0, 4, 7945, 2, { { 10, 2 }, { 24, 9 } }, 0x2580000, 64 },
-   { { 0, 64u }, 4, 4, 0, 0, 4, 7945, 1, { { 10, 10 } }, 0x2580000, 64 },
-   { { 0, 64u }, 4, 4, 0, 0, 4, 7945, 2, { { 6, 14 }, { 6, 26 } }, 0x2580000, 64 },
-   { { 0, 64u }, 4, 4, 0, 0, 4, 7945, 1, { { 6, 14 } }, 0x2580000, 64 },
-   { { 0, 64u }, 4, 4, 0, 0, 4, 7945, 1, { { 0, 17 } }, 0x2580000, 64 },
-   { { 0, 64u }, 4, 2, 0, 0, 2, 7947, 2, { { 10, 2 }, { 24, 9 } }, 0x25d0000, 64 },
-   { { 0, 64u }, 4, 2, 0, 0, 2, 7947, 1, { { 10, 10 } }, 0x25d0000, 64 },
-   { { 0, 64u }, 4, 2, 0, 0, 2, 7947, 2, { { 6, 14 }, { 6, 26 } }, 0x25d0000, 64 },
-   { { 0, 64u }, 4, 2, 0, 0, 2, 7947, 1, { { 6, 14 } }, 0x25d0000, 64 },
-   { { 0, 64u }, 4, 2, 0, 0, 2, 7947, 1, { { 0, 17 } }, 0x25d0000, 64 },
-};
-constexpr AsicUtils::PairRow pairs[] = {
-   { 0, 0 }, { 1, 0 }, { 2, 0 }, { 255, 0 }, { 3, 0 }, { 4, 0 }, { 4, 0 },
-   { 5, 1 }, { 6, 1 }, { 7, 1 }, { 255, 0 }, { 8, 1 }, { 9, 1 }, { 9, 1 },
-   { 10, 2 }, { 11, 2 }, { 12, 2 }, { 255, 0 }, { 13, 2 }, { 14, 2 }, { 14, 2 },
-   { 15, 3 }, { 16, 3 }, { 17, 3 }, { 255, 0 }, { 18, 3 }, { 19, 3 }, { 19, 3 },
-   { 20, 4 }, { 21, 4 }, { 22, 4 }, { 255, 0 }, { 23, 4 }, { 24, 4 }, { 24, 4 },
-};
-constexpr U32 masks[] = {
-   0xffffffff, 0x3ffffff, 0x0, 0x0, 0xffffffff, 0xffffffff, 0xffffffff, 0xfffff,
-   0xffffffff, 0xffffffff, 0xffffffff, 0xfffff, 0xffffffff, 0xffffffff, 0xffffffff, 0xfffff,
-   0xffffffff, 0xffffffff, 0xffffffff, 0xfffff,
-};
-constexpr U16 ffcInstructionRun[] = {
-   0, 3, 5, 6,
-};
-constexpr AsicUtils::FieldRun runs[] = {
-   { "ffcInstruction", ffcInstructionRun },
-};
 constexpr AsicUtils::FieldRow rows[] = {
    { 0, 29 }, { 0, 58 }, { 2, 1 }, { 29, 29 }, {}, {}, {}, {},
    {}, {}, { 0, 29 }, { 0, 116 }, {}, { 29, 29 }, { 4, 1 }, { 58, 29 },
@@ -1580,11 +1535,56 @@ constexpr AsicUtils::FieldRow rows[] = {
    { 0, 29 }, { 0, 116 }, {}, { 29, 29 }, {}, { 58, 29 }, { 87, 29 }, {},
    {}, { 8, 1 },
 };
+constexpr U32 masks[] = {
+   0xffffffff, 0x3ffffff, 0x0, 0x0, 0xffffffff, 0xffffffff, 0xffffffff, 0xfffff,
+   0xffffffff, 0xffffffff, 0xffffffff, 0xfffff, 0xffffffff, 0xffffffff, 0xffffffff, 0xfffff,
+   0xffffffff, 0xffffffff, 0xffffffff, 0xfffff,
+};
+constexpr AsicUtils::TableLayout layouts[] = {
+   { { 0, 64u }, 3, 12, 1, 0, 0, 7939, 2, { { 10, 2 }, { 24, 9 } }, 0x2510000, 0 },
+   { { 0, 64u }, 3, 12, 1, 0, 0, 7939, 1, { { 10, 10 } }, 0x2510000, 0 },
+   { { 0, 64u }, 3, 12, 1, 0, 0, 7939, 2, { { 6, 14 }, { 6, 26 } }, 0x2510000, 0 },
+   { { 0, 64u }, 3, 12, 1, 0, 0, 7939, 1, { { 6, 14 } }, 0x2510000, 0 },
+   { { 0, 64u }, 3, 12, 1, 0, 0, 7939, 1, { { 0, 17 } }, 0x2510000, 0 },
+   { { 0, 64u }, 4, 16, 1, 0, 0, 7941, 2, { { 10, 2 }, { 24, 9 } }, 0x2530000, 0 },
+   { { 0, 64u }, 4, 16, 1, 0, 0, 7941, 1, { { 10, 10 } }, 0x2530000, 0 },
+   { { 0, 64u }, 4, 16, 1, 0, 0, 7941, 2, { { 6, 14 }, { 6, 26 } }, 0x2530000, 0 },
+   { { 0, 64u }, 4, 16, 1, 0, 0, 7941, 1, { { 6, 14 } }, 0x2530000, 0 },
+   { { 0, 64u }, 4, 16, 1, 0, 0, 7941, 1, { { 0, 17 } }, 0x2530000, 0 },
+   { { 0, 64u }, 4, 16, 2, 0, 0, 7943, 2, { { 10, 2 }, { 24, 9 } }, 0x2550000, 64 },
+   { { 0, 64u }, 4, 16, 2, 0, 0, 7943, 1, { { 10, 10 } }, 0x2550000, 64 },
+   { { 0, 64u }, 4, 16, 2, 0, 0, 7943, 2, { { 6, 14 }, { 6, 26 } }, 0x2550000, 64 },
+   { { 0, 64u }, 4, 16, 2, 0, 0, 7943, 1, { { 6, 14 } }, 0x2550000, 64 },
+   { { 0, 64u }, 4, 16, 2, 0, 0, 7943, 1, { { 0, 17 } }, 0x2550000, 64 },
+   { { 0, 64u }, 4, 16, 4, 0, 0, 7945, 2, { { 10, 2 }, { 24, 9 } }, 0x2580000, 64 },
+   { { 0, 64u }, 4, 16, 4, 0, 0, 7945, 1, { { 10, 10 } }, 0x2580000, 64 },
+   { { 0, 64u }, 4, 16, 4, 0, 0, 7945, 2, { { 6, 14 }, { 6, 26 } }, 0x2580000, 64 },
+   { { 0, 64u }, 4, 16, 4, 0, 0, 7945, 1, { { 6, 14 } }, 0x2580000, 64 },
+   { { 0, 64u }, 4, 16, 4, 0, 0, 7945, 1, { { 0, 17 } }, 0x2580000, 64 },
+   { { 0, 64u }, 4, 16, 2, 0, 0, 7947, 2, { { 10, 2 }, { 24, 9 } }, 0x25d0000, 64 },
+   { { 0, 64u }, 4, 16, 2, 0, 0, 7947, 1, { { 10, 10 } }, 0x25d0000, 64 },
+   { { 0, 64u }, 4, 16, 2, 0, 0, 7947, 2, { { 6, 14 }, { 6, 26 } }, 0x25d0000, 64 },
+   { { 0, 64u }, 4, 16, 2, 0, 0, 7947, 1, { { 6, 14 } }, 0x25d0000, 64 },
+   { { 0, 64u }, 4, 16, 2, 0, 0, 7947, 1, { { 0, 17 } }, 0x25d0000, 64 },
+};
+constexpr AsicUtils::PairRow pairs[] = {
+   { &layouts[0], &rows[0], &masks[0] }, { &layouts[1], &rows[0], &masks[0] }, { &layouts[2], &rows[0], &masks[0] }, {}, { &layouts[3], &rows[0], &masks[0] }, { &layouts[4], &rows[0], &masks[0] }, { &layouts[4], &rows[0], &masks[0] },
+   { &layouts[5], &rows[10], &masks[4] }, { &layouts[6], &rows[10], &masks[4] }, { &layouts[7], &rows[10], &masks[4] }, {}, { &layouts[8], &rows[10], &masks[4] }, { &layouts[9], &rows[10], &masks[4] }, { &layouts[9], &rows[10], &masks[4] },
+   { &layouts[10], &rows[20], &masks[8] }, { &layouts[11], &rows[20], &masks[8] }, { &layouts[12], &rows[20], &masks[8] }, {}, { &layouts[13], &rows[20], &masks[8] }, { &layouts[14], &rows[20], &masks[8] }, { &layouts[14], &rows[20], &masks[8] },
+   { &layouts[15], &rows[30], &masks[12] }, { &layouts[16], &rows[30], &masks[12] }, { &layouts[17], &rows[30], &masks[12] }, {}, { &layouts[18], &rows[30], &masks[12] }, { &layouts[19], &rows[30], &masks[12] }, { &layouts[19], &rows[30], &masks[12] },
+   { &layouts[20], &rows[40], &masks[16] }, { &layouts[21], &rows[40], &masks[16] }, { &layouts[22], &rows[40], &masks[16] }, {}, { &layouts[23], &rows[40], &masks[16] }, { &layouts[24], &rows[40], &masks[16] }, { &layouts[24], &rows[40], &masks[16] },
+};
+constexpr U16 ffcInstructionRun[] = {
+   0, 3, 5, 6,
+};
+constexpr AsicUtils::FieldRun runs[] = {
+   { "ffcInstruction", ffcInstructionRun },
+};
 } // namespace FwdFfcTableData
 
 constinit AsicUtils::MetaInfo const FwdFfcTable::metaInfo{
-   Impl::unit, __LINE__, "FwdFfcTable", 31, true, 5, AsicUtils::ValueType::Raw128,
-   FwdFfcTableData::fields, FwdFfcTableData::pairs, FwdFfcTableData::layouts, FwdFfcTableData::rows, FwdFfcTableData::masks, {}, FwdFfcTableData::runs
+   Impl::trace, Impl::source, __LINE__, "FwdFfcTable", 31, true, 5, AsicUtils::ValueType::Raw128,
+   FwdFfcTableData::fields, FwdFfcTableData::pairs, {}, FwdFfcTableData::runs
 };
 
 Raw128 FwdFfcTable::allFieldsMask() const {
@@ -1599,27 +1599,27 @@ constexpr AsicUtils::FieldInfo fields[] = {
    { "kbr", 496, AsicUtils::ValueType::U64, false },
    { "appDb", 57, AsicUtils::ValueType::U8, false },
 };
-constexpr AsicUtils::TableLayout layouts[] = {
-   { { 0, 64u }, 2, 18, 0, 0, 18, 7949, 2, { { 10, 2 }, { 24, 9 } }, 0x2600000, 64 },
-   { { 0, 64u }, 2, 18, 0, 0, 18, 7949, 1, { { 10, 10 } }, 0x2600000, 64 },
-   { { 0, 64u }, 2, 18, 0, 0, 18, 7949, 2, { { 6, 14 }, { 6, 26 } }, 0x2600000, 64 },
-   { { 0, 64u }, 2, 18, 0, 0, 18, 7949, 1, { { 6, 14 } }, 0x2600000, 64 },
-   { { 0, 64u }, 2, 18, 0, 0, 18, 7949, 1, { { 0, 17 } }, 0x2600000, 64 },
-};
-constexpr AsicUtils::PairRow pairs[] = {
-   { 0, 0 }, { 1, 0 }, { 2, 0 }, { 255, 0 }, { 3, 0 }, { 4, 0 }, { 4, 0 },
+constexpr AsicUtils::FieldRow rows[] = {
+   { 0, 38 }, { 38, 6 },
 };
 constexpr U32 masks[] = {
    0xffffffff, 0xfff,
 };
-constexpr AsicUtils::FieldRow rows[] = {
-   { 0, 38 }, { 38, 6 },
+constexpr AsicUtils::TableLayout layouts[] = {
+   { { 0, 64u }, 2, 8, 18, 0, 0, 7949, 2, { { 10, 2 }, { 24, 9 } }, 0x2600000, 64 },
+   { { 0, 64u }, 2, 8, 18, 0, 0, 7949, 1, { { 10, 10 } }, 0x2600000, 64 },
+   { { 0, 64u }, 2, 8, 18, 0, 0, 7949, 2, { { 6, 14 }, { 6, 26 } }, 0x2600000, 64 },
+   { { 0, 64u }, 2, 8, 18, 0, 0, 7949, 1, { { 6, 14 } }, 0x2600000, 64 },
+   { { 0, 64u }, 2, 8, 18, 0, 0, 7949, 1, { { 0, 17 } }, 0x2600000, 64 },
+};
+constexpr AsicUtils::PairRow pairs[] = {
+   { &layouts[0], &rows[0], &masks[0] }, { &layouts[1], &rows[0], &masks[0] }, { &layouts[2], &rows[0], &masks[0] }, {}, { &layouts[3], &rows[0], &masks[0] }, { &layouts[4], &rows[0], &masks[0] }, { &layouts[4], &rows[0], &masks[0] },
 };
 } // namespace FwdKbrTableData
 
 constinit AsicUtils::MetaInfo const FwdKbrTable::metaInfo{
-   Impl::unit, __LINE__, "FwdKbrTable", 32, true, 1, AsicUtils::ValueType::U64,
-   FwdKbrTableData::fields, FwdKbrTableData::pairs, FwdKbrTableData::layouts, FwdKbrTableData::rows, FwdKbrTableData::masks, {}, {}
+   Impl::trace, Impl::source, __LINE__, "FwdKbrTable", 32, true, 1, AsicUtils::ValueType::U64,
+   FwdKbrTableData::fields, FwdKbrTableData::pairs, {}, {}
 };
 
 U64 FwdKbrTable::allFieldsMask() const {
@@ -1762,39 +1762,6 @@ constexpr AsicUtils::FieldInfo fields[] = {
    { "csProfile126", 122, AsicUtils::ValueType::U8, false },
    { "csProfile127", 123, AsicUtils::ValueType::U8, false },
 };
-constexpr AsicUtils::TableLayout layouts[] = {
-   { { 0, 1u }, 16, 3, 0, 0, 3, 54769, 2, { { 18, 2 }, { 0, 10 } }, 0x1d2, 1 },
-   { { 0, 1u }, 16, 3, 0, 0, 3, 54769, 1, { { 6, 10 } }, 0x20c, 1 },
-   { { 0, 1u }, 16, 3, 0, 0, 3, 54769, 2, { { 2, 14 }, { 2, 26 } }, 0x1f4, 1 },
-   { { 0, 1u }, 16, 3, 0, 0, 3, 54769, 1, { { 2, 14 } }, 0x1f4, 1 },
-   { { 0, 1u }, 16, 3, 0, 0, 3, 54769, 1, { { 24, 12 } }, 0x20c, 1 },
-   { { 0, 1u }, 16, 1, 0, 0, 1, 54008, 2, { { 8, 2 }, { 22, 9 } }, 0x1c8, 0 },
-   { { 0, 1u }, 16, 1, 0, 0, 1, 54008, 1, { { 8, 10 } }, 0x1cb, 0 },
-   { { 0, 1u }, 16, 2, 0, 3, 5, 54008, 2, { { 4, 14 }, { 4, 26 } }, 0x1ca, 1 },
-   { { 0, 1u }, 16, 2, 0, 3, 5, 54008, 1, { { 4, 14 } }, 0x1ca, 1 },
-   { { 0, 1u }, 16, 1, 0, 0, 1, 54008, 1, { { 8, 17 } }, 0x1cb, 0 },
-};
-constexpr AsicUtils::PairRow pairs[] = {
-   { 0, 0 }, { 1, 0 }, { 2, 0 }, { 255, 0 }, { 3, 0 }, { 4, 0 }, { 4, 0 },
-   { 5, 0 }, { 6, 0 }, { 7, 0 }, { 255, 0 }, { 8, 0 }, { 9, 0 }, { 9, 0 },
-};
-constexpr U32 masks[] = {
-   0xffffffff, 0xffffffff, 0xffffffff, 0xffffffff, 0xffffffff, 0xffffffff, 0xffffffff, 0xffffffff,
-   0xffffffff, 0xffffffff, 0xffffffff, 0xffffffff, 0xffffffff, 0xffffffff, 0xffffffff, 0xffffffff,
-};
-constexpr U16 csProfileRun[] = {
-   1, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12, 13, 14, 15, 16, 17,
-   18, 19, 20, 21, 22, 23, 24, 25, 26, 27, 28, 29, 30, 31, 32, 33,
-   34, 35, 36, 37, 38, 39, 40, 41, 42, 43, 44, 45, 46, 47, 48, 49,
-   50, 51, 52, 53, 54, 55, 56, 57, 58, 59, 60, 61, 62, 63, 64, 65,
-   66, 67, 68, 69, 70, 71, 72, 73, 74, 75, 76, 77, 78, 79, 80, 81,
-   82, 83, 84, 85, 86, 87, 88, 89, 90, 91, 92, 93, 94, 95, 96, 97,
-   98, 99, 100, 101, 102, 103, 104, 105, 106, 107, 108, 109, 110, 111, 112, 113,
-   114, 115, 116, 117, 118, 119, 120, 121, 122, 123, 124, 125, 126, 127, 128, 129,
-};
-constexpr AsicUtils::FieldRun runs[] = {
-   { "csProfile", csProfileRun },
-};
 constexpr AsicUtils::FieldRow rows[] = {
    { 0, 4 }, { 0, 4 }, { 0, 512 }, { 4, 4 }, { 8, 4 }, { 12, 4 }, { 16, 4 }, { 20, 4 },
    { 24, 4 }, { 28, 4 }, { 32, 4 }, { 36, 4 }, { 40, 4 }, { 44, 4 }, { 48, 4 }, { 52, 4 },
@@ -1814,11 +1781,44 @@ constexpr AsicUtils::FieldRow rows[] = {
    { 472, 4 }, { 476, 4 }, { 480, 4 }, { 484, 4 }, { 488, 4 }, { 492, 4 }, { 496, 4 }, { 500, 4 },
    { 504, 4 }, { 508, 4 },
 };
+constexpr U32 masks[] = {
+   0xffffffff, 0xffffffff, 0xffffffff, 0xffffffff, 0xffffffff, 0xffffffff, 0xffffffff, 0xffffffff,
+   0xffffffff, 0xffffffff, 0xffffffff, 0xffffffff, 0xffffffff, 0xffffffff, 0xffffffff, 0xffffffff,
+};
+constexpr AsicUtils::TableLayout layouts[] = {
+   { { 0, 1u }, 16, 64, 3, 0, 0, 54769, 2, { { 18, 2 }, { 0, 10 } }, 0x1d2, 1 },
+   { { 0, 1u }, 16, 64, 3, 0, 0, 54769, 1, { { 6, 10 } }, 0x20c, 1 },
+   { { 0, 1u }, 16, 64, 3, 0, 0, 54769, 2, { { 2, 14 }, { 2, 26 } }, 0x1f4, 1 },
+   { { 0, 1u }, 16, 64, 3, 0, 0, 54769, 1, { { 2, 14 } }, 0x1f4, 1 },
+   { { 0, 1u }, 16, 64, 3, 0, 0, 54769, 1, { { 24, 12 } }, 0x20c, 1 },
+   { { 0, 1u }, 16, 64, 1, 0, 0, 54008, 2, { { 8, 2 }, { 22, 9 } }, 0x1c8, 0 },
+   { { 0, 1u }, 16, 64, 1, 0, 0, 54008, 1, { { 8, 10 } }, 0x1cb, 0 },
+   { { 0, 1u }, 16, 64, 2, 0, 3, 54008, 2, { { 4, 14 }, { 4, 26 } }, 0x1ca, 1 },
+   { { 0, 1u }, 16, 64, 2, 0, 3, 54008, 1, { { 4, 14 } }, 0x1ca, 1 },
+   { { 0, 1u }, 16, 64, 1, 0, 0, 54008, 1, { { 8, 17 } }, 0x1cb, 0 },
+};
+constexpr AsicUtils::PairRow pairs[] = {
+   { &layouts[0], &rows[0], &masks[0] }, { &layouts[1], &rows[0], &masks[0] }, { &layouts[2], &rows[0], &masks[0] }, {}, { &layouts[3], &rows[0], &masks[0] }, { &layouts[4], &rows[0], &masks[0] }, { &layouts[4], &rows[0], &masks[0] },
+   { &layouts[5], &rows[0], &masks[0] }, { &layouts[6], &rows[0], &masks[0] }, { &layouts[7], &rows[0], &masks[0] }, {}, { &layouts[8], &rows[0], &masks[0] }, { &layouts[9], &rows[0], &masks[0] }, { &layouts[9], &rows[0], &masks[0] },
+};
+constexpr U16 csProfileRun[] = {
+   1, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12, 13, 14, 15, 16, 17,
+   18, 19, 20, 21, 22, 23, 24, 25, 26, 27, 28, 29, 30, 31, 32, 33,
+   34, 35, 36, 37, 38, 39, 40, 41, 42, 43, 44, 45, 46, 47, 48, 49,
+   50, 51, 52, 53, 54, 55, 56, 57, 58, 59, 60, 61, 62, 63, 64, 65,
+   66, 67, 68, 69, 70, 71, 72, 73, 74, 75, 76, 77, 78, 79, 80, 81,
+   82, 83, 84, 85, 86, 87, 88, 89, 90, 91, 92, 93, 94, 95, 96, 97,
+   98, 99, 100, 101, 102, 103, 104, 105, 106, 107, 108, 109, 110, 111, 112, 113,
+   114, 115, 116, 117, 118, 119, 120, 121, 122, 123, 124, 125, 126, 127, 128, 129,
+};
+constexpr AsicUtils::FieldRun runs[] = {
+   { "csProfile", csProfileRun },
+};
 } // namespace InLifProfileCsFlagsLsbData
 
 constinit AsicUtils::MetaInfo const InLifProfileCsFlagsLsb::metaInfo{
-   Impl::unit, __LINE__, "InLifProfileCsFlagsLsb", 33, false, 2, AsicUtils::ValueType::Raw512,
-   InLifProfileCsFlagsLsbData::fields, InLifProfileCsFlagsLsbData::pairs, InLifProfileCsFlagsLsbData::layouts, InLifProfileCsFlagsLsbData::rows, InLifProfileCsFlagsLsbData::masks, {}, InLifProfileCsFlagsLsbData::runs
+   Impl::trace, Impl::source, __LINE__, "InLifProfileCsFlagsLsb", 33, false, 2, AsicUtils::ValueType::Raw512,
+   InLifProfileCsFlagsLsbData::fields, InLifProfileCsFlagsLsbData::pairs, {}, InLifProfileCsFlagsLsbData::runs
 };
 
 Raw512 InLifProfileCsFlagsLsb::allFieldsMask() const {
@@ -1960,39 +1960,6 @@ constexpr AsicUtils::FieldInfo fields[] = {
    { "csProfile126", 122, AsicUtils::ValueType::U8, false },
    { "csProfile127", 123, AsicUtils::ValueType::U8, false },
 };
-constexpr AsicUtils::TableLayout layouts[] = {
-   { { 0, 1u }, 16, 3, 0, 0, 3, 54770, 2, { { 18, 2 }, { 0, 10 } }, 0x1e2, 1 },
-   { { 0, 1u }, 16, 3, 0, 0, 3, 54770, 1, { { 6, 10 } }, 0x21c, 1 },
-   { { 0, 1u }, 16, 3, 0, 0, 3, 54770, 2, { { 2, 14 }, { 2, 26 } }, 0x204, 1 },
-   { { 0, 1u }, 16, 3, 0, 0, 3, 54770, 1, { { 2, 14 } }, 0x204, 1 },
-   { { 0, 1u }, 16, 3, 0, 0, 3, 54770, 1, { { 24, 12 } }, 0x21c, 1 },
-   { { 0, 1u }, 16, 1, 0, 0, 1, 54009, 2, { { 8, 2 }, { 22, 9 } }, 0x1d8, 0 },
-   { { 0, 1u }, 16, 1, 0, 0, 1, 54009, 1, { { 8, 10 } }, 0x1db, 0 },
-   { { 0, 1u }, 16, 2, 0, 3, 5, 54009, 2, { { 4, 14 }, { 4, 26 } }, 0x1da, 1 },
-   { { 0, 1u }, 16, 2, 0, 3, 5, 54009, 1, { { 4, 14 } }, 0x1da, 1 },
-   { { 0, 1u }, 16, 1, 0, 0, 1, 54009, 1, { { 8, 17 } }, 0x1db, 0 },
-};
-constexpr AsicUtils::PairRow pairs[] = {
-   { 0, 0 }, { 1, 0 }, { 2, 0 }, { 255, 0 }, { 3, 0 }, { 4, 0 }, { 4, 0 },
-   { 5, 0 }, { 6, 0 }, { 7, 0 }, { 255, 0 }, { 8, 0 }, { 9, 0 }, { 9, 0 },
-};
-constexpr U32 masks[] = {
-   0xffffffff, 0xffffffff, 0xffffffff, 0xffffffff, 0xffffffff, 0xffffffff, 0xffffffff, 0xffffffff,
-   0xffffffff, 0xffffffff, 0xffffffff, 0xffffffff, 0xffffffff, 0xffffffff, 0xffffffff, 0xffffffff,
-};
-constexpr U16 csProfileRun[] = {
-   0, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12, 13, 14, 15, 16,
-   17, 18, 19, 20, 21, 22, 23, 24, 25, 26, 27, 28, 29, 30, 31, 32,
-   33, 34, 35, 36, 37, 38, 39, 40, 41, 42, 43, 44, 45, 46, 47, 48,
-   49, 50, 51, 52, 53, 54, 55, 56, 57, 58, 59, 60, 61, 62, 63, 64,
-   65, 66, 67, 68, 69, 70, 71, 72, 73, 74, 75, 76, 77, 78, 79, 80,
-   81, 82, 83, 84, 85, 86, 87, 88, 89, 90, 91, 92, 93, 94, 95, 96,
-   97, 98, 99, 100, 101, 102, 103, 104, 105, 106, 107, 108, 109, 110, 111, 112,
-   113, 114, 115, 116, 117, 118, 119, 120, 121, 122, 123, 124, 125, 126, 127, 128,
-};
-constexpr AsicUtils::FieldRun runs[] = {
-   { "csProfile", csProfileRun },
-};
 constexpr AsicUtils::FieldRow rows[] = {
    { 0, 4 }, { 0, 512 }, { 4, 4 }, { 8, 4 }, { 12, 4 }, { 16, 4 }, { 20, 4 }, { 24, 4 },
    { 28, 4 }, { 32, 4 }, { 36, 4 }, { 40, 4 }, { 44, 4 }, { 48, 4 }, { 52, 4 }, { 56, 4 },
@@ -2012,11 +1979,44 @@ constexpr AsicUtils::FieldRow rows[] = {
    { 476, 4 }, { 480, 4 }, { 484, 4 }, { 488, 4 }, { 492, 4 }, { 496, 4 }, { 500, 4 }, { 504, 4 },
    { 508, 4 },
 };
+constexpr U32 masks[] = {
+   0xffffffff, 0xffffffff, 0xffffffff, 0xffffffff, 0xffffffff, 0xffffffff, 0xffffffff, 0xffffffff,
+   0xffffffff, 0xffffffff, 0xffffffff, 0xffffffff, 0xffffffff, 0xffffffff, 0xffffffff, 0xffffffff,
+};
+constexpr AsicUtils::TableLayout layouts[] = {
+   { { 0, 1u }, 16, 64, 3, 0, 0, 54770, 2, { { 18, 2 }, { 0, 10 } }, 0x1e2, 1 },
+   { { 0, 1u }, 16, 64, 3, 0, 0, 54770, 1, { { 6, 10 } }, 0x21c, 1 },
+   { { 0, 1u }, 16, 64, 3, 0, 0, 54770, 2, { { 2, 14 }, { 2, 26 } }, 0x204, 1 },
+   { { 0, 1u }, 16, 64, 3, 0, 0, 54770, 1, { { 2, 14 } }, 0x204, 1 },
+   { { 0, 1u }, 16, 64, 3, 0, 0, 54770, 1, { { 24, 12 } }, 0x21c, 1 },
+   { { 0, 1u }, 16, 64, 1, 0, 0, 54009, 2, { { 8, 2 }, { 22, 9 } }, 0x1d8, 0 },
+   { { 0, 1u }, 16, 64, 1, 0, 0, 54009, 1, { { 8, 10 } }, 0x1db, 0 },
+   { { 0, 1u }, 16, 64, 2, 0, 3, 54009, 2, { { 4, 14 }, { 4, 26 } }, 0x1da, 1 },
+   { { 0, 1u }, 16, 64, 2, 0, 3, 54009, 1, { { 4, 14 } }, 0x1da, 1 },
+   { { 0, 1u }, 16, 64, 1, 0, 0, 54009, 1, { { 8, 17 } }, 0x1db, 0 },
+};
+constexpr AsicUtils::PairRow pairs[] = {
+   { &layouts[0], &rows[0], &masks[0] }, { &layouts[1], &rows[0], &masks[0] }, { &layouts[2], &rows[0], &masks[0] }, {}, { &layouts[3], &rows[0], &masks[0] }, { &layouts[4], &rows[0], &masks[0] }, { &layouts[4], &rows[0], &masks[0] },
+   { &layouts[5], &rows[0], &masks[0] }, { &layouts[6], &rows[0], &masks[0] }, { &layouts[7], &rows[0], &masks[0] }, {}, { &layouts[8], &rows[0], &masks[0] }, { &layouts[9], &rows[0], &masks[0] }, { &layouts[9], &rows[0], &masks[0] },
+};
+constexpr U16 csProfileRun[] = {
+   0, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12, 13, 14, 15, 16,
+   17, 18, 19, 20, 21, 22, 23, 24, 25, 26, 27, 28, 29, 30, 31, 32,
+   33, 34, 35, 36, 37, 38, 39, 40, 41, 42, 43, 44, 45, 46, 47, 48,
+   49, 50, 51, 52, 53, 54, 55, 56, 57, 58, 59, 60, 61, 62, 63, 64,
+   65, 66, 67, 68, 69, 70, 71, 72, 73, 74, 75, 76, 77, 78, 79, 80,
+   81, 82, 83, 84, 85, 86, 87, 88, 89, 90, 91, 92, 93, 94, 95, 96,
+   97, 98, 99, 100, 101, 102, 103, 104, 105, 106, 107, 108, 109, 110, 111, 112,
+   113, 114, 115, 116, 117, 118, 119, 120, 121, 122, 123, 124, 125, 126, 127, 128,
+};
+constexpr AsicUtils::FieldRun runs[] = {
+   { "csProfile", csProfileRun },
+};
 } // namespace InLifProfileCsFlagsMsbData
 
 constinit AsicUtils::MetaInfo const InLifProfileCsFlagsMsb::metaInfo{
-   Impl::unit, __LINE__, "InLifProfileCsFlagsMsb", 34, false, 2, AsicUtils::ValueType::Raw512,
-   InLifProfileCsFlagsMsbData::fields, InLifProfileCsFlagsMsbData::pairs, InLifProfileCsFlagsMsbData::layouts, InLifProfileCsFlagsMsbData::rows, InLifProfileCsFlagsMsbData::masks, {}, InLifProfileCsFlagsMsbData::runs
+   Impl::trace, Impl::source, __LINE__, "InLifProfileCsFlagsMsb", 34, false, 2, AsicUtils::ValueType::Raw512,
+   InLifProfileCsFlagsMsbData::fields, InLifProfileCsFlagsMsbData::pairs, {}, InLifProfileCsFlagsMsbData::runs
 };
 
 Raw512 InLifProfileCsFlagsMsb::allFieldsMask() const {
@@ -2030,27 +2030,27 @@ namespace IppaVtecsActionData {
 constexpr AsicUtils::FieldInfo fields[] = {
    { "vtecsAction", 720, AsicUtils::ValueType::U16, false },
 };
-constexpr AsicUtils::TableLayout layouts[] = {
-   { { 0, 128u }, 1, 1, 0, 0, 1, 7818, 2, { { 8, 2 }, { 22, 9 } }, 0xb830000, 0 },
-   { { 0, 128u }, 1, 1, 0, 0, 1, 7818, 1, { { 8, 10 } }, 0xb830000, 0 },
-   { { 0, 128u }, 1, 1, 0, 0, 1, 7818, 2, { { 4, 14 }, { 4, 26 } }, 0xb830000, 0 },
-   { { 0, 128u }, 1, 1, 0, 0, 1, 7818, 1, { { 4, 14 } }, 0xb830000, 0 },
-   { { 0, 128u }, 1, 1, 0, 0, 1, 7818, 1, { { 8, 17 } }, 0xb830000, 0 },
-};
-constexpr AsicUtils::PairRow pairs[] = {
-   { 0, 0 }, { 1, 0 }, { 2, 0 }, { 255, 0 }, { 3, 0 }, { 4, 0 }, { 4, 0 },
+constexpr AsicUtils::FieldRow rows[] = {
+   { 0, 13 },
 };
 constexpr U32 masks[] = {
    0x1fff,
 };
-constexpr AsicUtils::FieldRow rows[] = {
-   { 0, 13 },
+constexpr AsicUtils::TableLayout layouts[] = {
+   { { 0, 128u }, 1, 4, 1, 0, 0, 7818, 2, { { 8, 2 }, { 22, 9 } }, 0xb830000, 0 },
+   { { 0, 128u }, 1, 4, 1, 0, 0, 7818, 1, { { 8, 10 } }, 0xb830000, 0 },
+   { { 0, 128u }, 1, 4, 1, 0, 0, 7818, 2, { { 4, 14 }, { 4, 26 } }, 0xb830000, 0 },
+   { { 0, 128u }, 1, 4, 1, 0, 0, 7818, 1, { { 4, 14 } }, 0xb830000, 0 },
+   { { 0, 128u }, 1, 4, 1, 0, 0, 7818, 1, { { 8, 17 } }, 0xb830000, 0 },
+};
+constexpr AsicUtils::PairRow pairs[] = {
+   { &layouts[0], &rows[0], &masks[0] }, { &layouts[1], &rows[0], &masks[0] }, { &layouts[2], &rows[0], &masks[0] }, {}, { &layouts[3], &rows[0], &masks[0] }, { &layouts[4], &rows[0], &masks[0] }, { &layouts[4], &rows[0], &masks[0] },
 };
 } // namespace IppaVtecsActionData
 
 constinit AsicUtils::MetaInfo const IppaVtecsAction::metaInfo{
-   Impl::unit, __LINE__, "IppaVtecsAction", 35, true, 1, AsicUtils::ValueType::U32,
-   IppaVtecsActionData::fields, IppaVtecsActionData::pairs, IppaVtecsActionData::layouts, IppaVtecsActionData::rows, IppaVtecsActionData::masks, {}, {}
+   Impl::trace, Impl::source, __LINE__, "IppaVtecsAction", 35, true, 1, AsicUtils::ValueType::U32,
+   IppaVtecsActionData::fields, IppaVtecsActionData::pairs, {}, {}
 };
 
 U32 IppaVtecsAction::allFieldsMask() const {
@@ -2069,29 +2069,29 @@ constexpr AsicUtils::FieldInfo fields[] = {
    { "orderVec", 541, AsicUtils::ValueType::Raw128, false },
    { "reserved", 631, AsicUtils::ValueType::U64, false },
 };
-constexpr AsicUtils::TableLayout layouts[] = {
-   { { 0, 64u }, 8, 1, 0, 0, 1, 7972, 2, { { 10, 2 }, { 24, 9 } }, 0x2730000, 0 },
-   { { 0, 64u }, 6, 1, 0, 0, 1, 7972, 1, { { 10, 10 } }, 0x2730000, 0 },
-   { { 0, 64u }, 6, 1, 0, 0, 1, 7972, 2, { { 6, 14 }, { 6, 26 } }, 0x2730000, 0 },
-   { { 0, 64u }, 6, 1, 0, 0, 1, 7972, 1, { { 6, 14 } }, 0x2730000, 0 },
-   { { 0, 64u }, 6, 1, 0, 0, 1, 7972, 1, { { 0, 17 } }, 0x2730000, 0 },
-};
-constexpr AsicUtils::PairRow pairs[] = {
-   { 0, 0 }, { 1, 1 }, { 2, 1 }, { 255, 0 }, { 3, 1 }, { 4, 1 }, { 4, 1 },
+constexpr AsicUtils::FieldRow rows[] = {
+   { 0, 32 }, { 0, 176 }, { 16, 1 }, { 32, 64 }, { 96, 80 }, { 176, 40 }, { 0, 32 }, { 0, 176 },
+   { 16, 1 }, { 32, 64 }, { 96, 80 }, {},
 };
 constexpr U32 masks[] = {
    0xffffffff, 0xffffffff, 0xffffffff, 0xffffffff, 0xffffffff, 0xffffffff, 0xffffff, 0x0,
    0xffffffff, 0xffffffff, 0xffffffff, 0xffffffff, 0xffffffff, 0xffff, 0x0, 0x0,
 };
-constexpr AsicUtils::FieldRow rows[] = {
-   { 0, 32 }, { 0, 176 }, { 16, 1 }, { 32, 64 }, { 96, 80 }, { 176, 40 }, { 0, 32 }, { 0, 176 },
-   { 16, 1 }, { 32, 64 }, { 96, 80 }, {},
+constexpr AsicUtils::TableLayout layouts[] = {
+   { { 0, 64u }, 8, 32, 1, 0, 0, 7972, 2, { { 10, 2 }, { 24, 9 } }, 0x2730000, 0 },
+   { { 0, 64u }, 6, 24, 1, 0, 0, 7972, 1, { { 10, 10 } }, 0x2730000, 0 },
+   { { 0, 64u }, 6, 24, 1, 0, 0, 7972, 2, { { 6, 14 }, { 6, 26 } }, 0x2730000, 0 },
+   { { 0, 64u }, 6, 24, 1, 0, 0, 7972, 1, { { 6, 14 } }, 0x2730000, 0 },
+   { { 0, 64u }, 6, 24, 1, 0, 0, 7972, 1, { { 0, 17 } }, 0x2730000, 0 },
+};
+constexpr AsicUtils::PairRow pairs[] = {
+   { &layouts[0], &rows[0], &masks[0] }, { &layouts[1], &rows[6], &masks[8] }, { &layouts[2], &rows[6], &masks[8] }, {}, { &layouts[3], &rows[6], &masks[8] }, { &layouts[4], &rows[6], &masks[8] }, { &layouts[4], &rows[6], &masks[8] },
 };
 } // namespace IppbFlpLePd0Data
 
 constinit AsicUtils::MetaInfo const IppbFlpLePd0::metaInfo{
-   Impl::unit, __LINE__, "IppbFlpLePd0", 36, true, 1, AsicUtils::ValueType::Raw256,
-   IppbFlpLePd0Data::fields, IppbFlpLePd0Data::pairs, IppbFlpLePd0Data::layouts, IppbFlpLePd0Data::rows, IppbFlpLePd0Data::masks, {}, {}
+   Impl::trace, Impl::source, __LINE__, "IppbFlpLePd0", 36, true, 1, AsicUtils::ValueType::Raw256,
+   IppbFlpLePd0Data::fields, IppbFlpLePd0Data::pairs, {}, {}
 };
 
 Raw256 IppbFlpLePd0::allFieldsMask() const {
@@ -2110,29 +2110,29 @@ constexpr AsicUtils::FieldInfo fields[] = {
    { "orderVec", 541, AsicUtils::ValueType::Raw128, false },
    { "reserved", 631, AsicUtils::ValueType::U64, false },
 };
-constexpr AsicUtils::TableLayout layouts[] = {
-   { { 0, 64u }, 8, 1, 0, 0, 1, 7973, 2, { { 10, 2 }, { 24, 9 } }, 0x2740000, 0 },
-   { { 0, 64u }, 6, 1, 0, 0, 1, 7973, 1, { { 10, 10 } }, 0x2740000, 0 },
-   { { 0, 64u }, 6, 1, 0, 0, 1, 7973, 2, { { 6, 14 }, { 6, 26 } }, 0x2740000, 0 },
-   { { 0, 64u }, 6, 1, 0, 0, 1, 7973, 1, { { 6, 14 } }, 0x2740000, 0 },
-   { { 0, 64u }, 6, 1, 0, 0, 1, 7973, 1, { { 0, 17 } }, 0x2740000, 0 },
-};
-constexpr AsicUtils::PairRow pairs[] = {
-   { 0, 0 }, { 1, 1 }, { 2, 1 }, { 255, 0 }, { 3, 1 }, { 4, 1 }, { 4, 1 },
+constexpr AsicUtils::FieldRow rows[] = {
+   { 0, 32 }, { 0, 176 }, { 16, 1 }, { 32, 64 }, { 96, 80 }, { 176, 40 }, { 0, 32 }, { 0, 176 },
+   { 16, 1 }, { 32, 64 }, { 96, 80 }, {},
 };
 constexpr U32 masks[] = {
    0xffffffff, 0xffffffff, 0xffffffff, 0xffffffff, 0xffffffff, 0xffffffff, 0xffffff, 0x0,
    0xffffffff, 0xffffffff, 0xffffffff, 0xffffffff, 0xffffffff, 0xffff, 0x0, 0x0,
 };
-constexpr AsicUtils::FieldRow rows[] = {
-   { 0, 32 }, { 0, 176 }, { 16, 1 }, { 32, 64 }, { 96, 80 }, { 176, 40 }, { 0, 32 }, { 0, 176 },
-   { 16, 1 }, { 32, 64 }, { 96, 80 }, {},
+constexpr AsicUtils::TableLayout layouts[] = {
+   { { 0, 64u }, 8, 32, 1, 0, 0, 7973, 2, { { 10, 2 }, { 24, 9 } }, 0x2740000, 0 },
+   { { 0, 64u }, 6, 24, 1, 0, 0, 7973, 1, { { 10, 10 } }, 0x2740000, 0 },
+   { { 0, 64u }, 6, 24, 1, 0, 0, 7973, 2, { { 6, 14 }, { 6, 26 } }, 0x2740000, 0 },
+   { { 0, 64u }, 6, 24, 1, 0, 0, 7973, 1, { { 6, 14 } }, 0x2740000, 0 },
+   { { 0, 64u }, 6, 24, 1, 0, 0, 7973, 1, { { 0, 17 } }, 0x2740000, 0 },
+};
+constexpr AsicUtils::PairRow pairs[] = {
+   { &layouts[0], &rows[0], &masks[0] }, { &layouts[1], &rows[6], &masks[8] }, { &layouts[2], &rows[6], &masks[8] }, {}, { &layouts[3], &rows[6], &masks[8] }, { &layouts[4], &rows[6], &masks[8] }, { &layouts[4], &rows[6], &masks[8] },
 };
 } // namespace IppbFlpLePd1Data
 
 constinit AsicUtils::MetaInfo const IppbFlpLePd1::metaInfo{
-   Impl::unit, __LINE__, "IppbFlpLePd1", 37, true, 1, AsicUtils::ValueType::Raw256,
-   IppbFlpLePd1Data::fields, IppbFlpLePd1Data::pairs, IppbFlpLePd1Data::layouts, IppbFlpLePd1Data::rows, IppbFlpLePd1Data::masks, {}, {}
+   Impl::trace, Impl::source, __LINE__, "IppbFlpLePd1", 37, true, 1, AsicUtils::ValueType::Raw256,
+   IppbFlpLePd1Data::fields, IppbFlpLePd1Data::pairs, {}, {}
 };
 
 Raw256 IppbFlpLePd1::allFieldsMask() const {
@@ -2151,29 +2151,29 @@ constexpr AsicUtils::FieldInfo fields[] = {
    { "orderVec", 541, AsicUtils::ValueType::Raw128, false },
    { "reserved", 631, AsicUtils::ValueType::U64, false },
 };
-constexpr AsicUtils::TableLayout layouts[] = {
-   { { 0, 64u }, 8, 1, 0, 0, 1, 7974, 2, { { 10, 2 }, { 24, 9 } }, 0x2750000, 0 },
-   { { 0, 64u }, 6, 1, 0, 0, 1, 7974, 1, { { 10, 10 } }, 0x2750000, 0 },
-   { { 0, 64u }, 6, 1, 0, 0, 1, 7974, 2, { { 6, 14 }, { 6, 26 } }, 0x2750000, 0 },
-   { { 0, 64u }, 6, 1, 0, 0, 1, 7974, 1, { { 6, 14 } }, 0x2750000, 0 },
-   { { 0, 64u }, 6, 1, 0, 0, 1, 7974, 1, { { 0, 17 } }, 0x2750000, 0 },
-};
-constexpr AsicUtils::PairRow pairs[] = {
-   { 0, 0 }, { 1, 1 }, { 2, 1 }, { 255, 0 }, { 3, 1 }, { 4, 1 }, { 4, 1 },
+constexpr AsicUtils::FieldRow rows[] = {
+   { 0, 32 }, { 0, 176 }, { 16, 1 }, { 32, 64 }, { 96, 80 }, { 176, 40 }, { 0, 32 }, { 0, 176 },
+   { 16, 1 }, { 32, 64 }, { 96, 80 }, {},
 };
 constexpr U32 masks[] = {
    0xffffffff, 0xffffffff, 0xffffffff, 0xffffffff, 0xffffffff, 0xffffffff, 0xffffff, 0x0,
    0xffffffff, 0xffffffff, 0xffffffff, 0xffffffff, 0xffffffff, 0xffff, 0x0, 0x0,
 };
-constexpr AsicUtils::FieldRow rows[] = {
-   { 0, 32 }, { 0, 176 }, { 16, 1 }, { 32, 64 }, { 96, 80 }, { 176, 40 }, { 0, 32 }, { 0, 176 },
-   { 16, 1 }, { 32, 64 }, { 96, 80 }, {},
+constexpr AsicUtils::TableLayout layouts[] = {
+   { { 0, 64u }, 8, 32, 1, 0, 0, 7974, 2, { { 10, 2 }, { 24, 9 } }, 0x2750000, 0 },
+   { { 0, 64u }, 6, 24, 1, 0, 0, 7974, 1, { { 10, 10 } }, 0x2750000, 0 },
+   { { 0, 64u }, 6, 24, 1, 0, 0, 7974, 2, { { 6, 14 }, { 6, 26 } }, 0x2750000, 0 },
+   { { 0, 64u }, 6, 24, 1, 0, 0, 7974, 1, { { 6, 14 } }, 0x2750000, 0 },
+   { { 0, 64u }, 6, 24, 1, 0, 0, 7974, 1, { { 0, 17 } }, 0x2750000, 0 },
+};
+constexpr AsicUtils::PairRow pairs[] = {
+   { &layouts[0], &rows[0], &masks[0] }, { &layouts[1], &rows[6], &masks[8] }, { &layouts[2], &rows[6], &masks[8] }, {}, { &layouts[3], &rows[6], &masks[8] }, { &layouts[4], &rows[6], &masks[8] }, { &layouts[4], &rows[6], &masks[8] },
 };
 } // namespace IppbFlpLePd2Data
 
 constinit AsicUtils::MetaInfo const IppbFlpLePd2::metaInfo{
-   Impl::unit, __LINE__, "IppbFlpLePd2", 38, true, 1, AsicUtils::ValueType::Raw256,
-   IppbFlpLePd2Data::fields, IppbFlpLePd2Data::pairs, IppbFlpLePd2Data::layouts, IppbFlpLePd2Data::rows, IppbFlpLePd2Data::masks, {}, {}
+   Impl::trace, Impl::source, __LINE__, "IppbFlpLePd2", 38, true, 1, AsicUtils::ValueType::Raw256,
+   IppbFlpLePd2Data::fields, IppbFlpLePd2Data::pairs, {}, {}
 };
 
 Raw256 IppbFlpLePd2::allFieldsMask() const {
@@ -2187,27 +2187,27 @@ namespace IppbFlpPortProfileMapData {
 constexpr AsicUtils::FieldInfo fields[] = {
    { "portProfile", 556, AsicUtils::ValueType::U8, false },
 };
-constexpr AsicUtils::TableLayout layouts[] = {
-   { { 0, 256u }, 1, 1, 0, 0, 1, 7989, 2, { { 10, 2 }, { 24, 9 } }, 0x1710000, 0 },
-   { { 0, 1024u }, 1, 1, 0, 0, 1, 7989, 1, { { 10, 10 } }, 0x1710000, 0 },
-   { { 0, 256u }, 1, 1, 0, 0, 1, 7989, 2, { { 6, 14 }, { 6, 26 } }, 0x1710000, 0 },
-   { { 0, 256u }, 1, 1, 0, 0, 1, 7989, 1, { { 6, 14 } }, 0x1710000, 0 },
-   { { 0, 1024u }, 1, 1, 0, 0, 1, 7989, 1, { { 0, 17 } }, 0x1710000, 0 },
-};
-constexpr AsicUtils::PairRow pairs[] = {
-   { 0, 0 }, { 1, 0 }, { 2, 0 }, { 255, 0 }, { 3, 0 }, { 4, 0 }, { 4, 0 },
+constexpr AsicUtils::FieldRow rows[] = {
+   { 0, 5 },
 };
 constexpr U32 masks[] = {
    0x1f,
 };
-constexpr AsicUtils::FieldRow rows[] = {
-   { 0, 5 },
+constexpr AsicUtils::TableLayout layouts[] = {
+   { { 0, 256u }, 1, 4, 1, 0, 0, 7989, 2, { { 10, 2 }, { 24, 9 } }, 0x1710000, 0 },
+   { { 0, 1024u }, 1, 4, 1, 0, 0, 7989, 1, { { 10, 10 } }, 0x1710000, 0 },
+   { { 0, 256u }, 1, 4, 1, 0, 0, 7989, 2, { { 6, 14 }, { 6, 26 } }, 0x1710000, 0 },
+   { { 0, 256u }, 1, 4, 1, 0, 0, 7989, 1, { { 6, 14 } }, 0x1710000, 0 },
+   { { 0, 1024u }, 1, 4, 1, 0, 0, 7989, 1, { { 0, 17 } }, 0x1710000, 0 },
+};
+constexpr AsicUtils::PairRow pairs[] = {
+   { &layouts[0], &rows[0], &masks[0] }, { &layouts[1], &rows[0], &masks[0] }, { &layouts[2], &rows[0], &masks[0] }, {}, { &layouts[3], &rows[0], &masks[0] }, { &layouts[4], &rows[0], &masks[0] }, { &layouts[4], &rows[0], &masks[0] },
 };
 } // namespace IppbFlpPortProfileMapData
 
 constinit AsicUtils::MetaInfo const IppbFlpPortProfileMap::metaInfo{
-   Impl::unit, __LINE__, "IppbFlpPortProfileMap", 39, true, 1, AsicUtils::ValueType::U32,
-   IppbFlpPortProfileMapData::fields, IppbFlpPortProfileMapData::pairs, IppbFlpPortProfileMapData::layouts, IppbFlpPortProfileMapData::rows, IppbFlpPortProfileMapData::masks, {}, {}
+   Impl::trace, Impl::source, __LINE__, "IppbFlpPortProfileMap", 39, true, 1, AsicUtils::ValueType::U32,
+   IppbFlpPortProfileMapData::fields, IppbFlpPortProfileMapData::pairs, {}, {}
 };
 
 U32 IppbFlpPortProfileMap::allFieldsMask() const {
@@ -2221,27 +2221,27 @@ namespace IppbFlpacsActionData {
 constexpr AsicUtils::FieldInfo fields[] = {
    { "flpacsAction", 314, AsicUtils::ValueType::U16, false },
 };
-constexpr AsicUtils::TableLayout layouts[] = {
-   { { 0, 128u }, 1, 1, 0, 0, 1, 7898, 2, { { 10, 2 }, { 24, 9 } }, 0x3030000, 0 },
-   { { 0, 128u }, 1, 1, 0, 0, 1, 7898, 1, { { 10, 10 } }, 0x3030000, 0 },
-   { { 0, 128u }, 1, 1, 0, 0, 1, 7898, 2, { { 6, 14 }, { 6, 26 } }, 0x3030000, 0 },
-   { { 0, 128u }, 1, 1, 0, 0, 1, 7898, 1, { { 6, 14 } }, 0x3030000, 0 },
-   { { 0, 128u }, 1, 1, 0, 0, 1, 7898, 1, { { 0, 17 } }, 0x3030000, 0 },
-};
-constexpr AsicUtils::PairRow pairs[] = {
-   { 0, 0 }, { 1, 0 }, { 2, 0 }, { 255, 0 }, { 3, 0 }, { 4, 0 }, { 4, 0 },
+constexpr AsicUtils::FieldRow rows[] = {
+   { 0, 13 },
 };
 constexpr U32 masks[] = {
    0x1fff,
 };
-constexpr AsicUtils::FieldRow rows[] = {
-   { 0, 13 },
+constexpr AsicUtils::TableLayout layouts[] = {
+   { { 0, 128u }, 1, 4, 1, 0, 0, 7898, 2, { { 10, 2 }, { 24, 9 } }, 0x3030000, 0 },
+   { { 0, 128u }, 1, 4, 1, 0, 0, 7898, 1, { { 10, 10 } }, 0x3030000, 0 },
+   { { 0, 128u }, 1, 4, 1, 0, 0, 7898, 2, { { 6, 14 }, { 6, 26 } }, 0x3030000, 0 },
+   { { 0, 128u }, 1, 4, 1, 0, 0, 7898, 1, { { 6, 14 } }, 0x3030000, 0 },
+   { { 0, 128u }, 1, 4, 1, 0, 0, 7898, 1, { { 0, 17 } }, 0x3030000, 0 },
+};
+constexpr AsicUtils::PairRow pairs[] = {
+   { &layouts[0], &rows[0], &masks[0] }, { &layouts[1], &rows[0], &masks[0] }, { &layouts[2], &rows[0], &masks[0] }, {}, { &layouts[3], &rows[0], &masks[0] }, { &layouts[4], &rows[0], &masks[0] }, { &layouts[4], &rows[0], &masks[0] },
 };
 } // namespace IppbFlpacsActionData
 
 constinit AsicUtils::MetaInfo const IppbFlpacsAction::metaInfo{
-   Impl::unit, __LINE__, "IppbFlpacsAction", 40, true, 1, AsicUtils::ValueType::U32,
-   IppbFlpacsActionData::fields, IppbFlpacsActionData::pairs, IppbFlpacsActionData::layouts, IppbFlpacsActionData::rows, IppbFlpacsActionData::masks, {}, {}
+   Impl::trace, Impl::source, __LINE__, "IppbFlpacsAction", 40, true, 1, AsicUtils::ValueType::U32,
+   IppbFlpacsActionData::fields, IppbFlpacsActionData::pairs, {}, {}
 };
 
 U32 IppbFlpacsAction::allFieldsMask() const {
@@ -2289,19 +2289,6 @@ constexpr AsicUtils::FieldInfo fields[] = {
    { "faiCompatibleMcEnable", 297, AsicUtils::ValueType::U8, false },
    { "faiCompatibleMcOffset", 298, AsicUtils::ValueType::U8, false },
 };
-constexpr AsicUtils::TableLayout layouts[] = {
-   { { 0, 64u }, 2, 1, 0, 0, 1, 7934, 2, { { 10, 2 }, { 24, 9 } }, 0x1680000, 0 },
-   { { 0, 64u }, 2, 1, 0, 0, 1, 7934, 1, { { 10, 10 } }, 0x1680000, 0 },
-   { { 0, 64u }, 2, 1, 0, 0, 1, 7934, 2, { { 6, 14 }, { 6, 26 } }, 0x1680000, 0 },
-   { { 0, 64u }, 2, 1, 0, 0, 1, 7934, 1, { { 6, 14 } }, 0x1680000, 0 },
-   { { 0, 64u }, 2, 1, 0, 0, 1, 7934, 1, { { 0, 17 } }, 0x1680000, 0 },
-};
-constexpr AsicUtils::PairRow pairs[] = {
-   { 0, 0 }, { 1, 1 }, { 2, 2 }, { 255, 0 }, { 3, 2 }, { 4, 1 }, { 4, 1 },
-};
-constexpr U32 masks[] = {
-   0xffffffff, 0x7, 0xffffffff, 0x1f, 0xffffffff, 0xff,
-};
 constexpr AsicUtils::FieldRow rows[] = {
    { 0, 1 }, { 1, 1 }, { 2, 1 }, { 3, 1 }, { 4, 1 }, { 5, 1 }, { 6, 1 }, { 7, 1 },
    { 8, 1 }, { 9, 4 }, { 13, 1 }, { 14, 1 }, { 15, 1 }, { 16, 1 }, { 17, 1 }, { 18, 1 },
@@ -2318,11 +2305,24 @@ constexpr AsicUtils::FieldRow rows[] = {
    { 30, 1 }, { 31, 1 }, { 32, 1 }, { 33, 1 }, {}, { 34, 1 }, { 35, 2 }, { 37, 1 },
    { 38, 2 },
 };
+constexpr U32 masks[] = {
+   0xffffffff, 0x7, 0xffffffff, 0x1f, 0xffffffff, 0xff,
+};
+constexpr AsicUtils::TableLayout layouts[] = {
+   { { 0, 64u }, 2, 8, 1, 0, 0, 7934, 2, { { 10, 2 }, { 24, 9 } }, 0x1680000, 0 },
+   { { 0, 64u }, 2, 8, 1, 0, 0, 7934, 1, { { 10, 10 } }, 0x1680000, 0 },
+   { { 0, 64u }, 2, 8, 1, 0, 0, 7934, 2, { { 6, 14 }, { 6, 26 } }, 0x1680000, 0 },
+   { { 0, 64u }, 2, 8, 1, 0, 0, 7934, 1, { { 6, 14 } }, 0x1680000, 0 },
+   { { 0, 64u }, 2, 8, 1, 0, 0, 7934, 1, { { 0, 17 } }, 0x1680000, 0 },
+};
+constexpr AsicUtils::PairRow pairs[] = {
+   { &layouts[0], &rows[0], &masks[0] }, { &layouts[1], &rows[35], &masks[2] }, { &layouts[2], &rows[70], &masks[4] }, {}, { &layouts[3], &rows[70], &masks[4] }, { &layouts[4], &rows[35], &masks[2] }, { &layouts[4], &rows[35], &masks[2] },
+};
 } // namespace IppbFlpbResContextEnablersData
 
 constinit AsicUtils::MetaInfo const IppbFlpbResContextEnablers::metaInfo{
-   Impl::unit, __LINE__, "IppbFlpbResContextEnablers", 41, true, 1, AsicUtils::ValueType::U64,
-   IppbFlpbResContextEnablersData::fields, IppbFlpbResContextEnablersData::pairs, IppbFlpbResContextEnablersData::layouts, IppbFlpbResContextEnablersData::rows, IppbFlpbResContextEnablersData::masks, {}, {}
+   Impl::trace, Impl::source, __LINE__, "IppbFlpbResContextEnablers", 41, true, 1, AsicUtils::ValueType::U64,
+   IppbFlpbResContextEnablersData::fields, IppbFlpbResContextEnablersData::pairs, {}, {}
 };
 
 U64 IppbFlpbResContextEnablers::allFieldsMask() const {
@@ -2352,19 +2352,6 @@ constexpr AsicUtils::FieldInfo fields[] = {
    { "actionProfileIpv4SipIsMcSnp", 18, AsicUtils::ValueType::U8, false },
    { "actionProfileIpv4ChecksumErrorSnp", 6, AsicUtils::ValueType::U8, false },
 };
-constexpr AsicUtils::TableLayout layouts[] = {
-   { { 0, 1u }, 2, 1, 0, 0, 1, 54225, 2, { { 10, 2 }, { 24, 9 } }, 0x111, 0 },
-   { { 0, 1u }, 2, 1, 0, 0, 1, 54225, 1, { { 10, 10 } }, 0x111, 0 },
-   { { 0, 1u }, 2, 1, 0, 0, 1, 54225, 2, { { 6, 14 }, { 6, 26 } }, 0x111, 0 },
-   { { 0, 1u }, 2, 1, 0, 0, 1, 54225, 1, { { 6, 14 } }, 0x111, 0 },
-   { { 0, 1u }, 2, 1, 0, 0, 1, 54225, 1, { { 0, 17 } }, 0x111, 0 },
-};
-constexpr AsicUtils::PairRow pairs[] = {
-   { 0, 0 }, { 1, 0 }, { 2, 1 }, { 255, 0 }, { 3, 1 }, { 4, 0 }, { 4, 1 },
-};
-constexpr U32 masks[] = {
-   0xffffffff, 0xffffff, 0xffffffff, 0xffffff,
-};
 constexpr AsicUtils::FieldRow rows[] = {
    { 0, 4 }, { 4, 3 }, { 7, 4 }, { 11, 3 }, { 14, 4 }, { 18, 3 }, { 21, 4 }, { 25, 3 },
    { 28, 4 }, { 32, 3 }, { 35, 4 }, { 39, 3 }, { 42, 4 }, { 46, 3 }, { 49, 4 }, { 53, 3 },
@@ -2372,11 +2359,24 @@ constexpr AsicUtils::FieldRow rows[] = {
    { 25, 3 }, { 28, 4 }, { 32, 3 }, { 35, 4 }, { 39, 3 }, { 42, 4 }, { 46, 3 }, { 49, 4 },
    { 53, 3 }, { 11, 3 },
 };
+constexpr U32 masks[] = {
+   0xffffffff, 0xffffff, 0xffffffff, 0xffffff,
+};
+constexpr AsicUtils::TableLayout layouts[] = {
+   { { 0, 1u }, 2, 8, 1, 0, 0, 54225, 2, { { 10, 2 }, { 24, 9 } }, 0x111, 0 },
+   { { 0, 1u }, 2, 8, 1, 0, 0, 54225, 1, { { 10, 10 } }, 0x111, 0 },
+   { { 0, 1u }, 2, 8, 1, 0, 0, 54225, 2, { { 6, 14 }, { 6, 26 } }, 0x111, 0 },
+   { { 0, 1u }, 2, 8, 1, 0, 0, 54225, 1, { { 6, 14 } }, 0x111, 0 },
+   { { 0, 1u }, 2, 8, 1, 0, 0, 54225, 1, { { 0, 17 } }, 0x111, 0 },
+};
+constexpr AsicUtils::PairRow pairs[] = {
+   { &layouts[0], &rows[0], &masks[0] }, { &layouts[1], &rows[0], &masks[0] }, { &layouts[2], &rows[17], &masks[2] }, {}, { &layouts[3], &rows[17], &masks[2] }, { &layouts[4], &rows[0], &masks[0] }, { &layouts[4], &rows[17], &masks[2] },
+};
 } // namespace IppbIpv4ActionProfilesCfgData
 
 constinit AsicUtils::MetaInfo const IppbIpv4ActionProfilesCfg::metaInfo{
-   Impl::unit, __LINE__, "IppbIpv4ActionProfilesCfg", 42, false, 1, AsicUtils::ValueType::U64,
-   IppbIpv4ActionProfilesCfgData::fields, IppbIpv4ActionProfilesCfgData::pairs, IppbIpv4ActionProfilesCfgData::layouts, IppbIpv4ActionProfilesCfgData::rows, IppbIpv4ActionProfilesCfgData::masks, {}, {}
+   Impl::trace, Impl::source, __LINE__, "IppbIpv4ActionProfilesCfg", 42, false, 1, AsicUtils::ValueType::U64,
+   IppbIpv4ActionProfilesCfgData::fields, IppbIpv4ActionProfilesCfgData::pairs, {}, {}
 };
 
 U64 IppbIpv4ActionProfilesCfg::allFieldsMask() const {
@@ -2409,29 +2409,29 @@ constexpr AsicUtils::FieldInfo fields[] = {
    { "actionProfileIpv6SiteLocalSourceFwd", 37, AsicUtils::ValueType::U8, false },
    { "actionProfileIpv6SiteLocalSourceSnp", 38, AsicUtils::ValueType::U8, false },
 };
-constexpr AsicUtils::TableLayout layouts[] = {
-   { { 0, 1u }, 3, 1, 0, 0, 1, 54227, 2, { { 10, 2 }, { 24, 9 } }, 0x113, 0 },
-   { { 0, 1u }, 3, 1, 0, 0, 1, 54227, 1, { { 10, 10 } }, 0x113, 0 },
-   { { 0, 1u }, 3, 1, 0, 0, 1, 54227, 2, { { 6, 14 }, { 6, 26 } }, 0x113, 0 },
-   { { 0, 1u }, 3, 1, 0, 0, 1, 54227, 1, { { 6, 14 } }, 0x113, 0 },
-   { { 0, 1u }, 3, 1, 0, 0, 1, 54227, 1, { { 0, 17 } }, 0x113, 0 },
-};
-constexpr AsicUtils::PairRow pairs[] = {
-   { 0, 0 }, { 1, 0 }, { 2, 0 }, { 255, 0 }, { 3, 0 }, { 4, 0 }, { 4, 0 },
-};
-constexpr U32 masks[] = {
-   0xffffffff, 0xffffffff, 0x3f, 0x0,
-};
 constexpr AsicUtils::FieldRow rows[] = {
    { 0, 4 }, { 4, 3 }, { 7, 4 }, { 11, 3 }, { 14, 4 }, { 18, 3 }, { 21, 4 }, { 25, 3 },
    { 28, 4 }, { 32, 3 }, { 35, 4 }, { 39, 3 }, { 42, 4 }, { 46, 3 }, { 49, 4 }, { 53, 3 },
    { 56, 4 }, { 60, 3 }, { 63, 4 }, { 67, 3 },
 };
+constexpr U32 masks[] = {
+   0xffffffff, 0xffffffff, 0x3f, 0x0,
+};
+constexpr AsicUtils::TableLayout layouts[] = {
+   { { 0, 1u }, 3, 12, 1, 0, 0, 54227, 2, { { 10, 2 }, { 24, 9 } }, 0x113, 0 },
+   { { 0, 1u }, 3, 12, 1, 0, 0, 54227, 1, { { 10, 10 } }, 0x113, 0 },
+   { { 0, 1u }, 3, 12, 1, 0, 0, 54227, 2, { { 6, 14 }, { 6, 26 } }, 0x113, 0 },
+   { { 0, 1u }, 3, 12, 1, 0, 0, 54227, 1, { { 6, 14 } }, 0x113, 0 },
+   { { 0, 1u }, 3, 12, 1, 0, 0, 54227, 1, { { 0, 17 } }, 0x113, 0 },
+};
+constexpr AsicUtils::PairRow pairs[] = {
+   { &layouts[0], &rows[0], &masks[0] }, { &layouts[1], &rows[0], &masks[0] }, { &layouts[2], &rows[0], &masks[0] }, {}, { &layouts[3], &rows[0], &masks[0] }, { &layouts[4], &rows[0], &masks[0] }, { &layouts[4], &rows[0], &masks[0] },
+};
 } // namespace IppbIpv6ActionProfiles0CfgData
 
 constinit AsicUtils::MetaInfo const IppbIpv6ActionProfiles0Cfg::metaInfo{
-   Impl::unit, __LINE__, "IppbIpv6ActionProfiles0Cfg", 43, false, 1, AsicUtils::ValueType::Raw128,
-   IppbIpv6ActionProfiles0CfgData::fields, IppbIpv6ActionProfiles0CfgData::pairs, IppbIpv6ActionProfiles0CfgData::layouts, IppbIpv6ActionProfiles0CfgData::rows, IppbIpv6ActionProfiles0CfgData::masks, {}, {}
+   Impl::trace, Impl::source, __LINE__, "IppbIpv6ActionProfiles0Cfg", 43, false, 1, AsicUtils::ValueType::Raw128,
+   IppbIpv6ActionProfiles0CfgData::fields, IppbIpv6ActionProfiles0CfgData::pairs, {}, {}
 };
 
 Raw128 IppbIpv6ActionProfiles0Cfg::allFieldsMask() const {
@@ -2445,24 +2445,24 @@ namespace IppbLifMcBridgeFallbackAllowData {
 constexpr AsicUtils::FieldInfo fields[] = {
    { "lifMcBridgeFallbackAllow", 504, AsicUtils::ValueType::Raw256, false },
 };
-constexpr AsicUtils::TableLayout layouts[] = {
-   { { 0, 1u }, 8, 1, 0, 0, 1, 54258, 2, { { 6, 14 }, { 6, 26 } }, 0x231, 0 },
-   { { 0, 1u }, 8, 1, 0, 0, 1, 54258, 1, { { 6, 14 } }, 0x231, 0 },
-};
-constexpr AsicUtils::PairRow pairs[] = {
-   { 255, 0 }, { 255, 0 }, { 0, 0 }, { 255, 0 }, { 1, 0 }, { 255, 0 }, { 255, 0 },
+constexpr AsicUtils::FieldRow rows[] = {
+   { 0, 256 },
 };
 constexpr U32 masks[] = {
    0xffffffff, 0xffffffff, 0xffffffff, 0xffffffff, 0xffffffff, 0xffffffff, 0xffffffff, 0xffffffff,
 };
-constexpr AsicUtils::FieldRow rows[] = {
-   { 0, 256 },
+constexpr AsicUtils::TableLayout layouts[] = {
+   { { 0, 1u }, 8, 32, 1, 0, 0, 54258, 2, { { 6, 14 }, { 6, 26 } }, 0x231, 0 },
+   { { 0, 1u }, 8, 32, 1, 0, 0, 54258, 1, { { 6, 14 } }, 0x231, 0 },
+};
+constexpr AsicUtils::PairRow pairs[] = {
+   {}, {}, { &layouts[0], &rows[0], &masks[0] }, {}, { &layouts[1], &rows[0], &masks[0] }, {}, {},
 };
 } // namespace IppbLifMcBridgeFallbackAllowData
 
 constinit AsicUtils::MetaInfo const IppbLifMcBridgeFallbackAllow::metaInfo{
-   Impl::unit, __LINE__, "IppbLifMcBridgeFallbackAllow", 44, false, 1, AsicUtils::ValueType::Raw256,
-   IppbLifMcBridgeFallbackAllowData::fields, IppbLifMcBridgeFallbackAllowData::pairs, IppbLifMcBridgeFallbackAllowData::layouts, IppbLifMcBridgeFallbackAllowData::rows, IppbLifMcBridgeFallbackAllowData::masks, {}, {}
+   Impl::trace, Impl::source, __LINE__, "IppbLifMcBridgeFallbackAllow", 44, false, 1, AsicUtils::ValueType::Raw256,
+   IppbLifMcBridgeFallbackAllowData::fields, IppbLifMcBridgeFallbackAllowData::pairs, {}, {}
 };
 
 Raw256 IppbLifMcBridgeFallbackAllow::allFieldsMask() const {
@@ -2492,30 +2492,30 @@ constexpr AsicUtils::FieldInfo fields[] = {
    { "progTrapSnoopActionStrengthN", 585, AsicUtils::ValueType::U8, false },
    { "progTrapEnableBmpN", 575, AsicUtils::ValueType::U8, false },
 };
-constexpr AsicUtils::TableLayout layouts[] = {
-   { { 0, 1u }, 9, 8, 0, 0, 8, 54316, 2, { { 10, 2 }, { 24, 9 } }, 0x165, 1 },
-   { { 0, 1u }, 9, 8, 0, 0, 8, 54316, 1, { { 10, 10 } }, 0x165, 1 },
-   { { 0, 1u }, 9, 8, 0, 0, 8, 54316, 2, { { 6, 14 }, { 6, 26 } }, 0x163, 1 },
-   { { 0, 1u }, 9, 8, 0, 0, 8, 54316, 1, { { 6, 14 } }, 0x163, 1 },
-   { { 0, 1u }, 9, 8, 0, 0, 8, 54316, 1, { { 0, 17 } }, 0x165, 1 },
-};
-constexpr AsicUtils::PairRow pairs[] = {
-   { 0, 0 }, { 1, 0 }, { 2, 0 }, { 255, 0 }, { 3, 0 }, { 4, 0 }, { 4, 0 },
-};
-constexpr U32 masks[] = {
-   0xffffffff, 0xffffffff, 0xffffffff, 0xffffffff, 0xffffffff, 0xffffffff, 0xffffffff, 0xffffffff,
-   0x3f, 0x0, 0x0, 0x0, 0x0, 0x0, 0x0, 0x0,
-};
 constexpr AsicUtils::FieldRow rows[] = {
    { 0, 48 }, { 48, 6 }, { 54, 48 }, { 102, 6 }, { 108, 16 }, { 124, 8 }, { 132, 8 }, { 140, 8 },
    { 148, 32 }, { 180, 32 }, { 212, 9 }, { 221, 9 }, { 230, 8 }, { 238, 9 }, { 247, 4 }, { 251, 3 },
    { 254, 8 },
 };
+constexpr U32 masks[] = {
+   0xffffffff, 0xffffffff, 0xffffffff, 0xffffffff, 0xffffffff, 0xffffffff, 0xffffffff, 0xffffffff,
+   0x3f, 0x0, 0x0, 0x0, 0x0, 0x0, 0x0, 0x0,
+};
+constexpr AsicUtils::TableLayout layouts[] = {
+   { { 0, 1u }, 9, 36, 8, 0, 0, 54316, 2, { { 10, 2 }, { 24, 9 } }, 0x165, 1 },
+   { { 0, 1u }, 9, 36, 8, 0, 0, 54316, 1, { { 10, 10 } }, 0x165, 1 },
+   { { 0, 1u }, 9, 36, 8, 0, 0, 54316, 2, { { 6, 14 }, { 6, 26 } }, 0x163, 1 },
+   { { 0, 1u }, 9, 36, 8, 0, 0, 54316, 1, { { 6, 14 } }, 0x163, 1 },
+   { { 0, 1u }, 9, 36, 8, 0, 0, 54316, 1, { { 0, 17 } }, 0x165, 1 },
+};
+constexpr AsicUtils::PairRow pairs[] = {
+   { &layouts[0], &rows[0], &masks[0] }, { &layouts[1], &rows[0], &masks[0] }, { &layouts[2], &rows[0], &masks[0] }, {}, { &layouts[3], &rows[0], &masks[0] }, { &layouts[4], &rows[0], &masks[0] }, { &layouts[4], &rows[0], &masks[0] },
+};
 } // namespace IppbProgTrapCfgData
 
 constinit AsicUtils::MetaInfo const IppbProgTrapCfg::metaInfo{
-   Impl::unit, __LINE__, "IppbProgTrapCfg", 45, false, 1, AsicUtils::ValueType::Raw512,
-   IppbProgTrapCfgData::fields, IppbProgTrapCfgData::pairs, IppbProgTrapCfgData::layouts, IppbProgTrapCfgData::rows, IppbProgTrapCfgData::masks, {}, {}
+   Impl::trace, Impl::source, __LINE__, "IppbProgTrapCfg", 45, false, 1, AsicUtils::ValueType::Raw512,
+   IppbProgTrapCfgData::fields, IppbProgTrapCfgData::pairs, {}, {}
 };
 
 Raw512 IppbProgTrapCfg::allFieldsMask() const {
@@ -2535,27 +2535,27 @@ constexpr AsicUtils::FieldInfo fields[] = {
    { "ttl0ActionProfile2", 685, AsicUtils::ValueType::U16, false },
    { "ttl0ActionProfile3", 687, AsicUtils::ValueType::U16, false },
 };
-constexpr AsicUtils::TableLayout layouts[] = {
-   { { 0, 1u }, 2, 1, 0, 0, 1, 54353, 2, { { 10, 2 }, { 24, 9 } }, 0x207, 0 },
-   { { 0, 1u }, 2, 1, 0, 0, 1, 54353, 1, { { 10, 10 } }, 0x207, 0 },
-   { { 0, 1u }, 2, 1, 0, 0, 1, 54353, 2, { { 6, 14 }, { 6, 26 } }, 0x205, 0 },
-   { { 0, 1u }, 2, 1, 0, 0, 1, 54353, 1, { { 6, 14 } }, 0x205, 0 },
-   { { 0, 1u }, 2, 1, 0, 0, 1, 54353, 1, { { 0, 17 } }, 0x207, 0 },
-};
-constexpr AsicUtils::PairRow pairs[] = {
-   { 0, 0 }, { 1, 0 }, { 2, 0 }, { 255, 0 }, { 3, 0 }, { 4, 0 }, { 4, 0 },
+constexpr AsicUtils::FieldRow rows[] = {
+   { 0, 4 }, { 0, 16 }, { 4, 3 }, { 7, 9 }, { 16, 16 }, { 32, 16 }, { 48, 16 },
 };
 constexpr U32 masks[] = {
    0xffffffff, 0xffffffff,
 };
-constexpr AsicUtils::FieldRow rows[] = {
-   { 0, 4 }, { 0, 16 }, { 4, 3 }, { 7, 9 }, { 16, 16 }, { 32, 16 }, { 48, 16 },
+constexpr AsicUtils::TableLayout layouts[] = {
+   { { 0, 1u }, 2, 8, 1, 0, 0, 54353, 2, { { 10, 2 }, { 24, 9 } }, 0x207, 0 },
+   { { 0, 1u }, 2, 8, 1, 0, 0, 54353, 1, { { 10, 10 } }, 0x207, 0 },
+   { { 0, 1u }, 2, 8, 1, 0, 0, 54353, 2, { { 6, 14 }, { 6, 26 } }, 0x205, 0 },
+   { { 0, 1u }, 2, 8, 1, 0, 0, 54353, 1, { { 6, 14 } }, 0x205, 0 },
+   { { 0, 1u }, 2, 8, 1, 0, 0, 54353, 1, { { 0, 17 } }, 0x207, 0 },
+};
+constexpr AsicUtils::PairRow pairs[] = {
+   { &layouts[0], &rows[0], &masks[0] }, { &layouts[1], &rows[0], &masks[0] }, { &layouts[2], &rows[0], &masks[0] }, {}, { &layouts[3], &rows[0], &masks[0] }, { &layouts[4], &rows[0], &masks[0] }, { &layouts[4], &rows[0], &masks[0] },
 };
 } // namespace IppbTtl0ActionProfileData
 
 constinit AsicUtils::MetaInfo const IppbTtl0ActionProfile::metaInfo{
-   Impl::unit, __LINE__, "IppbTtl0ActionProfile", 46, false, 1, AsicUtils::ValueType::U64,
-   IppbTtl0ActionProfileData::fields, IppbTtl0ActionProfileData::pairs, IppbTtl0ActionProfileData::layouts, IppbTtl0ActionProfileData::rows, IppbTtl0ActionProfileData::masks, {}, {}
+   Impl::trace, Impl::source, __LINE__, "IppbTtl0ActionProfile", 46, false, 1, AsicUtils::ValueType::U64,
+   IppbTtl0ActionProfileData::fields, IppbTtl0ActionProfileData::pairs, {}, {}
 };
 
 U64 IppbTtl0ActionProfile::allFieldsMask() const {
@@ -2569,33 +2569,33 @@ namespace IppcInLifProfileCsFlagsData {
 constexpr AsicUtils::FieldInfo fields[] = {
    { "csInlifProfileMap", 87, AsicUtils::ValueType::U8, false },
 };
-constexpr AsicUtils::TableLayout layouts[] = {
-   { { 0, 256u }, 1, 1, 0, 0, 1, 8048, 2, { { 12, 2 }, { 26, 9 } }, 0x9f0000, 0 },
-   { { 0, 256u }, 1, 1, 0, 0, 1, 8048, 1, { { 6, 9 } }, 0x9f0000, 0 },
-   { { 0, 256u }, 1, 1, 0, 0, 1, 8048, 2, { { 8, 14 }, { 8, 26 } }, 0x9f0000, 0 },
-   { { 0, 256u }, 1, 1, 0, 0, 1, 8048, 1, { { 8, 14 } }, 0x9f0000, 0 },
-   { { 0, 256u }, 1, 1, 0, 0, 1, 8048, 1, { { 16, 16 } }, 0x9f0000, 0 },
-   { { 0, 256u }, 1, 1, 0, 0, 1, 8049, 2, { { 12, 2 }, { 26, 9 } }, 0xa00000, 0 },
-   { { 0, 256u }, 1, 1, 0, 0, 1, 8049, 1, { { 6, 9 } }, 0xa00000, 0 },
-   { { 0, 256u }, 1, 1, 0, 0, 1, 8049, 2, { { 8, 14 }, { 8, 26 } }, 0xa00000, 0 },
-   { { 0, 256u }, 1, 1, 0, 0, 1, 8049, 1, { { 8, 14 } }, 0xa00000, 0 },
-   { { 0, 256u }, 1, 1, 0, 0, 1, 8049, 1, { { 16, 16 } }, 0xa00000, 0 },
-};
-constexpr AsicUtils::PairRow pairs[] = {
-   { 0, 0 }, { 1, 0 }, { 2, 0 }, { 255, 0 }, { 3, 0 }, { 4, 0 }, { 4, 0 },
-   { 5, 0 }, { 6, 0 }, { 7, 0 }, { 255, 0 }, { 8, 0 }, { 9, 0 }, { 9, 0 },
+constexpr AsicUtils::FieldRow rows[] = {
+   { 0, 4 },
 };
 constexpr U32 masks[] = {
    0xf,
 };
-constexpr AsicUtils::FieldRow rows[] = {
-   { 0, 4 },
+constexpr AsicUtils::TableLayout layouts[] = {
+   { { 0, 256u }, 1, 4, 1, 0, 0, 8048, 2, { { 12, 2 }, { 26, 9 } }, 0x9f0000, 0 },
+   { { 0, 256u }, 1, 4, 1, 0, 0, 8048, 1, { { 6, 9 } }, 0x9f0000, 0 },
+   { { 0, 256u }, 1, 4, 1, 0, 0, 8048, 2, { { 8, 14 }, { 8, 26 } }, 0x9f0000, 0 },
+   { { 0, 256u }, 1, 4, 1, 0, 0, 8048, 1, { { 8, 14 } }, 0x9f0000, 0 },
+   { { 0, 256u }, 1, 4, 1, 0, 0, 8048, 1, { { 16, 16 } }, 0x9f0000, 0 },
+   { { 0, 256u }, 1, 4, 1, 0, 0, 8049, 2, { { 12, 2 }, { 26, 9 } }, 0xa00000, 0 },
+   { { 0, 256u }, 1, 4, 1, 0, 0, 8049, 1, { { 6, 9 } }, 0xa00000, 0 },
+   { { 0, 256u }, 1, 4, 1, 0, 0, 8049, 2, { { 8, 14 }, { 8, 26 } }, 0xa00000, 0 },
+   { { 0, 256u }, 1, 4, 1, 0, 0, 8049, 1, { { 8, 14 } }, 0xa00000, 0 },
+   { { 0, 256u }, 1, 4, 1, 0, 0, 8049, 1, { { 16, 16 } }, 0xa00000, 0 },
+};
+constexpr AsicUtils::PairRow pairs[] = {
+   { &layouts[0], &rows[0], &masks[0] }, { &layouts[1], &rows[0], &masks[0] }, { &layouts[2], &rows[0], &masks[0] }, {}, { &layouts[3], &rows[0], &masks[0] }, { &layouts[4], &rows[0], &masks[0] }, { &layouts[4], &rows[0], &masks[0] },
+   { &layouts[5], &rows[0], &masks[0] }, { &layouts[6], &rows[0], &masks[0] }, { &layouts[7], &rows[0], &masks[0] }, {}, { &layouts[8], &rows[0], &masks[0] }, { &layouts[9], &rows[0], &masks[0] }, { &layouts[9], &rows[0], &masks[0] },
 };
 } // namespace IppcInLifProfileCsFlagsData
 
 constinit AsicUtils::MetaInfo const IppcInLifProfileCsFlags::metaInfo{
-   Impl::unit, __LINE__, "IppcInLifProfileCsFlags", 47, true, 2, AsicUtils::ValueType::U32,
-   IppcInLifProfileCsFlagsData::fields, IppcInLifProfileCsFlagsData::pairs, IppcInLifProfileCsFlagsData::layouts, IppcInLifProfileCsFlagsData::rows, IppcInLifProfileCsFlagsData::masks, {}, {}
+   Impl::trace, Impl::source, __LINE__, "IppcInLifProfileCsFlags", 47, true, 2, AsicUtils::ValueType::U32,
+   IppcInLifProfileCsFlagsData::fields, IppcInLifProfileCsFlagsData::pairs, {}, {}
 };
 
 U32 IppcInLifProfileCsFlags::allFieldsMask() const {
@@ -2611,27 +2611,27 @@ constexpr AsicUtils::FieldInfo fields[] = {
    { "cpuStrengthN", 84, AsicUtils::ValueType::U8, false },
    { "snoopStrengthN", 652, AsicUtils::ValueType::U8, false },
 };
-constexpr AsicUtils::TableLayout layouts[] = {
-   { { 0, 1u }, 1, 8, 0, 0, 8, 54522, 2, { { 14, 2 }, { 28, 9 } }, 0x1f7, 1 },
-   { { 0, 1u }, 1, 8, 0, 0, 8, 54522, 1, { { 8, 9 } }, 0x1f3, 1 },
-   { { 0, 1u }, 1, 8, 0, 0, 8, 54522, 2, { { 10, 14 }, { 10, 26 } }, 0x1f3, 1 },
-   { { 0, 1u }, 1, 8, 0, 0, 8, 54522, 1, { { 10, 14 } }, 0x1f3, 1 },
-   { { 0, 1u }, 1, 8, 0, 0, 8, 54522, 1, { { 2, 18 } }, 0x1f3, 1 },
-};
-constexpr AsicUtils::PairRow pairs[] = {
-   { 0, 0 }, { 1, 0 }, { 2, 0 }, { 255, 0 }, { 3, 0 }, { 4, 0 }, { 4, 0 },
+constexpr AsicUtils::FieldRow rows[] = {
+   { 0, 9 }, { 9, 4 }, { 13, 3 },
 };
 constexpr U32 masks[] = {
    0xffff,
 };
-constexpr AsicUtils::FieldRow rows[] = {
-   { 0, 9 }, { 9, 4 }, { 13, 3 },
+constexpr AsicUtils::TableLayout layouts[] = {
+   { { 0, 1u }, 1, 4, 8, 0, 0, 54522, 2, { { 14, 2 }, { 28, 9 } }, 0x1f7, 1 },
+   { { 0, 1u }, 1, 4, 8, 0, 0, 54522, 1, { { 8, 9 } }, 0x1f3, 1 },
+   { { 0, 1u }, 1, 4, 8, 0, 0, 54522, 2, { { 10, 14 }, { 10, 26 } }, 0x1f3, 1 },
+   { { 0, 1u }, 1, 4, 8, 0, 0, 54522, 1, { { 10, 14 } }, 0x1f3, 1 },
+   { { 0, 1u }, 1, 4, 8, 0, 0, 54522, 1, { { 2, 18 } }, 0x1f3, 1 },
+};
+constexpr AsicUtils::PairRow pairs[] = {
+   { &layouts[0], &rows[0], &masks[0] }, { &layouts[1], &rows[0], &masks[0] }, { &layouts[2], &rows[0], &masks[0] }, {}, { &layouts[3], &rows[0], &masks[0] }, { &layouts[4], &rows[0], &masks[0] }, { &layouts[4], &rows[0], &masks[0] },
 };
 } // namespace IppdFerTrapCfgData
 
 constinit AsicUtils::MetaInfo const IppdFerTrapCfg::metaInfo{
-   Impl::unit, __LINE__, "IppdFerTrapCfg", 48, false, 1, AsicUtils::ValueType::U32,
-   IppdFerTrapCfgData::fields, IppdFerTrapCfgData::pairs, IppdFerTrapCfgData::layouts, IppdFerTrapCfgData::rows, IppdFerTrapCfgData::masks, {}, {}
+   Impl::trace, Impl::source, __LINE__, "IppdFerTrapCfg", 48, false, 1, AsicUtils::ValueType::U32,
+   IppdFerTrapCfgData::fields, IppdFerTrapCfgData::pairs, {}, {}
 };
 
 U32 IppdFerTrapCfg::allFieldsMask() const {
@@ -2645,25 +2645,25 @@ namespace IppdInLifProfileMapData {
 constexpr AsicUtils::FieldInfo fields[] = {
    { "mappedInLifProfile", 508, AsicUtils::ValueType::U8, false },
 };
-constexpr AsicUtils::TableLayout layouts[] = {
-   { { 0, 256u }, 1, 1, 0, 0, 1, 8156, 2, { { 10, 14 }, { 10, 26 } }, 0x20e0000, 0 },
-   { { 0, 256u }, 1, 1, 0, 0, 1, 8156, 1, { { 10, 14 } }, 0x20e0000, 0 },
-   { { 0, 256u }, 1, 1, 0, 0, 1, 8156, 1, { { 2, 18 } }, 0x20e0000, 0 },
-};
-constexpr AsicUtils::PairRow pairs[] = {
-   { 255, 0 }, { 255, 0 }, { 0, 0 }, { 255, 0 }, { 1, 0 }, { 2, 0 }, { 2, 0 },
+constexpr AsicUtils::FieldRow rows[] = {
+   { 0, 8 },
 };
 constexpr U32 masks[] = {
    0xff,
 };
-constexpr AsicUtils::FieldRow rows[] = {
-   { 0, 8 },
+constexpr AsicUtils::TableLayout layouts[] = {
+   { { 0, 256u }, 1, 4, 1, 0, 0, 8156, 2, { { 10, 14 }, { 10, 26 } }, 0x20e0000, 0 },
+   { { 0, 256u }, 1, 4, 1, 0, 0, 8156, 1, { { 10, 14 } }, 0x20e0000, 0 },
+   { { 0, 256u }, 1, 4, 1, 0, 0, 8156, 1, { { 2, 18 } }, 0x20e0000, 0 },
+};
+constexpr AsicUtils::PairRow pairs[] = {
+   {}, {}, { &layouts[0], &rows[0], &masks[0] }, {}, { &layouts[1], &rows[0], &masks[0] }, { &layouts[2], &rows[0], &masks[0] }, { &layouts[2], &rows[0], &masks[0] },
 };
 } // namespace IppdInLifProfileMapData
 
 constinit AsicUtils::MetaInfo const IppdInLifProfileMap::metaInfo{
-   Impl::unit, __LINE__, "IppdInLifProfileMap", 49, true, 1, AsicUtils::ValueType::U32,
-   IppdInLifProfileMapData::fields, IppdInLifProfileMapData::pairs, IppdInLifProfileMapData::layouts, IppdInLifProfileMapData::rows, IppdInLifProfileMapData::masks, {}, {}
+   Impl::trace, Impl::source, __LINE__, "IppdInLifProfileMap", 49, true, 1, AsicUtils::ValueType::U32,
+   IppdInLifProfileMapData::fields, IppdInLifProfileMapData::pairs, {}, {}
 };
 
 U32 IppdInLifProfileMap::allFieldsMask() const {
@@ -2680,27 +2680,27 @@ constexpr AsicUtils::FieldInfo fields[] = {
    { "inLifRpfModeIpv4", 335, AsicUtils::ValueType::U8, false },
    { "inLifRpfModeIpv6", 336, AsicUtils::ValueType::U8, false },
 };
-constexpr AsicUtils::TableLayout layouts[] = {
-   { { 0, 256u }, 1, 1, 0, 0, 1, 8157, 2, { { 14, 2 }, { 28, 9 } }, 0x1090000, 0 },
-   { { 0, 256u }, 1, 1, 0, 0, 1, 8157, 1, { { 8, 9 } }, 0x1090000, 0 },
-   { { 0, 256u }, 1, 1, 0, 0, 1, 8157, 2, { { 10, 14 }, { 10, 26 } }, 0x1190000, 0 },
-   { { 0, 256u }, 1, 1, 0, 0, 1, 8157, 1, { { 10, 14 } }, 0x1190000, 0 },
-   { { 0, 256u }, 1, 1, 0, 0, 1, 8157, 1, { { 2, 18 } }, 0x1090000, 0 },
-};
-constexpr AsicUtils::PairRow pairs[] = {
-   { 0, 0 }, { 1, 1 }, { 2, 1 }, { 255, 0 }, { 3, 1 }, { 4, 1 }, { 4, 1 },
+constexpr AsicUtils::FieldRow rows[] = {
+   { 0, 2 }, { 2, 2 }, {}, {}, {}, { 4, 2 }, { 0, 2 }, { 2, 2 },
 };
 constexpr U32 masks[] = {
    0xf, 0x3f,
 };
-constexpr AsicUtils::FieldRow rows[] = {
-   { 0, 2 }, { 2, 2 }, {}, {}, {}, { 4, 2 }, { 0, 2 }, { 2, 2 },
+constexpr AsicUtils::TableLayout layouts[] = {
+   { { 0, 256u }, 1, 4, 1, 0, 0, 8157, 2, { { 14, 2 }, { 28, 9 } }, 0x1090000, 0 },
+   { { 0, 256u }, 1, 4, 1, 0, 0, 8157, 1, { { 8, 9 } }, 0x1090000, 0 },
+   { { 0, 256u }, 1, 4, 1, 0, 0, 8157, 2, { { 10, 14 }, { 10, 26 } }, 0x1190000, 0 },
+   { { 0, 256u }, 1, 4, 1, 0, 0, 8157, 1, { { 10, 14 } }, 0x1190000, 0 },
+   { { 0, 256u }, 1, 4, 1, 0, 0, 8157, 1, { { 2, 18 } }, 0x1090000, 0 },
+};
+constexpr AsicUtils::PairRow pairs[] = {
+   { &layouts[0], &rows[0], &masks[0] }, { &layouts[1], &rows[4], &masks[1] }, { &layouts[2], &rows[4], &masks[1] }, {}, { &layouts[3], &rows[4], &masks[1] }, { &layouts[4], &rows[4], &masks[1] }, { &layouts[4], &rows[4], &masks[1] },
 };
 } // namespace IppdInLifProfileTableData
 
 constinit AsicUtils::MetaInfo const IppdInLifProfileTable::metaInfo{
-   Impl::unit, __LINE__, "IppdInLifProfileTable", 50, true, 1, AsicUtils::ValueType::U32,
-   IppdInLifProfileTableData::fields, IppdInLifProfileTableData::pairs, IppdInLifProfileTableData::layouts, IppdInLifProfileTableData::rows, IppdInLifProfileTableData::masks, {}, {}
+   Impl::trace, Impl::source, __LINE__, "IppdInLifProfileTable", 50, true, 1, AsicUtils::ValueType::U32,
+   IppdInLifProfileTableData::fields, IppdInLifProfileTableData::pairs, {}, {}
 };
 
 U32 IppdInLifProfileTable::allFieldsMask() const {
@@ -2716,27 +2716,27 @@ constexpr AsicUtils::FieldInfo fields[] = {
    { "fheiType", 313, AsicUtils::ValueType::U8, false },
    { "fheiSize", 312, AsicUtils::ValueType::U8, false },
 };
-constexpr AsicUtils::TableLayout layouts[] = {
-   { { 0, 16u }, 1, 1, 0, 0, 1, 8193, 2, { { 14, 2 }, { 28, 9 } }, 0x2020000, 0 },
-   { { 0, 16u }, 1, 1, 0, 0, 1, 8193, 1, { { 8, 9 } }, 0x2020000, 0 },
-   { { 0, 16u }, 1, 1, 0, 0, 1, 8193, 2, { { 10, 14 }, { 10, 26 } }, 0x2020000, 0 },
-   { { 0, 16u }, 1, 1, 0, 0, 1, 8193, 1, { { 10, 14 } }, 0x2020000, 0 },
-   { { 0, 16u }, 1, 1, 0, 0, 1, 8193, 1, { { 2, 18 } }, 0x2020000, 0 },
-};
-constexpr AsicUtils::PairRow pairs[] = {
-   { 0, 0 }, { 1, 0 }, { 2, 0 }, { 255, 0 }, { 3, 0 }, { 4, 0 }, { 4, 0 },
+constexpr AsicUtils::FieldRow rows[] = {
+   { 0, 1 }, { 1, 4 }, { 5, 2 },
 };
 constexpr U32 masks[] = {
    0x7f,
 };
-constexpr AsicUtils::FieldRow rows[] = {
-   { 0, 1 }, { 1, 4 }, { 5, 2 },
+constexpr AsicUtils::TableLayout layouts[] = {
+   { { 0, 16u }, 1, 4, 1, 0, 0, 8193, 2, { { 14, 2 }, { 28, 9 } }, 0x2020000, 0 },
+   { { 0, 16u }, 1, 4, 1, 0, 0, 8193, 1, { { 8, 9 } }, 0x2020000, 0 },
+   { { 0, 16u }, 1, 4, 1, 0, 0, 8193, 2, { { 10, 14 }, { 10, 26 } }, 0x2020000, 0 },
+   { { 0, 16u }, 1, 4, 1, 0, 0, 8193, 1, { { 10, 14 } }, 0x2020000, 0 },
+   { { 0, 16u }, 1, 4, 1, 0, 0, 8193, 1, { { 2, 18 } }, 0x2020000, 0 },
+};
+constexpr AsicUtils::PairRow pairs[] = {
+   { &layouts[0], &rows[0], &masks[0] }, { &layouts[1], &rows[0], &masks[0] }, { &layouts[2], &rows[0], &masks[0] }, {}, { &layouts[3], &rows[0], &masks[0] }, { &layouts[4], &rows[0], &masks[0] }, { &layouts[4], &rows[0], &masks[0] },
 };
 } // namespace IppdPphAttributesByEeiData
 
 constinit AsicUtils::MetaInfo const IppdPphAttributesByEei::metaInfo{
-   Impl::unit, __LINE__, "IppdPphAttributesByEei", 51, true, 1, AsicUtils::ValueType::U32,
-   IppdPphAttributesByEeiData::fields, IppdPphAttributesByEeiData::pairs, IppdPphAttributesByEeiData::layouts, IppdPphAttributesByEeiData::rows, IppdPphAttributesByEeiData::masks, {}, {}
+   Impl::trace, Impl::source, __LINE__, "IppdPphAttributesByEei", 51, true, 1, AsicUtils::ValueType::U32,
+   IppdPphAttributesByEeiData::fields, IppdPphAttributesByEeiData::pairs, {}, {}
 };
 
 U32 IppdPphAttributesByEei::allFieldsMask() const {
@@ -2785,18 +2785,25 @@ constexpr AsicUtils::FieldInfo fields[] = {
    { "recycFwdTrapCode15", 620, AsicUtils::ValueType::U16, false },
    { "recycFwdStrength15", 603, AsicUtils::ValueType::U8, false },
 };
-constexpr AsicUtils::TableLayout layouts[] = {
-   { { 0, 1u }, 7, 1, 0, 0, 1, 54717, 2, { { 16, 2 }, { 30, 9 } }, 0x130, 0 },
-   { { 0, 1u }, 7, 1, 0, 0, 1, 54717, 1, { { 4, 10 } }, 0x130, 0 },
-   { { 0, 1u }, 7, 1, 0, 0, 1, 54717, 2, { { 0, 14 }, { 0, 26 } }, 0x130, 0 },
-   { { 0, 1u }, 7, 1, 0, 0, 1, 54717, 1, { { 0, 14 } }, 0x130, 0 },
-   { { 0, 1u }, 7, 1, 0, 0, 1, 54717, 1, { { 16, 17 } }, 0x130, 0 },
-};
-constexpr AsicUtils::PairRow pairs[] = {
-   { 0, 0 }, { 1, 0 }, { 2, 0 }, { 255, 0 }, { 3, 0 }, { 4, 0 }, { 4, 0 },
+constexpr AsicUtils::FieldRow rows[] = {
+   { 0, 9 }, { 0, 9 }, { 0, 13 }, { 0, 208 }, { 9, 4 }, { 9, 4 }, { 13, 9 }, { 22, 4 },
+   { 26, 9 }, { 35, 4 }, { 39, 9 }, { 48, 4 }, { 52, 9 }, { 61, 4 }, { 65, 9 }, { 74, 4 },
+   { 78, 9 }, { 87, 4 }, { 91, 9 }, { 100, 4 }, { 104, 9 }, { 113, 4 }, { 117, 9 }, { 126, 4 },
+   { 130, 9 }, { 139, 4 }, { 143, 9 }, { 152, 4 }, { 156, 9 }, { 165, 4 }, { 169, 9 }, { 178, 4 },
+   { 182, 9 }, { 191, 4 }, { 195, 9 }, { 204, 4 },
 };
 constexpr U32 masks[] = {
    0xffffffff, 0xffffffff, 0xffffffff, 0xffffffff, 0xffffffff, 0xffffffff, 0xffff, 0x0,
+};
+constexpr AsicUtils::TableLayout layouts[] = {
+   { { 0, 1u }, 7, 28, 1, 0, 0, 54717, 2, { { 16, 2 }, { 30, 9 } }, 0x130, 0 },
+   { { 0, 1u }, 7, 28, 1, 0, 0, 54717, 1, { { 4, 10 } }, 0x130, 0 },
+   { { 0, 1u }, 7, 28, 1, 0, 0, 54717, 2, { { 0, 14 }, { 0, 26 } }, 0x130, 0 },
+   { { 0, 1u }, 7, 28, 1, 0, 0, 54717, 1, { { 0, 14 } }, 0x130, 0 },
+   { { 0, 1u }, 7, 28, 1, 0, 0, 54717, 1, { { 16, 17 } }, 0x130, 0 },
+};
+constexpr AsicUtils::PairRow pairs[] = {
+   { &layouts[0], &rows[0], &masks[0] }, { &layouts[1], &rows[0], &masks[0] }, { &layouts[2], &rows[0], &masks[0] }, {}, { &layouts[3], &rows[0], &masks[0] }, { &layouts[4], &rows[0], &masks[0] }, { &layouts[4], &rows[0], &masks[0] },
 };
 constexpr U16 recycFwdTrapCodeRun[] = {
    1, 6, 8, 10, 12, 14, 16, 18, 20, 22, 24, 26, 28, 30, 32, 34,
@@ -2808,18 +2815,11 @@ constexpr AsicUtils::FieldRun runs[] = {
    { "recycFwdTrapCode", recycFwdTrapCodeRun },
    { "recycFwdStrength", recycFwdStrengthRun },
 };
-constexpr AsicUtils::FieldRow rows[] = {
-   { 0, 9 }, { 0, 9 }, { 0, 13 }, { 0, 208 }, { 9, 4 }, { 9, 4 }, { 13, 9 }, { 22, 4 },
-   { 26, 9 }, { 35, 4 }, { 39, 9 }, { 48, 4 }, { 52, 9 }, { 61, 4 }, { 65, 9 }, { 74, 4 },
-   { 78, 9 }, { 87, 4 }, { 91, 9 }, { 100, 4 }, { 104, 9 }, { 113, 4 }, { 117, 9 }, { 126, 4 },
-   { 130, 9 }, { 139, 4 }, { 143, 9 }, { 152, 4 }, { 156, 9 }, { 165, 4 }, { 169, 9 }, { 178, 4 },
-   { 182, 9 }, { 191, 4 }, { 195, 9 }, { 204, 4 },
-};
 } // namespace IppeRecycFwdProfileMappingData
 
 constinit AsicUtils::MetaInfo const IppeRecycFwdProfileMapping::metaInfo{
-   Impl::unit, __LINE__, "IppeRecycFwdProfileMapping", 52, false, 1, AsicUtils::ValueType::Raw256,
-   IppeRecycFwdProfileMappingData::fields, IppeRecycFwdProfileMappingData::pairs, IppeRecycFwdProfileMappingData::layouts, IppeRecycFwdProfileMappingData::rows, IppeRecycFwdProfileMappingData::masks, {}, IppeRecycFwdProfileMappingData::runs
+   Impl::trace, Impl::source, __LINE__, "IppeRecycFwdProfileMapping", 52, false, 1, AsicUtils::ValueType::Raw256,
+   IppeRecycFwdProfileMappingData::fields, IppeRecycFwdProfileMappingData::pairs, {}, IppeRecycFwdProfileMappingData::runs
 };
 
 Raw256 IppeRecycFwdProfileMapping::allFieldsMask() const {
@@ -2849,20 +2849,27 @@ constexpr AsicUtils::FieldInfo fields[] = {
    { "hits", 326, AsicUtils::ValueType::U8, false },
    { "found", 318, AsicUtils::ValueType::U8, false },
 };
-constexpr AsicUtils::TableLayout layouts[] = {
-   { { 0, 1024u }, 10, 1, 0, 0, 1, 9599, 1, { { 2, 5 } }, 0x27000, 0 },
-   { { 0, 1024u }, 10, 1, 0, 0, 1, 9599, 1, { { 0, 12 } }, 0x23000, 0 },
-   { { 0, 1024u }, 10, 1, 0, 0, 1, 9599, 1, { { 24, 36 } }, 0x23000, 0 },
-   { { 0, 1024u }, 10, 1, 0, 0, 1, 9599, 1, { { 8, 20 } }, 0x23000, 0 },
-};
-constexpr AsicUtils::PairRow pairs[] = {
-   { 0, 0 }, { 1, 0 }, { 2, 0 }, { 255, 0 }, { 2, 0 }, { 3, 1 }, { 3, 1 },
+constexpr AsicUtils::FieldRow rows[] = {
+   { 0, 9 }, { 9, 21 }, { 9, 26 }, { 9, 257 }, { 30, 5 }, { 57, 80 }, { 57, 86 }, { 137, 6 },
+   { 143, 3 }, { 266, 4 }, { 270, 3 }, { 273, 17 }, { 290, 3 }, { 293, 6 }, { 293, 6 }, { 299, 8 },
+   { 307, 1 }, { 0, 9 }, { 9, 21 }, { 9, 25 }, { 9, 256 }, { 30, 4 }, { 56, 80 }, { 56, 86 },
+   { 136, 6 }, { 142, 3 }, { 265, 4 }, { 269, 3 }, { 272, 16 }, { 288, 3 }, { 291, 6 }, { 291, 6 },
+   { 297, 8 }, { 305, 1 },
 };
 constexpr U32 masks[] = {
    0xffffffff, 0xffffffff, 0xffffffff, 0xffffffff, 0xffffffff, 0xffffffff, 0xffffffff, 0xffffffff,
    0xffffffff, 0xfffff, 0x0, 0x0, 0x0, 0x0, 0x0, 0x0,
    0xffffffff, 0xffffffff, 0xffffffff, 0xffffffff, 0xffffffff, 0xffffffff, 0xffffffff, 0xffffffff,
    0xffffffff, 0x3ffff, 0x0, 0x0, 0x0, 0x0, 0x0, 0x0,
+};
+constexpr AsicUtils::TableLayout layouts[] = {
+   { { 0, 1024u }, 10, 40, 1, 0, 0, 9599, 1, { { 2, 5 } }, 0x27000, 0 },
+   { { 0, 1024u }, 10, 40, 1, 0, 0, 9599, 1, { { 0, 12 } }, 0x23000, 0 },
+   { { 0, 1024u }, 10, 40, 1, 0, 0, 9599, 1, { { 24, 36 } }, 0x23000, 0 },
+   { { 0, 1024u }, 10, 40, 1, 0, 0, 9599, 1, { { 8, 20 } }, 0x23000, 0 },
+};
+constexpr AsicUtils::PairRow pairs[] = {
+   { &layouts[0], &rows[0], &masks[0] }, { &layouts[1], &rows[0], &masks[0] }, { &layouts[2], &rows[0], &masks[0] }, {}, { &layouts[2], &rows[0], &masks[0] }, { &layouts[3], &rows[17], &masks[16] }, { &layouts[3], &rows[17], &masks[16] },
 };
 constexpr AsicUtils::TagRow tags[] = {
    { 1 << 0, 0, 137, 6, 20 },
@@ -2890,18 +2897,11 @@ constexpr AsicUtils::TagRow tags[] = {
    { 1 << 6, 0, 288, 3, 1 },
    { 1 << 6, 0, 291, 6, 23 },
 };
-constexpr AsicUtils::FieldRow rows[] = {
-   { 0, 9 }, { 9, 21 }, { 9, 26 }, { 9, 257 }, { 30, 5 }, { 57, 80 }, { 57, 86 }, { 137, 6 },
-   { 143, 3 }, { 266, 4 }, { 270, 3 }, { 273, 17 }, { 290, 3 }, { 293, 6 }, { 293, 6 }, { 299, 8 },
-   { 307, 1 }, { 0, 9 }, { 9, 21 }, { 9, 25 }, { 9, 256 }, { 30, 4 }, { 56, 80 }, { 56, 86 },
-   { 136, 6 }, { 142, 3 }, { 265, 4 }, { 269, 3 }, { 272, 16 }, { 288, 3 }, { 291, 6 }, { 291, 6 },
-   { 297, 8 }, { 305, 1 },
-};
 } // namespace Ipv4PcremFwdDestPcremData
 
 constinit AsicUtils::MetaInfo const Ipv4PcremFwdDestPcrem::metaInfo{
-   Impl::unit, __LINE__, "Ipv4PcremFwdDestPcrem", 53, true, 1, AsicUtils::ValueType::Raw512,
-   Ipv4PcremFwdDestPcremData::fields, Ipv4PcremFwdDestPcremData::pairs, Ipv4PcremFwdDestPcremData::layouts, Ipv4PcremFwdDestPcremData::rows, Ipv4PcremFwdDestPcremData::masks, Ipv4PcremFwdDestPcremData::tags, {}
+   Impl::trace, Impl::source, __LINE__, "Ipv4PcremFwdDestPcrem", 53, true, 1, AsicUtils::ValueType::Raw512,
+   Ipv4PcremFwdDestPcremData::fields, Ipv4PcremFwdDestPcremData::pairs, Ipv4PcremFwdDestPcremData::tags, {}
 };
 
 Raw512 Ipv4PcremFwdDestPcrem::allFieldsMask() const {
@@ -2915,33 +2915,33 @@ namespace MappingFwdInfoToEnTermData {
 constexpr AsicUtils::FieldInfo fields[] = {
    { "enTermUpToParsingOffset", 250, AsicUtils::ValueType::Raw128, false },
 };
-constexpr AsicUtils::TableLayout layouts[] = {
-   { { 0, 1u }, 4, 1, 0, 0, 1, 59140, 2, { { 22, 2 }, { 4, 10 } }, 0x210, 0 },
-   { { 0, 1u }, 4, 1, 0, 0, 1, 59140, 1, { { 18, 4 } }, 0x210, 0 },
-   { { 0, 1u }, 4, 1, 0, 0, 1, 59140, 2, { { 24, 12 }, { 24, 24 } }, 0x210, 0 },
-   { { 0, 1u }, 4, 1, 0, 0, 1, 59140, 1, { { 24, 12 } }, 0x210, 0 },
-   { { 0, 1u }, 4, 1, 0, 0, 1, 59140, 1, { { 30, 11 } }, 0x210, 0 },
-   { { 0, 1u }, 4, 1, 0, 0, 1, 59086, 2, { { 20, 2 }, { 2, 10 } }, 0x210, 0 },
-   { { 0, 1u }, 4, 1, 0, 0, 1, 59086, 1, { { 28, 9 } }, 0x210, 0 },
-   { { 0, 1u }, 4, 1, 0, 0, 1, 59086, 2, { { 20, 12 }, { 20, 24 } }, 0x210, 0 },
-   { { 0, 1u }, 4, 1, 0, 0, 1, 59086, 1, { { 20, 12 } }, 0x210, 0 },
-   { { 0, 1u }, 4, 1, 0, 0, 1, 59086, 1, { { 16, 11 } }, 0x210, 0 },
-};
-constexpr AsicUtils::PairRow pairs[] = {
-   { 0, 0 }, { 1, 0 }, { 2, 0 }, { 255, 0 }, { 3, 0 }, { 4, 0 }, { 4, 0 },
-   { 5, 0 }, { 6, 0 }, { 7, 0 }, { 255, 0 }, { 8, 0 }, { 9, 0 }, { 9, 0 },
+constexpr AsicUtils::FieldRow rows[] = {
+   { 0, 128 },
 };
 constexpr U32 masks[] = {
    0xffffffff, 0xffffffff, 0xffffffff, 0xffffffff,
 };
-constexpr AsicUtils::FieldRow rows[] = {
-   { 0, 128 },
+constexpr AsicUtils::TableLayout layouts[] = {
+   { { 0, 1u }, 4, 16, 1, 0, 0, 59140, 2, { { 22, 2 }, { 4, 10 } }, 0x210, 0 },
+   { { 0, 1u }, 4, 16, 1, 0, 0, 59140, 1, { { 18, 4 } }, 0x210, 0 },
+   { { 0, 1u }, 4, 16, 1, 0, 0, 59140, 2, { { 24, 12 }, { 24, 24 } }, 0x210, 0 },
+   { { 0, 1u }, 4, 16, 1, 0, 0, 59140, 1, { { 24, 12 } }, 0x210, 0 },
+   { { 0, 1u }, 4, 16, 1, 0, 0, 59140, 1, { { 30, 11 } }, 0x210, 0 },
+   { { 0, 1u }, 4, 16, 1, 0, 0, 59086, 2, { { 20, 2 }, { 2, 10 } }, 0x210, 0 },
+   { { 0, 1u }, 4, 16, 1, 0, 0, 59086, 1, { { 28, 9 } }, 0x210, 0 },
+   { { 0, 1u }, 4, 16, 1, 0, 0, 59086, 2, { { 20, 12 }, { 20, 24 } }, 0x210, 0 },
+   { { 0, 1u }, 4, 16, 1, 0, 0, 59086, 1, { { 20, 12 } }, 0x210, 0 },
+   { { 0, 1u }, 4, 16, 1, 0, 0, 59086, 1, { { 16, 11 } }, 0x210, 0 },
+};
+constexpr AsicUtils::PairRow pairs[] = {
+   { &layouts[0], &rows[0], &masks[0] }, { &layouts[1], &rows[0], &masks[0] }, { &layouts[2], &rows[0], &masks[0] }, {}, { &layouts[3], &rows[0], &masks[0] }, { &layouts[4], &rows[0], &masks[0] }, { &layouts[4], &rows[0], &masks[0] },
+   { &layouts[5], &rows[0], &masks[0] }, { &layouts[6], &rows[0], &masks[0] }, { &layouts[7], &rows[0], &masks[0] }, {}, { &layouts[8], &rows[0], &masks[0] }, { &layouts[9], &rows[0], &masks[0] }, { &layouts[9], &rows[0], &masks[0] },
 };
 } // namespace MappingFwdInfoToEnTermData
 
 constinit AsicUtils::MetaInfo const MappingFwdInfoToEnTerm::metaInfo{
-   Impl::unit, __LINE__, "MappingFwdInfoToEnTerm", 54, false, 2, AsicUtils::ValueType::Raw128,
-   MappingFwdInfoToEnTermData::fields, MappingFwdInfoToEnTermData::pairs, MappingFwdInfoToEnTermData::layouts, MappingFwdInfoToEnTermData::rows, MappingFwdInfoToEnTermData::masks, {}, {}
+   Impl::trace, Impl::source, __LINE__, "MappingFwdInfoToEnTerm", 54, false, 2, AsicUtils::ValueType::Raw128,
+   MappingFwdInfoToEnTermData::fields, MappingFwdInfoToEnTermData::pairs, {}, {}
 };
 
 Raw128 MappingFwdInfoToEnTerm::allFieldsMask() const {
@@ -2955,18 +2955,21 @@ namespace PpmcDoubleOutLifSwapData {
 constexpr AsicUtils::FieldInfo fields[] = {
    { "resultType", 632, AsicUtils::ValueType::U8, true },
 };
-constexpr AsicUtils::TableLayout layouts[] = {
-   { { 0, 1024u }, 6, 1, 0, 0, 1, 9602, 1, { { 2, 5 } }, 0x45000, 0 },
-   { { 0, 1024u }, 6, 1, 0, 0, 1, 9602, 1, { { 0, 12 } }, 0x38000, 0 },
-   { { 0, 1024u }, 6, 1, 0, 0, 1, 9602, 1, { { 24, 36 } }, 0x38000, 0 },
-   { { 0, 1024u }, 6, 1, 0, 0, 1, 9602, 1, { { 8, 20 } }, 0x38000, 0 },
-};
-constexpr AsicUtils::PairRow pairs[] = {
-   { 0, 0 }, { 1, 0 }, { 2, 0 }, { 255, 0 }, { 2, 0 }, { 3, 1 }, { 3, 1 },
+constexpr AsicUtils::FieldRow rows[] = {
+   { 80, 6 }, { 79, 6 },
 };
 constexpr U32 masks[] = {
    0x0, 0x0, 0x3f0000, 0x0, 0x0, 0x0, 0x0, 0x0,
    0x0, 0x0, 0x1f8000, 0x0, 0x0, 0x0, 0x0, 0x0,
+};
+constexpr AsicUtils::TableLayout layouts[] = {
+   { { 0, 1024u }, 6, 24, 1, 0, 0, 9602, 1, { { 2, 5 } }, 0x45000, 0 },
+   { { 0, 1024u }, 6, 24, 1, 0, 0, 9602, 1, { { 0, 12 } }, 0x38000, 0 },
+   { { 0, 1024u }, 6, 24, 1, 0, 0, 9602, 1, { { 24, 36 } }, 0x38000, 0 },
+   { { 0, 1024u }, 6, 24, 1, 0, 0, 9602, 1, { { 8, 20 } }, 0x38000, 0 },
+};
+constexpr AsicUtils::PairRow pairs[] = {
+   { &layouts[0], &rows[0], &masks[0] }, { &layouts[1], &rows[0], &masks[0] }, { &layouts[2], &rows[0], &masks[0] }, {}, { &layouts[2], &rows[0], &masks[0] }, { &layouts[3], &rows[1], &masks[8] }, { &layouts[3], &rows[1], &masks[8] },
 };
 constexpr AsicUtils::TagRow tags[] = {
    { 1 << 0, 0, 80, 6, 8 },
@@ -2994,14 +2997,11 @@ constexpr AsicUtils::TagRow tags[] = {
    { 1 << 6, 0, 167, 3, 1 },
    { 1 << 6, 0, 170, 0, 0 },
 };
-constexpr AsicUtils::FieldRow rows[] = {
-   { 80, 6 }, { 79, 6 },
-};
 } // namespace PpmcDoubleOutLifSwapData
 
 constinit AsicUtils::MetaInfo const PpmcDoubleOutLifSwap::metaInfo{
-   Impl::unit, __LINE__, "PpmcDoubleOutLifSwap", 55, true, 1, AsicUtils::ValueType::Raw256,
-   PpmcDoubleOutLifSwapData::fields, PpmcDoubleOutLifSwapData::pairs, PpmcDoubleOutLifSwapData::layouts, PpmcDoubleOutLifSwapData::rows, PpmcDoubleOutLifSwapData::masks, PpmcDoubleOutLifSwapData::tags, {}
+   Impl::trace, Impl::source, __LINE__, "PpmcDoubleOutLifSwap", 55, true, 1, AsicUtils::ValueType::Raw256,
+   PpmcDoubleOutLifSwapData::fields, PpmcDoubleOutLifSwapData::pairs, PpmcDoubleOutLifSwapData::tags, {}
 };
 
 Raw256 PpmcDoubleOutLifSwap::allFieldsMask() const {
@@ -3031,20 +3031,27 @@ constexpr AsicUtils::FieldInfo fields[] = {
    { "hits", 326, AsicUtils::ValueType::U8, false },
    { "found", 318, AsicUtils::ValueType::U8, false },
 };
-constexpr AsicUtils::TableLayout layouts[] = {
-   { { 0, 1024u }, 10, 1, 0, 0, 1, 9599, 1, { { 2, 5 } }, 0x27000, 0 },
-   { { 0, 1024u }, 10, 1, 0, 0, 1, 9599, 1, { { 0, 12 } }, 0x23000, 0 },
-   { { 0, 1024u }, 10, 1, 0, 0, 1, 9599, 1, { { 24, 36 } }, 0x23000, 0 },
-   { { 0, 1024u }, 10, 1, 0, 0, 1, 9599, 1, { { 8, 20 } }, 0x23000, 0 },
-};
-constexpr AsicUtils::PairRow pairs[] = {
-   { 0, 0 }, { 1, 0 }, { 2, 0 }, { 255, 0 }, { 2, 0 }, { 3, 1 }, { 3, 1 },
+constexpr AsicUtils::FieldRow rows[] = {
+   { 0, 9 }, { 9, 32 }, { 9, 37 }, { 9, 257 }, { 41, 5 }, { 56, 21 }, { 56, 27 }, { 77, 6 },
+   { 83, 3 }, { 266, 4 }, { 270, 3 }, { 273, 17 }, { 290, 3 }, { 293, 6 }, { 293, 6 }, { 299, 8 },
+   { 307, 1 }, { 0, 9 }, { 9, 32 }, { 9, 36 }, { 9, 256 }, { 41, 4 }, { 55, 21 }, { 55, 27 },
+   { 76, 6 }, { 82, 3 }, { 265, 4 }, { 269, 3 }, { 272, 16 }, { 288, 3 }, { 291, 6 }, { 291, 6 },
+   { 297, 8 }, { 305, 1 },
 };
 constexpr U32 masks[] = {
    0xffffffff, 0xffffffff, 0xffffffff, 0xffffffff, 0xffffffff, 0xffffffff, 0xffffffff, 0xffffffff,
    0xffffffff, 0xfffff, 0x0, 0x0, 0x0, 0x0, 0x0, 0x0,
    0xffffffff, 0xffffffff, 0xffffffff, 0xffffffff, 0xffffffff, 0xffffffff, 0xffffffff, 0xffffffff,
    0xffffffff, 0x3ffff, 0x0, 0x0, 0x0, 0x0, 0x0, 0x0,
+};
+constexpr AsicUtils::TableLayout layouts[] = {
+   { { 0, 1024u }, 10, 40, 1, 0, 0, 9599, 1, { { 2, 5 } }, 0x27000, 0 },
+   { { 0, 1024u }, 10, 40, 1, 0, 0, 9599, 1, { { 0, 12 } }, 0x23000, 0 },
+   { { 0, 1024u }, 10, 40, 1, 0, 0, 9599, 1, { { 24, 36 } }, 0x23000, 0 },
+   { { 0, 1024u }, 10, 40, 1, 0, 0, 9599, 1, { { 8, 20 } }, 0x23000, 0 },
+};
+constexpr AsicUtils::PairRow pairs[] = {
+   { &layouts[0], &rows[0], &masks[0] }, { &layouts[1], &rows[0], &masks[0] }, { &layouts[2], &rows[0], &masks[0] }, {}, { &layouts[2], &rows[0], &masks[0] }, { &layouts[3], &rows[17], &masks[16] }, { &layouts[3], &rows[17], &masks[16] },
 };
 constexpr AsicUtils::TagRow tags[] = {
    { 1 << 0, 0, 77, 6, 10 },
@@ -3072,18 +3079,11 @@ constexpr AsicUtils::TagRow tags[] = {
    { 1 << 6, 0, 288, 3, 2 },
    { 1 << 6, 0, 291, 6, 22 },
 };
-constexpr AsicUtils::FieldRow rows[] = {
-   { 0, 9 }, { 9, 32 }, { 9, 37 }, { 9, 257 }, { 41, 5 }, { 56, 21 }, { 56, 27 }, { 77, 6 },
-   { 83, 3 }, { 266, 4 }, { 270, 3 }, { 273, 17 }, { 290, 3 }, { 293, 6 }, { 293, 6 }, { 299, 8 },
-   { 307, 1 }, { 0, 9 }, { 9, 32 }, { 9, 36 }, { 9, 256 }, { 41, 4 }, { 55, 21 }, { 55, 27 },
-   { 76, 6 }, { 82, 3 }, { 265, 4 }, { 269, 3 }, { 272, 16 }, { 288, 3 }, { 291, 6 }, { 291, 6 },
-   { 297, 8 }, { 305, 1 },
-};
 } // namespace PrivateHostReducedVrfData
 
 constinit AsicUtils::MetaInfo const PrivateHostReducedVrf::metaInfo{
-   Impl::unit, __LINE__, "PrivateHostReducedVrf", 56, true, 1, AsicUtils::ValueType::Raw512,
-   PrivateHostReducedVrfData::fields, PrivateHostReducedVrfData::pairs, PrivateHostReducedVrfData::layouts, PrivateHostReducedVrfData::rows, PrivateHostReducedVrfData::masks, PrivateHostReducedVrfData::tags, {}
+   Impl::trace, Impl::source, __LINE__, "PrivateHostReducedVrf", 56, true, 1, AsicUtils::ValueType::Raw512,
+   PrivateHostReducedVrfData::fields, PrivateHostReducedVrfData::pairs, PrivateHostReducedVrfData::tags, {}
 };
 
 Raw512 PrivateHostReducedVrf::allFieldsMask() const {
@@ -3099,14 +3099,8 @@ constexpr AsicUtils::FieldInfo fields[] = {
    { "nofSdTags", 527, AsicUtils::ValueType::U8, false },
    { "learnNativeAcBug", 502, AsicUtils::ValueType::U8, false },
 };
-constexpr AsicUtils::TableLayout layouts[] = {
-   { { 0, 4294967295u }, 20, 1, 0, 0, 1, -1, 1, { { 10, 1 } }, 0x0, 0 },
-   { { 0, 4294967295u }, 20, 1, 0, 0, 1, -1, 1, { { 4, 5 } }, 0x0, 0 },
-   { { 0, 4294967295u }, 20, 1, 0, 0, 1, -1, 1, { { 28, 12 } }, 0x0, 0 },
-   { { 0, 4294967295u }, 20, 1, 0, 0, 1, -1, 1, { { 16, 15 } }, 0x0, 0 },
-};
-constexpr AsicUtils::PairRow pairs[] = {
-   { 0, 0 }, { 1, 0 }, { 2, 0 }, { 255, 0 }, { 2, 0 }, { 3, 0 }, { 3, 0 },
+constexpr AsicUtils::FieldRow rows[] = {
+   { 0, 1 }, { 1, 2 }, { 3, 1 },
 };
 constexpr U32 masks[] = {
    0xf, 0x0, 0x0, 0x0, 0x0, 0x0, 0x0, 0x0,
@@ -3114,14 +3108,20 @@ constexpr U32 masks[] = {
    0x0, 0x0, 0x0, 0x0, 0x0, 0x0, 0x0, 0x0,
    0x0, 0x0, 0x0, 0x0, 0x0, 0x0, 0x0, 0x0,
 };
-constexpr AsicUtils::FieldRow rows[] = {
-   { 0, 1 }, { 1, 2 }, { 3, 1 },
+constexpr AsicUtils::TableLayout layouts[] = {
+   { { 0, 4294967295u }, 20, 80, 1, 0, 0, -1, 1, { { 10, 1 } }, 0x0, 0 },
+   { { 0, 4294967295u }, 20, 80, 1, 0, 0, -1, 1, { { 4, 5 } }, 0x0, 0 },
+   { { 0, 4294967295u }, 20, 80, 1, 0, 0, -1, 1, { { 28, 12 } }, 0x0, 0 },
+   { { 0, 4294967295u }, 20, 80, 1, 0, 0, -1, 1, { { 16, 15 } }, 0x0, 0 },
+};
+constexpr AsicUtils::PairRow pairs[] = {
+   { &layouts[0], &rows[0], &masks[0] }, { &layouts[1], &rows[0], &masks[0] }, { &layouts[2], &rows[0], &masks[0] }, {}, { &layouts[2], &rows[0], &masks[0] }, { &layouts[3], &rows[0], &masks[0] }, { &layouts[3], &rows[0], &masks[0] },
 };
 } // namespace PweInlifCsProfileData
 
 constinit AsicUtils::MetaInfo const PweInlifCsProfile::metaInfo{
-   Impl::unit, __LINE__, "PweInlifCsProfile", 57, true, 1, AsicUtils::ValueType::Raw1024,
-   PweInlifCsProfileData::fields, PweInlifCsProfileData::pairs, PweInlifCsProfileData::layouts, PweInlifCsProfileData::rows, PweInlifCsProfileData::masks, {}, {}
+   Impl::trace, Impl::source, __LINE__, "PweInlifCsProfile", 57, true, 1, AsicUtils::ValueType::Raw1024,
+   PweInlifCsProfileData::fields, PweInlifCsProfileData::pairs, {}, {}
 };
 
 Raw1024 PweInlifCsProfile::allFieldsMask() const {
@@ -3138,14 +3138,8 @@ constexpr AsicUtils::FieldInfo fields[] = {
    { "ucDbMode", 704, AsicUtils::ValueType::U8, false },
    { "mcDbMode", 509, AsicUtils::ValueType::U8, false },
 };
-constexpr AsicUtils::TableLayout layouts[] = {
-   { { 0, 4294967295u }, 20, 1, 0, 0, 1, -1, 1, { { 10, 1 } }, 0x0, 0 },
-   { { 0, 4294967295u }, 20, 1, 0, 0, 1, -1, 1, { { 4, 5 } }, 0x0, 0 },
-   { { 0, 4294967295u }, 20, 1, 0, 0, 1, -1, 1, { { 28, 12 } }, 0x0, 0 },
-   { { 0, 4294967295u }, 20, 1, 0, 0, 1, -1, 1, { { 16, 15 } }, 0x0, 0 },
-};
-constexpr AsicUtils::PairRow pairs[] = {
-   { 0, 0 }, { 1, 0 }, { 2, 0 }, { 255, 0 }, { 2, 0 }, { 3, 0 }, { 3, 0 },
+constexpr AsicUtils::FieldRow rows[] = {
+   { 0, 1 }, { 1, 1 }, { 2, 1 }, { 3, 1 },
 };
 constexpr U32 masks[] = {
    0xf, 0x0, 0x0, 0x0, 0x0, 0x0, 0x0, 0x0,
@@ -3153,14 +3147,20 @@ constexpr U32 masks[] = {
    0x0, 0x0, 0x0, 0x0, 0x0, 0x0, 0x0, 0x0,
    0x0, 0x0, 0x0, 0x0, 0x0, 0x0, 0x0, 0x0,
 };
-constexpr AsicUtils::FieldRow rows[] = {
-   { 0, 1 }, { 1, 1 }, { 2, 1 }, { 3, 1 },
+constexpr AsicUtils::TableLayout layouts[] = {
+   { { 0, 4294967295u }, 20, 80, 1, 0, 0, -1, 1, { { 10, 1 } }, 0x0, 0 },
+   { { 0, 4294967295u }, 20, 80, 1, 0, 0, -1, 1, { { 4, 5 } }, 0x0, 0 },
+   { { 0, 4294967295u }, 20, 80, 1, 0, 0, -1, 1, { { 28, 12 } }, 0x0, 0 },
+   { { 0, 4294967295u }, 20, 80, 1, 0, 0, -1, 1, { { 16, 15 } }, 0x0, 0 },
+};
+constexpr AsicUtils::PairRow pairs[] = {
+   { &layouts[0], &rows[0], &masks[0] }, { &layouts[1], &rows[0], &masks[0] }, { &layouts[2], &rows[0], &masks[0] }, {}, { &layouts[2], &rows[0], &masks[0] }, { &layouts[3], &rows[0], &masks[0] }, { &layouts[3], &rows[0], &masks[0] },
 };
 } // namespace RoutingInlifCsProfileData
 
 constinit AsicUtils::MetaInfo const RoutingInlifCsProfile::metaInfo{
-   Impl::unit, __LINE__, "RoutingInlifCsProfile", 58, true, 1, AsicUtils::ValueType::Raw1024,
-   RoutingInlifCsProfileData::fields, RoutingInlifCsProfileData::pairs, RoutingInlifCsProfileData::layouts, RoutingInlifCsProfileData::rows, RoutingInlifCsProfileData::masks, {}, {}
+   Impl::trace, Impl::source, __LINE__, "RoutingInlifCsProfile", 58, true, 1, AsicUtils::ValueType::Raw1024,
+   RoutingInlifCsProfileData::fields, RoutingInlifCsProfileData::pairs, {}, {}
 };
 
 Raw1024 RoutingInlifCsProfile::allFieldsMask() const {
@@ -3177,14 +3177,8 @@ constexpr AsicUtils::FieldInfo fields[] = {
    { "ucDbMode", 704, AsicUtils::ValueType::U8, false },
    { "mcDbMode", 509, AsicUtils::ValueType::U8, false },
 };
-constexpr AsicUtils::TableLayout layouts[] = {
-   { { 0, 4294967295u }, 20, 1, 0, 0, 1, -1, 1, { { 10, 1 } }, 0x0, 0 },
-   { { 0, 4294967295u }, 20, 1, 0, 0, 1, -1, 1, { { 4, 5 } }, 0x0, 0 },
-   { { 0, 4294967295u }, 20, 1, 0, 0, 1, -1, 1, { { 28, 12 } }, 0x0, 0 },
-   { { 0, 4294967295u }, 20, 1, 0, 0, 1, -1, 1, { { 16, 15 } }, 0x0, 0 },
-};
-constexpr AsicUtils::PairRow pairs[] = {
-   { 0, 0 }, { 1, 0 }, { 2, 0 }, { 255, 0 }, { 2, 0 }, { 3, 0 }, { 3, 0 },
+constexpr AsicUtils::FieldRow rows[] = {
+   { 0, 1 }, { 1, 1 }, { 2, 1 }, { 3, 1 },
 };
 constexpr U32 masks[] = {
    0xf, 0x0, 0x0, 0x0, 0x0, 0x0, 0x0, 0x0,
@@ -3192,14 +3186,20 @@ constexpr U32 masks[] = {
    0x0, 0x0, 0x0, 0x0, 0x0, 0x0, 0x0, 0x0,
    0x0, 0x0, 0x0, 0x0, 0x0, 0x0, 0x0, 0x0,
 };
-constexpr AsicUtils::FieldRow rows[] = {
-   { 0, 1 }, { 1, 1 }, { 2, 1 }, { 3, 1 },
+constexpr AsicUtils::TableLayout layouts[] = {
+   { { 0, 4294967295u }, 20, 80, 1, 0, 0, -1, 1, { { 10, 1 } }, 0x0, 0 },
+   { { 0, 4294967295u }, 20, 80, 1, 0, 0, -1, 1, { { 4, 5 } }, 0x0, 0 },
+   { { 0, 4294967295u }, 20, 80, 1, 0, 0, -1, 1, { { 28, 12 } }, 0x0, 0 },
+   { { 0, 4294967295u }, 20, 80, 1, 0, 0, -1, 1, { { 16, 15 } }, 0x0, 0 },
+};
+constexpr AsicUtils::PairRow pairs[] = {
+   { &layouts[0], &rows[0], &masks[0] }, { &layouts[1], &rows[0], &masks[0] }, { &layouts[2], &rows[0], &masks[0] }, {}, { &layouts[2], &rows[0], &masks[0] }, { &layouts[3], &rows[0], &masks[0] }, { &layouts[3], &rows[0], &masks[0] },
 };
 } // namespace RoutingVeloroInlifCsProfileData
 
 constinit AsicUtils::MetaInfo const RoutingVeloroInlifCsProfile::metaInfo{
-   Impl::unit, __LINE__, "RoutingVeloroInlifCsProfile", 59, true, 1, AsicUtils::ValueType::Raw1024,
-   RoutingVeloroInlifCsProfileData::fields, RoutingVeloroInlifCsProfileData::pairs, RoutingVeloroInlifCsProfileData::layouts, RoutingVeloroInlifCsProfileData::rows, RoutingVeloroInlifCsProfileData::masks, {}, {}
+   Impl::trace, Impl::source, __LINE__, "RoutingVeloroInlifCsProfile", 59, true, 1, AsicUtils::ValueType::Raw1024,
+   RoutingVeloroInlifCsProfileData::fields, RoutingVeloroInlifCsProfileData::pairs, {}, {}
 };
 
 Raw1024 RoutingVeloroInlifCsProfile::allFieldsMask() const {
@@ -3217,34 +3217,34 @@ constexpr AsicUtils::FieldInfo fields[] = {
    { "pphParsingStartOffsetB8Size", 560, AsicUtils::ValueType::U8, false },
    { "pphParsingStartOffsetB7Size", 559, AsicUtils::ValueType::U8, false },
 };
-constexpr AsicUtils::TableLayout layouts[] = {
-   { { 0, 1u }, 1, 1, 0, 0, 1, 59162, 2, { { 22, 2 }, { 4, 10 } }, 0x24a, 0 },
-   { { 0, 1u }, 1, 1, 0, 0, 1, 59162, 1, { { 18, 4 } }, 0x24a, 0 },
-   { { 0, 1u }, 1, 1, 0, 0, 1, 59162, 2, { { 24, 12 }, { 24, 24 } }, 0x24a, 0 },
-   { { 0, 1u }, 1, 1, 0, 0, 1, 59162, 1, { { 24, 12 } }, 0x24a, 0 },
-   { { 0, 1u }, 1, 1, 0, 0, 1, 59162, 1, { { 30, 11 } }, 0x24a, 0 },
-   { { 0, 1u }, 1, 1, 0, 0, 1, 59108, 2, { { 20, 2 }, { 2, 10 } }, 0x24a, 0 },
-   { { 0, 1u }, 1, 1, 0, 0, 1, 59108, 1, { { 28, 9 } }, 0x24a, 0 },
-   { { 0, 1u }, 1, 1, 0, 0, 1, 59108, 2, { { 20, 12 }, { 20, 24 } }, 0x24a, 0 },
-   { { 0, 1u }, 1, 1, 0, 0, 1, 59108, 1, { { 20, 12 } }, 0x24a, 0 },
-   { { 0, 1u }, 1, 1, 0, 0, 1, 59108, 1, { { 16, 11 } }, 0x24a, 0 },
-};
-constexpr AsicUtils::PairRow pairs[] = {
-   { 0, 0 }, { 1, 0 }, { 2, 1 }, { 255, 0 }, { 3, 1 }, { 4, 0 }, { 4, 0 },
-   { 5, 0 }, { 6, 0 }, { 7, 1 }, { 255, 0 }, { 8, 1 }, { 9, 0 }, { 9, 0 },
-};
-constexpr U32 masks[] = {
-   0xffff, 0x7ffff,
-};
 constexpr AsicUtils::FieldRow rows[] = {
    { 0, 8 }, { 8, 8 }, {}, {}, {}, { 0, 8 }, { 8, 8 }, { 16, 1 },
    { 17, 1 }, { 18, 1 },
 };
+constexpr U32 masks[] = {
+   0xffff, 0x7ffff,
+};
+constexpr AsicUtils::TableLayout layouts[] = {
+   { { 0, 1u }, 1, 4, 1, 0, 0, 59162, 2, { { 22, 2 }, { 4, 10 } }, 0x24a, 0 },
+   { { 0, 1u }, 1, 4, 1, 0, 0, 59162, 1, { { 18, 4 } }, 0x24a, 0 },
+   { { 0, 1u }, 1, 4, 1, 0, 0, 59162, 2, { { 24, 12 }, { 24, 24 } }, 0x24a, 0 },
+   { { 0, 1u }, 1, 4, 1, 0, 0, 59162, 1, { { 24, 12 } }, 0x24a, 0 },
+   { { 0, 1u }, 1, 4, 1, 0, 0, 59162, 1, { { 30, 11 } }, 0x24a, 0 },
+   { { 0, 1u }, 1, 4, 1, 0, 0, 59108, 2, { { 20, 2 }, { 2, 10 } }, 0x24a, 0 },
+   { { 0, 1u }, 1, 4, 1, 0, 0, 59108, 1, { { 28, 9 } }, 0x24a, 0 },
+   { { 0, 1u }, 1, 4, 1, 0, 0, 59108, 2, { { 20, 12 }, { 20, 24 } }, 0x24a, 0 },
+   { { 0, 1u }, 1, 4, 1, 0, 0, 59108, 1, { { 20, 12 } }, 0x24a, 0 },
+   { { 0, 1u }, 1, 4, 1, 0, 0, 59108, 1, { { 16, 11 } }, 0x24a, 0 },
+};
+constexpr AsicUtils::PairRow pairs[] = {
+   { &layouts[0], &rows[0], &masks[0] }, { &layouts[1], &rows[0], &masks[0] }, { &layouts[2], &rows[5], &masks[1] }, {}, { &layouts[3], &rows[5], &masks[1] }, { &layouts[4], &rows[0], &masks[0] }, { &layouts[4], &rows[0], &masks[0] },
+   { &layouts[5], &rows[0], &masks[0] }, { &layouts[6], &rows[0], &masks[0] }, { &layouts[7], &rows[5], &masks[1] }, {}, { &layouts[8], &rows[5], &masks[1] }, { &layouts[9], &rows[0], &masks[0] }, { &layouts[9], &rows[0], &masks[0] },
+};
 } // namespace SystemHeaderPphData
 
 constinit AsicUtils::MetaInfo const SystemHeaderPph::metaInfo{
-   Impl::unit, __LINE__, "SystemHeaderPph", 60, false, 2, AsicUtils::ValueType::U32,
-   SystemHeaderPphData::fields, SystemHeaderPphData::pairs, SystemHeaderPphData::layouts, SystemHeaderPphData::rows, SystemHeaderPphData::masks, {}, {}
+   Impl::trace, Impl::source, __LINE__, "SystemHeaderPph", 60, false, 2, AsicUtils::ValueType::U32,
+   SystemHeaderPphData::fields, SystemHeaderPphData::pairs, {}, {}
 };
 
 U32 SystemHeaderPph::allFieldsMask() const {
@@ -3258,27 +3258,27 @@ namespace TerminateNetworkHeadersData {
 constexpr AsicUtils::FieldInfo fields[] = {
    { "itppTerminateNetworkHeaders", 493, AsicUtils::ValueType::Raw128, false },
 };
-constexpr AsicUtils::TableLayout layouts[] = {
-   { { 0, 1u }, 4, 1, 0, 0, 1, 54546, 2, { { 14, 2 }, { 28, 9 } }, 0x308, 0 },
-   { { 0, 1u }, 4, 1, 0, 0, 1, 54546, 1, { { 8, 9 } }, 0x308, 0 },
-   { { 0, 1u }, 4, 1, 0, 0, 1, 54546, 2, { { 10, 14 }, { 10, 26 } }, 0x30b, 0 },
-   { { 0, 1u }, 4, 1, 0, 0, 1, 54546, 1, { { 10, 14 } }, 0x30b, 0 },
-   { { 0, 1u }, 4, 1, 0, 0, 1, 54546, 1, { { 2, 18 } }, 0x308, 0 },
-};
-constexpr AsicUtils::PairRow pairs[] = {
-   { 0, 0 }, { 1, 0 }, { 2, 0 }, { 255, 0 }, { 3, 0 }, { 4, 0 }, { 4, 0 },
+constexpr AsicUtils::FieldRow rows[] = {
+   { 0, 128 },
 };
 constexpr U32 masks[] = {
    0xffffffff, 0xffffffff, 0xffffffff, 0xffffffff,
 };
-constexpr AsicUtils::FieldRow rows[] = {
-   { 0, 128 },
+constexpr AsicUtils::TableLayout layouts[] = {
+   { { 0, 1u }, 4, 16, 1, 0, 0, 54546, 2, { { 14, 2 }, { 28, 9 } }, 0x308, 0 },
+   { { 0, 1u }, 4, 16, 1, 0, 0, 54546, 1, { { 8, 9 } }, 0x308, 0 },
+   { { 0, 1u }, 4, 16, 1, 0, 0, 54546, 2, { { 10, 14 }, { 10, 26 } }, 0x30b, 0 },
+   { { 0, 1u }, 4, 16, 1, 0, 0, 54546, 1, { { 10, 14 } }, 0x30b, 0 },
+   { { 0, 1u }, 4, 16, 1, 0, 0, 54546, 1, { { 2, 18 } }, 0x308, 0 },
+};
+constexpr AsicUtils::PairRow pairs[] = {
+   { &layouts[0], &rows[0], &masks[0] }, { &layouts[1], &rows[0], &masks[0] }, { &layouts[2], &rows[0], &masks[0] }, {}, { &layouts[3], &rows[0], &masks[0] }, { &layouts[4], &rows[0], &masks[0] }, { &layouts[4], &rows[0], &masks[0] },
 };
 } // namespace TerminateNetworkHeadersData
 
 constinit AsicUtils::MetaInfo const TerminateNetworkHeaders::metaInfo{
-   Impl::unit, __LINE__, "TerminateNetworkHeaders", 61, false, 1, AsicUtils::ValueType::Raw128,
-   TerminateNetworkHeadersData::fields, TerminateNetworkHeadersData::pairs, TerminateNetworkHeadersData::layouts, TerminateNetworkHeadersData::rows, TerminateNetworkHeadersData::masks, {}, {}
+   Impl::trace, Impl::source, __LINE__, "TerminateNetworkHeaders", 61, false, 1, AsicUtils::ValueType::Raw128,
+   TerminateNetworkHeadersData::fields, TerminateNetworkHeadersData::pairs, {}, {}
 };
 
 Raw128 TerminateNetworkHeaders::allFieldsMask() const {
@@ -3293,27 +3293,27 @@ constexpr AsicUtils::FieldInfo fields[] = {
    { "destination", 227, AsicUtils::ValueType::U32, false },
    { "addVsiDest", 53, AsicUtils::ValueType::U8, false },
 };
-constexpr AsicUtils::TableLayout layouts[] = {
-   { { 0, 32u }, 1, 1, 0, 0, 1, 8045, 2, { { 10, 2 }, { 24, 9 } }, 0x1420000, 0 },
-   { { 0, 32u }, 1, 1, 0, 0, 1, 8045, 1, { { 10, 10 } }, 0x1420000, 0 },
-   { { 0, 32u }, 1, 1, 0, 0, 1, 8045, 2, { { 6, 14 }, { 6, 26 } }, 0x1420000, 0 },
-   { { 0, 32u }, 1, 1, 0, 0, 1, 8045, 1, { { 6, 14 } }, 0x1420000, 0 },
-   { { 0, 32u }, 1, 1, 0, 0, 1, 8045, 1, { { 0, 17 } }, 0x1420000, 0 },
-};
-constexpr AsicUtils::PairRow pairs[] = {
-   { 0, 0 }, { 1, 0 }, { 2, 0 }, { 255, 0 }, { 3, 0 }, { 4, 0 }, { 4, 0 },
+constexpr AsicUtils::FieldRow rows[] = {
+   { 0, 21 }, { 21, 1 },
 };
 constexpr U32 masks[] = {
    0x3fffff,
 };
-constexpr AsicUtils::FieldRow rows[] = {
-   { 0, 21 }, { 21, 1 },
+constexpr AsicUtils::TableLayout layouts[] = {
+   { { 0, 32u }, 1, 4, 1, 0, 0, 8045, 2, { { 10, 2 }, { 24, 9 } }, 0x1420000, 0 },
+   { { 0, 32u }, 1, 4, 1, 0, 0, 8045, 1, { { 10, 10 } }, 0x1420000, 0 },
+   { { 0, 32u }, 1, 4, 1, 0, 0, 8045, 2, { { 6, 14 }, { 6, 26 } }, 0x1420000, 0 },
+   { { 0, 32u }, 1, 4, 1, 0, 0, 8045, 1, { { 6, 14 } }, 0x1420000, 0 },
+   { { 0, 32u }, 1, 4, 1, 0, 0, 8045, 1, { { 0, 17 } }, 0x1420000, 0 },
+};
+constexpr AsicUtils::PairRow pairs[] = {
+   { &layouts[0], &rows[0], &masks[0] }, { &layouts[1], &rows[0], &masks[0] }, { &layouts[2], &rows[0], &masks[0] }, {}, { &layouts[3], &rows[0], &masks[0] }, { &layouts[4], &rows[0], &masks[0] }, { &layouts[4], &rows[0], &masks[0] },
 };
 } // namespace UnknownDaProfileData
 
 constinit AsicUtils::MetaInfo const UnknownDaProfile::metaInfo{
-   Impl::unit, __LINE__, "UnknownDaProfile", 62, true, 1, AsicUtils::ValueType::U32,
-   UnknownDaProfileData::fields, UnknownDaProfileData::pairs, UnknownDaProfileData::layouts, UnknownDaProfileData::rows, UnknownDaProfileData::masks, {}, {}
+   Impl::trace, Impl::source, __LINE__, "UnknownDaProfile", 62, true, 1, AsicUtils::ValueType::U32,
+   UnknownDaProfileData::fields, UnknownDaProfileData::pairs, {}, {}
 };
 
 U32 UnknownDaProfile::allFieldsMask() const {
@@ -3330,14 +3330,8 @@ constexpr AsicUtils::FieldInfo fields[] = {
    { "ivlOrSvl", 494, AsicUtils::ValueType::U8, false },
    { "reserved", 631, AsicUtils::ValueType::U8, false },
 };
-constexpr AsicUtils::TableLayout layouts[] = {
-   { { 0, 4294967295u }, 20, 1, 0, 0, 1, -1, 1, { { 10, 1 } }, 0x0, 0 },
-   { { 0, 4294967295u }, 20, 1, 0, 0, 1, -1, 1, { { 4, 5 } }, 0x0, 0 },
-   { { 0, 4294967295u }, 20, 1, 0, 0, 1, -1, 1, { { 28, 12 } }, 0x0, 0 },
-   { { 0, 4294967295u }, 20, 1, 0, 0, 1, -1, 1, { { 16, 15 } }, 0x0, 0 },
-};
-constexpr AsicUtils::PairRow pairs[] = {
-   { 0, 0 }, { 1, 0 }, { 2, 0 }, { 255, 0 }, { 2, 0 }, { 3, 0 }, { 3, 0 },
+constexpr AsicUtils::FieldRow rows[] = {
+   { 0, 1 }, { 1, 1 }, { 2, 1 }, { 3, 1 },
 };
 constexpr U32 masks[] = {
    0xf, 0x0, 0x0, 0x0, 0x0, 0x0, 0x0, 0x0,
@@ -3345,14 +3339,20 @@ constexpr U32 masks[] = {
    0x0, 0x0, 0x0, 0x0, 0x0, 0x0, 0x0, 0x0,
    0x0, 0x0, 0x0, 0x0, 0x0, 0x0, 0x0, 0x0,
 };
-constexpr AsicUtils::FieldRow rows[] = {
-   { 0, 1 }, { 1, 1 }, { 2, 1 }, { 3, 1 },
+constexpr AsicUtils::TableLayout layouts[] = {
+   { { 0, 4294967295u }, 20, 80, 1, 0, 0, -1, 1, { { 10, 1 } }, 0x0, 0 },
+   { { 0, 4294967295u }, 20, 80, 1, 0, 0, -1, 1, { { 4, 5 } }, 0x0, 0 },
+   { { 0, 4294967295u }, 20, 80, 1, 0, 0, -1, 1, { { 28, 12 } }, 0x0, 0 },
+   { { 0, 4294967295u }, 20, 80, 1, 0, 0, -1, 1, { { 16, 15 } }, 0x0, 0 },
+};
+constexpr AsicUtils::PairRow pairs[] = {
+   { &layouts[0], &rows[0], &masks[0] }, { &layouts[1], &rows[0], &masks[0] }, { &layouts[2], &rows[0], &masks[0] }, {}, { &layouts[2], &rows[0], &masks[0] }, { &layouts[3], &rows[0], &masks[0] }, { &layouts[3], &rows[0], &masks[0] },
 };
 } // namespace VeloroL2FodoProfileData
 
 constinit AsicUtils::MetaInfo const VeloroL2FodoProfile::metaInfo{
-   Impl::unit, __LINE__, "VeloroL2FodoProfile", 63, true, 1, AsicUtils::ValueType::Raw1024,
-   VeloroL2FodoProfileData::fields, VeloroL2FodoProfileData::pairs, VeloroL2FodoProfileData::layouts, VeloroL2FodoProfileData::rows, VeloroL2FodoProfileData::masks, {}, {}
+   Impl::trace, Impl::source, __LINE__, "VeloroL2FodoProfile", 63, true, 1, AsicUtils::ValueType::Raw1024,
+   VeloroL2FodoProfileData::fields, VeloroL2FodoProfileData::pairs, {}, {}
 };
 
 Raw1024 VeloroL2FodoProfile::allFieldsMask() const {
@@ -3369,24 +3369,27 @@ constexpr AsicUtils::FieldInfo fields[] = {
    { "routingProfile2", 638, AsicUtils::ValueType::U8, false },
    { "routingProfile3", 639, AsicUtils::ValueType::U8, false },
 };
-constexpr AsicUtils::TableLayout layouts[] = {
-   { { 0, 256u }, 1, 3, 0, 0, 3, 8285, 2, { { 18, 2 }, { 0, 10 } }, 0x900000, 256 },
-   { { 0, 256u }, 1, 3, 0, 0, 3, 8285, 1, { { 6, 10 } }, 0x900000, 256 },
-   { { 0, 256u }, 1, 3, 0, 0, 3, 8285, 2, { { 2, 14 }, { 2, 26 } }, 0x900000, 256 },
-   { { 0, 256u }, 1, 3, 0, 0, 3, 8285, 1, { { 2, 14 } }, 0x900000, 256 },
-   { { 0, 256u }, 1, 3, 0, 0, 3, 8285, 1, { { 24, 12 } }, 0x900000, 256 },
-   { { 0, 256u }, 1, 2, 3, 3, 5, 7785, 2, { { 8, 2 }, { 22, 9 } }, 0x8d0300, 256 },
-   { { 0, 256u }, 1, 2, 3, 3, 5, 7785, 1, { { 8, 10 } }, 0x8d0300, 256 },
-   { { 0, 256u }, 1, 2, 3, 3, 5, 7785, 2, { { 4, 14 }, { 4, 26 } }, 0x8d0300, 256 },
-   { { 0, 256u }, 1, 2, 3, 3, 5, 7785, 1, { { 4, 14 } }, 0x8d0300, 256 },
-   { { 0, 256u }, 1, 2, 3, 3, 5, 7785, 1, { { 8, 17 } }, 0x8d0300, 256 },
-};
-constexpr AsicUtils::PairRow pairs[] = {
-   { 0, 0 }, { 1, 0 }, { 2, 0 }, { 255, 0 }, { 3, 0 }, { 4, 0 }, { 4, 0 },
-   { 5, 0 }, { 6, 0 }, { 7, 0 }, { 255, 0 }, { 8, 0 }, { 9, 0 }, { 9, 0 },
+constexpr AsicUtils::FieldRow rows[] = {
+   { 0, 5 }, { 5, 5 }, { 10, 5 }, { 15, 5 },
 };
 constexpr U32 masks[] = {
    0xfffff,
+};
+constexpr AsicUtils::TableLayout layouts[] = {
+   { { 0, 256u }, 1, 4, 3, 0, 0, 8285, 2, { { 18, 2 }, { 0, 10 } }, 0x900000, 256 },
+   { { 0, 256u }, 1, 4, 3, 0, 0, 8285, 1, { { 6, 10 } }, 0x900000, 256 },
+   { { 0, 256u }, 1, 4, 3, 0, 0, 8285, 2, { { 2, 14 }, { 2, 26 } }, 0x900000, 256 },
+   { { 0, 256u }, 1, 4, 3, 0, 0, 8285, 1, { { 2, 14 } }, 0x900000, 256 },
+   { { 0, 256u }, 1, 4, 3, 0, 0, 8285, 1, { { 24, 12 } }, 0x900000, 256 },
+   { { 0, 256u }, 1, 4, 2, 3, 3, 7785, 2, { { 8, 2 }, { 22, 9 } }, 0x8d0300, 256 },
+   { { 0, 256u }, 1, 4, 2, 3, 3, 7785, 1, { { 8, 10 } }, 0x8d0300, 256 },
+   { { 0, 256u }, 1, 4, 2, 3, 3, 7785, 2, { { 4, 14 }, { 4, 26 } }, 0x8d0300, 256 },
+   { { 0, 256u }, 1, 4, 2, 3, 3, 7785, 1, { { 4, 14 } }, 0x8d0300, 256 },
+   { { 0, 256u }, 1, 4, 2, 3, 3, 7785, 1, { { 8, 17 } }, 0x8d0300, 256 },
+};
+constexpr AsicUtils::PairRow pairs[] = {
+   { &layouts[0], &rows[0], &masks[0] }, { &layouts[1], &rows[0], &masks[0] }, { &layouts[2], &rows[0], &masks[0] }, {}, { &layouts[3], &rows[0], &masks[0] }, { &layouts[4], &rows[0], &masks[0] }, { &layouts[4], &rows[0], &masks[0] },
+   { &layouts[5], &rows[0], &masks[0] }, { &layouts[6], &rows[0], &masks[0] }, { &layouts[7], &rows[0], &masks[0] }, {}, { &layouts[8], &rows[0], &masks[0] }, { &layouts[9], &rows[0], &masks[0] }, { &layouts[9], &rows[0], &masks[0] },
 };
 constexpr U16 routingProfileRun[] = {
    0, 1, 2, 3,
@@ -3394,14 +3397,11 @@ constexpr U16 routingProfileRun[] = {
 constexpr AsicUtils::FieldRun runs[] = {
    { "routingProfile", routingProfileRun },
 };
-constexpr AsicUtils::FieldRow rows[] = {
-   { 0, 5 }, { 5, 5 }, { 10, 5 }, { 15, 5 },
-};
 } // namespace VsiProfileEnablersData
 
 constinit AsicUtils::MetaInfo const VsiProfileEnablers::metaInfo{
-   Impl::unit, __LINE__, "VsiProfileEnablers", 64, true, 2, AsicUtils::ValueType::U32,
-   VsiProfileEnablersData::fields, VsiProfileEnablersData::pairs, VsiProfileEnablersData::layouts, VsiProfileEnablersData::rows, VsiProfileEnablersData::masks, {}, VsiProfileEnablersData::runs
+   Impl::trace, Impl::source, __LINE__, "VsiProfileEnablers", 64, true, 2, AsicUtils::ValueType::U32,
+   VsiProfileEnablersData::fields, VsiProfileEnablersData::pairs, {}, VsiProfileEnablersData::runs
 };
 
 U32 VsiProfileEnablers::allFieldsMask() const {
@@ -3416,33 +3416,33 @@ constexpr AsicUtils::FieldInfo fields[] = {
    { "fwdDomainCsProfile", 322, AsicUtils::ValueType::U8, false },
    { "fwdDomainCsProfileVec", 323, AsicUtils::ValueType::U32, false },
 };
-constexpr AsicUtils::TableLayout layouts[] = {
-   { { 0, 128u }, 2, 1, 0, 0, 1, 8268, 2, { { 18, 2 }, { 0, 10 } }, 0xb70000, 0 },
-   { { 0, 128u }, 2, 1, 0, 0, 1, 8268, 1, { { 6, 10 } }, 0xb70000, 0 },
-   { { 0, 128u }, 2, 1, 0, 0, 1, 8268, 2, { { 2, 14 }, { 2, 26 } }, 0xb70000, 0 },
-   { { 0, 128u }, 2, 1, 0, 0, 1, 8268, 1, { { 2, 14 } }, 0xb70000, 0 },
-   { { 0, 128u }, 2, 1, 0, 0, 1, 8268, 1, { { 24, 12 } }, 0xb70000, 0 },
-   { { 0, 128u }, 2, 1, 0, 0, 1, 7770, 2, { { 8, 2 }, { 22, 9 } }, 0xb50000, 0 },
-   { { 0, 128u }, 2, 1, 0, 0, 1, 7770, 1, { { 8, 10 } }, 0xb50000, 0 },
-   { { 0, 128u }, 2, 1, 0, 0, 1, 7770, 2, { { 4, 14 }, { 4, 26 } }, 0xb50000, 0 },
-   { { 0, 128u }, 2, 1, 0, 0, 1, 7770, 1, { { 4, 14 } }, 0xb50000, 0 },
-   { { 0, 128u }, 2, 1, 0, 0, 1, 7770, 1, { { 8, 17 } }, 0xb50000, 0 },
-};
-constexpr AsicUtils::PairRow pairs[] = {
-   { 0, 0 }, { 1, 0 }, { 2, 0 }, { 255, 0 }, { 3, 0 }, { 4, 0 }, { 4, 0 },
-   { 5, 0 }, { 6, 0 }, { 7, 0 }, { 255, 0 }, { 8, 0 }, { 9, 0 }, { 9, 0 },
+constexpr AsicUtils::FieldRow rows[] = {
+   { 0, 4 }, { 0, 32 },
 };
 constexpr U32 masks[] = {
    0xffffffff, 0x0,
 };
-constexpr AsicUtils::FieldRow rows[] = {
-   { 0, 4 }, { 0, 32 },
+constexpr AsicUtils::TableLayout layouts[] = {
+   { { 0, 128u }, 2, 8, 1, 0, 0, 8268, 2, { { 18, 2 }, { 0, 10 } }, 0xb70000, 0 },
+   { { 0, 128u }, 2, 8, 1, 0, 0, 8268, 1, { { 6, 10 } }, 0xb70000, 0 },
+   { { 0, 128u }, 2, 8, 1, 0, 0, 8268, 2, { { 2, 14 }, { 2, 26 } }, 0xb70000, 0 },
+   { { 0, 128u }, 2, 8, 1, 0, 0, 8268, 1, { { 2, 14 } }, 0xb70000, 0 },
+   { { 0, 128u }, 2, 8, 1, 0, 0, 8268, 1, { { 24, 12 } }, 0xb70000, 0 },
+   { { 0, 128u }, 2, 8, 1, 0, 0, 7770, 2, { { 8, 2 }, { 22, 9 } }, 0xb50000, 0 },
+   { { 0, 128u }, 2, 8, 1, 0, 0, 7770, 1, { { 8, 10 } }, 0xb50000, 0 },
+   { { 0, 128u }, 2, 8, 1, 0, 0, 7770, 2, { { 4, 14 }, { 4, 26 } }, 0xb50000, 0 },
+   { { 0, 128u }, 2, 8, 1, 0, 0, 7770, 1, { { 4, 14 } }, 0xb50000, 0 },
+   { { 0, 128u }, 2, 8, 1, 0, 0, 7770, 1, { { 8, 17 } }, 0xb50000, 0 },
+};
+constexpr AsicUtils::PairRow pairs[] = {
+   { &layouts[0], &rows[0], &masks[0] }, { &layouts[1], &rows[0], &masks[0] }, { &layouts[2], &rows[0], &masks[0] }, {}, { &layouts[3], &rows[0], &masks[0] }, { &layouts[4], &rows[0], &masks[0] }, { &layouts[4], &rows[0], &masks[0] },
+   { &layouts[5], &rows[0], &masks[0] }, { &layouts[6], &rows[0], &masks[0] }, { &layouts[7], &rows[0], &masks[0] }, {}, { &layouts[8], &rows[0], &masks[0] }, { &layouts[9], &rows[0], &masks[0] }, { &layouts[9], &rows[0], &masks[0] },
 };
 } // namespace VsiProfileFlagsData
 
 constinit AsicUtils::MetaInfo const VsiProfileFlags::metaInfo{
-   Impl::unit, __LINE__, "VsiProfileFlags", 65, true, 2, AsicUtils::ValueType::U64,
-   VsiProfileFlagsData::fields, VsiProfileFlagsData::pairs, VsiProfileFlagsData::layouts, VsiProfileFlagsData::rows, VsiProfileFlagsData::masks, {}, {}
+   Impl::trace, Impl::source, __LINE__, "VsiProfileFlags", 65, true, 2, AsicUtils::ValueType::U64,
+   VsiProfileFlagsData::fields, VsiProfileFlagsData::pairs, {}, {}
 };
 
 U64 VsiProfileFlags::allFieldsMask() const {
@@ -3465,34 +3465,34 @@ constexpr AsicUtils::FieldInfo fields[] = {
    { "ipv4HeaderLengthErrorFwd", 433, AsicUtils::ValueType::U8, false },
    { "ipv4HeaderLengthErrorSnp", 434, AsicUtils::ValueType::U8, false },
 };
-constexpr AsicUtils::TableLayout layouts[] = {
-   { { 0, 1u }, 2, 1, 0, 0, 1, 54906, 2, { { 18, 2 }, { 0, 10 } }, 0x16d, 0 },
-   { { 0, 1u }, 2, 1, 0, 0, 1, 54906, 1, { { 6, 10 } }, 0x175, 0 },
-   { { 0, 1u }, 2, 1, 0, 0, 1, 54906, 2, { { 2, 14 }, { 2, 26 } }, 0x175, 0 },
-   { { 0, 1u }, 2, 1, 0, 0, 1, 54906, 1, { { 2, 14 } }, 0x175, 0 },
-   { { 0, 1u }, 2, 1, 0, 0, 1, 54906, 1, { { 24, 12 } }, 0x175, 0 },
-   { { 0, 1u }, 2, 1, 0, 0, 1, 54135, 2, { { 8, 2 }, { 22, 9 } }, 0x16f, 0 },
-   { { 0, 1u }, 2, 1, 0, 0, 1, 54135, 1, { { 8, 10 } }, 0x16f, 0 },
-   { { 0, 1u }, 2, 1, 0, 0, 1, 54135, 2, { { 4, 14 }, { 4, 26 } }, 0x16f, 0 },
-   { { 0, 1u }, 2, 1, 0, 0, 1, 54135, 1, { { 4, 14 } }, 0x16f, 0 },
-   { { 0, 1u }, 2, 1, 0, 0, 1, 54135, 1, { { 8, 17 } }, 0x16f, 0 },
-};
-constexpr AsicUtils::PairRow pairs[] = {
-   { 0, 0 }, { 1, 0 }, { 2, 0 }, { 255, 0 }, { 3, 0 }, { 4, 0 }, { 4, 0 },
-   { 5, 0 }, { 6, 0 }, { 7, 0 }, { 255, 0 }, { 8, 0 }, { 9, 0 }, { 9, 0 },
-};
-constexpr U32 masks[] = {
-   0xffffffff, 0x7,
-};
 constexpr AsicUtils::FieldRow rows[] = {
    { 0, 4 }, { 4, 3 }, { 7, 4 }, { 11, 3 }, { 14, 4 }, { 18, 3 }, { 21, 4 }, { 25, 3 },
    { 28, 4 }, { 32, 3 },
 };
+constexpr U32 masks[] = {
+   0xffffffff, 0x7,
+};
+constexpr AsicUtils::TableLayout layouts[] = {
+   { { 0, 1u }, 2, 8, 1, 0, 0, 54906, 2, { { 18, 2 }, { 0, 10 } }, 0x16d, 0 },
+   { { 0, 1u }, 2, 8, 1, 0, 0, 54906, 1, { { 6, 10 } }, 0x175, 0 },
+   { { 0, 1u }, 2, 8, 1, 0, 0, 54906, 2, { { 2, 14 }, { 2, 26 } }, 0x175, 0 },
+   { { 0, 1u }, 2, 8, 1, 0, 0, 54906, 1, { { 2, 14 } }, 0x175, 0 },
+   { { 0, 1u }, 2, 8, 1, 0, 0, 54906, 1, { { 24, 12 } }, 0x175, 0 },
+   { { 0, 1u }, 2, 8, 1, 0, 0, 54135, 2, { { 8, 2 }, { 22, 9 } }, 0x16f, 0 },
+   { { 0, 1u }, 2, 8, 1, 0, 0, 54135, 1, { { 8, 10 } }, 0x16f, 0 },
+   { { 0, 1u }, 2, 8, 1, 0, 0, 54135, 2, { { 4, 14 }, { 4, 26 } }, 0x16f, 0 },
+   { { 0, 1u }, 2, 8, 1, 0, 0, 54135, 1, { { 4, 14 } }, 0x16f, 0 },
+   { { 0, 1u }, 2, 8, 1, 0, 0, 54135, 1, { { 8, 17 } }, 0x16f, 0 },
+};
+constexpr AsicUtils::PairRow pairs[] = {
+   { &layouts[0], &rows[0], &masks[0] }, { &layouts[1], &rows[0], &masks[0] }, { &layouts[2], &rows[0], &masks[0] }, {}, { &layouts[3], &rows[0], &masks[0] }, { &layouts[4], &rows[0], &masks[0] }, { &layouts[4], &rows[0], &masks[0] },
+   { &layouts[5], &rows[0], &masks[0] }, { &layouts[6], &rows[0], &masks[0] }, { &layouts[7], &rows[0], &masks[0] }, {}, { &layouts[8], &rows[0], &masks[0] }, { &layouts[9], &rows[0], &masks[0] }, { &layouts[9], &rows[0], &masks[0] },
+};
 } // namespace VttTrapStrengths3Data
 
 constinit AsicUtils::MetaInfo const VttTrapStrengths3::metaInfo{
-   Impl::unit, __LINE__, "VttTrapStrengths3", 66, false, 2, AsicUtils::ValueType::U64,
-   VttTrapStrengths3Data::fields, VttTrapStrengths3Data::pairs, VttTrapStrengths3Data::layouts, VttTrapStrengths3Data::rows, VttTrapStrengths3Data::masks, {}, {}
+   Impl::trace, Impl::source, __LINE__, "VttTrapStrengths3", 66, false, 2, AsicUtils::ValueType::U64,
+   VttTrapStrengths3Data::fields, VttTrapStrengths3Data::pairs, {}, {}
 };
 
 U64 VttTrapStrengths3::allFieldsMask() const {
@@ -3517,34 +3517,34 @@ constexpr AsicUtils::FieldInfo fields[] = {
    { "ipv4DipZeroFwd", 425, AsicUtils::ValueType::U8, false },
    { "ipv4DipZeroSnp", 426, AsicUtils::ValueType::U8, false },
 };
-constexpr AsicUtils::TableLayout layouts[] = {
-   { { 0, 1u }, 2, 1, 0, 0, 1, 54907, 2, { { 18, 2 }, { 0, 10 } }, 0x16e, 0 },
-   { { 0, 1u }, 2, 1, 0, 0, 1, 54907, 1, { { 6, 10 } }, 0x177, 0 },
-   { { 0, 1u }, 2, 1, 0, 0, 1, 54907, 2, { { 2, 14 }, { 2, 26 } }, 0x177, 0 },
-   { { 0, 1u }, 2, 1, 0, 0, 1, 54907, 1, { { 2, 14 } }, 0x177, 0 },
-   { { 0, 1u }, 2, 1, 0, 0, 1, 54907, 1, { { 24, 12 } }, 0x177, 0 },
-   { { 0, 1u }, 2, 1, 0, 0, 1, 54136, 2, { { 8, 2 }, { 22, 9 } }, 0x170, 0 },
-   { { 0, 1u }, 2, 1, 0, 0, 1, 54136, 1, { { 8, 10 } }, 0x170, 0 },
-   { { 0, 1u }, 2, 1, 0, 0, 1, 54136, 2, { { 4, 14 }, { 4, 26 } }, 0x170, 0 },
-   { { 0, 1u }, 2, 1, 0, 0, 1, 54136, 1, { { 4, 14 } }, 0x170, 0 },
-   { { 0, 1u }, 2, 1, 0, 0, 1, 54136, 1, { { 8, 17 } }, 0x170, 0 },
-};
-constexpr AsicUtils::PairRow pairs[] = {
-   { 0, 0 }, { 1, 0 }, { 2, 0 }, { 255, 0 }, { 3, 0 }, { 4, 0 }, { 4, 0 },
-   { 5, 0 }, { 6, 0 }, { 7, 0 }, { 255, 0 }, { 8, 0 }, { 9, 0 }, { 9, 0 },
-};
-constexpr U32 masks[] = {
-   0xffffffff, 0x3ff,
-};
 constexpr AsicUtils::FieldRow rows[] = {
    { 0, 4 }, { 4, 3 }, { 7, 4 }, { 11, 3 }, { 14, 4 }, { 18, 3 }, { 21, 4 }, { 25, 3 },
    { 28, 4 }, { 32, 3 }, { 35, 4 }, { 39, 3 },
 };
+constexpr U32 masks[] = {
+   0xffffffff, 0x3ff,
+};
+constexpr AsicUtils::TableLayout layouts[] = {
+   { { 0, 1u }, 2, 8, 1, 0, 0, 54907, 2, { { 18, 2 }, { 0, 10 } }, 0x16e, 0 },
+   { { 0, 1u }, 2, 8, 1, 0, 0, 54907, 1, { { 6, 10 } }, 0x177, 0 },
+   { { 0, 1u }, 2, 8, 1, 0, 0, 54907, 2, { { 2, 14 }, { 2, 26 } }, 0x177, 0 },
+   { { 0, 1u }, 2, 8, 1, 0, 0, 54907, 1, { { 2, 14 } }, 0x177, 0 },
+   { { 0, 1u }, 2, 8, 1, 0, 0, 54907, 1, { { 24, 12 } }, 0x177, 0 },
+   { { 0, 1u }, 2, 8, 1, 0, 0, 54136, 2, { { 8, 2 }, { 22, 9 } }, 0x170, 0 },
+   { { 0, 1u }, 2, 8, 1, 0, 0, 54136, 1, { { 8, 10 } }, 0x170, 0 },
+   { { 0, 1u }, 2, 8, 1, 0, 0, 54136, 2, { { 4, 14 }, { 4, 26 } }, 0x170, 0 },
+   { { 0, 1u }, 2, 8, 1, 0, 0, 54136, 1, { { 4, 14 } }, 0x170, 0 },
+   { { 0, 1u }, 2, 8, 1, 0, 0, 54136, 1, { { 8, 17 } }, 0x170, 0 },
+};
+constexpr AsicUtils::PairRow pairs[] = {
+   { &layouts[0], &rows[0], &masks[0] }, { &layouts[1], &rows[0], &masks[0] }, { &layouts[2], &rows[0], &masks[0] }, {}, { &layouts[3], &rows[0], &masks[0] }, { &layouts[4], &rows[0], &masks[0] }, { &layouts[4], &rows[0], &masks[0] },
+   { &layouts[5], &rows[0], &masks[0] }, { &layouts[6], &rows[0], &masks[0] }, { &layouts[7], &rows[0], &masks[0] }, {}, { &layouts[8], &rows[0], &masks[0] }, { &layouts[9], &rows[0], &masks[0] }, { &layouts[9], &rows[0], &masks[0] },
+};
 } // namespace VttTrapStrengths4Data
 
 constinit AsicUtils::MetaInfo const VttTrapStrengths4::metaInfo{
-   Impl::unit, __LINE__, "VttTrapStrengths4", 67, false, 2, AsicUtils::ValueType::U64,
-   VttTrapStrengths4Data::fields, VttTrapStrengths4Data::pairs, VttTrapStrengths4Data::layouts, VttTrapStrengths4Data::rows, VttTrapStrengths4Data::masks, {}, {}
+   Impl::trace, Impl::source, __LINE__, "VttTrapStrengths4", 67, false, 2, AsicUtils::ValueType::U64,
+   VttTrapStrengths4Data::fields, VttTrapStrengths4Data::pairs, {}, {}
 };
 
 U64 VttTrapStrengths4::allFieldsMask() const {
@@ -3569,34 +3569,34 @@ constexpr AsicUtils::FieldInfo fields[] = {
    { "ipv6UnspecifiedDestinationFwd", 478, AsicUtils::ValueType::U8, false },
    { "ipv6UnspecifiedDestinationSnp", 479, AsicUtils::ValueType::U8, false },
 };
-constexpr AsicUtils::TableLayout layouts[] = {
-   { { 0, 1u }, 2, 1, 0, 0, 1, 54908, 2, { { 18, 2 }, { 0, 10 } }, 0x16f, 0 },
-   { { 0, 1u }, 2, 1, 0, 0, 1, 54908, 1, { { 6, 10 } }, 0x179, 0 },
-   { { 0, 1u }, 2, 1, 0, 0, 1, 54908, 2, { { 2, 14 }, { 2, 26 } }, 0x179, 0 },
-   { { 0, 1u }, 2, 1, 0, 0, 1, 54908, 1, { { 2, 14 } }, 0x179, 0 },
-   { { 0, 1u }, 2, 1, 0, 0, 1, 54908, 1, { { 24, 12 } }, 0x179, 0 },
-   { { 0, 1u }, 2, 1, 0, 0, 1, 54137, 2, { { 8, 2 }, { 22, 9 } }, 0x171, 0 },
-   { { 0, 1u }, 2, 1, 0, 0, 1, 54137, 1, { { 8, 10 } }, 0x172, 0 },
-   { { 0, 1u }, 2, 1, 0, 0, 1, 54137, 2, { { 4, 14 }, { 4, 26 } }, 0x172, 0 },
-   { { 0, 1u }, 2, 1, 0, 0, 1, 54137, 1, { { 4, 14 } }, 0x172, 0 },
-   { { 0, 1u }, 2, 1, 0, 0, 1, 54137, 1, { { 8, 17 } }, 0x172, 0 },
-};
-constexpr AsicUtils::PairRow pairs[] = {
-   { 0, 0 }, { 1, 0 }, { 2, 0 }, { 255, 0 }, { 3, 0 }, { 4, 0 }, { 4, 0 },
-   { 5, 0 }, { 6, 0 }, { 7, 0 }, { 255, 0 }, { 8, 0 }, { 9, 0 }, { 9, 0 },
-};
-constexpr U32 masks[] = {
-   0xffffffff, 0x3ff,
-};
 constexpr AsicUtils::FieldRow rows[] = {
    { 0, 4 }, { 4, 3 }, { 7, 4 }, { 11, 3 }, { 14, 4 }, { 18, 3 }, { 21, 4 }, { 25, 3 },
    { 28, 4 }, { 32, 3 }, { 35, 4 }, { 39, 3 },
 };
+constexpr U32 masks[] = {
+   0xffffffff, 0x3ff,
+};
+constexpr AsicUtils::TableLayout layouts[] = {
+   { { 0, 1u }, 2, 8, 1, 0, 0, 54908, 2, { { 18, 2 }, { 0, 10 } }, 0x16f, 0 },
+   { { 0, 1u }, 2, 8, 1, 0, 0, 54908, 1, { { 6, 10 } }, 0x179, 0 },
+   { { 0, 1u }, 2, 8, 1, 0, 0, 54908, 2, { { 2, 14 }, { 2, 26 } }, 0x179, 0 },
+   { { 0, 1u }, 2, 8, 1, 0, 0, 54908, 1, { { 2, 14 } }, 0x179, 0 },
+   { { 0, 1u }, 2, 8, 1, 0, 0, 54908, 1, { { 24, 12 } }, 0x179, 0 },
+   { { 0, 1u }, 2, 8, 1, 0, 0, 54137, 2, { { 8, 2 }, { 22, 9 } }, 0x171, 0 },
+   { { 0, 1u }, 2, 8, 1, 0, 0, 54137, 1, { { 8, 10 } }, 0x172, 0 },
+   { { 0, 1u }, 2, 8, 1, 0, 0, 54137, 2, { { 4, 14 }, { 4, 26 } }, 0x172, 0 },
+   { { 0, 1u }, 2, 8, 1, 0, 0, 54137, 1, { { 4, 14 } }, 0x172, 0 },
+   { { 0, 1u }, 2, 8, 1, 0, 0, 54137, 1, { { 8, 17 } }, 0x172, 0 },
+};
+constexpr AsicUtils::PairRow pairs[] = {
+   { &layouts[0], &rows[0], &masks[0] }, { &layouts[1], &rows[0], &masks[0] }, { &layouts[2], &rows[0], &masks[0] }, {}, { &layouts[3], &rows[0], &masks[0] }, { &layouts[4], &rows[0], &masks[0] }, { &layouts[4], &rows[0], &masks[0] },
+   { &layouts[5], &rows[0], &masks[0] }, { &layouts[6], &rows[0], &masks[0] }, { &layouts[7], &rows[0], &masks[0] }, {}, { &layouts[8], &rows[0], &masks[0] }, { &layouts[9], &rows[0], &masks[0] }, { &layouts[9], &rows[0], &masks[0] },
+};
 } // namespace VttTrapStrengths5Data
 
 constinit AsicUtils::MetaInfo const VttTrapStrengths5::metaInfo{
-   Impl::unit, __LINE__, "VttTrapStrengths5", 68, false, 2, AsicUtils::ValueType::U64,
-   VttTrapStrengths5Data::fields, VttTrapStrengths5Data::pairs, VttTrapStrengths5Data::layouts, VttTrapStrengths5Data::rows, VttTrapStrengths5Data::masks, {}, {}
+   Impl::trace, Impl::source, __LINE__, "VttTrapStrengths5", 68, false, 2, AsicUtils::ValueType::U64,
+   VttTrapStrengths5Data::fields, VttTrapStrengths5Data::pairs, {}, {}
 };
 
 U64 VttTrapStrengths5::allFieldsMask() const {
@@ -3621,34 +3621,34 @@ constexpr AsicUtils::FieldInfo fields[] = {
    { "ipv6SiteLocalDestinationFwd", 476, AsicUtils::ValueType::U8, false },
    { "ipv6SiteLocalDestinationSnp", 477, AsicUtils::ValueType::U8, false },
 };
-constexpr AsicUtils::TableLayout layouts[] = {
-   { { 0, 1u }, 2, 1, 0, 0, 1, 54909, 2, { { 18, 2 }, { 0, 10 } }, 0x170, 0 },
-   { { 0, 1u }, 2, 1, 0, 0, 1, 54909, 1, { { 6, 10 } }, 0x17b, 0 },
-   { { 0, 1u }, 2, 1, 0, 0, 1, 54909, 2, { { 2, 14 }, { 2, 26 } }, 0x17b, 0 },
-   { { 0, 1u }, 2, 1, 0, 0, 1, 54909, 1, { { 2, 14 } }, 0x17b, 0 },
-   { { 0, 1u }, 2, 1, 0, 0, 1, 54909, 1, { { 24, 12 } }, 0x17b, 0 },
-   { { 0, 1u }, 2, 1, 0, 0, 1, 54138, 2, { { 8, 2 }, { 22, 9 } }, 0x172, 0 },
-   { { 0, 1u }, 2, 1, 0, 0, 1, 54138, 1, { { 8, 10 } }, 0x173, 0 },
-   { { 0, 1u }, 2, 1, 0, 0, 1, 54138, 2, { { 4, 14 }, { 4, 26 } }, 0x173, 0 },
-   { { 0, 1u }, 2, 1, 0, 0, 1, 54138, 1, { { 4, 14 } }, 0x173, 0 },
-   { { 0, 1u }, 2, 1, 0, 0, 1, 54138, 1, { { 8, 17 } }, 0x173, 0 },
-};
-constexpr AsicUtils::PairRow pairs[] = {
-   { 0, 0 }, { 1, 0 }, { 2, 0 }, { 255, 0 }, { 3, 0 }, { 4, 0 }, { 4, 0 },
-   { 5, 0 }, { 6, 0 }, { 7, 0 }, { 255, 0 }, { 8, 0 }, { 9, 0 }, { 9, 0 },
-};
-constexpr U32 masks[] = {
-   0xffffffff, 0x3ff,
-};
 constexpr AsicUtils::FieldRow rows[] = {
    { 0, 4 }, { 4, 3 }, { 7, 4 }, { 11, 3 }, { 14, 4 }, { 18, 3 }, { 21, 4 }, { 25, 3 },
    { 28, 4 }, { 32, 3 }, { 35, 4 }, { 39, 3 },
 };
+constexpr U32 masks[] = {
+   0xffffffff, 0x3ff,
+};
+constexpr AsicUtils::TableLayout layouts[] = {
+   { { 0, 1u }, 2, 8, 1, 0, 0, 54909, 2, { { 18, 2 }, { 0, 10 } }, 0x170, 0 },
+   { { 0, 1u }, 2, 8, 1, 0, 0, 54909, 1, { { 6, 10 } }, 0x17b, 0 },
+   { { 0, 1u }, 2, 8, 1, 0, 0, 54909, 2, { { 2, 14 }, { 2, 26 } }, 0x17b, 0 },
+   { { 0, 1u }, 2, 8, 1, 0, 0, 54909, 1, { { 2, 14 } }, 0x17b, 0 },
+   { { 0, 1u }, 2, 8, 1, 0, 0, 54909, 1, { { 24, 12 } }, 0x17b, 0 },
+   { { 0, 1u }, 2, 8, 1, 0, 0, 54138, 2, { { 8, 2 }, { 22, 9 } }, 0x172, 0 },
+   { { 0, 1u }, 2, 8, 1, 0, 0, 54138, 1, { { 8, 10 } }, 0x173, 0 },
+   { { 0, 1u }, 2, 8, 1, 0, 0, 54138, 2, { { 4, 14 }, { 4, 26 } }, 0x173, 0 },
+   { { 0, 1u }, 2, 8, 1, 0, 0, 54138, 1, { { 4, 14 } }, 0x173, 0 },
+   { { 0, 1u }, 2, 8, 1, 0, 0, 54138, 1, { { 8, 17 } }, 0x173, 0 },
+};
+constexpr AsicUtils::PairRow pairs[] = {
+   { &layouts[0], &rows[0], &masks[0] }, { &layouts[1], &rows[0], &masks[0] }, { &layouts[2], &rows[0], &masks[0] }, {}, { &layouts[3], &rows[0], &masks[0] }, { &layouts[4], &rows[0], &masks[0] }, { &layouts[4], &rows[0], &masks[0] },
+   { &layouts[5], &rows[0], &masks[0] }, { &layouts[6], &rows[0], &masks[0] }, { &layouts[7], &rows[0], &masks[0] }, {}, { &layouts[8], &rows[0], &masks[0] }, { &layouts[9], &rows[0], &masks[0] }, { &layouts[9], &rows[0], &masks[0] },
+};
 } // namespace VttTrapStrengths6Data
 
 constinit AsicUtils::MetaInfo const VttTrapStrengths6::metaInfo{
-   Impl::unit, __LINE__, "VttTrapStrengths6", 69, false, 2, AsicUtils::ValueType::U64,
-   VttTrapStrengths6Data::fields, VttTrapStrengths6Data::pairs, VttTrapStrengths6Data::layouts, VttTrapStrengths6Data::rows, VttTrapStrengths6Data::masks, {}, {}
+   Impl::trace, Impl::source, __LINE__, "VttTrapStrengths6", 69, false, 2, AsicUtils::ValueType::U64,
+   VttTrapStrengths6Data::fields, VttTrapStrengths6Data::pairs, {}, {}
 };
 
 U64 VttTrapStrengths6::allFieldsMask() const {
@@ -3748,7 +3748,7 @@ std::shared_ptr< AsicUtils::AsicBase > stringObj( Corvo::String name, ChipType c
    auto const objMapIter = objMap.find( name );
    if ( objMapIter == objMap.end() ) {
       Rex::SassertHelper( "objMapIter != objMap.end()",
-                          { Impl::unit.source, __LINE__, "std::shared_ptr<AsicUtils::AsicBase> Hardware::stringObj(String, ChipType, U8)" } )
+                          { Impl::source, __LINE__, "std::shared_ptr<AsicUtils::AsicBase> Hardware::stringObj(String, ChipType, U8)" } )
          << "invalid name given: " << name;
    }
    return objMapIter->second( chipType, variant );

@@ -37,11 +37,11 @@ class ClassWriter {
    std::string write() {
       out_ << "\n// ---- " << name_ << "\n\nnamespace " << data_ << " {\n";
       fields();
-      layouts();
+      rows();
       masks();
+      layouts();
       tags();
       runs();
-      rows();
       out_ << "} // namespace " << data_ << "\n\n";
       metaInfo();
       members();
@@ -65,9 +65,8 @@ class ClassWriter {
          selectors.push_back( "{ " + std::to_string( a ) + ", " + std::to_string( b ) + " }" );
       }
       return "{ { 0, " + std::to_string( layout.entries.value_or( 1 ) ) + "u }, " + std::to_string( layout.width ) +
-             ", " + std::to_string( layout.arrayElements ) + ", " + std::to_string( layout.arrayIndexMin ) + ", " +
-             std::to_string( layout.arrayIndexFirst ) + ", " +
-             std::to_string( layout.arrayIndexFirst + layout.arrayElements ) + ", " +
+             ", " + std::to_string( layout.width * 4 ) + ", " + std::to_string( layout.arrayElements ) + ", " +
+             std::to_string( layout.arrayIndexMin ) + ", " + std::to_string( layout.arrayIndexFirst ) + ", " +
              std::to_string( layout.sdkDefinedId.value_or( -1 ) ) + ", " + std::to_string( layout.instances ) + ", { " +
              list( selectors ) + " }, " + hex( layout.base ) + ", " + std::to_string( layout.arrayStep ) + " }";
    }
@@ -79,7 +78,7 @@ class ClassWriter {
          for ( unsigned chip = firstChip; chip < firstChip + chipCount; ++chip ) {
             auto const found = table_.layouts.find( { chip, variant } );
             if ( found == table_.layouts.end() ) {
-               pairs.add( "{ 255, 0 }" );
+               pairs.add( "{}" );
                continue;
             }
             std::string const text = layoutText( found->second );
@@ -87,8 +86,10 @@ class ClassWriter {
             if ( place == distinct.end() ) {
                place = distinct.insert( distinct.end(), text );
             }
-            pairs.add( "{ " + std::to_string( place - distinct.begin() ) + ", " +
-                       std::to_string( formats_.formatOf.at( found->first ) ) + " }" );
+            auto const format = formats_.formatOf.at( found->first );
+            pairs.add( "{ &layouts[" + std::to_string( place - distinct.begin() ) + "], &rows[" +
+                       std::to_string( format * table_.fieldNames.size() ) + "], &masks[" +
+                       std::to_string( format * typeBits( entryType_ ) / 32 ) + "] }" );
          }
       }
       Items items( 1 );
@@ -158,10 +159,10 @@ class ClassWriter {
    }
 
    void metaInfo() {
-      out_ << "constinit AsicUtils::MetaInfo const " << name_ << "::metaInfo{\n   Impl::unit, __LINE__, \"" << name_
-           << "\", " << number_ << ", " << ( table_.isMemory ? "true" : "false" ) << ", " << table_.variants
+      out_ << "constinit AsicUtils::MetaInfo const " << name_
+           << "::metaInfo{\n   Impl::trace, Impl::source, __LINE__, \"" << name_ << "\", " << number_ << ", "
+           << ( table_.isMemory ? "true" : "false" ) << ", " << table_.variants
            << ", AsicUtils::ValueType::" << entryType_ << ",\n   " << data_ << "::fields, " << data_ << "::pairs, "
-           << data_ << "::layouts, " << data_ << "::rows, " << data_ << "::masks, "
            << ( table_.hasTag() ? data_ + "::tags" : "{}" ) << ", "
            << ( table_.indexed.empty() ? "{}" : data_ + "::runs" ) << "\n};\n\n";
    }
@@ -196,7 +197,7 @@ Rex::TraceFacility const trace{ "AsicUtilsDaceFapNiPluginL3UnicastMetaInfo" };
 
 namespace {
 
-constinit AsicUtils::MetaInfoUnit const unit{ "generated/DaceFapNiPluginL3UnicastMetaInfo.cpp", trace };
+char const source[] = "generated/DaceFapNiPluginL3UnicastMetaInfo.cpp";
 
 } // namespace
 
@@ -235,7 +236,7 @@ std::shared_ptr< AsicUtils::AsicBase > stringObj( Corvo::String name, ChipType c
    auto const objMapIter = objMap.find( name );
    if ( objMapIter == objMap.end() ) {
       Rex::SassertHelper( "objMapIter != objMap.end()",
-                          { Impl::unit.source, __LINE__, "std::shared_ptr<AsicUtils::AsicBase> Hardware::stringObj(String, ChipType, U8)" } )
+                          { Impl::source, __LINE__, "std::shared_ptr<AsicUtils::AsicBase> Hardware::stringObj(String, ChipType, U8)" } )
          << "invalid name given: " << name;
    }
    return objMapIter->second( chipType, variant );

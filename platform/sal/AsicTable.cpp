@@ -17,8 +17,9 @@ namespace {
 // words, or else a copy.
 class Words {
  public:
-   Words( U8 const * buf, unsigned width )
-      : inPlace_( reinterpret_cast< std::uintptr_t >( buf ) % alignof( U32 ) == 0 ), width_( width ) {
+   static bool lieIn( U8 const * buf ) { return reinterpret_cast< std::uintptr_t >( buf ) % alignof( U32 ) == 0; }
+
+   Words( U8 const * buf, unsigned width ) : inPlace_( lieIn( buf ) ), width_( width ) {
       if ( !inPlace_ ) [[unlikely]] {
          std::memcpy( copy_.data(), buf, bytes() );
       }
@@ -52,7 +53,7 @@ Operation writing( Operation::Scope scope, bool changed ) {
 } // namespace
 
 // Traces, and ends the process with the text of what is wrong.
-[[gnu::cold]] void DaceSalAsicTransferBase::checkRoute( Place const & place, char const * pattern ) const {
+[[gnu::cold]] void DaceSalAsicTransferBase::checkRoute( Place place, char const * pattern ) const {
    unsigned const bytes = width() * sizeof( U32 );
    if ( len_ < bytes ) {
       meta().fail( "len_ >= " + std::to_string( bytes ), pattern );
@@ -68,25 +69,27 @@ Operation writing( Operation::Scope scope, bool changed ) {
 }
 
 [[gnu::always_inline]] inline DaceSalAsicTransferBase::Route
-DaceSalAsicTransferBase::route( Place const & place, char const * pattern ) const {
+DaceSalAsicTransferBase::route( Place place, char const * pattern ) const {
    auto const arrayIndex = static_cast< U32 >( place.arrayIndex );
-   ::AsicUtils::TableLayout const * layout = quietLayout();
-   if ( !layout || len_ < layout->width * sizeof( U32 ) || place.entry >= layout->span.count ||
-        arrayIndex < layout->arrayIndexFirst || arrayIndex >= layout->arrayIndexEnd ) [[unlikely]] {
+   ::AsicUtils::TableLayout const * layout = pairLayout();
+   if ( meta().traced() || usable() < layout->bytes || ( place.entry != 0 && place.entry >= layout->span.count ) ||
+        arrayIndex - layout->arrayIndexFirst >= layout->arrayElements ) [[unlikely]] {
       checkRoute( place, pattern );
-      layout = &meta().layouts[meta().pair( chipType, variant_ )->layout];
+      layout = meta().pair( chipType, variant_ )->layout;
    }
-   return { layout->width,
-            layout->instanceCount,
-            layout->selectors,
-            layout->base + place.entry + arrayIndex * layout->arrayStep };
+   return { *layout, layout->base + place.entry + arrayIndex * layout->arrayStep };
+}
+
+// Nobody listens, and the words can be taken from the buffer where they lie, or put there.
+[[gnu::always_inline]] inline bool DaceSalAsicTransferBase::isDirect() const {
+   return !operationListener() && Words::lieIn( buf_ );
 }
 
 [[gnu::noinline]] void DaceSalAsicTransferBase::tell( OperationListener & listener,
                                                       Operation operation,
-                                                      Place const & place,
+                                                      Place place,
                                                       std::span< U32 const > words,
-                                                      std::source_location const & origin ) const {
+                                                      std::source_location origin ) const {
    operation.isRegister = !meta().isMemory;
    operation.chip = place.chip;
    operation.table = meta().number;
@@ -98,10 +101,17 @@ DaceSalAsicTransferBase::route( Place const & place, char const * pattern ) cons
    listener.operation( operation );
 }
 
-[[gnu::always_inline]] inline void DaceSalAsicTransferBase::readAny( Place const & place,
-                                                                     std::source_location const & origin ) {
+[[gnu::always_inline]] inline void DaceSalAsicTransferBase::readAny( Place place, std::source_location origin ) {
    Route const way = route( place, "int %::doReadAny" );
-   Words words( buf_, way.width );
+   if ( !isDirect() ) [[unlikely]] {
+      readAndTell( way, place, origin );
+      return;
+   }
+   driver().read( place.chip, way.copy( 0 ), { reinterpret_cast< U32 * >( buf_ ), way.layout.width } );
+}
+
+[[gnu::noinline]] void DaceSalAsicTransferBase::readAndTell( Route way, Place place, std::source_location origin ) {
+   Words words( buf_, way.layout.width );
    driver().read( place.chip, way.copy( 0 ), words.of( buf_ ) );
    words.give( buf_ );
    if ( OperationListener * listener = operationListener() ) {
@@ -109,32 +119,44 @@ DaceSalAsicTransferBase::route( Place const & place, char const * pattern ) cons
    }
 }
 
-[[gnu::always_inline]] inline void DaceSalAsicTransferBase::writeAll( Place const & place,
-                                                                      std::source_location const & origin ) const {
+[[gnu::always_inline]] inline void DaceSalAsicTransferBase::writeAll( Place place, std::source_location origin ) const {
    Route const way = route( place, "void %::doWriteAll" );
-   Words const words( buf_, way.width );
-   std::span< U32 const > const taken = words.of( buf_ );
-   SchanDriver & to = driver();
-   bool changed = false;
-   for ( U32 instance = 0; instance < way.instances; ++instance ) {
-      changed |= to.write( place.chip, way.copy( instance ), taken );
+   if ( !isDirect() ) [[unlikely]] {
+      writeAndTell( way, place, origin );
+      return;
    }
-   if ( OperationListener * listener = operationListener() ) {
-      tell( *listener, writing( Operation::Scope::all, changed ), place, taken, origin );
+   std::span< U32 const > const words{ reinterpret_cast< U32 const * >( buf_ ), way.layout.width };
+   SchanDriver & to = driver();
+   to.write( place.chip, way.copy( 0 ), words );
+   if ( way.layout.instanceCount > 1 ) {
+      to.write( place.chip, way.copy( 1 ), words );
    }
 }
 
-void DaceSalAsicTransferBase::writeCore( Place const & place, int core, std::source_location const & origin ) const {
+[[gnu::noinline]] void
+DaceSalAsicTransferBase::writeAndTell( Route way, Place place, std::source_location origin ) const {
+   Words const words( buf_, way.layout.width );
+   SchanDriver & to = driver();
+   bool changed = false;
+   for ( U32 instance = 0; instance < way.layout.instanceCount; ++instance ) {
+      changed |= to.write( place.chip, way.copy( instance ), words.of( buf_ ) );
+   }
+   if ( OperationListener * listener = operationListener() ) {
+      tell( *listener, writing( Operation::Scope::all, changed ), place, words.of( buf_ ), origin );
+   }
+}
+
+void DaceSalAsicTransferBase::writeCore( Place place, int core, std::source_location origin ) const {
    constexpr char const * pattern = "void %::doWriteCore";
    Route const way = route( place, pattern );
-   if ( core < 0 || core >= way.instances ) [[unlikely]] {
+   if ( core < 0 || core >= way.layout.instanceCount ) [[unlikely]] {
       std::ostringstream message;
       message << meta().name << " has no copy for core " << core << " on " << Hardware::ChipType{ chipType }
-              << ": it has " << unsigned{ way.instances } << ( way.instances == 1 ? " copy" : " copies" )
-              << ". No chip operation was made.";
+              << ": it has " << unsigned{ way.layout.instanceCount }
+              << ( way.layout.instanceCount == 1 ? " copy" : " copies" ) << ". No chip operation was made.";
       meta().failWith( "core < instanceCount()", message.str(), pattern );
    }
-   Words const words( buf_, way.width );
+   Words const words( buf_, way.layout.width );
    std::span< U32 const > const taken = words.of( buf_ );
    Operation operation =
       writing( Operation::Scope::core, driver().write( place.chip, way.copy( static_cast< U32 >( core ) ), taken ) );

@@ -34,26 +34,29 @@ class DaceSalAsicTransferBase : public ::AsicUtils::BcmAsicBase {
       int arrayIndex;
       U32 entry;
    };
-   void readAny( Place const & place, std::source_location const & origin );
-   void writeAll( Place const & place, std::source_location const & origin ) const;
-   void writeCore( Place const & place, int core, std::source_location const & origin ) const;
+   void readAny( Place place, std::source_location origin );
+   void writeAll( Place place, std::source_location origin ) const;
+   void writeCore( Place place, int core, std::source_location origin ) const;
 
  private:
-   // How wide the entry is and where its copies lie, after all checks.
+   // Where the entry lies, after all checks.
    struct Route {
-      U16 width;
-      U8 instances;
-      U8 const ( *selectors )[2];
+      ::AsicUtils::TableLayout const & layout;
       U32 address;
-      SchanAddress copy( U32 instance ) const { return { address, selectors[instance][0], selectors[instance][1] }; }
+      SchanAddress copy( U32 instance ) const {
+         return { address, layout.selectors[instance][0], layout.selectors[instance][1] };
+      }
    };
-   Route route( Place const & place, char const * pattern ) const;
-   void checkRoute( Place const & place, char const * pattern ) const;
+   Route route( Place place, char const * pattern ) const;
+   void checkRoute( Place place, char const * pattern ) const;
+   bool isDirect() const;
+   void readAndTell( Route way, Place place, std::source_location origin );
+   void writeAndTell( Route way, Place place, std::source_location origin ) const;
    void tell( OperationListener & listener,
               Operation operation,
-              Place const & place,
+              Place place,
               std::span< U32 const > words,
-              std::source_location const & origin ) const;
+              std::source_location origin ) const;
 };
 
 // A register: one entry, possibly an array of them.

@@ -59,24 +59,14 @@ bool fits( U32 const * value, ValueType type, unsigned width ) {
 
 } // namespace
 
-BcmAsicBase::BcmAsicBase(
-   MetaInfo const & meta, U8 chipType_, U8 * buf, U32 len, bool bufferHoldsEntry, U8 variant, U8 last )
-   : AsicBase( chipType_, buf, len, bufferHoldsEntry, variant, last ), meta_( &meta ) {
-   PairRow const * found = pair();
-   if ( !found || meta_->unit.trace.enabled( accessTraceLevel ) ) [[unlikely]] {
-      checkPair();
-   }
-   pairIs( *found );
-}
-
 void BcmAsicBase::checkPair() const {
    ChipAndVariant const named{ Hardware::ChipType{ chipType }, variant_ };
-   if ( !pair() ) {
+   if ( !pair_ ) {
       std::ostringstream message;
       message << named << " not in metainfo for " << meta_->name << "!";
       meta_->failWith( "0", message.str(), "%::" + std::string( meta_->name ) + "(ChipType, U8*, U16, bool, U8)" );
    }
-   meta_->unit.trace( accessTraceLevel, meta_->name, " chipType: ", named );
+   meta_->facility( accessTraceLevel, meta_->name, " chipType: ", named );
 }
 
 // ---- fields
@@ -98,7 +88,7 @@ void BcmAsicBase::failLacking( U16 field, std::string_view pattern ) const {
    int owners = 0;
    for ( U8 variant = 0; variant < meta_->variantCount; ++variant ) {
       PairRow const * found = meta_->pair( chipType, variant );
-      if ( found && meta_->row( found->format, field ).width != 0 ) {
+      if ( found && found->rows[field].width != 0 ) {
          owner = variant;
          ++owners;
       }
@@ -109,15 +99,16 @@ void BcmAsicBase::failLacking( U16 field, std::string_view pattern ) const {
 FieldRow const & BcmAsicBase::checkedRow( U16 field, Access access ) const {
    traceCall( [&] { return pattern( field, access ); } );
    PairRow const * found = pair();
-   if ( !found || meta_->row( found->format, field ).width == 0 ) {
+   if ( !found || found->rows[field].width == 0 ) {
       failLacking( field, pattern( field, access ) );
    }
-   FieldRow const & row = meta_->row( found->format, field );
+   FieldRow const & row = found->rows[field];
    if ( len_ < row.bytes() ) {
       meta_->fail( "len_ >= " + std::to_string( row.bytes() ), pattern( field, access ) );
    }
    // The pair is known to be valid now, also where the variant was changed.
-   pairIs( *found );
+   pair_ = found;
+   usable_ = usableLength();
    return row;
 }
 
@@ -165,7 +156,7 @@ U64 BcmAsicBase::fieldValue( U16 field ) const {
 bool BcmAsicBase::fieldValid( U16 field ) const {
    traceCall( [&] { return "bool %::is" + capitalised( meta_->fields[field].name ) + "Valid() const"; } );
    PairRow const * found = pair();
-   return found && meta_->row( found->format, field ).width != 0;
+   return found && found->rows[field].width != 0;
 }
 
 U16 BcmAsicBase::fieldLen( U16 field ) const {
@@ -175,23 +166,23 @@ U16 BcmAsicBase::fieldLen( U16 field ) const {
       meta_->fail( "0", pattern() );
    }
    PairRow const * found = pair();
-   if ( !found || meta_->row( found->format, field ).width == 0 ) {
+   if ( !found || found->rows[field].width == 0 ) {
       std::ostringstream message;
       message << ChipAndVariant{ Hardware::ChipType{ chipType }, variant_ } << " does not have field "
               << sdkName( meta_->fields[field].name );
       meta_->failWith( "0", message.str(), pattern() );
    }
-   return meta_->row( found->format, field ).width;
+   return found->rows[field].width;
 }
 
 U16 BcmAsicBase::fieldStart( U16 field ) const {
    auto const pattern = [&] { return "U16 %::" + std::string( meta_->fields[field].name ) + "Offset() const"; };
    traceCall( pattern );
    PairRow const * found = pair();
-   if ( !found || meta_->row( found->format, field ).width == 0 ) {
+   if ( !found || found->rows[field].width == 0 ) {
       failLacking( field, pattern() );
    }
-   return meta_->row( found->format, field ).offset;
+   return found->rows[field].offset;
 }
 
 void BcmAsicBase::runFieldIs( U16 run, U32 index, U64 value ) {
@@ -303,7 +294,7 @@ void BcmAsicBase::maskedEntry( U32 * words ) const {
    }
    U16 bytes = 0;
    for ( U16 field = 0; field < meta_->fields.size(); ++field ) {
-      FieldRow const & row = meta_->row( found->format, field );
+      FieldRow const & row = found->rows[field];
       if ( row.width != 0 ) {
          bytes = std::max( bytes, row.bytes() );
       }
@@ -314,8 +305,7 @@ void BcmAsicBase::maskedEntry( U32 * words ) const {
    Raw1024 entry;
    std::memcpy( entry.word.data(), buf_, bytes );
    int const typeWords = static_cast< int >( std::max( 1u, typeBits( meta_->entryType ) / 32 ) );
-   maskBuf(
-      entry.word.data(), Raw1024::words, words, Raw1024::words, meta_->masks + found->format * typeWords, typeWords );
+   maskBuf( entry.word.data(), Raw1024::words, words, Raw1024::words, found->mask, typeWords );
 }
 
 U16 BcmAsicBase::width() const {

@@ -17,7 +17,14 @@ class BcmAsicBase : public AsicBase {
  public:
    // Ends the process where the pair of chip and variant does not exist: the helper's text "0" with the pair and
    // " not in metainfo for <Table>!".
-   BcmAsicBase( MetaInfo const & meta, U8 chipType_, U8 * buf, U32 len, bool bufferHoldsEntry, U8 variant, U8 last );
+   BcmAsicBase( MetaInfo const & meta, U8 chipType_, U8 * buf, U32 len, bool bufferHoldsEntry, U8 variant, U8 last )
+      : AsicBase( chipType_, buf, len, bufferHoldsEntry, variant, last ), meta_( &meta ),
+        pair_( meta.pair( chipType_, variant ) ) {
+      if ( !pair_ || meta.traced() ) [[unlikely]] {
+         checkPair();
+      }
+      usable_ = usableLength();
+   }
 
    void setField64( U32 fieldId, U64 value ) override;
    U64 stringField( Corvo::String const & name, U16 word ) const override;
@@ -46,17 +53,16 @@ class BcmAsicBase : public AsicBase {
  protected:
    MetaInfo const & meta() const { return *meta_; }
 
-   // The layout of chip and variant where they are known to be valid and nothing is traced; else null.
-   TableLayout const * quietLayout() const {
-      return usable_ == 0 || meta_->unit.trace.enabled( accessTraceLevel ) ? nullptr : &meta_->layouts[layout_];
-   }
+   // The buffer's length where chip and variant are known to be valid, else 0; and their layout then.
+   U16 usable() const { return usable_; }
+   TableLayout const * pairLayout() const { return pair_->layout; }
 
    // A field of at most 64 bits that lies at one place wherever it exists at all. `field` is its place in the class's
    // list; `traced` whether level 8 is on.
    [[gnu::always_inline]] void
    fieldAtIs( bool traced, U16 field, unsigned offset, unsigned width, unsigned typeWidth, U64 value ) {
-      if ( traced || usable_ < Detail::wordBytes( offset, width ) ||
-           ( width < typeWidth && ( value >> ( width & 63 ) ) != 0 ) ) [[unlikely]] {
+      bool const tooLarge = width < typeWidth && ( value >> ( width & 63 ) ) != 0;
+      if ( traced | ( usable_ < Detail::wordBytes( offset, width ) ) | tooLarge ) [[unlikely]] {
          fieldIs( field, value );
          return;
       }
@@ -71,7 +77,7 @@ class BcmAsicBase : public AsicBase {
 
    // A field of at most 32 bits whose place depends on the format, and which lies within a word in each.
    [[gnu::always_inline]] void fieldInIs( bool traced, U16 field, U32 value ) {
-      FieldRow const & row = rows_[field];
+      FieldRow const & row = pair_->rows[field];
       U64 const placed = U64{ value } << row.shift;
       if ( traced || usable_ < row.wordBytes || ( placed & row.keep ) != 0 ) [[unlikely]] {
          fieldIs( field, value );
@@ -82,7 +88,7 @@ class BcmAsicBase : public AsicBase {
                          ( Detail::loadWord( at ) & static_cast< U32 >( row.keep ) ) | static_cast< U32 >( placed ) );
    }
    [[gnu::always_inline]] U32 fieldIn( bool traced, U16 field ) const {
-      FieldRow const & row = rows_[field];
+      FieldRow const & row = pair_->rows[field];
       if ( traced || usable_ < row.wordBytes ) [[unlikely]] {
          return static_cast< U32 >( fieldValue( field ) );
       }
@@ -91,7 +97,7 @@ class BcmAsicBase : public AsicBase {
 
    // The same for a field that lies across two words in some format.
    [[gnu::always_inline]] void fieldAcrossIs( bool traced, U16 field, U32 value ) {
-      FieldRow const & row = rows_[field];
+      FieldRow const & row = pair_->rows[field];
       if ( row.words == 1 ) {
          fieldInIs( traced, field, value );
          return;
@@ -109,7 +115,7 @@ class BcmAsicBase : public AsicBase {
                             static_cast< U32 >( placed >> 32 ) );
    }
    [[gnu::always_inline]] U32 fieldAcross( bool traced, U16 field ) const {
-      FieldRow const & row = rows_[field];
+      FieldRow const & row = pair_->rows[field];
       if ( row.words == 1 ) {
          return fieldIn( traced, field );
       }
@@ -182,24 +188,18 @@ class BcmAsicBase : public AsicBase {
    // Traces the call of the signature that `pattern` composes, which it does only where tracing is on.
    template< class Pattern >
    void traceCall( Pattern const & pattern ) const {
-      if ( meta_->unit.trace.enabled( accessTraceLevel ) ) [[unlikely]] {
+      if ( meta_->traced() ) [[unlikely]] {
          meta_->trace( pattern(), chipType, variant_ );
       }
    }
    PairRow const * pair() const { return meta_->pair( chipType, variant_ ); }
    void maskedEntry( U32 * words ) const;
 
-   // Takes over what is known of the pair of chip and variant, which is valid.
-   void pairIs( PairRow const & pair ) const {
-      layout_ = pair.layout;
-      rows_ = &meta_->row( pair.format, 0 );
-      usable_ = usableLength();
-   }
+   // Traces the construction; ends the process where the pair of chip and variant does not exist.
    [[gnu::noinline]] void checkPair() const;
 
-   mutable U16 layout_ = 0;
    MetaInfo const * meta_;
-   mutable FieldRow const * rows_ = nullptr; // of the pair's format
+   mutable PairRow const * pair_; // of the chip and variant that `usable_` is about
 };
 
 } // namespace AsicUtils

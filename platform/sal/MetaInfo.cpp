@@ -24,17 +24,17 @@ std::string MetaInfo::signature( std::string_view pattern ) const {
 }
 
 void MetaInfo::emitTrace( std::string_view pattern, U32 chipType, U8 variant ) const {
-   unit.trace( accessTraceLevel, signature( pattern ), " chipType: ", chipType, " variant: ", variant );
+   facility( accessTraceLevel, signature( pattern ), " chipType: ", chipType, " variant: ", variant );
 }
 
 void MetaInfo::fail( std::string const & text, std::string_view pattern ) const {
    std::string const function = signature( pattern );
-   Rex::assertionFailed( text.c_str(), { unit.source, line, function.c_str() } );
+   Rex::assertionFailed( text.c_str(), { source, line, function.c_str() } );
 }
 
 void MetaInfo::failWith( char const * text, std::string const & message, std::string_view pattern ) const {
    std::string const function = signature( pattern );
-   Rex::SassertHelper( text, { unit.source, line, function.c_str() } ) << message;
+   Rex::SassertHelper( text, { source, line, function.c_str() } ) << message;
    __builtin_unreachable();
 }
 
@@ -64,7 +64,7 @@ TableLayout const & MetaInfo::layoutFor( std::string_view pattern, U32 chipType,
    if ( !found ) [[unlikely]] {
       fail( chipKnown( chipType ) ? variantText( "variant" ) : "0", pattern );
    }
-   return layouts[found->layout];
+   return *found->layout;
 }
 
 bool MetaInfo::chipTypeVariantValid( U32 chipType, U8 variant ) const {
@@ -111,7 +111,7 @@ S32 MetaInfo::sdkDefinedId( U32 chipType, U8 variant ) const {
 
 U16 MetaInfo::fieldCount( U32 chipType, U8 variant ) const {
    layoutFor( "static U16 %::fieldCount(U32, U8)", chipType, variant );
-   FieldRow const * first = &row( pair( chipType, variant )->format, 0 );
+   FieldRow const * first = pair( chipType, variant )->rows;
    return static_cast< U16 >(
       std::count_if( first, first + fields.size(), []( FieldRow const & field ) { return field.width != 0; } ) );
 }
@@ -156,17 +156,17 @@ bool MetaInfo::getSchanAddress( U32 chipType,
    PairRow const * found = pair( chipType, variant );
    if ( !found ) [[unlikely]] {
       if ( chipKnown( chipType ) ) {
-         unit.trace( 0, signature( pattern ), " chipType: ", chipType, " variant: ", variant, " failed." );
+         facility( 0, signature( pattern ), " chipType: ", chipType, " variant: ", variant, " failed." );
       }
       return false;
    }
-   TableLayout const & layout = layouts[found->layout];
+   TableLayout const & layout = *found->layout;
    if ( isMemory ? tableEntry >= layout.span.count : tableEntry != 0 ) [[unlikely]] {
       fail( isMemory ? "tableEntry < " + std::to_string( layout.span.count ) : "tableEntry == 0", pattern );
    }
-   if ( arrayIndex >= layout.arrayIndexEnd ) [[unlikely]] {
-      fail( isMemory && !layout.hasArray() ? "arrayIndex == 0"
-                                           : "arrayIndex < " + std::to_string( layout.arrayIndexEnd ),
+   U32 const arrayIndexEnd = layout.arrayIndexFirst + layout.arrayElements;
+   if ( arrayIndex >= arrayIndexEnd ) [[unlikely]] {
+      fail( isMemory && !layout.hasArray() ? "arrayIndex == 0" : "arrayIndex < " + std::to_string( arrayIndexEnd ),
             pattern );
    }
    if ( arrayIndex < layout.arrayIndexFirst ) [[unlikely]] {
@@ -205,7 +205,7 @@ U8 tagBits( TagRow const & tag, U8 const * buf, U16 len ) {
 
 bool MetaInfo::isFormat( Hardware::ChipType chipType, U8 const * buf, U16 len, U8 variant ) const {
    U32 const chip = static_cast< U32 >( chipType );
-   if ( unit.trace.enabled( accessTraceLevel ) ) [[unlikely]] {
+   if ( traced() ) [[unlikely]] {
       trace( "static bool %::is" + std::string( name ) + "(ChipType, const U8*, U16, U8)", chip, variant );
    }
    if ( tags.empty() ) {
@@ -252,7 +252,7 @@ U32 const * MetaInfo::fieldsMask( U32 chipType, U8 variant ) const {
    };
    layoutFor(
       patterns[static_cast< unsigned >( entryType ) - static_cast< unsigned >( ValueType::U32 )], chipType, variant );
-   return masks + pair( chipType, variant )->format * ( typeBits( entryType ) / 32 );
+   return pair( chipType, variant )->mask;
 }
 
 } // namespace AsicUtils

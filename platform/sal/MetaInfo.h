@@ -82,10 +82,10 @@ struct FieldRow {
 struct TableLayout {
    EntrySpan span; // the entries; count 1 for a register
    U16 width;      // words
+   U16 bytes;
    U16 arrayElements;
    U16 arrayIndexMin;   // what the chip calls the first element
    U16 arrayIndexFirst; // the first index that an address is given for
-   U16 arrayIndexEnd;   // one past the last
    S32 sdkDefinedId;    // -1: none
    U8 instanceCount;
    U8 selectors[2][2]; // by instance
@@ -95,11 +95,11 @@ struct TableLayout {
    bool hasArray() const { return arrayStep != 0; }
 };
 
-// Layout and format of a pair of chip and variant.
+// Layout and format of a pair of chip and variant; all null where the pair does not exist.
 struct PairRow {
-   U8 layout; // `absent` where the pair does not exist
-   U8 format;
-   static constexpr U8 absent = 0xff;
+   TableLayout const * layout;
+   FieldRow const * rows; // one for each field of the class
+   U32 const * mask;      // the bits of all fields
 };
 
 // Part of a format's tag: bits that have a fixed value.
@@ -117,20 +117,15 @@ struct FieldRun {
    std::span< U16 const > fields;
 };
 
-// One generated source.
-struct MetaInfoUnit {
-   char const * source;
-   Rex::TraceFacility const & trace;
-};
-
 inline constexpr int accessTraceLevel = 8;
 
 struct MetaInfo {
    static constexpr U32 firstChip = 10;
    static constexpr U32 chipCount = 7; // 10 to 16, with the hole at 13
 
-   MetaInfoUnit const & unit;
-   unsigned line; // where the class stands in the unit's source
+   Rex::TraceFacility const & facility;
+   char const * source; // where the class stands
+   unsigned line;
    char const * name;
    U16 number; // place in the alphabetical list of classes
    bool isMemory;
@@ -138,9 +133,6 @@ struct MetaInfo {
    ValueType entryType; // smallest type that holds an entry of the class's largest width
    std::span< FieldInfo const > fields;
    PairRow const * pairs; // variant * chipCount + chipType - firstChip
-   TableLayout const * layouts;
-   FieldRow const * rows; // format * fields.size() + field
-   U32 const * masks;     // all fields of a format: format * words of entryType
    std::span< TagRow const > tags;
    std::span< FieldRun const > runs;
 
@@ -193,17 +185,17 @@ struct MetaInfo {
          return nullptr;
       }
       PairRow const & row = pairs[variant * chipCount + chipType - firstChip];
-      return row.layout == PairRow::absent ? nullptr : &row;
+      return row.layout ? &row : nullptr;
    }
    bool chipKnown( U32 chipType ) const;
    U16 fieldById( U32 fieldId ) const;
    U16 fieldByName( std::string_view fieldName ) const;
-   FieldRow const & row( U8 format, U16 field ) const { return rows[format * fields.size() + field]; }
 
+   bool traced() const { return facility.enabled( accessTraceLevel ); }
    // The full signature of an operation: `%` in `pattern` stands for the class.
    std::string signature( std::string_view pattern ) const;
    void trace( std::string_view pattern, U32 chipType, U8 variant ) const {
-      if ( unit.trace.enabled( accessTraceLevel ) ) [[unlikely]] {
+      if ( traced() ) [[unlikely]] {
          emitTrace( pattern, chipType, variant );
       }
    }
