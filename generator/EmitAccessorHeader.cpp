@@ -63,7 +63,7 @@ class ClassWriter {
       out_ << "\n// " << ( table_.isMemory ? "Memory" : "Register" );
       if ( table_.chips.size() != catalogue_.chips.size() ) {
          std::vector< std::string > names;
-         for ( unsigned chip : table_.chips ) {
+         for ( unsigned const chip : table_.chips ) {
             names.push_back( catalogue_.chip( chip ).name );
          }
          out_ << " of " << list( names );
@@ -199,8 +199,9 @@ class ClassWriter {
       std::vector< std::string > texts;
       for ( std::size_t format = 0; format < formats_.rows.size(); ++format ) {
          auto const & place = formats_.rows[format][index];
-         std::string text = place ? "[" + std::to_string( place->offset ) + ", " + std::to_string( place->width ) + "]"
-                                  : std::string( "absent" );
+         std::string const text =
+            place ? "[" + std::to_string( place->offset ) + ", " + std::to_string( place->width ) + "]"
+                  : std::string( "absent" );
          if ( std::find( texts.begin(), texts.end(), text ) == texts.end() ) {
             texts.push_back( text );
          }

@@ -110,7 +110,7 @@ class ClassWriter {
                mask[bit / 32] |= 1u << bit % 32;
             }
          }
-         for ( std::uint32_t word : mask ) {
+         for ( std::uint32_t const word : mask ) {
             items.add( hex( word ) );
          }
       }

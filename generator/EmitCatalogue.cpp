@@ -114,7 +114,7 @@ std::string selectorItems( Layout const & layout ) {
 std::string layoutItems( Table const & table, Arrays & fields, Arrays & selectors ) {
    std::string items;
    for ( unsigned variant = 0; variant < table.variants; ++variant ) {
-      for ( unsigned chip : table.chips ) {
+      for ( unsigned const chip : table.chips ) {
          Layout const & layout = table.layouts.at( { chip, variant } );
          items += "\n   { " + std::to_string( chip ) + ", " + std::to_string( variant ) + ", " +
                   std::to_string( layout.entries.value_or( 0 ) ) + "u, " + std::to_string( layout.width ) + ", " +
@@ -168,7 +168,7 @@ std::string emitCatalogueSource( Catalogue const & catalogue ) {
    unsigned number = 0;
    for ( Table const & table : catalogue.tables ) {
       std::vector< std::string > chips;
-      for ( unsigned chip : table.chips ) {
+      for ( unsigned const chip : table.chips ) {
          chips.push_back( std::to_string( chip ) );
       }
       layouts += "\nconstexpr U8 chipsOf" + table.name + "[] = { " + list( chips ) + " };\nconstexpr Layout layoutsOf" +

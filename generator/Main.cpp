@@ -15,7 +15,7 @@
 namespace {
 
 std::string contents( std::filesystem::path const & file ) {
-   std::ifstream in( file, std::ios::binary );
+   std::ifstream const in( file, std::ios::binary );
    std::ostringstream text;
    text << in.rdbuf();
    return text.str();

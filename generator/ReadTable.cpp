@@ -67,7 +67,7 @@ class TableReader {
          table_.variants = root_.at( "variants" ).number();
       }
       for ( unsigned variant = 0; variant < table_.variants; ++variant ) {
-         for ( unsigned chip : table_.chips ) {
+         for ( unsigned const chip : table_.chips ) {
             table_.layouts[{ chip, variant }];
          }
       }
@@ -99,8 +99,8 @@ class TableReader {
          }
       }
       std::vector< ChipVariant > all;
-      for ( unsigned variant : variants ) {
-         for ( unsigned chip : chips ) {
+      for ( unsigned const variant : variants ) {
+         for ( unsigned const chip : chips ) {
             all.emplace_back( chip, variant );
          }
       }

@@ -35,8 +35,8 @@ class Yaml {
    bool isList() const { return node_.IsSequence(); }
 
  private:
-   Yaml( YAML::Node node, std::string file, int line )
-      : node_( std::move( node ) ), file_( std::move( file ) ), line_( line ) {}
+   Yaml( YAML::Node const & node, std::string file, int line )
+      : node_( node ), file_( std::move( file ) ), line_( line ) {}
    Yaml child( YAML::Node const & node ) const;
 
    YAML::Node node_;

@@ -145,7 +145,7 @@ void write( std::string & out, Value const & value, int depth, int indent ) {
 } // namespace
 
 std::string readFile( std::string const & path ) {
-   std::ifstream in( path, std::ios::binary );
+   std::ifstream const in( path, std::ios::binary );
    if ( !in || std::filesystem::is_directory( path ) ) {
       throw InputError( path, std::string( "can't be read: " ) + std::strerror( in ? EISDIR : errno ) );
    }

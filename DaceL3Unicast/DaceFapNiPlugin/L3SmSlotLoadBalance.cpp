@@ -32,7 +32,7 @@ constexpr struct {
    { 1, 3 },
 };
 
-void doProgramGueTunnelTermination( CellStatusPtr cellStatus, bool enableTunnelTerm ) {
+void doProgramGueTunnelTermination( CellStatusPtr const & cellStatus, bool enableTunnelTerm ) {
    trace( 8, "doProgramGueTunnelTermination" );
    U8 const value = enableTunnelTerm ? gueVsiProfile : 0; // profile N has the vector N
    forEachFap( cellStatus, [&]( Fap const & fap, auto const & ) {
