@@ -37,27 +37,27 @@ constexpr AsicUtils::FieldRow rows[] = {
 constexpr U32 masks[] = {
    0xffffffff, 0xffffffff, 0x1, 0x0,
 };
-constexpr AsicUtils::TableLayout layouts[] = {
-   { { 0, 32u }, 3, 12, 1, 0, 0, 3299, 2, { { 28, 2 }, { 10, 10 } }, 0x150000, 0 },
-   { { 0, 32u }, 3, 12, 1, 0, 0, 3299, 1, { { 2, 9 } }, 0x150000, 0 },
-   { { 0, 32u }, 3, 12, 1, 0, 0, 3299, 2, { { 28, 13 }, { 28, 25 } }, 0x150000, 0 },
-   { { 0, 32u }, 3, 12, 1, 0, 0, 3299, 1, { { 28, 13 } }, 0x150000, 0 },
-   { { 0, 32u }, 3, 12, 1, 0, 0, 3299, 1, { { 16, 9 } }, 0x150000, 0 },
-   { { 0, 32u }, 3, 12, 1, 0, 0, 3443, 2, { { 30, 2 }, { 12, 10 } }, 0x26d0000, 0 },
-   { { 0, 32u }, 3, 12, 1, 0, 0, 3443, 1, { { 8, 4 } }, 0x26d0000, 0 },
-   { { 0, 32u }, 3, 12, 1, 0, 0, 3443, 2, { { 30, 13 }, { 30, 25 } }, 0x26d0000, 0 },
-   { { 0, 32u }, 3, 12, 1, 0, 0, 3443, 1, { { 30, 13 } }, 0x26d0000, 0 },
-   { { 0, 32u }, 3, 12, 1, 0, 0, 3443, 1, { { 24, 9 } }, 0x26d0000, 0 },
+constexpr AsicUtils::TableLayout layout[] = {
+   { { 0, 32u }, 3, 12, 1, 0, 0, 3299, 2, { { 28, 2 }, { 10, 10 } }, 0x150000, 0, &rows[0], &masks[0] },
+   { { 0, 32u }, 3, 12, 1, 0, 0, 3299, 1, { { 2, 9 } }, 0x150000, 0, &rows[0], &masks[0] },
+   { { 0, 32u }, 3, 12, 1, 0, 0, 3299, 2, { { 28, 13 }, { 28, 25 } }, 0x150000, 0, &rows[0], &masks[0] },
+   { { 0, 32u }, 3, 12, 1, 0, 0, 3299, 1, { { 28, 13 } }, 0x150000, 0, &rows[0], &masks[0] },
+   { { 0, 32u }, 3, 12, 1, 0, 0, 3299, 1, { { 16, 9 } }, 0x150000, 0, &rows[0], &masks[0] },
+   { { 0, 32u }, 3, 12, 1, 0, 0, 3443, 2, { { 30, 2 }, { 12, 10 } }, 0x26d0000, 0, &rows[0], &masks[0] },
+   { { 0, 32u }, 3, 12, 1, 0, 0, 3443, 1, { { 8, 4 } }, 0x26d0000, 0, &rows[0], &masks[0] },
+   { { 0, 32u }, 3, 12, 1, 0, 0, 3443, 2, { { 30, 13 }, { 30, 25 } }, 0x26d0000, 0, &rows[0], &masks[0] },
+   { { 0, 32u }, 3, 12, 1, 0, 0, 3443, 1, { { 30, 13 } }, 0x26d0000, 0, &rows[0], &masks[0] },
+   { { 0, 32u }, 3, 12, 1, 0, 0, 3443, 1, { { 24, 9 } }, 0x26d0000, 0, &rows[0], &masks[0] },
 };
-constexpr AsicUtils::PairRow pairs[] = {
-   { &layouts[0], &rows[0], &masks[0] }, { &layouts[1], &rows[0], &masks[0] }, { &layouts[2], &rows[0], &masks[0] }, {}, { &layouts[3], &rows[0], &masks[0] }, { &layouts[4], &rows[0], &masks[0] }, { &layouts[4], &rows[0], &masks[0] },
-   { &layouts[5], &rows[0], &masks[0] }, { &layouts[6], &rows[0], &masks[0] }, { &layouts[7], &rows[0], &masks[0] }, {}, { &layouts[8], &rows[0], &masks[0] }, { &layouts[9], &rows[0], &masks[0] }, { &layouts[9], &rows[0], &masks[0] },
+constexpr AsicUtils::TableLayout const * layouts[] = {
+   &layout[0], &layout[1], &layout[2], nullptr, &layout[3], &layout[4], &layout[4],
+   &layout[5], &layout[6], &layout[7], nullptr, &layout[8], &layout[9], &layout[9],
 };
 } // namespace AdditionalHeadersMapTable0Data
 
 constinit AsicUtils::MetaInfo const AdditionalHeadersMapTable0::metaInfo{
    Impl::trace, Impl::source, __LINE__, "AdditionalHeadersMapTable0", 0, true, 2, AsicUtils::ValueType::Raw128,
-   AdditionalHeadersMapTable0Data::fields, AdditionalHeadersMapTable0Data::pairs, {}, {}
+   AdditionalHeadersMapTable0Data::fields, AdditionalHeadersMapTable0Data::layouts, {}, {}
 };
 
 Raw128 AdditionalHeadersMapTable0::allFieldsMask() const {
@@ -222,21 +222,21 @@ constexpr U32 masks[] = {
    0xffffffff, 0xffffffff, 0xffffffff, 0xffffffff, 0xffffffff, 0xffffffff, 0xffffffff, 0xffffffff,
    0xffffffff, 0xffffffff, 0xffffffff, 0xffffffff, 0xffffffff, 0xffffffff, 0x1f, 0x0,
 };
-constexpr AsicUtils::TableLayout layouts[] = {
-   { { 0, 32u }, 15, 60, 3, 0, 0, 770, 2, { { 8, 1 }, { 22, 8 } }, 0xe50000, 32 },
-   { { 0, 32u }, 15, 60, 3, 0, 0, 770, 1, { { 22, 1 } }, 0x66b00, 32 },
-   { { 0, 32u }, 15, 60, 3, 0, 0, 770, 2, { { 0, 12 }, { 0, 24 } }, 0x1660000, 32 },
-   { { 0, 32u }, 15, 60, 3, 0, 0, 770, 1, { { 0, 12 } }, 0x1660000, 32 },
-   { { 0, 32u }, 15, 60, 3, 0, 0, 770, 1, { { 24, 13 } }, 0xba0000, 32 },
+constexpr AsicUtils::TableLayout layout[] = {
+   { { 0, 32u }, 15, 60, 3, 0, 0, 770, 2, { { 8, 1 }, { 22, 8 } }, 0xe50000, 32, &rows[0], &masks[0] },
+   { { 0, 32u }, 15, 60, 3, 0, 0, 770, 1, { { 22, 1 } }, 0x66b00, 32, &rows[103], &masks[16] },
+   { { 0, 32u }, 15, 60, 3, 0, 0, 770, 2, { { 0, 12 }, { 0, 24 } }, 0x1660000, 32, &rows[206], &masks[32] },
+   { { 0, 32u }, 15, 60, 3, 0, 0, 770, 1, { { 0, 12 } }, 0x1660000, 32, &rows[206], &masks[32] },
+   { { 0, 32u }, 15, 60, 3, 0, 0, 770, 1, { { 24, 13 } }, 0xba0000, 32, &rows[103], &masks[16] },
 };
-constexpr AsicUtils::PairRow pairs[] = {
-   { &layouts[0], &rows[0], &masks[0] }, { &layouts[1], &rows[103], &masks[16] }, { &layouts[2], &rows[206], &masks[32] }, {}, { &layouts[3], &rows[206], &masks[32] }, { &layouts[4], &rows[103], &masks[16] }, { &layouts[4], &rows[103], &masks[16] },
+constexpr AsicUtils::TableLayout const * layouts[] = {
+   &layout[0], &layout[1], &layout[2], nullptr, &layout[3], &layout[4], &layout[4],
 };
 } // namespace CgmSnifTmTableData
 
 constinit AsicUtils::MetaInfo const CgmSnifTmTable::metaInfo{
    Impl::trace, Impl::source, __LINE__, "CgmSnifTmTable", 1, true, 1, AsicUtils::ValueType::Raw512,
-   CgmSnifTmTableData::fields, CgmSnifTmTableData::pairs, {}, {}
+   CgmSnifTmTableData::fields, CgmSnifTmTableData::layouts, {}, {}
 };
 
 Raw512 CgmSnifTmTable::allFieldsMask() const {
@@ -259,33 +259,33 @@ constexpr AsicUtils::FieldRow rows[] = {
 constexpr U32 masks[] = {
    0x3ffff, 0x3ffff, 0x3fffff,
 };
-constexpr AsicUtils::TableLayout layouts[] = {
-   { { 0, 1u }, 1, 4, 1, 0, 0, 30562, 2, { { 24, 2 }, { 6, 10 } }, 0x50b, 0 },
-   { { 0, 1u }, 1, 4, 1, 0, 0, 30562, 1, { { 0, 9 } }, 0x50b, 0 },
-   { { 0, 1u }, 1, 4, 1, 0, 0, 30562, 2, { { 24, 13 }, { 24, 25 } }, 0x50b, 0 },
-   { { 0, 1u }, 1, 4, 1, 0, 0, 30562, 1, { { 24, 13 } }, 0x50b, 0 },
-   { { 0, 1u }, 1, 4, 1, 0, 0, 30562, 1, { { 24, 17 } }, 0x50b, 0 },
-   { { 0, 1u }, 1, 4, 1, 0, 0, 31547, 2, { { 26, 2 }, { 8, 10 } }, 0x108, 0 },
-   { { 0, 1u }, 1, 4, 1, 0, 0, 31547, 1, { { 20, 5 } }, 0x108, 0 },
-   { { 0, 1u }, 1, 4, 1, 0, 0, 31547, 2, { { 26, 13 }, { 26, 25 } }, 0x108, 0 },
-   { { 0, 1u }, 1, 4, 1, 0, 0, 31547, 1, { { 26, 13 } }, 0x108, 0 },
-   { { 0, 1u }, 1, 4, 1, 0, 0, 31547, 1, { { 8, 8 } }, 0x108, 0 },
-   { { 0, 1u }, 1, 4, 1, 0, 0, 31490, 2, { { 26, 2 }, { 8, 10 } }, 0x904, 0 },
-   { { 0, 1u }, 1, 4, 1, 0, 0, 31490, 1, { { 20, 5 } }, 0x904, 0 },
-   { { 0, 1u }, 1, 4, 1, 0, 0, 31490, 2, { { 26, 13 }, { 26, 25 } }, 0x905, 0 },
-   { { 0, 1u }, 1, 4, 1, 0, 0, 31490, 1, { { 26, 13 } }, 0x905, 0 },
-   { { 0, 1u }, 1, 4, 1, 0, 0, 31490, 1, { { 8, 8 } }, 0x904, 0 },
+constexpr AsicUtils::TableLayout layout[] = {
+   { { 0, 1u }, 1, 4, 1, 0, 0, 30562, 2, { { 24, 2 }, { 6, 10 } }, 0x50b, 0, &rows[0], &masks[0] },
+   { { 0, 1u }, 1, 4, 1, 0, 0, 30562, 1, { { 0, 9 } }, 0x50b, 0, &rows[0], &masks[0] },
+   { { 0, 1u }, 1, 4, 1, 0, 0, 30562, 2, { { 24, 13 }, { 24, 25 } }, 0x50b, 0, &rows[0], &masks[0] },
+   { { 0, 1u }, 1, 4, 1, 0, 0, 30562, 1, { { 24, 13 } }, 0x50b, 0, &rows[0], &masks[0] },
+   { { 0, 1u }, 1, 4, 1, 0, 0, 30562, 1, { { 24, 17 } }, 0x50b, 0, &rows[0], &masks[0] },
+   { { 0, 1u }, 1, 4, 1, 0, 0, 31547, 2, { { 26, 2 }, { 8, 10 } }, 0x108, 0, &rows[3], &masks[1] },
+   { { 0, 1u }, 1, 4, 1, 0, 0, 31547, 1, { { 20, 5 } }, 0x108, 0, &rows[3], &masks[1] },
+   { { 0, 1u }, 1, 4, 1, 0, 0, 31547, 2, { { 26, 13 }, { 26, 25 } }, 0x108, 0, &rows[3], &masks[1] },
+   { { 0, 1u }, 1, 4, 1, 0, 0, 31547, 1, { { 26, 13 } }, 0x108, 0, &rows[3], &masks[1] },
+   { { 0, 1u }, 1, 4, 1, 0, 0, 31547, 1, { { 8, 8 } }, 0x108, 0, &rows[3], &masks[1] },
+   { { 0, 1u }, 1, 4, 1, 0, 0, 31490, 2, { { 26, 2 }, { 8, 10 } }, 0x904, 0, &rows[6], &masks[2] },
+   { { 0, 1u }, 1, 4, 1, 0, 0, 31490, 1, { { 20, 5 } }, 0x904, 0, &rows[6], &masks[2] },
+   { { 0, 1u }, 1, 4, 1, 0, 0, 31490, 2, { { 26, 13 }, { 26, 25 } }, 0x905, 0, &rows[6], &masks[2] },
+   { { 0, 1u }, 1, 4, 1, 0, 0, 31490, 1, { { 26, 13 } }, 0x905, 0, &rows[6], &masks[2] },
+   { { 0, 1u }, 1, 4, 1, 0, 0, 31490, 1, { { 8, 8 } }, 0x904, 0, &rows[6], &masks[2] },
 };
-constexpr AsicUtils::PairRow pairs[] = {
-   { &layouts[0], &rows[0], &masks[0] }, { &layouts[1], &rows[0], &masks[0] }, { &layouts[2], &rows[0], &masks[0] }, {}, { &layouts[3], &rows[0], &masks[0] }, { &layouts[4], &rows[0], &masks[0] }, { &layouts[4], &rows[0], &masks[0] },
-   { &layouts[5], &rows[3], &masks[1] }, { &layouts[6], &rows[3], &masks[1] }, { &layouts[7], &rows[3], &masks[1] }, {}, { &layouts[8], &rows[3], &masks[1] }, { &layouts[9], &rows[3], &masks[1] }, { &layouts[9], &rows[3], &masks[1] },
-   { &layouts[10], &rows[6], &masks[2] }, { &layouts[11], &rows[6], &masks[2] }, { &layouts[12], &rows[6], &masks[2] }, {}, { &layouts[13], &rows[6], &masks[2] }, { &layouts[14], &rows[6], &masks[2] }, { &layouts[14], &rows[6], &masks[2] },
+constexpr AsicUtils::TableLayout const * layouts[] = {
+   &layout[0], &layout[1], &layout[2], nullptr, &layout[3], &layout[4], &layout[4],
+   &layout[5], &layout[6], &layout[7], nullptr, &layout[8], &layout[9], &layout[9],
+   &layout[10], &layout[11], &layout[12], nullptr, &layout[13], &layout[14], &layout[14],
 };
 } // namespace EgressOutrifMaxValueData
 
 constinit AsicUtils::MetaInfo const EgressOutrifMaxValue::metaInfo{
    Impl::trace, Impl::source, __LINE__, "EgressOutrifMaxValue", 2, false, 3, AsicUtils::ValueType::U32,
-   EgressOutrifMaxValueData::fields, EgressOutrifMaxValueData::pairs, {}, {}
+   EgressOutrifMaxValueData::fields, EgressOutrifMaxValueData::layouts, {}, {}
 };
 
 U32 EgressOutrifMaxValue::allFieldsMask() const {
@@ -305,21 +305,21 @@ constexpr AsicUtils::FieldRow rows[] = {
 constexpr U32 masks[] = {
    0xf,
 };
-constexpr AsicUtils::TableLayout layouts[] = {
-   { { 0, 1u }, 1, 4, 1, 0, 0, 54175, 2, { { 10, 2 }, { 24, 9 } }, 0x163, 0 },
-   { { 0, 1u }, 1, 4, 1, 0, 0, 54175, 1, { { 10, 10 } }, 0x163, 0 },
-   { { 0, 1u }, 1, 4, 1, 0, 0, 54175, 2, { { 6, 14 }, { 6, 26 } }, 0x161, 0 },
-   { { 0, 1u }, 1, 4, 1, 0, 0, 54175, 1, { { 6, 14 } }, 0x161, 0 },
-   { { 0, 1u }, 1, 4, 1, 0, 0, 54175, 1, { { 0, 17 } }, 0x163, 0 },
+constexpr AsicUtils::TableLayout layout[] = {
+   { { 0, 1u }, 1, 4, 1, 0, 0, 54175, 2, { { 10, 2 }, { 24, 9 } }, 0x163, 0, &rows[0], &masks[0] },
+   { { 0, 1u }, 1, 4, 1, 0, 0, 54175, 1, { { 10, 10 } }, 0x163, 0, &rows[0], &masks[0] },
+   { { 0, 1u }, 1, 4, 1, 0, 0, 54175, 2, { { 6, 14 }, { 6, 26 } }, 0x161, 0, &rows[0], &masks[0] },
+   { { 0, 1u }, 1, 4, 1, 0, 0, 54175, 1, { { 6, 14 } }, 0x161, 0, &rows[0], &masks[0] },
+   { { 0, 1u }, 1, 4, 1, 0, 0, 54175, 1, { { 0, 17 } }, 0x163, 0, &rows[0], &masks[0] },
 };
-constexpr AsicUtils::PairRow pairs[] = {
-   { &layouts[0], &rows[0], &masks[0] }, { &layouts[1], &rows[0], &masks[0] }, { &layouts[2], &rows[0], &masks[0] }, {}, { &layouts[3], &rows[0], &masks[0] }, { &layouts[4], &rows[0], &masks[0] }, { &layouts[4], &rows[0], &masks[0] },
+constexpr AsicUtils::TableLayout const * layouts[] = {
+   &layout[0], &layout[1], &layout[2], nullptr, &layout[3], &layout[4], &layout[4],
 };
 } // namespace EnableKapsInterfaceDefaultData
 
 constinit AsicUtils::MetaInfo const EnableKapsInterfaceDefault::metaInfo{
    Impl::trace, Impl::source, __LINE__, "EnableKapsInterfaceDefault", 3, false, 1, AsicUtils::ValueType::U32,
-   EnableKapsInterfaceDefaultData::fields, EnableKapsInterfaceDefaultData::pairs, {}, {}
+   EnableKapsInterfaceDefaultData::fields, EnableKapsInterfaceDefaultData::layouts, {}, {}
 };
 
 U32 EnableKapsInterfaceDefault::allFieldsMask() const {
@@ -339,27 +339,27 @@ constexpr AsicUtils::FieldRow rows[] = {
 constexpr U32 masks[] = {
    0xffffffff, 0xffffffff,
 };
-constexpr AsicUtils::TableLayout layouts[] = {
-   { { 0, 32u }, 2, 8, 3, 0, 0, 8278, 2, { { 18, 2 }, { 0, 10 } }, 0x930000, 32 },
-   { { 0, 32u }, 2, 8, 3, 0, 0, 8278, 1, { { 6, 10 } }, 0x930000, 32 },
-   { { 0, 32u }, 2, 8, 3, 0, 0, 8278, 2, { { 2, 14 }, { 2, 26 } }, 0x930000, 32 },
-   { { 0, 32u }, 2, 8, 3, 0, 0, 8278, 1, { { 2, 14 } }, 0x930000, 32 },
-   { { 0, 32u }, 2, 8, 3, 0, 0, 8278, 1, { { 24, 12 } }, 0x930000, 32 },
-   { { 0, 32u }, 2, 8, 2, 3, 3, 7780, 2, { { 8, 2 }, { 22, 9 } }, 0x8f0060, 32 },
-   { { 0, 32u }, 2, 8, 2, 3, 3, 7780, 1, { { 8, 10 } }, 0x8f0060, 32 },
-   { { 0, 32u }, 2, 8, 2, 3, 3, 7780, 2, { { 4, 14 }, { 4, 26 } }, 0x8f0060, 32 },
-   { { 0, 32u }, 2, 8, 2, 3, 3, 7780, 1, { { 4, 14 } }, 0x8f0060, 32 },
-   { { 0, 32u }, 2, 8, 2, 3, 3, 7780, 1, { { 8, 17 } }, 0x8f0060, 32 },
+constexpr AsicUtils::TableLayout layout[] = {
+   { { 0, 32u }, 2, 8, 3, 0, 0, 8278, 2, { { 18, 2 }, { 0, 10 } }, 0x930000, 32, &rows[0], &masks[0] },
+   { { 0, 32u }, 2, 8, 3, 0, 0, 8278, 1, { { 6, 10 } }, 0x930000, 32, &rows[0], &masks[0] },
+   { { 0, 32u }, 2, 8, 3, 0, 0, 8278, 2, { { 2, 14 }, { 2, 26 } }, 0x930000, 32, &rows[0], &masks[0] },
+   { { 0, 32u }, 2, 8, 3, 0, 0, 8278, 1, { { 2, 14 } }, 0x930000, 32, &rows[0], &masks[0] },
+   { { 0, 32u }, 2, 8, 3, 0, 0, 8278, 1, { { 24, 12 } }, 0x930000, 32, &rows[0], &masks[0] },
+   { { 0, 32u }, 2, 8, 2, 3, 3, 7780, 2, { { 8, 2 }, { 22, 9 } }, 0x8f0060, 32, &rows[0], &masks[0] },
+   { { 0, 32u }, 2, 8, 2, 3, 3, 7780, 1, { { 8, 10 } }, 0x8f0060, 32, &rows[0], &masks[0] },
+   { { 0, 32u }, 2, 8, 2, 3, 3, 7780, 2, { { 4, 14 }, { 4, 26 } }, 0x8f0060, 32, &rows[0], &masks[0] },
+   { { 0, 32u }, 2, 8, 2, 3, 3, 7780, 1, { { 4, 14 } }, 0x8f0060, 32, &rows[0], &masks[0] },
+   { { 0, 32u }, 2, 8, 2, 3, 3, 7780, 1, { { 8, 17 } }, 0x8f0060, 32, &rows[0], &masks[0] },
 };
-constexpr AsicUtils::PairRow pairs[] = {
-   { &layouts[0], &rows[0], &masks[0] }, { &layouts[1], &rows[0], &masks[0] }, { &layouts[2], &rows[0], &masks[0] }, {}, { &layouts[3], &rows[0], &masks[0] }, { &layouts[4], &rows[0], &masks[0] }, { &layouts[4], &rows[0], &masks[0] },
-   { &layouts[5], &rows[0], &masks[0] }, { &layouts[6], &rows[0], &masks[0] }, { &layouts[7], &rows[0], &masks[0] }, {}, { &layouts[8], &rows[0], &masks[0] }, { &layouts[9], &rows[0], &masks[0] }, { &layouts[9], &rows[0], &masks[0] },
+constexpr AsicUtils::TableLayout const * layouts[] = {
+   &layout[0], &layout[1], &layout[2], nullptr, &layout[3], &layout[4], &layout[4],
+   &layout[5], &layout[6], &layout[7], nullptr, &layout[8], &layout[9], &layout[9],
 };
 } // namespace EnablersVectorsData
 
 constinit AsicUtils::MetaInfo const EnablersVectors::metaInfo{
    Impl::trace, Impl::source, __LINE__, "EnablersVectors", 4, true, 2, AsicUtils::ValueType::U64,
-   EnablersVectorsData::fields, EnablersVectorsData::pairs, {}, {}
+   EnablersVectorsData::fields, EnablersVectorsData::layouts, {}, {}
 };
 
 U64 EnablersVectors::allFieldsMask() const {
@@ -385,21 +385,21 @@ constexpr AsicUtils::FieldRow rows[] = {
 constexpr U32 masks[] = {
    0xffff,
 };
-constexpr AsicUtils::TableLayout layouts[] = {
-   { { 0, 16u }, 1, 4, 1, 0, 0, 3035, 2, { { 24, 2 }, { 6, 10 } }, 0x2f60000, 0 },
-   { { 0, 16u }, 1, 4, 1, 0, 0, 3035, 1, { { 0, 9 } }, 0x2f80000, 0 },
-   { { 0, 16u }, 1, 4, 1, 0, 0, 3035, 2, { { 24, 13 }, { 24, 25 } }, 0x2f80000, 0 },
-   { { 0, 16u }, 1, 4, 1, 0, 0, 3035, 1, { { 24, 13 } }, 0x2f80000, 0 },
-   { { 0, 16u }, 1, 4, 1, 0, 0, 3035, 1, { { 24, 17 } }, 0x2f80000, 0 },
+constexpr AsicUtils::TableLayout layout[] = {
+   { { 0, 16u }, 1, 4, 1, 0, 0, 3035, 2, { { 24, 2 }, { 6, 10 } }, 0x2f60000, 0, &rows[0], &masks[0] },
+   { { 0, 16u }, 1, 4, 1, 0, 0, 3035, 1, { { 0, 9 } }, 0x2f80000, 0, &rows[0], &masks[0] },
+   { { 0, 16u }, 1, 4, 1, 0, 0, 3035, 2, { { 24, 13 }, { 24, 25 } }, 0x2f80000, 0, &rows[0], &masks[0] },
+   { { 0, 16u }, 1, 4, 1, 0, 0, 3035, 1, { { 24, 13 } }, 0x2f80000, 0, &rows[0], &masks[0] },
+   { { 0, 16u }, 1, 4, 1, 0, 0, 3035, 1, { { 24, 17 } }, 0x2f80000, 0, &rows[0], &masks[0] },
 };
-constexpr AsicUtils::PairRow pairs[] = {
-   { &layouts[0], &rows[0], &masks[0] }, { &layouts[1], &rows[0], &masks[0] }, { &layouts[2], &rows[0], &masks[0] }, {}, { &layouts[3], &rows[0], &masks[0] }, { &layouts[4], &rows[0], &masks[0] }, { &layouts[4], &rows[0], &masks[0] },
+constexpr AsicUtils::TableLayout const * layouts[] = {
+   &layout[0], &layout[1], &layout[2], nullptr, &layout[3], &layout[4], &layout[4],
 };
 } // namespace ErppCfgMappingOutLifProfileData
 
 constinit AsicUtils::MetaInfo const ErppCfgMappingOutLifProfile::metaInfo{
    Impl::trace, Impl::source, __LINE__, "ErppCfgMappingOutLifProfile", 5, true, 1, AsicUtils::ValueType::U32,
-   ErppCfgMappingOutLifProfileData::fields, ErppCfgMappingOutLifProfileData::pairs, {}, {}
+   ErppCfgMappingOutLifProfileData::fields, ErppCfgMappingOutLifProfileData::layouts, {}, {}
 };
 
 U32 ErppCfgMappingOutLifProfile::allFieldsMask() const {
@@ -419,21 +419,21 @@ constexpr AsicUtils::FieldRow rows[] = {
 constexpr U32 masks[] = {
    0xffffffff, 0xffffffff,
 };
-constexpr AsicUtils::TableLayout layouts[] = {
-   { { 0, 1u }, 2, 8, 1, 0, 0, 30566, 2, { { 24, 2 }, { 6, 10 } }, 0x540, 0 },
-   { { 0, 1u }, 2, 8, 1, 0, 0, 30566, 1, { { 0, 9 } }, 0x58a, 0 },
-   { { 0, 1u }, 2, 8, 1, 0, 0, 30566, 2, { { 24, 13 }, { 24, 25 } }, 0x54a, 0 },
-   { { 0, 1u }, 2, 8, 1, 0, 0, 30566, 1, { { 24, 13 } }, 0x54a, 0 },
-   { { 0, 1u }, 2, 8, 1, 0, 0, 30566, 1, { { 24, 17 } }, 0x58a, 0 },
+constexpr AsicUtils::TableLayout layout[] = {
+   { { 0, 1u }, 2, 8, 1, 0, 0, 30566, 2, { { 24, 2 }, { 6, 10 } }, 0x540, 0, &rows[0], &masks[0] },
+   { { 0, 1u }, 2, 8, 1, 0, 0, 30566, 1, { { 0, 9 } }, 0x58a, 0, &rows[0], &masks[0] },
+   { { 0, 1u }, 2, 8, 1, 0, 0, 30566, 2, { { 24, 13 }, { 24, 25 } }, 0x54a, 0, &rows[0], &masks[0] },
+   { { 0, 1u }, 2, 8, 1, 0, 0, 30566, 1, { { 24, 13 } }, 0x54a, 0, &rows[0], &masks[0] },
+   { { 0, 1u }, 2, 8, 1, 0, 0, 30566, 1, { { 24, 17 } }, 0x58a, 0, &rows[0], &masks[0] },
 };
-constexpr AsicUtils::PairRow pairs[] = {
-   { &layouts[0], &rows[0], &masks[0] }, { &layouts[1], &rows[0], &masks[0] }, { &layouts[2], &rows[0], &masks[0] }, {}, { &layouts[3], &rows[0], &masks[0] }, { &layouts[4], &rows[0], &masks[0] }, { &layouts[4], &rows[0], &masks[0] },
+constexpr AsicUtils::TableLayout const * layouts[] = {
+   &layout[0], &layout[1], &layout[2], nullptr, &layout[3], &layout[4], &layout[4],
 };
 } // namespace ErppCfgSplitHorizonFilterData
 
 constinit AsicUtils::MetaInfo const ErppCfgSplitHorizonFilter::metaInfo{
    Impl::trace, Impl::source, __LINE__, "ErppCfgSplitHorizonFilter", 6, false, 1, AsicUtils::ValueType::U64,
-   ErppCfgSplitHorizonFilterData::fields, ErppCfgSplitHorizonFilterData::pairs, {}, {}
+   ErppCfgSplitHorizonFilterData::fields, ErppCfgSplitHorizonFilterData::layouts, {}, {}
 };
 
 U64 ErppCfgSplitHorizonFilter::allFieldsMask() const {
@@ -454,21 +454,21 @@ constexpr AsicUtils::FieldRow rows[] = {
 constexpr U32 masks[] = {
    0x1f,
 };
-constexpr AsicUtils::TableLayout layouts[] = {
-   { { 0, 256u }, 1, 4, 1, 0, 0, 3034, 2, { { 24, 2 }, { 6, 10 } }, 0x2f40000, 0 },
-   { { 0, 256u }, 1, 4, 1, 0, 0, 3034, 1, { { 0, 9 } }, 0x2f60000, 0 },
-   { { 0, 256u }, 1, 4, 1, 0, 0, 3034, 2, { { 24, 13 }, { 24, 25 } }, 0x2f60000, 0 },
-   { { 0, 256u }, 1, 4, 1, 0, 0, 3034, 1, { { 24, 13 } }, 0x2f60000, 0 },
-   { { 0, 256u }, 1, 4, 1, 0, 0, 3034, 1, { { 24, 17 } }, 0x2f60000, 0 },
+constexpr AsicUtils::TableLayout layout[] = {
+   { { 0, 256u }, 1, 4, 1, 0, 0, 3034, 2, { { 24, 2 }, { 6, 10 } }, 0x2f40000, 0, &rows[0], &masks[0] },
+   { { 0, 256u }, 1, 4, 1, 0, 0, 3034, 1, { { 0, 9 } }, 0x2f60000, 0, &rows[0], &masks[0] },
+   { { 0, 256u }, 1, 4, 1, 0, 0, 3034, 2, { { 24, 13 }, { 24, 25 } }, 0x2f60000, 0, &rows[0], &masks[0] },
+   { { 0, 256u }, 1, 4, 1, 0, 0, 3034, 1, { { 24, 13 } }, 0x2f60000, 0, &rows[0], &masks[0] },
+   { { 0, 256u }, 1, 4, 1, 0, 0, 3034, 1, { { 24, 17 } }, 0x2f60000, 0, &rows[0], &masks[0] },
 };
-constexpr AsicUtils::PairRow pairs[] = {
-   { &layouts[0], &rows[0], &masks[0] }, { &layouts[1], &rows[0], &masks[0] }, { &layouts[2], &rows[0], &masks[0] }, {}, { &layouts[3], &rows[0], &masks[0] }, { &layouts[4], &rows[0], &masks[0] }, { &layouts[4], &rows[0], &masks[0] },
+constexpr AsicUtils::TableLayout const * layouts[] = {
+   &layout[0], &layout[1], &layout[2], nullptr, &layout[3], &layout[4], &layout[4],
 };
 } // namespace ErppInlifOrientationMapData
 
 constinit AsicUtils::MetaInfo const ErppInlifOrientationMap::metaInfo{
    Impl::trace, Impl::source, __LINE__, "ErppInlifOrientationMap", 7, true, 1, AsicUtils::ValueType::U32,
-   ErppInlifOrientationMapData::fields, ErppInlifOrientationMapData::pairs, {}, {}
+   ErppInlifOrientationMapData::fields, ErppInlifOrientationMapData::layouts, {}, {}
 };
 
 U32 ErppInlifOrientationMap::allFieldsMask() const {
@@ -513,27 +513,27 @@ constexpr AsicUtils::FieldRow rows[] = {
 constexpr U32 masks[] = {
    0xffffffff, 0xffffffff, 0xffffffff, 0xffffffff,
 };
-constexpr AsicUtils::TableLayout layouts[] = {
-   { { 0, 1u }, 4, 16, 1, 0, 0, 54780, 2, { { 18, 2 }, { 0, 10 } }, 0x19d, 0 },
-   { { 0, 1u }, 4, 16, 1, 0, 0, 54780, 1, { { 6, 10 } }, 0x1c7, 0 },
-   { { 0, 1u }, 4, 16, 1, 0, 0, 54780, 2, { { 2, 14 }, { 2, 26 } }, 0x1c7, 0 },
-   { { 0, 1u }, 4, 16, 1, 0, 0, 54780, 1, { { 2, 14 } }, 0x1c7, 0 },
-   { { 0, 1u }, 4, 16, 1, 0, 0, 54780, 1, { { 24, 12 } }, 0x1c7, 0 },
-   { { 0, 1u }, 4, 16, 1, 0, 0, 54019, 2, { { 8, 2 }, { 22, 9 } }, 0x19d, 0 },
-   { { 0, 1u }, 4, 16, 1, 0, 0, 54019, 1, { { 8, 10 } }, 0x19f, 0 },
-   { { 0, 1u }, 4, 16, 1, 0, 0, 54019, 2, { { 4, 14 }, { 4, 26 } }, 0x19f, 0 },
-   { { 0, 1u }, 4, 16, 1, 0, 0, 54019, 1, { { 4, 14 } }, 0x19f, 0 },
-   { { 0, 1u }, 4, 16, 1, 0, 0, 54019, 1, { { 8, 17 } }, 0x19f, 0 },
+constexpr AsicUtils::TableLayout layout[] = {
+   { { 0, 1u }, 4, 16, 1, 0, 0, 54780, 2, { { 18, 2 }, { 0, 10 } }, 0x19d, 0, &rows[0], &masks[0] },
+   { { 0, 1u }, 4, 16, 1, 0, 0, 54780, 1, { { 6, 10 } }, 0x1c7, 0, &rows[0], &masks[0] },
+   { { 0, 1u }, 4, 16, 1, 0, 0, 54780, 2, { { 2, 14 }, { 2, 26 } }, 0x1c7, 0, &rows[0], &masks[0] },
+   { { 0, 1u }, 4, 16, 1, 0, 0, 54780, 1, { { 2, 14 } }, 0x1c7, 0, &rows[0], &masks[0] },
+   { { 0, 1u }, 4, 16, 1, 0, 0, 54780, 1, { { 24, 12 } }, 0x1c7, 0, &rows[0], &masks[0] },
+   { { 0, 1u }, 4, 16, 1, 0, 0, 54019, 2, { { 8, 2 }, { 22, 9 } }, 0x19d, 0, &rows[0], &masks[0] },
+   { { 0, 1u }, 4, 16, 1, 0, 0, 54019, 1, { { 8, 10 } }, 0x19f, 0, &rows[0], &masks[0] },
+   { { 0, 1u }, 4, 16, 1, 0, 0, 54019, 2, { { 4, 14 }, { 4, 26 } }, 0x19f, 0, &rows[0], &masks[0] },
+   { { 0, 1u }, 4, 16, 1, 0, 0, 54019, 1, { { 4, 14 } }, 0x19f, 0, &rows[0], &masks[0] },
+   { { 0, 1u }, 4, 16, 1, 0, 0, 54019, 1, { { 8, 17 } }, 0x19f, 0, &rows[0], &masks[0] },
 };
-constexpr AsicUtils::PairRow pairs[] = {
-   { &layouts[0], &rows[0], &masks[0] }, { &layouts[1], &rows[0], &masks[0] }, { &layouts[2], &rows[0], &masks[0] }, {}, { &layouts[3], &rows[0], &masks[0] }, { &layouts[4], &rows[0], &masks[0] }, { &layouts[4], &rows[0], &masks[0] },
-   { &layouts[5], &rows[0], &masks[0] }, { &layouts[6], &rows[0], &masks[0] }, { &layouts[7], &rows[0], &masks[0] }, {}, { &layouts[8], &rows[0], &masks[0] }, { &layouts[9], &rows[0], &masks[0] }, { &layouts[9], &rows[0], &masks[0] },
+constexpr AsicUtils::TableLayout const * layouts[] = {
+   &layout[0], &layout[1], &layout[2], nullptr, &layout[3], &layout[4], &layout[4],
+   &layout[5], &layout[6], &layout[7], nullptr, &layout[8], &layout[9], &layout[9],
 };
 } // namespace EthernetTrapData
 
 constinit AsicUtils::MetaInfo const EthernetTrap::metaInfo{
    Impl::trace, Impl::source, __LINE__, "EthernetTrap", 8, false, 2, AsicUtils::ValueType::Raw128,
-   EthernetTrapData::fields, EthernetTrapData::pairs, {}, {}
+   EthernetTrapData::fields, EthernetTrapData::layouts, {}, {}
 };
 
 Raw128 EthernetTrap::allFieldsMask() const {
@@ -554,21 +554,21 @@ constexpr U32 masks[] = {
    0xffffffff, 0xffffffff, 0xffffffff, 0xffffffff, 0xffffffff, 0xffffffff, 0xffffffff, 0xffffffff,
    0xffffffff, 0xffffffff, 0xffffffff, 0xffffffff, 0xffffffff, 0xffffffff, 0xffffffff, 0xffffffff,
 };
-constexpr AsicUtils::TableLayout layouts[] = {
-   { { 0, 1u }, 16, 64, 1, 0, 0, 31814, 2, { { 30, 2 }, { 12, 10 } }, 0x700, 0 },
-   { { 0, 1u }, 16, 64, 1, 0, 0, 31814, 1, { { 8, 4 } }, 0x700, 0 },
-   { { 0, 1u }, 16, 64, 1, 0, 0, 31814, 2, { { 30, 13 }, { 30, 25 } }, 0x700, 0 },
-   { { 0, 1u }, 16, 64, 1, 0, 0, 31814, 1, { { 30, 13 } }, 0x700, 0 },
-   { { 0, 1u }, 16, 64, 1, 0, 0, 31814, 1, { { 24, 9 } }, 0x700, 0 },
+constexpr AsicUtils::TableLayout layout[] = {
+   { { 0, 1u }, 16, 64, 1, 0, 0, 31814, 2, { { 30, 2 }, { 12, 10 } }, 0x700, 0, &rows[0], &masks[0] },
+   { { 0, 1u }, 16, 64, 1, 0, 0, 31814, 1, { { 8, 4 } }, 0x700, 0, &rows[0], &masks[0] },
+   { { 0, 1u }, 16, 64, 1, 0, 0, 31814, 2, { { 30, 13 }, { 30, 25 } }, 0x700, 0, &rows[0], &masks[0] },
+   { { 0, 1u }, 16, 64, 1, 0, 0, 31814, 1, { { 30, 13 } }, 0x700, 0, &rows[0], &masks[0] },
+   { { 0, 1u }, 16, 64, 1, 0, 0, 31814, 1, { { 24, 9 } }, 0x700, 0, &rows[0], &masks[0] },
 };
-constexpr AsicUtils::PairRow pairs[] = {
-   { &layouts[0], &rows[0], &masks[0] }, { &layouts[1], &rows[0], &masks[0] }, { &layouts[2], &rows[0], &masks[0] }, {}, { &layouts[3], &rows[0], &masks[0] }, { &layouts[4], &rows[0], &masks[0] }, { &layouts[4], &rows[0], &masks[0] },
+constexpr AsicUtils::TableLayout const * layouts[] = {
+   &layout[0], &layout[1], &layout[2], nullptr, &layout[3], &layout[4], &layout[4],
 };
 } // namespace EtppCfgFwdDoNotTtlDecrementData
 
 constinit AsicUtils::MetaInfo const EtppCfgFwdDoNotTtlDecrement::metaInfo{
    Impl::trace, Impl::source, __LINE__, "EtppCfgFwdDoNotTtlDecrement", 9, false, 1, AsicUtils::ValueType::Raw512,
-   EtppCfgFwdDoNotTtlDecrementData::fields, EtppCfgFwdDoNotTtlDecrementData::pairs, {}, {}
+   EtppCfgFwdDoNotTtlDecrementData::fields, EtppCfgFwdDoNotTtlDecrementData::layouts, {}, {}
 };
 
 Raw512 EtppCfgFwdDoNotTtlDecrement::allFieldsMask() const {
@@ -588,21 +588,21 @@ constexpr AsicUtils::FieldRow rows[] = {
 constexpr U32 masks[] = {
    0xffff,
 };
-constexpr AsicUtils::TableLayout layouts[] = {
-   { { 0, 1u }, 1, 4, 1, 0, 0, 31489, 2, { { 26, 2 }, { 8, 10 } }, 0x903, 0 },
-   { { 0, 1u }, 1, 4, 1, 0, 0, 31489, 1, { { 20, 5 } }, 0x903, 0 },
-   { { 0, 1u }, 1, 4, 1, 0, 0, 31489, 2, { { 26, 13 }, { 26, 25 } }, 0x904, 0 },
-   { { 0, 1u }, 1, 4, 1, 0, 0, 31489, 1, { { 26, 13 } }, 0x904, 0 },
-   { { 0, 1u }, 1, 4, 1, 0, 0, 31489, 1, { { 8, 8 } }, 0x903, 0 },
+constexpr AsicUtils::TableLayout layout[] = {
+   { { 0, 1u }, 1, 4, 1, 0, 0, 31489, 2, { { 26, 2 }, { 8, 10 } }, 0x903, 0, &rows[0], &masks[0] },
+   { { 0, 1u }, 1, 4, 1, 0, 0, 31489, 1, { { 20, 5 } }, 0x903, 0, &rows[0], &masks[0] },
+   { { 0, 1u }, 1, 4, 1, 0, 0, 31489, 2, { { 26, 13 }, { 26, 25 } }, 0x904, 0, &rows[0], &masks[0] },
+   { { 0, 1u }, 1, 4, 1, 0, 0, 31489, 1, { { 26, 13 } }, 0x904, 0, &rows[0], &masks[0] },
+   { { 0, 1u }, 1, 4, 1, 0, 0, 31489, 1, { { 8, 8 } }, 0x903, 0, &rows[0], &masks[0] },
 };
-constexpr AsicUtils::PairRow pairs[] = {
-   { &layouts[0], &rows[0], &masks[0] }, { &layouts[1], &rows[0], &masks[0] }, { &layouts[2], &rows[0], &masks[0] }, {}, { &layouts[3], &rows[0], &masks[0] }, { &layouts[4], &rows[0], &masks[0] }, { &layouts[4], &rows[0], &masks[0] },
+constexpr AsicUtils::TableLayout const * layouts[] = {
+   &layout[0], &layout[1], &layout[2], nullptr, &layout[3], &layout[4], &layout[4],
 };
 } // namespace EtppCfgRifInStackData
 
 constinit AsicUtils::MetaInfo const EtppCfgRifInStack::metaInfo{
    Impl::trace, Impl::source, __LINE__, "EtppCfgRifInStack", 10, false, 1, AsicUtils::ValueType::U32,
-   EtppCfgRifInStackData::fields, EtppCfgRifInStackData::pairs, {}, {}
+   EtppCfgRifInStackData::fields, EtppCfgRifInStackData::layouts, {}, {}
 };
 
 U32 EtppCfgRifInStack::allFieldsMask() const {
@@ -622,21 +622,21 @@ constexpr AsicUtils::FieldRow rows[] = {
 constexpr U32 masks[] = {
    0xffffffff, 0xffffffff,
 };
-constexpr AsicUtils::TableLayout layouts[] = {
-   { { 0, 1u }, 2, 8, 1, 0, 0, 31859, 2, { { 30, 2 }, { 12, 10 } }, 0x823, 0 },
-   { { 0, 1u }, 2, 8, 1, 0, 0, 31859, 1, { { 8, 4 } }, 0x824, 0 },
-   { { 0, 1u }, 2, 8, 1, 0, 0, 31859, 2, { { 30, 13 }, { 30, 25 } }, 0x828, 0 },
-   { { 0, 1u }, 2, 8, 1, 0, 0, 31859, 1, { { 30, 13 } }, 0x828, 0 },
-   { { 0, 1u }, 2, 8, 1, 0, 0, 31859, 1, { { 24, 9 } }, 0x824, 0 },
+constexpr AsicUtils::TableLayout layout[] = {
+   { { 0, 1u }, 2, 8, 1, 0, 0, 31859, 2, { { 30, 2 }, { 12, 10 } }, 0x823, 0, &rows[0], &masks[0] },
+   { { 0, 1u }, 2, 8, 1, 0, 0, 31859, 1, { { 8, 4 } }, 0x824, 0, &rows[0], &masks[0] },
+   { { 0, 1u }, 2, 8, 1, 0, 0, 31859, 2, { { 30, 13 }, { 30, 25 } }, 0x828, 0, &rows[0], &masks[0] },
+   { { 0, 1u }, 2, 8, 1, 0, 0, 31859, 1, { { 30, 13 } }, 0x828, 0, &rows[0], &masks[0] },
+   { { 0, 1u }, 2, 8, 1, 0, 0, 31859, 1, { { 24, 9 } }, 0x824, 0, &rows[0], &masks[0] },
 };
-constexpr AsicUtils::PairRow pairs[] = {
-   { &layouts[0], &rows[0], &masks[0] }, { &layouts[1], &rows[0], &masks[0] }, { &layouts[2], &rows[0], &masks[0] }, {}, { &layouts[3], &rows[0], &masks[0] }, { &layouts[4], &rows[0], &masks[0] }, { &layouts[4], &rows[0], &masks[0] },
+constexpr AsicUtils::TableLayout const * layouts[] = {
+   &layout[0], &layout[1], &layout[2], nullptr, &layout[3], &layout[4], &layout[4],
 };
 } // namespace EtppCfgSplitHorizonFilterData
 
 constinit AsicUtils::MetaInfo const EtppCfgSplitHorizonFilter::metaInfo{
    Impl::trace, Impl::source, __LINE__, "EtppCfgSplitHorizonFilter", 11, false, 1, AsicUtils::ValueType::U64,
-   EtppCfgSplitHorizonFilterData::fields, EtppCfgSplitHorizonFilterData::pairs, {}, {}
+   EtppCfgSplitHorizonFilterData::fields, EtppCfgSplitHorizonFilterData::layouts, {}, {}
 };
 
 U64 EtppCfgSplitHorizonFilter::allFieldsMask() const {
@@ -658,21 +658,21 @@ constexpr AsicUtils::FieldRow rows[] = {
 constexpr U32 masks[] = {
    0x3ff,
 };
-constexpr AsicUtils::TableLayout layouts[] = {
-   { { 0, 1u }, 1, 4, 1, 0, 0, 31863, 2, { { 30, 2 }, { 12, 10 } }, 0x831, 0 },
-   { { 0, 1u }, 1, 4, 1, 0, 0, 31863, 1, { { 8, 4 } }, 0x84a, 0 },
-   { { 0, 1u }, 1, 4, 1, 0, 0, 31863, 2, { { 30, 13 }, { 30, 25 } }, 0x836, 0 },
-   { { 0, 1u }, 1, 4, 1, 0, 0, 31863, 1, { { 30, 13 } }, 0x836, 0 },
-   { { 0, 1u }, 1, 4, 1, 0, 0, 31863, 1, { { 24, 9 } }, 0x84a, 0 },
+constexpr AsicUtils::TableLayout layout[] = {
+   { { 0, 1u }, 1, 4, 1, 0, 0, 31863, 2, { { 30, 2 }, { 12, 10 } }, 0x831, 0, &rows[0], &masks[0] },
+   { { 0, 1u }, 1, 4, 1, 0, 0, 31863, 1, { { 8, 4 } }, 0x84a, 0, &rows[0], &masks[0] },
+   { { 0, 1u }, 1, 4, 1, 0, 0, 31863, 2, { { 30, 13 }, { 30, 25 } }, 0x836, 0, &rows[0], &masks[0] },
+   { { 0, 1u }, 1, 4, 1, 0, 0, 31863, 1, { { 30, 13 } }, 0x836, 0, &rows[0], &masks[0] },
+   { { 0, 1u }, 1, 4, 1, 0, 0, 31863, 1, { { 24, 9 } }, 0x84a, 0, &rows[0], &masks[0] },
 };
-constexpr AsicUtils::PairRow pairs[] = {
-   { &layouts[0], &rows[0], &masks[0] }, { &layouts[1], &rows[0], &masks[0] }, { &layouts[2], &rows[0], &masks[0] }, {}, { &layouts[3], &rows[0], &masks[0] }, { &layouts[4], &rows[0], &masks[0] }, { &layouts[4], &rows[0], &masks[0] },
+constexpr AsicUtils::TableLayout const * layouts[] = {
+   &layout[0], &layout[1], &layout[2], nullptr, &layout[3], &layout[4], &layout[4],
 };
 } // namespace EtppCfgSplitHorizonTrapParamsData
 
 constinit AsicUtils::MetaInfo const EtppCfgSplitHorizonTrapParams::metaInfo{
    Impl::trace, Impl::source, __LINE__, "EtppCfgSplitHorizonTrapParams", 12, false, 1, AsicUtils::ValueType::U32,
-   EtppCfgSplitHorizonTrapParamsData::fields, EtppCfgSplitHorizonTrapParamsData::pairs, {}, {}
+   EtppCfgSplitHorizonTrapParamsData::fields, EtppCfgSplitHorizonTrapParamsData::layouts, {}, {}
 };
 
 U32 EtppCfgSplitHorizonTrapParams::allFieldsMask() const {
@@ -692,21 +692,21 @@ constexpr AsicUtils::FieldRow rows[] = {
 constexpr U32 masks[] = {
    0x3,
 };
-constexpr AsicUtils::TableLayout layouts[] = {
-   { { 0, 256u }, 1, 4, 1, 0, 0, 3464, 2, { { 30, 2 }, { 12, 10 } }, 0x2740000, 0 },
-   { { 0, 1024u }, 1, 4, 1, 0, 0, 3464, 1, { { 8, 4 } }, 0x2740000, 0 },
-   { { 0, 256u }, 1, 4, 1, 0, 0, 3464, 2, { { 30, 13 }, { 30, 25 } }, 0x2740000, 0 },
-   { { 0, 256u }, 1, 4, 1, 0, 0, 3464, 1, { { 30, 13 } }, 0x2740000, 0 },
-   { { 0, 1024u }, 1, 4, 1, 0, 0, 3464, 1, { { 24, 9 } }, 0x2740000, 0 },
+constexpr AsicUtils::TableLayout layout[] = {
+   { { 0, 256u }, 1, 4, 1, 0, 0, 3464, 2, { { 30, 2 }, { 12, 10 } }, 0x2740000, 0, &rows[0], &masks[0] },
+   { { 0, 1024u }, 1, 4, 1, 0, 0, 3464, 1, { { 8, 4 } }, 0x2740000, 0, &rows[0], &masks[0] },
+   { { 0, 256u }, 1, 4, 1, 0, 0, 3464, 2, { { 30, 13 }, { 30, 25 } }, 0x2740000, 0, &rows[0], &masks[0] },
+   { { 0, 256u }, 1, 4, 1, 0, 0, 3464, 1, { { 30, 13 } }, 0x2740000, 0, &rows[0], &masks[0] },
+   { { 0, 1024u }, 1, 4, 1, 0, 0, 3464, 1, { { 24, 9 } }, 0x2740000, 0, &rows[0], &masks[0] },
 };
-constexpr AsicUtils::PairRow pairs[] = {
-   { &layouts[0], &rows[0], &masks[0] }, { &layouts[1], &rows[0], &masks[0] }, { &layouts[2], &rows[0], &masks[0] }, {}, { &layouts[3], &rows[0], &masks[0] }, { &layouts[4], &rows[0], &masks[0] }, { &layouts[4], &rows[0], &masks[0] },
+constexpr AsicUtils::TableLayout const * layouts[] = {
+   &layout[0], &layout[1], &layout[2], nullptr, &layout[3], &layout[4], &layout[4],
 };
 } // namespace EtppEnc1ContextSelectionPortProfileData
 
 constinit AsicUtils::MetaInfo const EtppEnc1ContextSelectionPortProfile::metaInfo{
    Impl::trace, Impl::source, __LINE__, "EtppEnc1ContextSelectionPortProfile", 13, true, 1, AsicUtils::ValueType::U32,
-   EtppEnc1ContextSelectionPortProfileData::fields, EtppEnc1ContextSelectionPortProfileData::pairs, {}, {}
+   EtppEnc1ContextSelectionPortProfileData::fields, EtppEnc1ContextSelectionPortProfileData::layouts, {}, {}
 };
 
 U32 EtppEnc1ContextSelectionPortProfile::allFieldsMask() const {
@@ -726,21 +726,21 @@ constexpr AsicUtils::FieldRow rows[] = {
 constexpr U32 masks[] = {
    0x3,
 };
-constexpr AsicUtils::TableLayout layouts[] = {
-   { { 0, 256u }, 1, 4, 1, 0, 0, 3475, 2, { { 30, 2 }, { 12, 10 } }, 0x2750000, 0 },
-   { { 0, 1024u }, 1, 4, 1, 0, 0, 3475, 1, { { 8, 4 } }, 0x2750000, 0 },
-   { { 0, 256u }, 1, 4, 1, 0, 0, 3475, 2, { { 30, 13 }, { 30, 25 } }, 0x2750000, 0 },
-   { { 0, 256u }, 1, 4, 1, 0, 0, 3475, 1, { { 30, 13 } }, 0x2750000, 0 },
-   { { 0, 1024u }, 1, 4, 1, 0, 0, 3475, 1, { { 24, 9 } }, 0x2750000, 0 },
+constexpr AsicUtils::TableLayout layout[] = {
+   { { 0, 256u }, 1, 4, 1, 0, 0, 3475, 2, { { 30, 2 }, { 12, 10 } }, 0x2750000, 0, &rows[0], &masks[0] },
+   { { 0, 1024u }, 1, 4, 1, 0, 0, 3475, 1, { { 8, 4 } }, 0x2750000, 0, &rows[0], &masks[0] },
+   { { 0, 256u }, 1, 4, 1, 0, 0, 3475, 2, { { 30, 13 }, { 30, 25 } }, 0x2750000, 0, &rows[0], &masks[0] },
+   { { 0, 256u }, 1, 4, 1, 0, 0, 3475, 1, { { 30, 13 } }, 0x2750000, 0, &rows[0], &masks[0] },
+   { { 0, 1024u }, 1, 4, 1, 0, 0, 3475, 1, { { 24, 9 } }, 0x2750000, 0, &rows[0], &masks[0] },
 };
-constexpr AsicUtils::PairRow pairs[] = {
-   { &layouts[0], &rows[0], &masks[0] }, { &layouts[1], &rows[0], &masks[0] }, { &layouts[2], &rows[0], &masks[0] }, {}, { &layouts[3], &rows[0], &masks[0] }, { &layouts[4], &rows[0], &masks[0] }, { &layouts[4], &rows[0], &masks[0] },
+constexpr AsicUtils::TableLayout const * layouts[] = {
+   &layout[0], &layout[1], &layout[2], nullptr, &layout[3], &layout[4], &layout[4],
 };
 } // namespace EtppEnc2ContextSelectionPortProfileData
 
 constinit AsicUtils::MetaInfo const EtppEnc2ContextSelectionPortProfile::metaInfo{
    Impl::trace, Impl::source, __LINE__, "EtppEnc2ContextSelectionPortProfile", 14, true, 1, AsicUtils::ValueType::U32,
-   EtppEnc2ContextSelectionPortProfileData::fields, EtppEnc2ContextSelectionPortProfileData::pairs, {}, {}
+   EtppEnc2ContextSelectionPortProfileData::fields, EtppEnc2ContextSelectionPortProfileData::layouts, {}, {}
 };
 
 U32 EtppEnc2ContextSelectionPortProfile::allFieldsMask() const {
@@ -760,21 +760,21 @@ constexpr AsicUtils::FieldRow rows[] = {
 constexpr U32 masks[] = {
    0x3,
 };
-constexpr AsicUtils::TableLayout layouts[] = {
-   { { 0, 256u }, 1, 4, 1, 0, 0, 3346, 2, { { 28, 2 }, { 10, 10 } }, 0x1d0000, 0 },
-   { { 0, 1024u }, 1, 4, 1, 0, 0, 3346, 1, { { 2, 9 } }, 0x1d0000, 0 },
-   { { 0, 256u }, 1, 4, 1, 0, 0, 3346, 2, { { 28, 13 }, { 28, 25 } }, 0x1d0000, 0 },
-   { { 0, 256u }, 1, 4, 1, 0, 0, 3346, 1, { { 28, 13 } }, 0x1d0000, 0 },
-   { { 0, 1024u }, 1, 4, 1, 0, 0, 3346, 1, { { 16, 9 } }, 0x1d0000, 0 },
+constexpr AsicUtils::TableLayout layout[] = {
+   { { 0, 256u }, 1, 4, 1, 0, 0, 3346, 2, { { 28, 2 }, { 10, 10 } }, 0x1d0000, 0, &rows[0], &masks[0] },
+   { { 0, 1024u }, 1, 4, 1, 0, 0, 3346, 1, { { 2, 9 } }, 0x1d0000, 0, &rows[0], &masks[0] },
+   { { 0, 256u }, 1, 4, 1, 0, 0, 3346, 2, { { 28, 13 }, { 28, 25 } }, 0x1d0000, 0, &rows[0], &masks[0] },
+   { { 0, 256u }, 1, 4, 1, 0, 0, 3346, 1, { { 28, 13 } }, 0x1d0000, 0, &rows[0], &masks[0] },
+   { { 0, 1024u }, 1, 4, 1, 0, 0, 3346, 1, { { 16, 9 } }, 0x1d0000, 0, &rows[0], &masks[0] },
 };
-constexpr AsicUtils::PairRow pairs[] = {
-   { &layouts[0], &rows[0], &masks[0] }, { &layouts[1], &rows[0], &masks[0] }, { &layouts[2], &rows[0], &masks[0] }, {}, { &layouts[3], &rows[0], &masks[0] }, { &layouts[4], &rows[0], &masks[0] }, { &layouts[4], &rows[0], &masks[0] },
+constexpr AsicUtils::TableLayout const * layouts[] = {
+   &layout[0], &layout[1], &layout[2], nullptr, &layout[3], &layout[4], &layout[4],
 };
 } // namespace EtppEnc3ContextSelectionPortProfileData
 
 constinit AsicUtils::MetaInfo const EtppEnc3ContextSelectionPortProfile::metaInfo{
    Impl::trace, Impl::source, __LINE__, "EtppEnc3ContextSelectionPortProfile", 15, true, 1, AsicUtils::ValueType::U32,
-   EtppEnc3ContextSelectionPortProfileData::fields, EtppEnc3ContextSelectionPortProfileData::pairs, {}, {}
+   EtppEnc3ContextSelectionPortProfileData::fields, EtppEnc3ContextSelectionPortProfileData::layouts, {}, {}
 };
 
 U32 EtppEnc3ContextSelectionPortProfile::allFieldsMask() const {
@@ -794,21 +794,21 @@ constexpr AsicUtils::FieldRow rows[] = {
 constexpr U32 masks[] = {
    0x3,
 };
-constexpr AsicUtils::TableLayout layouts[] = {
-   { { 0, 256u }, 1, 4, 1, 0, 0, 3363, 2, { { 28, 2 }, { 10, 10 } }, 0x1e0000, 0 },
-   { { 0, 1024u }, 1, 4, 1, 0, 0, 3363, 1, { { 2, 9 } }, 0x1e0000, 0 },
-   { { 0, 256u }, 1, 4, 1, 0, 0, 3363, 2, { { 28, 13 }, { 28, 25 } }, 0x1e0000, 0 },
-   { { 0, 256u }, 1, 4, 1, 0, 0, 3363, 1, { { 28, 13 } }, 0x1e0000, 0 },
-   { { 0, 1024u }, 1, 4, 1, 0, 0, 3363, 1, { { 16, 9 } }, 0x1e0000, 0 },
+constexpr AsicUtils::TableLayout layout[] = {
+   { { 0, 256u }, 1, 4, 1, 0, 0, 3363, 2, { { 28, 2 }, { 10, 10 } }, 0x1e0000, 0, &rows[0], &masks[0] },
+   { { 0, 1024u }, 1, 4, 1, 0, 0, 3363, 1, { { 2, 9 } }, 0x1e0000, 0, &rows[0], &masks[0] },
+   { { 0, 256u }, 1, 4, 1, 0, 0, 3363, 2, { { 28, 13 }, { 28, 25 } }, 0x1e0000, 0, &rows[0], &masks[0] },
+   { { 0, 256u }, 1, 4, 1, 0, 0, 3363, 1, { { 28, 13 } }, 0x1e0000, 0, &rows[0], &masks[0] },
+   { { 0, 1024u }, 1, 4, 1, 0, 0, 3363, 1, { { 16, 9 } }, 0x1e0000, 0, &rows[0], &masks[0] },
 };
-constexpr AsicUtils::PairRow pairs[] = {
-   { &layouts[0], &rows[0], &masks[0] }, { &layouts[1], &rows[0], &masks[0] }, { &layouts[2], &rows[0], &masks[0] }, {}, { &layouts[3], &rows[0], &masks[0] }, { &layouts[4], &rows[0], &masks[0] }, { &layouts[4], &rows[0], &masks[0] },
+constexpr AsicUtils::TableLayout const * layouts[] = {
+   &layout[0], &layout[1], &layout[2], nullptr, &layout[3], &layout[4], &layout[4],
 };
 } // namespace EtppEnc4ContextSelectionPortProfileData
 
 constinit AsicUtils::MetaInfo const EtppEnc4ContextSelectionPortProfile::metaInfo{
    Impl::trace, Impl::source, __LINE__, "EtppEnc4ContextSelectionPortProfile", 16, true, 1, AsicUtils::ValueType::U32,
-   EtppEnc4ContextSelectionPortProfileData::fields, EtppEnc4ContextSelectionPortProfileData::pairs, {}, {}
+   EtppEnc4ContextSelectionPortProfileData::fields, EtppEnc4ContextSelectionPortProfileData::layouts, {}, {}
 };
 
 U32 EtppEnc4ContextSelectionPortProfile::allFieldsMask() const {
@@ -828,21 +828,21 @@ constexpr AsicUtils::FieldRow rows[] = {
 constexpr U32 masks[] = {
    0x3,
 };
-constexpr AsicUtils::TableLayout layouts[] = {
-   { { 0, 256u }, 1, 4, 1, 0, 0, 3380, 2, { { 28, 2 }, { 10, 10 } }, 0x1f0000, 0 },
-   { { 0, 1024u }, 1, 4, 1, 0, 0, 3380, 1, { { 2, 9 } }, 0x1f0000, 0 },
-   { { 0, 256u }, 1, 4, 1, 0, 0, 3380, 2, { { 28, 13 }, { 28, 25 } }, 0x1f0000, 0 },
-   { { 0, 256u }, 1, 4, 1, 0, 0, 3380, 1, { { 28, 13 } }, 0x1f0000, 0 },
-   { { 0, 1024u }, 1, 4, 1, 0, 0, 3380, 1, { { 16, 9 } }, 0x1f0000, 0 },
+constexpr AsicUtils::TableLayout layout[] = {
+   { { 0, 256u }, 1, 4, 1, 0, 0, 3380, 2, { { 28, 2 }, { 10, 10 } }, 0x1f0000, 0, &rows[0], &masks[0] },
+   { { 0, 1024u }, 1, 4, 1, 0, 0, 3380, 1, { { 2, 9 } }, 0x1f0000, 0, &rows[0], &masks[0] },
+   { { 0, 256u }, 1, 4, 1, 0, 0, 3380, 2, { { 28, 13 }, { 28, 25 } }, 0x1f0000, 0, &rows[0], &masks[0] },
+   { { 0, 256u }, 1, 4, 1, 0, 0, 3380, 1, { { 28, 13 } }, 0x1f0000, 0, &rows[0], &masks[0] },
+   { { 0, 1024u }, 1, 4, 1, 0, 0, 3380, 1, { { 16, 9 } }, 0x1f0000, 0, &rows[0], &masks[0] },
 };
-constexpr AsicUtils::PairRow pairs[] = {
-   { &layouts[0], &rows[0], &masks[0] }, { &layouts[1], &rows[0], &masks[0] }, { &layouts[2], &rows[0], &masks[0] }, {}, { &layouts[3], &rows[0], &masks[0] }, { &layouts[4], &rows[0], &masks[0] }, { &layouts[4], &rows[0], &masks[0] },
+constexpr AsicUtils::TableLayout const * layouts[] = {
+   &layout[0], &layout[1], &layout[2], nullptr, &layout[3], &layout[4], &layout[4],
 };
 } // namespace EtppEnc5ContextSelectionPortProfileData
 
 constinit AsicUtils::MetaInfo const EtppEnc5ContextSelectionPortProfile::metaInfo{
    Impl::trace, Impl::source, __LINE__, "EtppEnc5ContextSelectionPortProfile", 17, true, 1, AsicUtils::ValueType::U32,
-   EtppEnc5ContextSelectionPortProfileData::fields, EtppEnc5ContextSelectionPortProfileData::pairs, {}, {}
+   EtppEnc5ContextSelectionPortProfileData::fields, EtppEnc5ContextSelectionPortProfileData::layouts, {}, {}
 };
 
 U32 EtppEnc5ContextSelectionPortProfile::allFieldsMask() const {
@@ -862,21 +862,21 @@ constexpr AsicUtils::FieldRow rows[] = {
 constexpr U32 masks[] = {
    0x7,
 };
-constexpr AsicUtils::TableLayout layouts[] = {
-   { { 0, 256u }, 1, 4, 1, 0, 0, 3504, 2, { { 30, 2 }, { 12, 10 } }, 0x2110000, 0 },
-   { { 0, 256u }, 1, 4, 1, 0, 0, 3504, 1, { { 8, 4 } }, 0x2120000, 0 },
-   { { 0, 256u }, 1, 4, 1, 0, 0, 3504, 2, { { 30, 13 }, { 30, 25 } }, 0x21a0000, 0 },
-   { { 0, 256u }, 1, 4, 1, 0, 0, 3504, 1, { { 30, 13 } }, 0x21a0000, 0 },
-   { { 0, 256u }, 1, 4, 1, 0, 0, 3504, 1, { { 24, 9 } }, 0x2120000, 0 },
+constexpr AsicUtils::TableLayout layout[] = {
+   { { 0, 256u }, 1, 4, 1, 0, 0, 3504, 2, { { 30, 2 }, { 12, 10 } }, 0x2110000, 0, &rows[0], &masks[0] },
+   { { 0, 256u }, 1, 4, 1, 0, 0, 3504, 1, { { 8, 4 } }, 0x2120000, 0, &rows[0], &masks[0] },
+   { { 0, 256u }, 1, 4, 1, 0, 0, 3504, 2, { { 30, 13 }, { 30, 25 } }, 0x21a0000, 0, &rows[0], &masks[0] },
+   { { 0, 256u }, 1, 4, 1, 0, 0, 3504, 1, { { 30, 13 } }, 0x21a0000, 0, &rows[0], &masks[0] },
+   { { 0, 256u }, 1, 4, 1, 0, 0, 3504, 1, { { 24, 9 } }, 0x2120000, 0, &rows[0], &masks[0] },
 };
-constexpr AsicUtils::PairRow pairs[] = {
-   { &layouts[0], &rows[0], &masks[0] }, { &layouts[1], &rows[0], &masks[0] }, { &layouts[2], &rows[0], &masks[0] }, {}, { &layouts[3], &rows[0], &masks[0] }, { &layouts[4], &rows[0], &masks[0] }, { &layouts[4], &rows[0], &masks[0] },
+constexpr AsicUtils::TableLayout const * layouts[] = {
+   &layout[0], &layout[1], &layout[2], nullptr, &layout[3], &layout[4], &layout[4],
 };
 } // namespace EtppInlifOrientationMapData
 
 constinit AsicUtils::MetaInfo const EtppInlifOrientationMap::metaInfo{
    Impl::trace, Impl::source, __LINE__, "EtppInlifOrientationMap", 18, true, 1, AsicUtils::ValueType::U32,
-   EtppInlifOrientationMapData::fields, EtppInlifOrientationMapData::pairs, {}, {}
+   EtppInlifOrientationMapData::fields, EtppInlifOrientationMapData::layouts, {}, {}
 };
 
 U32 EtppInlifOrientationMap::allFieldsMask() const {
@@ -896,21 +896,21 @@ constexpr AsicUtils::FieldRow rows[] = {
 constexpr U32 masks[] = {
    0xffffffff, 0xffffffff, 0xffffffff, 0xffffffff, 0xffffffff, 0xffffffff, 0x0, 0x0,
 };
-constexpr AsicUtils::TableLayout layouts[] = {
-   { { 0, 1u }, 6, 24, 1, 0, 0, 31951, 2, { { 30, 2 }, { 12, 10 } }, 0x81d, 0 },
-   { { 0, 1u }, 6, 24, 1, 0, 0, 31951, 1, { { 8, 4 } }, 0x81e, 0 },
-   { { 0, 1u }, 6, 24, 1, 0, 0, 31951, 2, { { 30, 13 }, { 30, 25 } }, 0x822, 0 },
-   { { 0, 1u }, 6, 24, 1, 0, 0, 31951, 1, { { 30, 13 } }, 0x822, 0 },
-   { { 0, 1u }, 6, 24, 1, 0, 0, 31951, 1, { { 24, 9 } }, 0x81e, 0 },
+constexpr AsicUtils::TableLayout layout[] = {
+   { { 0, 1u }, 6, 24, 1, 0, 0, 31951, 2, { { 30, 2 }, { 12, 10 } }, 0x81d, 0, &rows[0], &masks[0] },
+   { { 0, 1u }, 6, 24, 1, 0, 0, 31951, 1, { { 8, 4 } }, 0x81e, 0, &rows[0], &masks[0] },
+   { { 0, 1u }, 6, 24, 1, 0, 0, 31951, 2, { { 30, 13 }, { 30, 25 } }, 0x822, 0, &rows[0], &masks[0] },
+   { { 0, 1u }, 6, 24, 1, 0, 0, 31951, 1, { { 30, 13 } }, 0x822, 0, &rows[0], &masks[0] },
+   { { 0, 1u }, 6, 24, 1, 0, 0, 31951, 1, { { 24, 9 } }, 0x81e, 0, &rows[0], &masks[0] },
 };
-constexpr AsicUtils::PairRow pairs[] = {
-   { &layouts[0], &rows[0], &masks[0] }, { &layouts[1], &rows[0], &masks[0] }, { &layouts[2], &rows[0], &masks[0] }, {}, { &layouts[3], &rows[0], &masks[0] }, { &layouts[4], &rows[0], &masks[0] }, { &layouts[4], &rows[0], &masks[0] },
+constexpr AsicUtils::TableLayout const * layouts[] = {
+   &layout[0], &layout[1], &layout[2], nullptr, &layout[3], &layout[4], &layout[4],
 };
 } // namespace EtppOutlifOrientationMapData
 
 constinit AsicUtils::MetaInfo const EtppOutlifOrientationMap::metaInfo{
    Impl::trace, Impl::source, __LINE__, "EtppOutlifOrientationMap", 19, false, 1, AsicUtils::ValueType::Raw256,
-   EtppOutlifOrientationMapData::fields, EtppOutlifOrientationMapData::pairs, {}, {}
+   EtppOutlifOrientationMapData::fields, EtppOutlifOrientationMapData::layouts, {}, {}
 };
 
 Raw256 EtppOutlifOrientationMap::allFieldsMask() const {
@@ -940,21 +940,21 @@ constexpr U32 masks[] = {
    0xffffffff, 0xffffffff, 0xffffffff, 0xffffffff, 0xffffffff, 0xffffffff, 0xffffffff, 0xffffffff,
    0xffffffff, 0xffffffff, 0xffffffff, 0xffffffff, 0xfffff, 0x0, 0x0, 0x0,
 };
-constexpr AsicUtils::TableLayout layouts[] = {
-   { { 0, 64u }, 13, 52, 1, 0, 0, 3424, 2, { { 28, 2 }, { 10, 10 } }, 0x1270000, 0 },
-   { { 0, 64u }, 13, 52, 1, 0, 0, 3424, 1, { { 2, 9 } }, 0x1270000, 0 },
-   { { 0, 64u }, 13, 52, 1, 0, 0, 3424, 2, { { 28, 13 }, { 28, 25 } }, 0x1270000, 0 },
-   { { 0, 64u }, 13, 52, 1, 0, 0, 3424, 1, { { 28, 13 } }, 0x1270000, 0 },
-   { { 0, 64u }, 13, 52, 1, 0, 0, 3424, 1, { { 16, 9 } }, 0x1270000, 0 },
+constexpr AsicUtils::TableLayout layout[] = {
+   { { 0, 64u }, 13, 52, 1, 0, 0, 3424, 2, { { 28, 2 }, { 10, 10 } }, 0x1270000, 0, &rows[0], &masks[0] },
+   { { 0, 64u }, 13, 52, 1, 0, 0, 3424, 1, { { 2, 9 } }, 0x1270000, 0, &rows[0], &masks[0] },
+   { { 0, 64u }, 13, 52, 1, 0, 0, 3424, 2, { { 28, 13 }, { 28, 25 } }, 0x1270000, 0, &rows[0], &masks[0] },
+   { { 0, 64u }, 13, 52, 1, 0, 0, 3424, 1, { { 28, 13 } }, 0x1270000, 0, &rows[0], &masks[0] },
+   { { 0, 64u }, 13, 52, 1, 0, 0, 3424, 1, { { 16, 9 } }, 0x1270000, 0, &rows[0], &masks[0] },
 };
-constexpr AsicUtils::PairRow pairs[] = {
-   { &layouts[0], &rows[0], &masks[0] }, { &layouts[1], &rows[0], &masks[0] }, { &layouts[2], &rows[0], &masks[0] }, {}, { &layouts[3], &rows[0], &masks[0] }, { &layouts[4], &rows[0], &masks[0] }, { &layouts[4], &rows[0], &masks[0] },
+constexpr AsicUtils::TableLayout const * layouts[] = {
+   &layout[0], &layout[1], &layout[2], nullptr, &layout[3], &layout[4], &layout[4],
 };
 } // namespace EtppTrapBitCruncherProgramData
 
 constinit AsicUtils::MetaInfo const EtppTrapBitCruncherProgram::metaInfo{
    Impl::trace, Impl::source, __LINE__, "EtppTrapBitCruncherProgram", 20, true, 1, AsicUtils::ValueType::Raw512,
-   EtppTrapBitCruncherProgramData::fields, EtppTrapBitCruncherProgramData::pairs, {}, {}
+   EtppTrapBitCruncherProgramData::fields, EtppTrapBitCruncherProgramData::layouts, {}, {}
 };
 
 Raw512 EtppTrapBitCruncherProgram::allFieldsMask() const {
@@ -974,21 +974,21 @@ constexpr AsicUtils::FieldRow rows[] = {
 constexpr U32 masks[] = {
    0x7, 0xf,
 };
-constexpr AsicUtils::TableLayout layouts[] = {
-   { { 0, 256u }, 1, 4, 1, 0, 0, 3431, 2, { { 28, 2 }, { 10, 10 } }, 0x200000, 0 },
-   { { 0, 1024u }, 1, 4, 1, 0, 0, 3431, 1, { { 2, 9 } }, 0x200000, 0 },
-   { { 0, 256u }, 1, 4, 1, 0, 0, 3431, 2, { { 28, 13 }, { 28, 25 } }, 0x200000, 0 },
-   { { 0, 256u }, 1, 4, 1, 0, 0, 3431, 1, { { 28, 13 } }, 0x200000, 0 },
-   { { 0, 1024u }, 1, 4, 1, 0, 0, 3431, 1, { { 16, 9 } }, 0x200000, 0 },
+constexpr AsicUtils::TableLayout layout[] = {
+   { { 0, 256u }, 1, 4, 1, 0, 0, 3431, 2, { { 28, 2 }, { 10, 10 } }, 0x200000, 0, &rows[0], &masks[0] },
+   { { 0, 1024u }, 1, 4, 1, 0, 0, 3431, 1, { { 2, 9 } }, 0x200000, 0, &rows[0], &masks[0] },
+   { { 0, 256u }, 1, 4, 1, 0, 0, 3431, 2, { { 28, 13 }, { 28, 25 } }, 0x200000, 0, &rows[1], &masks[1] },
+   { { 0, 256u }, 1, 4, 1, 0, 0, 3431, 1, { { 28, 13 } }, 0x200000, 0, &rows[1], &masks[1] },
+   { { 0, 1024u }, 1, 4, 1, 0, 0, 3431, 1, { { 16, 9 } }, 0x200000, 0, &rows[0], &masks[0] },
 };
-constexpr AsicUtils::PairRow pairs[] = {
-   { &layouts[0], &rows[0], &masks[0] }, { &layouts[1], &rows[0], &masks[0] }, { &layouts[2], &rows[1], &masks[1] }, {}, { &layouts[3], &rows[1], &masks[1] }, { &layouts[4], &rows[0], &masks[0] }, { &layouts[4], &rows[0], &masks[0] },
+constexpr AsicUtils::TableLayout const * layouts[] = {
+   &layout[0], &layout[1], &layout[2], nullptr, &layout[3], &layout[4], &layout[4],
 };
 } // namespace EtppTrapContextSelectionPortProfileData
 
 constinit AsicUtils::MetaInfo const EtppTrapContextSelectionPortProfile::metaInfo{
    Impl::trace, Impl::source, __LINE__, "EtppTrapContextSelectionPortProfile", 21, true, 1, AsicUtils::ValueType::U32,
-   EtppTrapContextSelectionPortProfileData::fields, EtppTrapContextSelectionPortProfileData::pairs, {}, {}
+   EtppTrapContextSelectionPortProfileData::fields, EtppTrapContextSelectionPortProfileData::layouts, {}, {}
 };
 
 U32 EtppTrapContextSelectionPortProfile::allFieldsMask() const {
@@ -1009,21 +1009,21 @@ constexpr AsicUtils::FieldRow rows[] = {
 constexpr U32 masks[] = {
    0xfc000, 0x1f8, 0x0, 0x0, 0x0, 0x0, 0x0, 0x0,
 };
-constexpr AsicUtils::TableLayout layouts[] = {
-   { { 0, 64u }, 6, 24, 1, 0, 0, 3279, 2, { { 26, 2 }, { 8, 10 } }, 0x2300000, 0 },
-   { { 0, 64u }, 6, 24, 1, 0, 0, 3279, 1, { { 20, 5 } }, 0x2300000, 0 },
-   { { 0, 64u }, 6, 24, 1, 0, 0, 3279, 2, { { 26, 13 }, { 26, 25 } }, 0x2320000, 0 },
-   { { 0, 64u }, 6, 24, 1, 0, 0, 3279, 1, { { 26, 13 } }, 0x2320000, 0 },
-   { { 0, 64u }, 6, 24, 1, 0, 0, 3279, 1, { { 8, 8 } }, 0x2300000, 0 },
+constexpr AsicUtils::TableLayout layout[] = {
+   { { 0, 64u }, 6, 24, 1, 0, 0, 3279, 2, { { 26, 2 }, { 8, 10 } }, 0x2300000, 0, &rows[0], &masks[0] },
+   { { 0, 64u }, 6, 24, 1, 0, 0, 3279, 1, { { 20, 5 } }, 0x2300000, 0, &rows[0], &masks[0] },
+   { { 0, 64u }, 6, 24, 1, 0, 0, 3279, 2, { { 26, 13 }, { 26, 25 } }, 0x2320000, 0, &rows[0], &masks[0] },
+   { { 0, 64u }, 6, 24, 1, 0, 0, 3279, 1, { { 26, 13 } }, 0x2320000, 0, &rows[0], &masks[0] },
+   { { 0, 64u }, 6, 24, 1, 0, 0, 3279, 1, { { 8, 8 } }, 0x2300000, 0, &rows[0], &masks[0] },
 };
-constexpr AsicUtils::PairRow pairs[] = {
-   { &layouts[0], &rows[0], &masks[0] }, { &layouts[1], &rows[0], &masks[0] }, { &layouts[2], &rows[0], &masks[0] }, {}, { &layouts[3], &rows[0], &masks[0] }, { &layouts[4], &rows[0], &masks[0] }, { &layouts[4], &rows[0], &masks[0] },
+constexpr AsicUtils::TableLayout const * layouts[] = {
+   &layout[0], &layout[1], &layout[2], nullptr, &layout[3], &layout[4], &layout[4],
 };
 } // namespace EtppaPrpFesProgramTableData
 
 constinit AsicUtils::MetaInfo const EtppaPrpFesProgramTable::metaInfo{
    Impl::trace, Impl::source, __LINE__, "EtppaPrpFesProgramTable", 22, true, 1, AsicUtils::ValueType::Raw256,
-   EtppaPrpFesProgramTableData::fields, EtppaPrpFesProgramTableData::pairs, {}, {}
+   EtppaPrpFesProgramTableData::fields, EtppaPrpFesProgramTableData::layouts, {}, {}
 };
 
 Raw256 EtppaPrpFesProgramTable::allFieldsMask() const {
@@ -1062,21 +1062,21 @@ constexpr U32 masks[] = {
    0xffffffff, 0xffffffff, 0xffffffff, 0xffffffff, 0xffffffff, 0xffffffff, 0xffffffff, 0xffffffff,
    0x7ff, 0x0, 0x0, 0x0, 0x0, 0x0, 0x0, 0x0,
 };
-constexpr AsicUtils::TableLayout layouts[] = {
-   { { 0, 64u }, 9, 36, 1, 0, 0, 3373, 2, { { 28, 2 }, { 10, 10 } }, 0x1120000, 0 },
-   { { 0, 64u }, 9, 36, 1, 0, 0, 3373, 1, { { 2, 9 } }, 0x1120000, 0 },
-   { { 0, 128u }, 9, 36, 1, 0, 0, 3373, 2, { { 28, 13 }, { 28, 25 } }, 0x1120000, 0 },
-   { { 0, 128u }, 9, 36, 1, 0, 0, 3373, 1, { { 28, 13 } }, 0x1120000, 0 },
-   { { 0, 64u }, 9, 36, 1, 0, 0, 3373, 1, { { 16, 9 } }, 0x1120000, 0 },
+constexpr AsicUtils::TableLayout layout[] = {
+   { { 0, 64u }, 9, 36, 1, 0, 0, 3373, 2, { { 28, 2 }, { 10, 10 } }, 0x1120000, 0, &rows[0], &masks[0] },
+   { { 0, 64u }, 9, 36, 1, 0, 0, 3373, 1, { { 2, 9 } }, 0x1120000, 0, &rows[0], &masks[0] },
+   { { 0, 128u }, 9, 36, 1, 0, 0, 3373, 2, { { 28, 13 }, { 28, 25 } }, 0x1120000, 0, &rows[0], &masks[0] },
+   { { 0, 128u }, 9, 36, 1, 0, 0, 3373, 1, { { 28, 13 } }, 0x1120000, 0, &rows[0], &masks[0] },
+   { { 0, 64u }, 9, 36, 1, 0, 0, 3373, 1, { { 16, 9 } }, 0x1120000, 0, &rows[0], &masks[0] },
 };
-constexpr AsicUtils::PairRow pairs[] = {
-   { &layouts[0], &rows[0], &masks[0] }, { &layouts[1], &rows[0], &masks[0] }, { &layouts[2], &rows[0], &masks[0] }, {}, { &layouts[3], &rows[0], &masks[0] }, { &layouts[4], &rows[0], &masks[0] }, { &layouts[4], &rows[0], &masks[0] },
+constexpr AsicUtils::TableLayout const * layouts[] = {
+   &layout[0], &layout[1], &layout[2], nullptr, &layout[3], &layout[4], &layout[4],
 };
 } // namespace EtppbEnc5Arr0FormatCfgData
 
 constinit AsicUtils::MetaInfo const EtppbEnc5Arr0FormatCfg::metaInfo{
    Impl::trace, Impl::source, __LINE__, "EtppbEnc5Arr0FormatCfg", 23, true, 1, AsicUtils::ValueType::Raw512,
-   EtppbEnc5Arr0FormatCfgData::fields, EtppbEnc5Arr0FormatCfgData::pairs, {}, {}
+   EtppbEnc5Arr0FormatCfgData::fields, EtppbEnc5Arr0FormatCfgData::layouts, {}, {}
 };
 
 Raw512 EtppbEnc5Arr0FormatCfg::allFieldsMask() const {
@@ -1115,21 +1115,21 @@ constexpr U32 masks[] = {
    0xffffffff, 0xffffffff, 0xffffffff, 0xffffffff, 0xffffffff, 0xffffffff, 0xffffffff, 0xffffffff,
    0x7ff, 0x0, 0x0, 0x0, 0x0, 0x0, 0x0, 0x0,
 };
-constexpr AsicUtils::TableLayout layouts[] = {
-   { { 0, 64u }, 9, 36, 1, 0, 0, 3460, 2, { { 30, 2 }, { 12, 10 } }, 0x1720000, 0 },
-   { { 0, 64u }, 9, 36, 1, 0, 0, 3460, 1, { { 8, 4 } }, 0x1720000, 0 },
-   { { 0, 128u }, 9, 36, 1, 0, 0, 3460, 2, { { 30, 13 }, { 30, 25 } }, 0x1720000, 0 },
-   { { 0, 128u }, 9, 36, 1, 0, 0, 3460, 1, { { 30, 13 } }, 0x1720000, 0 },
-   { { 0, 64u }, 9, 36, 1, 0, 0, 3460, 1, { { 24, 9 } }, 0x1720000, 0 },
+constexpr AsicUtils::TableLayout layout[] = {
+   { { 0, 64u }, 9, 36, 1, 0, 0, 3460, 2, { { 30, 2 }, { 12, 10 } }, 0x1720000, 0, &rows[0], &masks[0] },
+   { { 0, 64u }, 9, 36, 1, 0, 0, 3460, 1, { { 8, 4 } }, 0x1720000, 0, &rows[0], &masks[0] },
+   { { 0, 128u }, 9, 36, 1, 0, 0, 3460, 2, { { 30, 13 }, { 30, 25 } }, 0x1720000, 0, &rows[0], &masks[0] },
+   { { 0, 128u }, 9, 36, 1, 0, 0, 3460, 1, { { 30, 13 } }, 0x1720000, 0, &rows[0], &masks[0] },
+   { { 0, 64u }, 9, 36, 1, 0, 0, 3460, 1, { { 24, 9 } }, 0x1720000, 0, &rows[0], &masks[0] },
 };
-constexpr AsicUtils::PairRow pairs[] = {
-   { &layouts[0], &rows[0], &masks[0] }, { &layouts[1], &rows[0], &masks[0] }, { &layouts[2], &rows[0], &masks[0] }, {}, { &layouts[3], &rows[0], &masks[0] }, { &layouts[4], &rows[0], &masks[0] }, { &layouts[4], &rows[0], &masks[0] },
+constexpr AsicUtils::TableLayout const * layouts[] = {
+   &layout[0], &layout[1], &layout[2], nullptr, &layout[3], &layout[4], &layout[4],
 };
 } // namespace EtppcEnc1Arr0FormatCfgData
 
 constinit AsicUtils::MetaInfo const EtppcEnc1Arr0FormatCfg::metaInfo{
    Impl::trace, Impl::source, __LINE__, "EtppcEnc1Arr0FormatCfg", 24, true, 1, AsicUtils::ValueType::Raw512,
-   EtppcEnc1Arr0FormatCfgData::fields, EtppcEnc1Arr0FormatCfgData::pairs, {}, {}
+   EtppcEnc1Arr0FormatCfgData::fields, EtppcEnc1Arr0FormatCfgData::layouts, {}, {}
 };
 
 Raw512 EtppcEnc1Arr0FormatCfg::allFieldsMask() const {
@@ -1172,21 +1172,21 @@ constexpr AsicUtils::FieldRow rows[] = {
 constexpr U32 masks[] = {
    0xffffffff, 0xfffffff, 0xffffffff, 0xfffffff,
 };
-constexpr AsicUtils::TableLayout layouts[] = {
-   { { 0, 68u }, 2, 8, 1, 0, 0, 3459, 2, { { 30, 2 }, { 12, 10 } }, 0x2670000, 0 },
-   { { 0, 68u }, 2, 8, 1, 0, 0, 3459, 1, { { 8, 4 } }, 0x2670000, 0 },
-   { { 0, 68u }, 2, 8, 1, 0, 0, 3459, 2, { { 30, 13 }, { 30, 25 } }, 0x2670000, 0 },
-   { { 0, 68u }, 2, 8, 1, 0, 0, 3459, 1, { { 30, 13 } }, 0x2670000, 0 },
-   { { 0, 68u }, 2, 8, 1, 0, 0, 3459, 1, { { 24, 9 } }, 0x2670000, 0 },
+constexpr AsicUtils::TableLayout layout[] = {
+   { { 0, 68u }, 2, 8, 1, 0, 0, 3459, 2, { { 30, 2 }, { 12, 10 } }, 0x2670000, 0, &rows[0], &masks[0] },
+   { { 0, 68u }, 2, 8, 1, 0, 0, 3459, 1, { { 8, 4 } }, 0x2670000, 0, &rows[0], &masks[0] },
+   { { 0, 68u }, 2, 8, 1, 0, 0, 3459, 2, { { 30, 13 }, { 30, 25 } }, 0x2670000, 0, &rows[20], &masks[2] },
+   { { 0, 68u }, 2, 8, 1, 0, 0, 3459, 1, { { 30, 13 } }, 0x2670000, 0, &rows[20], &masks[2] },
+   { { 0, 68u }, 2, 8, 1, 0, 0, 3459, 1, { { 24, 9 } }, 0x2670000, 0, &rows[0], &masks[0] },
 };
-constexpr AsicUtils::PairRow pairs[] = {
-   { &layouts[0], &rows[0], &masks[0] }, { &layouts[1], &rows[0], &masks[0] }, { &layouts[2], &rows[20], &masks[2] }, {}, { &layouts[3], &rows[20], &masks[2] }, { &layouts[4], &rows[0], &masks[0] }, { &layouts[4], &rows[0], &masks[0] },
+constexpr AsicUtils::TableLayout const * layouts[] = {
+   &layout[0], &layout[1], &layout[2], nullptr, &layout[3], &layout[4], &layout[4],
 };
 } // namespace EtppcEncapsulation2ContextSelectionCamData
 
 constinit AsicUtils::MetaInfo const EtppcEncapsulation2ContextSelectionCam::metaInfo{
    Impl::trace, Impl::source, __LINE__, "EtppcEncapsulation2ContextSelectionCam", 25, true, 1, AsicUtils::ValueType::U64,
-   EtppcEncapsulation2ContextSelectionCamData::fields, EtppcEncapsulation2ContextSelectionCamData::pairs, {}, {}
+   EtppcEncapsulation2ContextSelectionCamData::fields, EtppcEncapsulation2ContextSelectionCamData::layouts, {}, {}
 };
 
 U64 EtppcEncapsulation2ContextSelectionCam::allFieldsMask() const {
@@ -1222,17 +1222,25 @@ constexpr U32 masks[] = {
    0x0, 0x0, 0x0, 0x0, 0x0, 0x0, 0x0, 0x0,
    0x0, 0x0, 0x0, 0x0, 0x0, 0x0, 0x0, 0x0,
 };
-constexpr AsicUtils::TableLayout layouts[] = {
-   { { 0, 4294967295u }, 20, 80, 1, 0, 0, -1, 1, { { 10, 1 } }, 0x0, 0 },
-   { { 0, 4294967295u }, 20, 80, 1, 0, 0, -1, 1, { { 4, 5 } }, 0x0, 0 },
-   { { 0, 4294967295u }, 20, 80, 1, 0, 0, -1, 1, { { 28, 12 } }, 0x0, 0 },
-   { { 0, 4294967295u }, 20, 80, 1, 0, 0, -1, 1, { { 16, 15 } }, 0x0, 0 },
+constexpr AsicUtils::TableLayout layout[] = {
+   { { 0, 4294967295u }, 20, 80, 1, 0, 0, -1, 1, { { 10, 1 } }, 0x0, 0, &rows[0], &masks[0] },
+   { { 0, 4294967295u }, 20, 80, 1, 0, 0, -1, 1, { { 4, 5 } }, 0x0, 0, &rows[0], &masks[0] },
+   { { 0, 4294967295u }, 20, 80, 1, 0, 0, -1, 1, { { 28, 12 } }, 0x0, 0, &rows[0], &masks[0] },
+   { { 0, 4294967295u }, 20, 80, 1, 0, 0, -1, 1, { { 16, 15 } }, 0x0, 0, &rows[0], &masks[0] },
+   { { 0, 4294967295u }, 20, 80, 1, 0, 0, -1, 1, { { 10, 1 } }, 0x0, 0, &rows[5], &masks[32] },
+   { { 0, 4294967295u }, 20, 80, 1, 0, 0, -1, 1, { { 4, 5 } }, 0x0, 0, &rows[5], &masks[32] },
+   { { 0, 4294967295u }, 20, 80, 1, 0, 0, -1, 1, { { 28, 12 } }, 0x0, 0, &rows[5], &masks[32] },
+   { { 0, 4294967295u }, 20, 80, 1, 0, 0, -1, 1, { { 16, 15 } }, 0x0, 0, &rows[5], &masks[32] },
+   { { 0, 4294967295u }, 20, 80, 1, 0, 0, -1, 1, { { 10, 1 } }, 0x0, 0, &rows[10], &masks[64] },
+   { { 0, 4294967295u }, 20, 80, 1, 0, 0, -1, 1, { { 4, 5 } }, 0x0, 0, &rows[10], &masks[64] },
+   { { 0, 4294967295u }, 20, 80, 1, 0, 0, -1, 1, { { 28, 12 } }, 0x0, 0, &rows[10], &masks[64] },
+   { { 0, 4294967295u }, 20, 80, 1, 0, 0, -1, 1, { { 16, 15 } }, 0x0, 0, &rows[10], &masks[64] },
 };
-constexpr AsicUtils::PairRow pairs[] = {
-   { &layouts[0], &rows[0], &masks[0] }, { &layouts[1], &rows[0], &masks[0] }, { &layouts[2], &rows[0], &masks[0] }, {}, { &layouts[2], &rows[0], &masks[0] }, { &layouts[3], &rows[0], &masks[0] }, { &layouts[3], &rows[0], &masks[0] },
-   { &layouts[0], &rows[5], &masks[32] }, { &layouts[1], &rows[5], &masks[32] }, { &layouts[2], &rows[5], &masks[32] }, {}, { &layouts[2], &rows[5], &masks[32] }, { &layouts[3], &rows[5], &masks[32] }, { &layouts[3], &rows[5], &masks[32] },
-   { &layouts[0], &rows[10], &masks[64] }, { &layouts[1], &rows[10], &masks[64] }, { &layouts[2], &rows[10], &masks[64] }, {}, { &layouts[2], &rows[10], &masks[64] }, { &layouts[3], &rows[10], &masks[64] }, { &layouts[3], &rows[10], &masks[64] },
-   { &layouts[0], &rows[0], &masks[0] }, { &layouts[1], &rows[0], &masks[0] }, { &layouts[2], &rows[0], &masks[0] }, {}, { &layouts[2], &rows[0], &masks[0] }, { &layouts[3], &rows[0], &masks[0] }, { &layouts[3], &rows[0], &masks[0] },
+constexpr AsicUtils::TableLayout const * layouts[] = {
+   &layout[0], &layout[1], &layout[2], nullptr, &layout[2], &layout[3], &layout[3],
+   &layout[4], &layout[5], &layout[6], nullptr, &layout[6], &layout[7], &layout[7],
+   &layout[8], &layout[9], &layout[10], nullptr, &layout[10], &layout[11], &layout[11],
+   &layout[0], &layout[1], &layout[2], nullptr, &layout[2], &layout[3], &layout[3],
 };
 constexpr AsicUtils::TagRow tags[] = {
    { 1 << 0, 0, 27, 2, 1 },
@@ -1264,7 +1272,7 @@ constexpr AsicUtils::TagRow tags[] = {
 
 constinit AsicUtils::MetaInfo const FfcInstruction::metaInfo{
    Impl::trace, Impl::source, __LINE__, "FfcInstruction", 26, true, 4, AsicUtils::ValueType::Raw1024,
-   FfcInstructionData::fields, FfcInstructionData::pairs, FfcInstructionData::tags, {}
+   FfcInstructionData::fields, FfcInstructionData::layouts, FfcInstructionData::tags, {}
 };
 
 Raw1024 FfcInstruction::allFieldsMask() const {
@@ -1288,21 +1296,21 @@ constexpr AsicUtils::FieldRow rows[] = {
 constexpr U32 masks[] = {
    0xff, 0x0, 0x3f, 0x0, 0xffffffff, 0xffff,
 };
-constexpr AsicUtils::TableLayout layouts[] = {
-   { { 0, 256u }, 1, 4, 4, 0, 0, 7988, 2, { { 10, 2 }, { 24, 9 } }, 0x16b0000, 256 },
-   { { 0, 256u }, 1, 4, 4, 0, 0, 7988, 1, { { 10, 10 } }, 0x16b0000, 256 },
-   { { 0, 256u }, 2, 8, 4, 0, 0, 7988, 2, { { 6, 14 }, { 6, 26 } }, 0x16b0000, 256 },
-   { { 0, 256u }, 2, 8, 4, 0, 0, 7988, 1, { { 6, 14 } }, 0x16b0000, 256 },
-   { { 0, 256u }, 1, 4, 4, 0, 0, 7988, 1, { { 0, 17 } }, 0x16b0000, 256 },
+constexpr AsicUtils::TableLayout layout[] = {
+   { { 0, 256u }, 1, 4, 4, 0, 0, 7988, 2, { { 10, 2 }, { 24, 9 } }, 0x16b0000, 256, &rows[0], &masks[0] },
+   { { 0, 256u }, 1, 4, 4, 0, 0, 7988, 1, { { 10, 10 } }, 0x16b0000, 256, &rows[4], &masks[2] },
+   { { 0, 256u }, 2, 8, 4, 0, 0, 7988, 2, { { 6, 14 }, { 6, 26 } }, 0x16b0000, 256, &rows[8], &masks[4] },
+   { { 0, 256u }, 2, 8, 4, 0, 0, 7988, 1, { { 6, 14 } }, 0x16b0000, 256, &rows[8], &masks[4] },
+   { { 0, 256u }, 1, 4, 4, 0, 0, 7988, 1, { { 0, 17 } }, 0x16b0000, 256, &rows[4], &masks[2] },
 };
-constexpr AsicUtils::PairRow pairs[] = {
-   { &layouts[0], &rows[0], &masks[0] }, { &layouts[1], &rows[4], &masks[2] }, { &layouts[2], &rows[8], &masks[4] }, {}, { &layouts[3], &rows[8], &masks[4] }, { &layouts[4], &rows[4], &masks[2] }, { &layouts[4], &rows[4], &masks[2] },
+constexpr AsicUtils::TableLayout const * layouts[] = {
+   &layout[0], &layout[1], &layout[2], nullptr, &layout[3], &layout[4], &layout[4],
 };
 } // namespace FlpKapsStrengthMappingData
 
 constinit AsicUtils::MetaInfo const FlpKapsStrengthMapping::metaInfo{
    Impl::trace, Impl::source, __LINE__, "FlpKapsStrengthMapping", 27, true, 1, AsicUtils::ValueType::U64,
-   FlpKapsStrengthMappingData::fields, FlpKapsStrengthMappingData::pairs, {}, {}
+   FlpKapsStrengthMappingData::fields, FlpKapsStrengthMappingData::layouts, {}, {}
 };
 
 U64 FlpKapsStrengthMapping::allFieldsMask() const {
@@ -1329,21 +1337,21 @@ constexpr AsicUtils::FieldRow rows[] = {
 constexpr U32 masks[] = {
    0xffffffff, 0xffffffff, 0xffffffff, 0x3ff,
 };
-constexpr AsicUtils::TableLayout layouts[] = {
-   { { 0, 64u }, 4, 16, 2, 0, 0, 7991, 2, { { 10, 2 }, { 24, 9 } }, 0xf0000, 64 },
-   { { 0, 64u }, 4, 16, 2, 0, 0, 7991, 1, { { 10, 10 } }, 0xf0000, 64 },
-   { { 0, 64u }, 4, 16, 2, 0, 0, 7991, 2, { { 6, 14 }, { 6, 26 } }, 0xf0000, 64 },
-   { { 0, 64u }, 4, 16, 2, 0, 0, 7991, 1, { { 6, 14 } }, 0xf0000, 64 },
-   { { 0, 64u }, 4, 16, 2, 0, 0, 7991, 1, { { 0, 17 } }, 0xf0000, 64 },
+constexpr AsicUtils::TableLayout layout[] = {
+   { { 0, 64u }, 4, 16, 2, 0, 0, 7991, 2, { { 10, 2 }, { 24, 9 } }, 0xf0000, 64, &rows[0], &masks[0] },
+   { { 0, 64u }, 4, 16, 2, 0, 0, 7991, 1, { { 10, 10 } }, 0xf0000, 64, &rows[0], &masks[0] },
+   { { 0, 64u }, 4, 16, 2, 0, 0, 7991, 2, { { 6, 14 }, { 6, 26 } }, 0xf0000, 64, &rows[0], &masks[0] },
+   { { 0, 64u }, 4, 16, 2, 0, 0, 7991, 1, { { 6, 14 } }, 0xf0000, 64, &rows[0], &masks[0] },
+   { { 0, 64u }, 4, 16, 2, 0, 0, 7991, 1, { { 0, 17 } }, 0xf0000, 64, &rows[0], &masks[0] },
 };
-constexpr AsicUtils::PairRow pairs[] = {
-   { &layouts[0], &rows[0], &masks[0] }, { &layouts[1], &rows[0], &masks[0] }, { &layouts[2], &rows[0], &masks[0] }, {}, { &layouts[3], &rows[0], &masks[0] }, { &layouts[4], &rows[0], &masks[0] }, { &layouts[4], &rows[0], &masks[0] },
+constexpr AsicUtils::TableLayout const * layouts[] = {
+   &layout[0], &layout[1], &layout[2], nullptr, &layout[3], &layout[4], &layout[4],
 };
 } // namespace FlpRpfFormatConfigurationData
 
 constinit AsicUtils::MetaInfo const FlpRpfFormatConfiguration::metaInfo{
    Impl::trace, Impl::source, __LINE__, "FlpRpfFormatConfiguration", 28, true, 1, AsicUtils::ValueType::Raw128,
-   FlpRpfFormatConfigurationData::fields, FlpRpfFormatConfigurationData::pairs, {}, {}
+   FlpRpfFormatConfigurationData::fields, FlpRpfFormatConfigurationData::layouts, {}, {}
 };
 
 Raw128 FlpRpfFormatConfiguration::allFieldsMask() const {
@@ -1419,21 +1427,21 @@ constexpr AsicUtils::FieldRow rows[] = {
 constexpr U32 masks[] = {
    0xffffffff, 0x7fffffff, 0x0, 0x0, 0xffffffff, 0x3ffff, 0x0, 0x0,
 };
-constexpr AsicUtils::TableLayout layouts[] = {
-   { { 0, 64u }, 3, 12, 1, 0, 0, 7906, 2, { { 10, 2 }, { 24, 9 } }, 0x1630000, 0 },
-   { { 0, 64u }, 2, 8, 1, 0, 0, 7906, 1, { { 10, 10 } }, 0x1630000, 0 },
-   { { 0, 64u }, 2, 8, 1, 0, 0, 7906, 2, { { 6, 14 }, { 6, 26 } }, 0x1630000, 0 },
-   { { 0, 64u }, 2, 8, 1, 0, 0, 7906, 1, { { 6, 14 } }, 0x1630000, 0 },
-   { { 0, 64u }, 2, 8, 1, 0, 0, 7906, 1, { { 0, 17 } }, 0x1630000, 0 },
+constexpr AsicUtils::TableLayout layout[] = {
+   { { 0, 64u }, 3, 12, 1, 0, 0, 7906, 2, { { 10, 2 }, { 24, 9 } }, 0x1630000, 0, &rows[0], &masks[0] },
+   { { 0, 64u }, 2, 8, 1, 0, 0, 7906, 1, { { 10, 10 } }, 0x1630000, 0, &rows[46], &masks[4] },
+   { { 0, 64u }, 2, 8, 1, 0, 0, 7906, 2, { { 6, 14 }, { 6, 26 } }, 0x1630000, 0, &rows[46], &masks[4] },
+   { { 0, 64u }, 2, 8, 1, 0, 0, 7906, 1, { { 6, 14 } }, 0x1630000, 0, &rows[46], &masks[4] },
+   { { 0, 64u }, 2, 8, 1, 0, 0, 7906, 1, { { 0, 17 } }, 0x1630000, 0, &rows[46], &masks[4] },
 };
-constexpr AsicUtils::PairRow pairs[] = {
-   { &layouts[0], &rows[0], &masks[0] }, { &layouts[1], &rows[46], &masks[4] }, { &layouts[2], &rows[46], &masks[4] }, {}, { &layouts[3], &rows[46], &masks[4] }, { &layouts[4], &rows[46], &masks[4] }, { &layouts[4], &rows[46], &masks[4] },
+constexpr AsicUtils::TableLayout const * layouts[] = {
+   &layout[0], &layout[1], &layout[2], nullptr, &layout[3], &layout[4], &layout[4],
 };
 } // namespace FlpaInitContextEnablersData
 
 constinit AsicUtils::MetaInfo const FlpaInitContextEnablers::metaInfo{
    Impl::trace, Impl::source, __LINE__, "FlpaInitContextEnablers", 29, true, 1, AsicUtils::ValueType::Raw128,
-   FlpaInitContextEnablersData::fields, FlpaInitContextEnablersData::pairs, {}, {}
+   FlpaInitContextEnablersData::fields, FlpaInitContextEnablersData::layouts, {}, {}
 };
 
 Raw128 FlpaInitContextEnablers::allFieldsMask() const {
@@ -1489,21 +1497,21 @@ constexpr AsicUtils::FieldRow rows[] = {
 constexpr U32 masks[] = {
    0xffffffff, 0x7f, 0xffffffff, 0x1, 0xffffffff, 0xf,
 };
-constexpr AsicUtils::TableLayout layouts[] = {
-   { { 0, 64u }, 2, 8, 1, 0, 0, 7915, 2, { { 10, 2 }, { 24, 9 } }, 0x1690000, 0 },
-   { { 0, 64u }, 2, 8, 1, 0, 0, 7915, 1, { { 10, 10 } }, 0x1690000, 0 },
-   { { 0, 64u }, 2, 8, 1, 0, 0, 7915, 2, { { 6, 14 }, { 6, 26 } }, 0x1690000, 0 },
-   { { 0, 64u }, 2, 8, 1, 0, 0, 7915, 1, { { 6, 14 } }, 0x1690000, 0 },
-   { { 0, 64u }, 2, 8, 1, 0, 0, 7915, 1, { { 0, 17 } }, 0x1690000, 0 },
+constexpr AsicUtils::TableLayout layout[] = {
+   { { 0, 64u }, 2, 8, 1, 0, 0, 7915, 2, { { 10, 2 }, { 24, 9 } }, 0x1690000, 0, &rows[0], &masks[0] },
+   { { 0, 64u }, 2, 8, 1, 0, 0, 7915, 1, { { 10, 10 } }, 0x1690000, 0, &rows[27], &masks[2] },
+   { { 0, 64u }, 2, 8, 1, 0, 0, 7915, 2, { { 6, 14 }, { 6, 26 } }, 0x1690000, 0, &rows[54], &masks[4] },
+   { { 0, 64u }, 2, 8, 1, 0, 0, 7915, 1, { { 6, 14 } }, 0x1690000, 0, &rows[54], &masks[4] },
+   { { 0, 64u }, 2, 8, 1, 0, 0, 7915, 1, { { 0, 17 } }, 0x1690000, 0, &rows[27], &masks[2] },
 };
-constexpr AsicUtils::PairRow pairs[] = {
-   { &layouts[0], &rows[0], &masks[0] }, { &layouts[1], &rows[27], &masks[2] }, { &layouts[2], &rows[54], &masks[4] }, {}, { &layouts[3], &rows[54], &masks[4] }, { &layouts[4], &rows[27], &masks[2] }, { &layouts[4], &rows[27], &masks[2] },
+constexpr AsicUtils::TableLayout const * layouts[] = {
+   &layout[0], &layout[1], &layout[2], nullptr, &layout[3], &layout[4], &layout[4],
 };
 } // namespace FlpaResContextEnablersData
 
 constinit AsicUtils::MetaInfo const FlpaResContextEnablers::metaInfo{
    Impl::trace, Impl::source, __LINE__, "FlpaResContextEnablers", 30, true, 1, AsicUtils::ValueType::U64,
-   FlpaResContextEnablersData::fields, FlpaResContextEnablersData::pairs, {}, {}
+   FlpaResContextEnablersData::fields, FlpaResContextEnablersData::layouts, {}, {}
 };
 
 U64 FlpaResContextEnablers::allFieldsMask() const {
@@ -1540,39 +1548,39 @@ constexpr U32 masks[] = {
    0xffffffff, 0xffffffff, 0xffffffff, 0xfffff, 0xffffffff, 0xffffffff, 0xffffffff, 0xfffff,
    0xffffffff, 0xffffffff, 0xffffffff, 0xfffff,
 };
-constexpr AsicUtils::TableLayout layouts[] = {
-   { { 0, 64u }, 3, 12, 1, 0, 0, 7939, 2, { { 10, 2 }, { 24, 9 } }, 0x2510000, 0 },
-   { { 0, 64u }, 3, 12, 1, 0, 0, 7939, 1, { { 10, 10 } }, 0x2510000, 0 },
-   { { 0, 64u }, 3, 12, 1, 0, 0, 7939, 2, { { 6, 14 }, { 6, 26 } }, 0x2510000, 0 },
-   { { 0, 64u }, 3, 12, 1, 0, 0, 7939, 1, { { 6, 14 } }, 0x2510000, 0 },
-   { { 0, 64u }, 3, 12, 1, 0, 0, 7939, 1, { { 0, 17 } }, 0x2510000, 0 },
-   { { 0, 64u }, 4, 16, 1, 0, 0, 7941, 2, { { 10, 2 }, { 24, 9 } }, 0x2530000, 0 },
-   { { 0, 64u }, 4, 16, 1, 0, 0, 7941, 1, { { 10, 10 } }, 0x2530000, 0 },
-   { { 0, 64u }, 4, 16, 1, 0, 0, 7941, 2, { { 6, 14 }, { 6, 26 } }, 0x2530000, 0 },
-   { { 0, 64u }, 4, 16, 1, 0, 0, 7941, 1, { { 6, 14 } }, 0x2530000, 0 },
-   { { 0, 64u }, 4, 16, 1, 0, 0, 7941, 1, { { 0, 17 } }, 0x2530000, 0 },
-   { { 0, 64u }, 4, 16, 2, 0, 0, 7943, 2, { { 10, 2 }, { 24, 9 } }, 0x2550000, 64 },
-   { { 0, 64u }, 4, 16, 2, 0, 0, 7943, 1, { { 10, 10 } }, 0x2550000, 64 },
-   { { 0, 64u }, 4, 16, 2, 0, 0, 7943, 2, { { 6, 14 }, { 6, 26 } }, 0x2550000, 64 },
-   { { 0, 64u }, 4, 16, 2, 0, 0, 7943, 1, { { 6, 14 } }, 0x2550000, 64 },
-   { { 0, 64u }, 4, 16, 2, 0, 0, 7943, 1, { { 0, 17 } }, 0x2550000, 64 },
-   { { 0, 64u }, 4, 16, 4, 0, 0, 7945, 2, { { 10, 2 }, { 24, 9 } }, 0x2580000, 64 },
-   { { 0, 64u }, 4, 16, 4, 0, 0, 7945, 1, { { 10, 10 } }, 0x2580000, 64 },
-   { { 0, 64u }, 4, 16, 4, 0, 0, 7945, 2, { { 6, 14 }, { 6, 26 } }, 0x2580000, 64 },
-   { { 0, 64u }, 4, 16, 4, 0, 0, 7945, 1, { { 6, 14 } }, 0x2580000, 64 },
-   { { 0, 64u }, 4, 16, 4, 0, 0, 7945, 1, { { 0, 17 } }, 0x2580000, 64 },
-   { { 0, 64u }, 4, 16, 2, 0, 0, 7947, 2, { { 10, 2 }, { 24, 9 } }, 0x25d0000, 64 },
-   { { 0, 64u }, 4, 16, 2, 0, 0, 7947, 1, { { 10, 10 } }, 0x25d0000, 64 },
-   { { 0, 64u }, 4, 16, 2, 0, 0, 7947, 2, { { 6, 14 }, { 6, 26 } }, 0x25d0000, 64 },
-   { { 0, 64u }, 4, 16, 2, 0, 0, 7947, 1, { { 6, 14 } }, 0x25d0000, 64 },
-   { { 0, 64u }, 4, 16, 2, 0, 0, 7947, 1, { { 0, 17 } }, 0x25d0000, 64 },
+constexpr AsicUtils::TableLayout layout[] = {
+   { { 0, 64u }, 3, 12, 1, 0, 0, 7939, 2, { { 10, 2 }, { 24, 9 } }, 0x2510000, 0, &rows[0], &masks[0] },
+   { { 0, 64u }, 3, 12, 1, 0, 0, 7939, 1, { { 10, 10 } }, 0x2510000, 0, &rows[0], &masks[0] },
+   { { 0, 64u }, 3, 12, 1, 0, 0, 7939, 2, { { 6, 14 }, { 6, 26 } }, 0x2510000, 0, &rows[0], &masks[0] },
+   { { 0, 64u }, 3, 12, 1, 0, 0, 7939, 1, { { 6, 14 } }, 0x2510000, 0, &rows[0], &masks[0] },
+   { { 0, 64u }, 3, 12, 1, 0, 0, 7939, 1, { { 0, 17 } }, 0x2510000, 0, &rows[0], &masks[0] },
+   { { 0, 64u }, 4, 16, 1, 0, 0, 7941, 2, { { 10, 2 }, { 24, 9 } }, 0x2530000, 0, &rows[10], &masks[4] },
+   { { 0, 64u }, 4, 16, 1, 0, 0, 7941, 1, { { 10, 10 } }, 0x2530000, 0, &rows[10], &masks[4] },
+   { { 0, 64u }, 4, 16, 1, 0, 0, 7941, 2, { { 6, 14 }, { 6, 26 } }, 0x2530000, 0, &rows[10], &masks[4] },
+   { { 0, 64u }, 4, 16, 1, 0, 0, 7941, 1, { { 6, 14 } }, 0x2530000, 0, &rows[10], &masks[4] },
+   { { 0, 64u }, 4, 16, 1, 0, 0, 7941, 1, { { 0, 17 } }, 0x2530000, 0, &rows[10], &masks[4] },
+   { { 0, 64u }, 4, 16, 2, 0, 0, 7943, 2, { { 10, 2 }, { 24, 9 } }, 0x2550000, 64, &rows[20], &masks[8] },
+   { { 0, 64u }, 4, 16, 2, 0, 0, 7943, 1, { { 10, 10 } }, 0x2550000, 64, &rows[20], &masks[8] },
+   { { 0, 64u }, 4, 16, 2, 0, 0, 7943, 2, { { 6, 14 }, { 6, 26 } }, 0x2550000, 64, &rows[20], &masks[8] },
+   { { 0, 64u }, 4, 16, 2, 0, 0, 7943, 1, { { 6, 14 } }, 0x2550000, 64, &rows[20], &masks[8] },
+   { { 0, 64u }, 4, 16, 2, 0, 0, 7943, 1, { { 0, 17 } }, 0x2550000, 64, &rows[20], &masks[8] },
+   { { 0, 64u }, 4, 16, 4, 0, 0, 7945, 2, { { 10, 2 }, { 24, 9 } }, 0x2580000, 64, &rows[30], &masks[12] },
+   { { 0, 64u }, 4, 16, 4, 0, 0, 7945, 1, { { 10, 10 } }, 0x2580000, 64, &rows[30], &masks[12] },
+   { { 0, 64u }, 4, 16, 4, 0, 0, 7945, 2, { { 6, 14 }, { 6, 26 } }, 0x2580000, 64, &rows[30], &masks[12] },
+   { { 0, 64u }, 4, 16, 4, 0, 0, 7945, 1, { { 6, 14 } }, 0x2580000, 64, &rows[30], &masks[12] },
+   { { 0, 64u }, 4, 16, 4, 0, 0, 7945, 1, { { 0, 17 } }, 0x2580000, 64, &rows[30], &masks[12] },
+   { { 0, 64u }, 4, 16, 2, 0, 0, 7947, 2, { { 10, 2 }, { 24, 9 } }, 0x25d0000, 64, &rows[40], &masks[16] },
+   { { 0, 64u }, 4, 16, 2, 0, 0, 7947, 1, { { 10, 10 } }, 0x25d0000, 64, &rows[40], &masks[16] },
+   { { 0, 64u }, 4, 16, 2, 0, 0, 7947, 2, { { 6, 14 }, { 6, 26 } }, 0x25d0000, 64, &rows[40], &masks[16] },
+   { { 0, 64u }, 4, 16, 2, 0, 0, 7947, 1, { { 6, 14 } }, 0x25d0000, 64, &rows[40], &masks[16] },
+   { { 0, 64u }, 4, 16, 2, 0, 0, 7947, 1, { { 0, 17 } }, 0x25d0000, 64, &rows[40], &masks[16] },
 };
-constexpr AsicUtils::PairRow pairs[] = {
-   { &layouts[0], &rows[0], &masks[0] }, { &layouts[1], &rows[0], &masks[0] }, { &layouts[2], &rows[0], &masks[0] }, {}, { &layouts[3], &rows[0], &masks[0] }, { &layouts[4], &rows[0], &masks[0] }, { &layouts[4], &rows[0], &masks[0] },
-   { &layouts[5], &rows[10], &masks[4] }, { &layouts[6], &rows[10], &masks[4] }, { &layouts[7], &rows[10], &masks[4] }, {}, { &layouts[8], &rows[10], &masks[4] }, { &layouts[9], &rows[10], &masks[4] }, { &layouts[9], &rows[10], &masks[4] },
-   { &layouts[10], &rows[20], &masks[8] }, { &layouts[11], &rows[20], &masks[8] }, { &layouts[12], &rows[20], &masks[8] }, {}, { &layouts[13], &rows[20], &masks[8] }, { &layouts[14], &rows[20], &masks[8] }, { &layouts[14], &rows[20], &masks[8] },
-   { &layouts[15], &rows[30], &masks[12] }, { &layouts[16], &rows[30], &masks[12] }, { &layouts[17], &rows[30], &masks[12] }, {}, { &layouts[18], &rows[30], &masks[12] }, { &layouts[19], &rows[30], &masks[12] }, { &layouts[19], &rows[30], &masks[12] },
-   { &layouts[20], &rows[40], &masks[16] }, { &layouts[21], &rows[40], &masks[16] }, { &layouts[22], &rows[40], &masks[16] }, {}, { &layouts[23], &rows[40], &masks[16] }, { &layouts[24], &rows[40], &masks[16] }, { &layouts[24], &rows[40], &masks[16] },
+constexpr AsicUtils::TableLayout const * layouts[] = {
+   &layout[0], &layout[1], &layout[2], nullptr, &layout[3], &layout[4], &layout[4],
+   &layout[5], &layout[6], &layout[7], nullptr, &layout[8], &layout[9], &layout[9],
+   &layout[10], &layout[11], &layout[12], nullptr, &layout[13], &layout[14], &layout[14],
+   &layout[15], &layout[16], &layout[17], nullptr, &layout[18], &layout[19], &layout[19],
+   &layout[20], &layout[21], &layout[22], nullptr, &layout[23], &layout[24], &layout[24],
 };
 constexpr U16 ffcInstructionRun[] = {
    0, 3, 5, 6,
@@ -1584,7 +1592,7 @@ constexpr AsicUtils::FieldRun runs[] = {
 
 constinit AsicUtils::MetaInfo const FwdFfcTable::metaInfo{
    Impl::trace, Impl::source, __LINE__, "FwdFfcTable", 31, true, 5, AsicUtils::ValueType::Raw128,
-   FwdFfcTableData::fields, FwdFfcTableData::pairs, {}, FwdFfcTableData::runs
+   FwdFfcTableData::fields, FwdFfcTableData::layouts, {}, FwdFfcTableData::runs
 };
 
 Raw128 FwdFfcTable::allFieldsMask() const {
@@ -1605,21 +1613,21 @@ constexpr AsicUtils::FieldRow rows[] = {
 constexpr U32 masks[] = {
    0xffffffff, 0xfff,
 };
-constexpr AsicUtils::TableLayout layouts[] = {
-   { { 0, 64u }, 2, 8, 18, 0, 0, 7949, 2, { { 10, 2 }, { 24, 9 } }, 0x2600000, 64 },
-   { { 0, 64u }, 2, 8, 18, 0, 0, 7949, 1, { { 10, 10 } }, 0x2600000, 64 },
-   { { 0, 64u }, 2, 8, 18, 0, 0, 7949, 2, { { 6, 14 }, { 6, 26 } }, 0x2600000, 64 },
-   { { 0, 64u }, 2, 8, 18, 0, 0, 7949, 1, { { 6, 14 } }, 0x2600000, 64 },
-   { { 0, 64u }, 2, 8, 18, 0, 0, 7949, 1, { { 0, 17 } }, 0x2600000, 64 },
+constexpr AsicUtils::TableLayout layout[] = {
+   { { 0, 64u }, 2, 8, 18, 0, 0, 7949, 2, { { 10, 2 }, { 24, 9 } }, 0x2600000, 64, &rows[0], &masks[0] },
+   { { 0, 64u }, 2, 8, 18, 0, 0, 7949, 1, { { 10, 10 } }, 0x2600000, 64, &rows[0], &masks[0] },
+   { { 0, 64u }, 2, 8, 18, 0, 0, 7949, 2, { { 6, 14 }, { 6, 26 } }, 0x2600000, 64, &rows[0], &masks[0] },
+   { { 0, 64u }, 2, 8, 18, 0, 0, 7949, 1, { { 6, 14 } }, 0x2600000, 64, &rows[0], &masks[0] },
+   { { 0, 64u }, 2, 8, 18, 0, 0, 7949, 1, { { 0, 17 } }, 0x2600000, 64, &rows[0], &masks[0] },
 };
-constexpr AsicUtils::PairRow pairs[] = {
-   { &layouts[0], &rows[0], &masks[0] }, { &layouts[1], &rows[0], &masks[0] }, { &layouts[2], &rows[0], &masks[0] }, {}, { &layouts[3], &rows[0], &masks[0] }, { &layouts[4], &rows[0], &masks[0] }, { &layouts[4], &rows[0], &masks[0] },
+constexpr AsicUtils::TableLayout const * layouts[] = {
+   &layout[0], &layout[1], &layout[2], nullptr, &layout[3], &layout[4], &layout[4],
 };
 } // namespace FwdKbrTableData
 
 constinit AsicUtils::MetaInfo const FwdKbrTable::metaInfo{
    Impl::trace, Impl::source, __LINE__, "FwdKbrTable", 32, true, 1, AsicUtils::ValueType::U64,
-   FwdKbrTableData::fields, FwdKbrTableData::pairs, {}, {}
+   FwdKbrTableData::fields, FwdKbrTableData::layouts, {}, {}
 };
 
 U64 FwdKbrTable::allFieldsMask() const {
@@ -1785,21 +1793,21 @@ constexpr U32 masks[] = {
    0xffffffff, 0xffffffff, 0xffffffff, 0xffffffff, 0xffffffff, 0xffffffff, 0xffffffff, 0xffffffff,
    0xffffffff, 0xffffffff, 0xffffffff, 0xffffffff, 0xffffffff, 0xffffffff, 0xffffffff, 0xffffffff,
 };
-constexpr AsicUtils::TableLayout layouts[] = {
-   { { 0, 1u }, 16, 64, 3, 0, 0, 54769, 2, { { 18, 2 }, { 0, 10 } }, 0x1d2, 1 },
-   { { 0, 1u }, 16, 64, 3, 0, 0, 54769, 1, { { 6, 10 } }, 0x20c, 1 },
-   { { 0, 1u }, 16, 64, 3, 0, 0, 54769, 2, { { 2, 14 }, { 2, 26 } }, 0x1f4, 1 },
-   { { 0, 1u }, 16, 64, 3, 0, 0, 54769, 1, { { 2, 14 } }, 0x1f4, 1 },
-   { { 0, 1u }, 16, 64, 3, 0, 0, 54769, 1, { { 24, 12 } }, 0x20c, 1 },
-   { { 0, 1u }, 16, 64, 1, 0, 0, 54008, 2, { { 8, 2 }, { 22, 9 } }, 0x1c8, 0 },
-   { { 0, 1u }, 16, 64, 1, 0, 0, 54008, 1, { { 8, 10 } }, 0x1cb, 0 },
-   { { 0, 1u }, 16, 64, 2, 0, 3, 54008, 2, { { 4, 14 }, { 4, 26 } }, 0x1ca, 1 },
-   { { 0, 1u }, 16, 64, 2, 0, 3, 54008, 1, { { 4, 14 } }, 0x1ca, 1 },
-   { { 0, 1u }, 16, 64, 1, 0, 0, 54008, 1, { { 8, 17 } }, 0x1cb, 0 },
+constexpr AsicUtils::TableLayout layout[] = {
+   { { 0, 1u }, 16, 64, 3, 0, 0, 54769, 2, { { 18, 2 }, { 0, 10 } }, 0x1d2, 1, &rows[0], &masks[0] },
+   { { 0, 1u }, 16, 64, 3, 0, 0, 54769, 1, { { 6, 10 } }, 0x20c, 1, &rows[0], &masks[0] },
+   { { 0, 1u }, 16, 64, 3, 0, 0, 54769, 2, { { 2, 14 }, { 2, 26 } }, 0x1f4, 1, &rows[0], &masks[0] },
+   { { 0, 1u }, 16, 64, 3, 0, 0, 54769, 1, { { 2, 14 } }, 0x1f4, 1, &rows[0], &masks[0] },
+   { { 0, 1u }, 16, 64, 3, 0, 0, 54769, 1, { { 24, 12 } }, 0x20c, 1, &rows[0], &masks[0] },
+   { { 0, 1u }, 16, 64, 1, 0, 0, 54008, 2, { { 8, 2 }, { 22, 9 } }, 0x1c8, 0, &rows[0], &masks[0] },
+   { { 0, 1u }, 16, 64, 1, 0, 0, 54008, 1, { { 8, 10 } }, 0x1cb, 0, &rows[0], &masks[0] },
+   { { 0, 1u }, 16, 64, 2, 0, 3, 54008, 2, { { 4, 14 }, { 4, 26 } }, 0x1ca, 1, &rows[0], &masks[0] },
+   { { 0, 1u }, 16, 64, 2, 0, 3, 54008, 1, { { 4, 14 } }, 0x1ca, 1, &rows[0], &masks[0] },
+   { { 0, 1u }, 16, 64, 1, 0, 0, 54008, 1, { { 8, 17 } }, 0x1cb, 0, &rows[0], &masks[0] },
 };
-constexpr AsicUtils::PairRow pairs[] = {
-   { &layouts[0], &rows[0], &masks[0] }, { &layouts[1], &rows[0], &masks[0] }, { &layouts[2], &rows[0], &masks[0] }, {}, { &layouts[3], &rows[0], &masks[0] }, { &layouts[4], &rows[0], &masks[0] }, { &layouts[4], &rows[0], &masks[0] },
-   { &layouts[5], &rows[0], &masks[0] }, { &layouts[6], &rows[0], &masks[0] }, { &layouts[7], &rows[0], &masks[0] }, {}, { &layouts[8], &rows[0], &masks[0] }, { &layouts[9], &rows[0], &masks[0] }, { &layouts[9], &rows[0], &masks[0] },
+constexpr AsicUtils::TableLayout const * layouts[] = {
+   &layout[0], &layout[1], &layout[2], nullptr, &layout[3], &layout[4], &layout[4],
+   &layout[5], &layout[6], &layout[7], nullptr, &layout[8], &layout[9], &layout[9],
 };
 constexpr U16 csProfileRun[] = {
    1, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12, 13, 14, 15, 16, 17,
@@ -1818,7 +1826,7 @@ constexpr AsicUtils::FieldRun runs[] = {
 
 constinit AsicUtils::MetaInfo const InLifProfileCsFlagsLsb::metaInfo{
    Impl::trace, Impl::source, __LINE__, "InLifProfileCsFlagsLsb", 33, false, 2, AsicUtils::ValueType::Raw512,
-   InLifProfileCsFlagsLsbData::fields, InLifProfileCsFlagsLsbData::pairs, {}, InLifProfileCsFlagsLsbData::runs
+   InLifProfileCsFlagsLsbData::fields, InLifProfileCsFlagsLsbData::layouts, {}, InLifProfileCsFlagsLsbData::runs
 };
 
 Raw512 InLifProfileCsFlagsLsb::allFieldsMask() const {
@@ -1983,21 +1991,21 @@ constexpr U32 masks[] = {
    0xffffffff, 0xffffffff, 0xffffffff, 0xffffffff, 0xffffffff, 0xffffffff, 0xffffffff, 0xffffffff,
    0xffffffff, 0xffffffff, 0xffffffff, 0xffffffff, 0xffffffff, 0xffffffff, 0xffffffff, 0xffffffff,
 };
-constexpr AsicUtils::TableLayout layouts[] = {
-   { { 0, 1u }, 16, 64, 3, 0, 0, 54770, 2, { { 18, 2 }, { 0, 10 } }, 0x1e2, 1 },
-   { { 0, 1u }, 16, 64, 3, 0, 0, 54770, 1, { { 6, 10 } }, 0x21c, 1 },
-   { { 0, 1u }, 16, 64, 3, 0, 0, 54770, 2, { { 2, 14 }, { 2, 26 } }, 0x204, 1 },
-   { { 0, 1u }, 16, 64, 3, 0, 0, 54770, 1, { { 2, 14 } }, 0x204, 1 },
-   { { 0, 1u }, 16, 64, 3, 0, 0, 54770, 1, { { 24, 12 } }, 0x21c, 1 },
-   { { 0, 1u }, 16, 64, 1, 0, 0, 54009, 2, { { 8, 2 }, { 22, 9 } }, 0x1d8, 0 },
-   { { 0, 1u }, 16, 64, 1, 0, 0, 54009, 1, { { 8, 10 } }, 0x1db, 0 },
-   { { 0, 1u }, 16, 64, 2, 0, 3, 54009, 2, { { 4, 14 }, { 4, 26 } }, 0x1da, 1 },
-   { { 0, 1u }, 16, 64, 2, 0, 3, 54009, 1, { { 4, 14 } }, 0x1da, 1 },
-   { { 0, 1u }, 16, 64, 1, 0, 0, 54009, 1, { { 8, 17 } }, 0x1db, 0 },
+constexpr AsicUtils::TableLayout layout[] = {
+   { { 0, 1u }, 16, 64, 3, 0, 0, 54770, 2, { { 18, 2 }, { 0, 10 } }, 0x1e2, 1, &rows[0], &masks[0] },
+   { { 0, 1u }, 16, 64, 3, 0, 0, 54770, 1, { { 6, 10 } }, 0x21c, 1, &rows[0], &masks[0] },
+   { { 0, 1u }, 16, 64, 3, 0, 0, 54770, 2, { { 2, 14 }, { 2, 26 } }, 0x204, 1, &rows[0], &masks[0] },
+   { { 0, 1u }, 16, 64, 3, 0, 0, 54770, 1, { { 2, 14 } }, 0x204, 1, &rows[0], &masks[0] },
+   { { 0, 1u }, 16, 64, 3, 0, 0, 54770, 1, { { 24, 12 } }, 0x21c, 1, &rows[0], &masks[0] },
+   { { 0, 1u }, 16, 64, 1, 0, 0, 54009, 2, { { 8, 2 }, { 22, 9 } }, 0x1d8, 0, &rows[0], &masks[0] },
+   { { 0, 1u }, 16, 64, 1, 0, 0, 54009, 1, { { 8, 10 } }, 0x1db, 0, &rows[0], &masks[0] },
+   { { 0, 1u }, 16, 64, 2, 0, 3, 54009, 2, { { 4, 14 }, { 4, 26 } }, 0x1da, 1, &rows[0], &masks[0] },
+   { { 0, 1u }, 16, 64, 2, 0, 3, 54009, 1, { { 4, 14 } }, 0x1da, 1, &rows[0], &masks[0] },
+   { { 0, 1u }, 16, 64, 1, 0, 0, 54009, 1, { { 8, 17 } }, 0x1db, 0, &rows[0], &masks[0] },
 };
-constexpr AsicUtils::PairRow pairs[] = {
-   { &layouts[0], &rows[0], &masks[0] }, { &layouts[1], &rows[0], &masks[0] }, { &layouts[2], &rows[0], &masks[0] }, {}, { &layouts[3], &rows[0], &masks[0] }, { &layouts[4], &rows[0], &masks[0] }, { &layouts[4], &rows[0], &masks[0] },
-   { &layouts[5], &rows[0], &masks[0] }, { &layouts[6], &rows[0], &masks[0] }, { &layouts[7], &rows[0], &masks[0] }, {}, { &layouts[8], &rows[0], &masks[0] }, { &layouts[9], &rows[0], &masks[0] }, { &layouts[9], &rows[0], &masks[0] },
+constexpr AsicUtils::TableLayout const * layouts[] = {
+   &layout[0], &layout[1], &layout[2], nullptr, &layout[3], &layout[4], &layout[4],
+   &layout[5], &layout[6], &layout[7], nullptr, &layout[8], &layout[9], &layout[9],
 };
 constexpr U16 csProfileRun[] = {
    0, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12, 13, 14, 15, 16,
@@ -2016,7 +2024,7 @@ constexpr AsicUtils::FieldRun runs[] = {
 
 constinit AsicUtils::MetaInfo const InLifProfileCsFlagsMsb::metaInfo{
    Impl::trace, Impl::source, __LINE__, "InLifProfileCsFlagsMsb", 34, false, 2, AsicUtils::ValueType::Raw512,
-   InLifProfileCsFlagsMsbData::fields, InLifProfileCsFlagsMsbData::pairs, {}, InLifProfileCsFlagsMsbData::runs
+   InLifProfileCsFlagsMsbData::fields, InLifProfileCsFlagsMsbData::layouts, {}, InLifProfileCsFlagsMsbData::runs
 };
 
 Raw512 InLifProfileCsFlagsMsb::allFieldsMask() const {
@@ -2036,21 +2044,21 @@ constexpr AsicUtils::FieldRow rows[] = {
 constexpr U32 masks[] = {
    0x1fff,
 };
-constexpr AsicUtils::TableLayout layouts[] = {
-   { { 0, 128u }, 1, 4, 1, 0, 0, 7818, 2, { { 8, 2 }, { 22, 9 } }, 0xb830000, 0 },
-   { { 0, 128u }, 1, 4, 1, 0, 0, 7818, 1, { { 8, 10 } }, 0xb830000, 0 },
-   { { 0, 128u }, 1, 4, 1, 0, 0, 7818, 2, { { 4, 14 }, { 4, 26 } }, 0xb830000, 0 },
-   { { 0, 128u }, 1, 4, 1, 0, 0, 7818, 1, { { 4, 14 } }, 0xb830000, 0 },
-   { { 0, 128u }, 1, 4, 1, 0, 0, 7818, 1, { { 8, 17 } }, 0xb830000, 0 },
+constexpr AsicUtils::TableLayout layout[] = {
+   { { 0, 128u }, 1, 4, 1, 0, 0, 7818, 2, { { 8, 2 }, { 22, 9 } }, 0xb830000, 0, &rows[0], &masks[0] },
+   { { 0, 128u }, 1, 4, 1, 0, 0, 7818, 1, { { 8, 10 } }, 0xb830000, 0, &rows[0], &masks[0] },
+   { { 0, 128u }, 1, 4, 1, 0, 0, 7818, 2, { { 4, 14 }, { 4, 26 } }, 0xb830000, 0, &rows[0], &masks[0] },
+   { { 0, 128u }, 1, 4, 1, 0, 0, 7818, 1, { { 4, 14 } }, 0xb830000, 0, &rows[0], &masks[0] },
+   { { 0, 128u }, 1, 4, 1, 0, 0, 7818, 1, { { 8, 17 } }, 0xb830000, 0, &rows[0], &masks[0] },
 };
-constexpr AsicUtils::PairRow pairs[] = {
-   { &layouts[0], &rows[0], &masks[0] }, { &layouts[1], &rows[0], &masks[0] }, { &layouts[2], &rows[0], &masks[0] }, {}, { &layouts[3], &rows[0], &masks[0] }, { &layouts[4], &rows[0], &masks[0] }, { &layouts[4], &rows[0], &masks[0] },
+constexpr AsicUtils::TableLayout const * layouts[] = {
+   &layout[0], &layout[1], &layout[2], nullptr, &layout[3], &layout[4], &layout[4],
 };
 } // namespace IppaVtecsActionData
 
 constinit AsicUtils::MetaInfo const IppaVtecsAction::metaInfo{
    Impl::trace, Impl::source, __LINE__, "IppaVtecsAction", 35, true, 1, AsicUtils::ValueType::U32,
-   IppaVtecsActionData::fields, IppaVtecsActionData::pairs, {}, {}
+   IppaVtecsActionData::fields, IppaVtecsActionData::layouts, {}, {}
 };
 
 U32 IppaVtecsAction::allFieldsMask() const {
@@ -2077,21 +2085,21 @@ constexpr U32 masks[] = {
    0xffffffff, 0xffffffff, 0xffffffff, 0xffffffff, 0xffffffff, 0xffffffff, 0xffffff, 0x0,
    0xffffffff, 0xffffffff, 0xffffffff, 0xffffffff, 0xffffffff, 0xffff, 0x0, 0x0,
 };
-constexpr AsicUtils::TableLayout layouts[] = {
-   { { 0, 64u }, 8, 32, 1, 0, 0, 7972, 2, { { 10, 2 }, { 24, 9 } }, 0x2730000, 0 },
-   { { 0, 64u }, 6, 24, 1, 0, 0, 7972, 1, { { 10, 10 } }, 0x2730000, 0 },
-   { { 0, 64u }, 6, 24, 1, 0, 0, 7972, 2, { { 6, 14 }, { 6, 26 } }, 0x2730000, 0 },
-   { { 0, 64u }, 6, 24, 1, 0, 0, 7972, 1, { { 6, 14 } }, 0x2730000, 0 },
-   { { 0, 64u }, 6, 24, 1, 0, 0, 7972, 1, { { 0, 17 } }, 0x2730000, 0 },
+constexpr AsicUtils::TableLayout layout[] = {
+   { { 0, 64u }, 8, 32, 1, 0, 0, 7972, 2, { { 10, 2 }, { 24, 9 } }, 0x2730000, 0, &rows[0], &masks[0] },
+   { { 0, 64u }, 6, 24, 1, 0, 0, 7972, 1, { { 10, 10 } }, 0x2730000, 0, &rows[6], &masks[8] },
+   { { 0, 64u }, 6, 24, 1, 0, 0, 7972, 2, { { 6, 14 }, { 6, 26 } }, 0x2730000, 0, &rows[6], &masks[8] },
+   { { 0, 64u }, 6, 24, 1, 0, 0, 7972, 1, { { 6, 14 } }, 0x2730000, 0, &rows[6], &masks[8] },
+   { { 0, 64u }, 6, 24, 1, 0, 0, 7972, 1, { { 0, 17 } }, 0x2730000, 0, &rows[6], &masks[8] },
 };
-constexpr AsicUtils::PairRow pairs[] = {
-   { &layouts[0], &rows[0], &masks[0] }, { &layouts[1], &rows[6], &masks[8] }, { &layouts[2], &rows[6], &masks[8] }, {}, { &layouts[3], &rows[6], &masks[8] }, { &layouts[4], &rows[6], &masks[8] }, { &layouts[4], &rows[6], &masks[8] },
+constexpr AsicUtils::TableLayout const * layouts[] = {
+   &layout[0], &layout[1], &layout[2], nullptr, &layout[3], &layout[4], &layout[4],
 };
 } // namespace IppbFlpLePd0Data
 
 constinit AsicUtils::MetaInfo const IppbFlpLePd0::metaInfo{
    Impl::trace, Impl::source, __LINE__, "IppbFlpLePd0", 36, true, 1, AsicUtils::ValueType::Raw256,
-   IppbFlpLePd0Data::fields, IppbFlpLePd0Data::pairs, {}, {}
+   IppbFlpLePd0Data::fields, IppbFlpLePd0Data::layouts, {}, {}
 };
 
 Raw256 IppbFlpLePd0::allFieldsMask() const {
@@ -2118,21 +2126,21 @@ constexpr U32 masks[] = {
    0xffffffff, 0xffffffff, 0xffffffff, 0xffffffff, 0xffffffff, 0xffffffff, 0xffffff, 0x0,
    0xffffffff, 0xffffffff, 0xffffffff, 0xffffffff, 0xffffffff, 0xffff, 0x0, 0x0,
 };
-constexpr AsicUtils::TableLayout layouts[] = {
-   { { 0, 64u }, 8, 32, 1, 0, 0, 7973, 2, { { 10, 2 }, { 24, 9 } }, 0x2740000, 0 },
-   { { 0, 64u }, 6, 24, 1, 0, 0, 7973, 1, { { 10, 10 } }, 0x2740000, 0 },
-   { { 0, 64u }, 6, 24, 1, 0, 0, 7973, 2, { { 6, 14 }, { 6, 26 } }, 0x2740000, 0 },
-   { { 0, 64u }, 6, 24, 1, 0, 0, 7973, 1, { { 6, 14 } }, 0x2740000, 0 },
-   { { 0, 64u }, 6, 24, 1, 0, 0, 7973, 1, { { 0, 17 } }, 0x2740000, 0 },
+constexpr AsicUtils::TableLayout layout[] = {
+   { { 0, 64u }, 8, 32, 1, 0, 0, 7973, 2, { { 10, 2 }, { 24, 9 } }, 0x2740000, 0, &rows[0], &masks[0] },
+   { { 0, 64u }, 6, 24, 1, 0, 0, 7973, 1, { { 10, 10 } }, 0x2740000, 0, &rows[6], &masks[8] },
+   { { 0, 64u }, 6, 24, 1, 0, 0, 7973, 2, { { 6, 14 }, { 6, 26 } }, 0x2740000, 0, &rows[6], &masks[8] },
+   { { 0, 64u }, 6, 24, 1, 0, 0, 7973, 1, { { 6, 14 } }, 0x2740000, 0, &rows[6], &masks[8] },
+   { { 0, 64u }, 6, 24, 1, 0, 0, 7973, 1, { { 0, 17 } }, 0x2740000, 0, &rows[6], &masks[8] },
 };
-constexpr AsicUtils::PairRow pairs[] = {
-   { &layouts[0], &rows[0], &masks[0] }, { &layouts[1], &rows[6], &masks[8] }, { &layouts[2], &rows[6], &masks[8] }, {}, { &layouts[3], &rows[6], &masks[8] }, { &layouts[4], &rows[6], &masks[8] }, { &layouts[4], &rows[6], &masks[8] },
+constexpr AsicUtils::TableLayout const * layouts[] = {
+   &layout[0], &layout[1], &layout[2], nullptr, &layout[3], &layout[4], &layout[4],
 };
 } // namespace IppbFlpLePd1Data
 
 constinit AsicUtils::MetaInfo const IppbFlpLePd1::metaInfo{
    Impl::trace, Impl::source, __LINE__, "IppbFlpLePd1", 37, true, 1, AsicUtils::ValueType::Raw256,
-   IppbFlpLePd1Data::fields, IppbFlpLePd1Data::pairs, {}, {}
+   IppbFlpLePd1Data::fields, IppbFlpLePd1Data::layouts, {}, {}
 };
 
 Raw256 IppbFlpLePd1::allFieldsMask() const {
@@ -2159,21 +2167,21 @@ constexpr U32 masks[] = {
    0xffffffff, 0xffffffff, 0xffffffff, 0xffffffff, 0xffffffff, 0xffffffff, 0xffffff, 0x0,
    0xffffffff, 0xffffffff, 0xffffffff, 0xffffffff, 0xffffffff, 0xffff, 0x0, 0x0,
 };
-constexpr AsicUtils::TableLayout layouts[] = {
-   { { 0, 64u }, 8, 32, 1, 0, 0, 7974, 2, { { 10, 2 }, { 24, 9 } }, 0x2750000, 0 },
-   { { 0, 64u }, 6, 24, 1, 0, 0, 7974, 1, { { 10, 10 } }, 0x2750000, 0 },
-   { { 0, 64u }, 6, 24, 1, 0, 0, 7974, 2, { { 6, 14 }, { 6, 26 } }, 0x2750000, 0 },
-   { { 0, 64u }, 6, 24, 1, 0, 0, 7974, 1, { { 6, 14 } }, 0x2750000, 0 },
-   { { 0, 64u }, 6, 24, 1, 0, 0, 7974, 1, { { 0, 17 } }, 0x2750000, 0 },
+constexpr AsicUtils::TableLayout layout[] = {
+   { { 0, 64u }, 8, 32, 1, 0, 0, 7974, 2, { { 10, 2 }, { 24, 9 } }, 0x2750000, 0, &rows[0], &masks[0] },
+   { { 0, 64u }, 6, 24, 1, 0, 0, 7974, 1, { { 10, 10 } }, 0x2750000, 0, &rows[6], &masks[8] },
+   { { 0, 64u }, 6, 24, 1, 0, 0, 7974, 2, { { 6, 14 }, { 6, 26 } }, 0x2750000, 0, &rows[6], &masks[8] },
+   { { 0, 64u }, 6, 24, 1, 0, 0, 7974, 1, { { 6, 14 } }, 0x2750000, 0, &rows[6], &masks[8] },
+   { { 0, 64u }, 6, 24, 1, 0, 0, 7974, 1, { { 0, 17 } }, 0x2750000, 0, &rows[6], &masks[8] },
 };
-constexpr AsicUtils::PairRow pairs[] = {
-   { &layouts[0], &rows[0], &masks[0] }, { &layouts[1], &rows[6], &masks[8] }, { &layouts[2], &rows[6], &masks[8] }, {}, { &layouts[3], &rows[6], &masks[8] }, { &layouts[4], &rows[6], &masks[8] }, { &layouts[4], &rows[6], &masks[8] },
+constexpr AsicUtils::TableLayout const * layouts[] = {
+   &layout[0], &layout[1], &layout[2], nullptr, &layout[3], &layout[4], &layout[4],
 };
 } // namespace IppbFlpLePd2Data
 
 constinit AsicUtils::MetaInfo const IppbFlpLePd2::metaInfo{
    Impl::trace, Impl::source, __LINE__, "IppbFlpLePd2", 38, true, 1, AsicUtils::ValueType::Raw256,
-   IppbFlpLePd2Data::fields, IppbFlpLePd2Data::pairs, {}, {}
+   IppbFlpLePd2Data::fields, IppbFlpLePd2Data::layouts, {}, {}
 };
 
 Raw256 IppbFlpLePd2::allFieldsMask() const {
@@ -2193,21 +2201,21 @@ constexpr AsicUtils::FieldRow rows[] = {
 constexpr U32 masks[] = {
    0x1f,
 };
-constexpr AsicUtils::TableLayout layouts[] = {
-   { { 0, 256u }, 1, 4, 1, 0, 0, 7989, 2, { { 10, 2 }, { 24, 9 } }, 0x1710000, 0 },
-   { { 0, 1024u }, 1, 4, 1, 0, 0, 7989, 1, { { 10, 10 } }, 0x1710000, 0 },
-   { { 0, 256u }, 1, 4, 1, 0, 0, 7989, 2, { { 6, 14 }, { 6, 26 } }, 0x1710000, 0 },
-   { { 0, 256u }, 1, 4, 1, 0, 0, 7989, 1, { { 6, 14 } }, 0x1710000, 0 },
-   { { 0, 1024u }, 1, 4, 1, 0, 0, 7989, 1, { { 0, 17 } }, 0x1710000, 0 },
+constexpr AsicUtils::TableLayout layout[] = {
+   { { 0, 256u }, 1, 4, 1, 0, 0, 7989, 2, { { 10, 2 }, { 24, 9 } }, 0x1710000, 0, &rows[0], &masks[0] },
+   { { 0, 1024u }, 1, 4, 1, 0, 0, 7989, 1, { { 10, 10 } }, 0x1710000, 0, &rows[0], &masks[0] },
+   { { 0, 256u }, 1, 4, 1, 0, 0, 7989, 2, { { 6, 14 }, { 6, 26 } }, 0x1710000, 0, &rows[0], &masks[0] },
+   { { 0, 256u }, 1, 4, 1, 0, 0, 7989, 1, { { 6, 14 } }, 0x1710000, 0, &rows[0], &masks[0] },
+   { { 0, 1024u }, 1, 4, 1, 0, 0, 7989, 1, { { 0, 17 } }, 0x1710000, 0, &rows[0], &masks[0] },
 };
-constexpr AsicUtils::PairRow pairs[] = {
-   { &layouts[0], &rows[0], &masks[0] }, { &layouts[1], &rows[0], &masks[0] }, { &layouts[2], &rows[0], &masks[0] }, {}, { &layouts[3], &rows[0], &masks[0] }, { &layouts[4], &rows[0], &masks[0] }, { &layouts[4], &rows[0], &masks[0] },
+constexpr AsicUtils::TableLayout const * layouts[] = {
+   &layout[0], &layout[1], &layout[2], nullptr, &layout[3], &layout[4], &layout[4],
 };
 } // namespace IppbFlpPortProfileMapData
 
 constinit AsicUtils::MetaInfo const IppbFlpPortProfileMap::metaInfo{
    Impl::trace, Impl::source, __LINE__, "IppbFlpPortProfileMap", 39, true, 1, AsicUtils::ValueType::U32,
-   IppbFlpPortProfileMapData::fields, IppbFlpPortProfileMapData::pairs, {}, {}
+   IppbFlpPortProfileMapData::fields, IppbFlpPortProfileMapData::layouts, {}, {}
 };
 
 U32 IppbFlpPortProfileMap::allFieldsMask() const {
@@ -2227,21 +2235,21 @@ constexpr AsicUtils::FieldRow rows[] = {
 constexpr U32 masks[] = {
    0x1fff,
 };
-constexpr AsicUtils::TableLayout layouts[] = {
-   { { 0, 128u }, 1, 4, 1, 0, 0, 7898, 2, { { 10, 2 }, { 24, 9 } }, 0x3030000, 0 },
-   { { 0, 128u }, 1, 4, 1, 0, 0, 7898, 1, { { 10, 10 } }, 0x3030000, 0 },
-   { { 0, 128u }, 1, 4, 1, 0, 0, 7898, 2, { { 6, 14 }, { 6, 26 } }, 0x3030000, 0 },
-   { { 0, 128u }, 1, 4, 1, 0, 0, 7898, 1, { { 6, 14 } }, 0x3030000, 0 },
-   { { 0, 128u }, 1, 4, 1, 0, 0, 7898, 1, { { 0, 17 } }, 0x3030000, 0 },
+constexpr AsicUtils::TableLayout layout[] = {
+   { { 0, 128u }, 1, 4, 1, 0, 0, 7898, 2, { { 10, 2 }, { 24, 9 } }, 0x3030000, 0, &rows[0], &masks[0] },
+   { { 0, 128u }, 1, 4, 1, 0, 0, 7898, 1, { { 10, 10 } }, 0x3030000, 0, &rows[0], &masks[0] },
+   { { 0, 128u }, 1, 4, 1, 0, 0, 7898, 2, { { 6, 14 }, { 6, 26 } }, 0x3030000, 0, &rows[0], &masks[0] },
+   { { 0, 128u }, 1, 4, 1, 0, 0, 7898, 1, { { 6, 14 } }, 0x3030000, 0, &rows[0], &masks[0] },
+   { { 0, 128u }, 1, 4, 1, 0, 0, 7898, 1, { { 0, 17 } }, 0x3030000, 0, &rows[0], &masks[0] },
 };
-constexpr AsicUtils::PairRow pairs[] = {
-   { &layouts[0], &rows[0], &masks[0] }, { &layouts[1], &rows[0], &masks[0] }, { &layouts[2], &rows[0], &masks[0] }, {}, { &layouts[3], &rows[0], &masks[0] }, { &layouts[4], &rows[0], &masks[0] }, { &layouts[4], &rows[0], &masks[0] },
+constexpr AsicUtils::TableLayout const * layouts[] = {
+   &layout[0], &layout[1], &layout[2], nullptr, &layout[3], &layout[4], &layout[4],
 };
 } // namespace IppbFlpacsActionData
 
 constinit AsicUtils::MetaInfo const IppbFlpacsAction::metaInfo{
    Impl::trace, Impl::source, __LINE__, "IppbFlpacsAction", 40, true, 1, AsicUtils::ValueType::U32,
-   IppbFlpacsActionData::fields, IppbFlpacsActionData::pairs, {}, {}
+   IppbFlpacsActionData::fields, IppbFlpacsActionData::layouts, {}, {}
 };
 
 U32 IppbFlpacsAction::allFieldsMask() const {
@@ -2308,21 +2316,21 @@ constexpr AsicUtils::FieldRow rows[] = {
 constexpr U32 masks[] = {
    0xffffffff, 0x7, 0xffffffff, 0x1f, 0xffffffff, 0xff,
 };
-constexpr AsicUtils::TableLayout layouts[] = {
-   { { 0, 64u }, 2, 8, 1, 0, 0, 7934, 2, { { 10, 2 }, { 24, 9 } }, 0x1680000, 0 },
-   { { 0, 64u }, 2, 8, 1, 0, 0, 7934, 1, { { 10, 10 } }, 0x1680000, 0 },
-   { { 0, 64u }, 2, 8, 1, 0, 0, 7934, 2, { { 6, 14 }, { 6, 26 } }, 0x1680000, 0 },
-   { { 0, 64u }, 2, 8, 1, 0, 0, 7934, 1, { { 6, 14 } }, 0x1680000, 0 },
-   { { 0, 64u }, 2, 8, 1, 0, 0, 7934, 1, { { 0, 17 } }, 0x1680000, 0 },
+constexpr AsicUtils::TableLayout layout[] = {
+   { { 0, 64u }, 2, 8, 1, 0, 0, 7934, 2, { { 10, 2 }, { 24, 9 } }, 0x1680000, 0, &rows[0], &masks[0] },
+   { { 0, 64u }, 2, 8, 1, 0, 0, 7934, 1, { { 10, 10 } }, 0x1680000, 0, &rows[35], &masks[2] },
+   { { 0, 64u }, 2, 8, 1, 0, 0, 7934, 2, { { 6, 14 }, { 6, 26 } }, 0x1680000, 0, &rows[70], &masks[4] },
+   { { 0, 64u }, 2, 8, 1, 0, 0, 7934, 1, { { 6, 14 } }, 0x1680000, 0, &rows[70], &masks[4] },
+   { { 0, 64u }, 2, 8, 1, 0, 0, 7934, 1, { { 0, 17 } }, 0x1680000, 0, &rows[35], &masks[2] },
 };
-constexpr AsicUtils::PairRow pairs[] = {
-   { &layouts[0], &rows[0], &masks[0] }, { &layouts[1], &rows[35], &masks[2] }, { &layouts[2], &rows[70], &masks[4] }, {}, { &layouts[3], &rows[70], &masks[4] }, { &layouts[4], &rows[35], &masks[2] }, { &layouts[4], &rows[35], &masks[2] },
+constexpr AsicUtils::TableLayout const * layouts[] = {
+   &layout[0], &layout[1], &layout[2], nullptr, &layout[3], &layout[4], &layout[4],
 };
 } // namespace IppbFlpbResContextEnablersData
 
 constinit AsicUtils::MetaInfo const IppbFlpbResContextEnablers::metaInfo{
    Impl::trace, Impl::source, __LINE__, "IppbFlpbResContextEnablers", 41, true, 1, AsicUtils::ValueType::U64,
-   IppbFlpbResContextEnablersData::fields, IppbFlpbResContextEnablersData::pairs, {}, {}
+   IppbFlpbResContextEnablersData::fields, IppbFlpbResContextEnablersData::layouts, {}, {}
 };
 
 U64 IppbFlpbResContextEnablers::allFieldsMask() const {
@@ -2362,21 +2370,22 @@ constexpr AsicUtils::FieldRow rows[] = {
 constexpr U32 masks[] = {
    0xffffffff, 0xffffff, 0xffffffff, 0xffffff,
 };
-constexpr AsicUtils::TableLayout layouts[] = {
-   { { 0, 1u }, 2, 8, 1, 0, 0, 54225, 2, { { 10, 2 }, { 24, 9 } }, 0x111, 0 },
-   { { 0, 1u }, 2, 8, 1, 0, 0, 54225, 1, { { 10, 10 } }, 0x111, 0 },
-   { { 0, 1u }, 2, 8, 1, 0, 0, 54225, 2, { { 6, 14 }, { 6, 26 } }, 0x111, 0 },
-   { { 0, 1u }, 2, 8, 1, 0, 0, 54225, 1, { { 6, 14 } }, 0x111, 0 },
-   { { 0, 1u }, 2, 8, 1, 0, 0, 54225, 1, { { 0, 17 } }, 0x111, 0 },
+constexpr AsicUtils::TableLayout layout[] = {
+   { { 0, 1u }, 2, 8, 1, 0, 0, 54225, 2, { { 10, 2 }, { 24, 9 } }, 0x111, 0, &rows[0], &masks[0] },
+   { { 0, 1u }, 2, 8, 1, 0, 0, 54225, 1, { { 10, 10 } }, 0x111, 0, &rows[0], &masks[0] },
+   { { 0, 1u }, 2, 8, 1, 0, 0, 54225, 2, { { 6, 14 }, { 6, 26 } }, 0x111, 0, &rows[17], &masks[2] },
+   { { 0, 1u }, 2, 8, 1, 0, 0, 54225, 1, { { 6, 14 } }, 0x111, 0, &rows[17], &masks[2] },
+   { { 0, 1u }, 2, 8, 1, 0, 0, 54225, 1, { { 0, 17 } }, 0x111, 0, &rows[0], &masks[0] },
+   { { 0, 1u }, 2, 8, 1, 0, 0, 54225, 1, { { 0, 17 } }, 0x111, 0, &rows[17], &masks[2] },
 };
-constexpr AsicUtils::PairRow pairs[] = {
-   { &layouts[0], &rows[0], &masks[0] }, { &layouts[1], &rows[0], &masks[0] }, { &layouts[2], &rows[17], &masks[2] }, {}, { &layouts[3], &rows[17], &masks[2] }, { &layouts[4], &rows[0], &masks[0] }, { &layouts[4], &rows[17], &masks[2] },
+constexpr AsicUtils::TableLayout const * layouts[] = {
+   &layout[0], &layout[1], &layout[2], nullptr, &layout[3], &layout[4], &layout[5],
 };
 } // namespace IppbIpv4ActionProfilesCfgData
 
 constinit AsicUtils::MetaInfo const IppbIpv4ActionProfilesCfg::metaInfo{
    Impl::trace, Impl::source, __LINE__, "IppbIpv4ActionProfilesCfg", 42, false, 1, AsicUtils::ValueType::U64,
-   IppbIpv4ActionProfilesCfgData::fields, IppbIpv4ActionProfilesCfgData::pairs, {}, {}
+   IppbIpv4ActionProfilesCfgData::fields, IppbIpv4ActionProfilesCfgData::layouts, {}, {}
 };
 
 U64 IppbIpv4ActionProfilesCfg::allFieldsMask() const {
@@ -2417,21 +2426,21 @@ constexpr AsicUtils::FieldRow rows[] = {
 constexpr U32 masks[] = {
    0xffffffff, 0xffffffff, 0x3f, 0x0,
 };
-constexpr AsicUtils::TableLayout layouts[] = {
-   { { 0, 1u }, 3, 12, 1, 0, 0, 54227, 2, { { 10, 2 }, { 24, 9 } }, 0x113, 0 },
-   { { 0, 1u }, 3, 12, 1, 0, 0, 54227, 1, { { 10, 10 } }, 0x113, 0 },
-   { { 0, 1u }, 3, 12, 1, 0, 0, 54227, 2, { { 6, 14 }, { 6, 26 } }, 0x113, 0 },
-   { { 0, 1u }, 3, 12, 1, 0, 0, 54227, 1, { { 6, 14 } }, 0x113, 0 },
-   { { 0, 1u }, 3, 12, 1, 0, 0, 54227, 1, { { 0, 17 } }, 0x113, 0 },
+constexpr AsicUtils::TableLayout layout[] = {
+   { { 0, 1u }, 3, 12, 1, 0, 0, 54227, 2, { { 10, 2 }, { 24, 9 } }, 0x113, 0, &rows[0], &masks[0] },
+   { { 0, 1u }, 3, 12, 1, 0, 0, 54227, 1, { { 10, 10 } }, 0x113, 0, &rows[0], &masks[0] },
+   { { 0, 1u }, 3, 12, 1, 0, 0, 54227, 2, { { 6, 14 }, { 6, 26 } }, 0x113, 0, &rows[0], &masks[0] },
+   { { 0, 1u }, 3, 12, 1, 0, 0, 54227, 1, { { 6, 14 } }, 0x113, 0, &rows[0], &masks[0] },
+   { { 0, 1u }, 3, 12, 1, 0, 0, 54227, 1, { { 0, 17 } }, 0x113, 0, &rows[0], &masks[0] },
 };
-constexpr AsicUtils::PairRow pairs[] = {
-   { &layouts[0], &rows[0], &masks[0] }, { &layouts[1], &rows[0], &masks[0] }, { &layouts[2], &rows[0], &masks[0] }, {}, { &layouts[3], &rows[0], &masks[0] }, { &layouts[4], &rows[0], &masks[0] }, { &layouts[4], &rows[0], &masks[0] },
+constexpr AsicUtils::TableLayout const * layouts[] = {
+   &layout[0], &layout[1], &layout[2], nullptr, &layout[3], &layout[4], &layout[4],
 };
 } // namespace IppbIpv6ActionProfiles0CfgData
 
 constinit AsicUtils::MetaInfo const IppbIpv6ActionProfiles0Cfg::metaInfo{
    Impl::trace, Impl::source, __LINE__, "IppbIpv6ActionProfiles0Cfg", 43, false, 1, AsicUtils::ValueType::Raw128,
-   IppbIpv6ActionProfiles0CfgData::fields, IppbIpv6ActionProfiles0CfgData::pairs, {}, {}
+   IppbIpv6ActionProfiles0CfgData::fields, IppbIpv6ActionProfiles0CfgData::layouts, {}, {}
 };
 
 Raw128 IppbIpv6ActionProfiles0Cfg::allFieldsMask() const {
@@ -2451,18 +2460,18 @@ constexpr AsicUtils::FieldRow rows[] = {
 constexpr U32 masks[] = {
    0xffffffff, 0xffffffff, 0xffffffff, 0xffffffff, 0xffffffff, 0xffffffff, 0xffffffff, 0xffffffff,
 };
-constexpr AsicUtils::TableLayout layouts[] = {
-   { { 0, 1u }, 8, 32, 1, 0, 0, 54258, 2, { { 6, 14 }, { 6, 26 } }, 0x231, 0 },
-   { { 0, 1u }, 8, 32, 1, 0, 0, 54258, 1, { { 6, 14 } }, 0x231, 0 },
+constexpr AsicUtils::TableLayout layout[] = {
+   { { 0, 1u }, 8, 32, 1, 0, 0, 54258, 2, { { 6, 14 }, { 6, 26 } }, 0x231, 0, &rows[0], &masks[0] },
+   { { 0, 1u }, 8, 32, 1, 0, 0, 54258, 1, { { 6, 14 } }, 0x231, 0, &rows[0], &masks[0] },
 };
-constexpr AsicUtils::PairRow pairs[] = {
-   {}, {}, { &layouts[0], &rows[0], &masks[0] }, {}, { &layouts[1], &rows[0], &masks[0] }, {}, {},
+constexpr AsicUtils::TableLayout const * layouts[] = {
+   nullptr, nullptr, &layout[0], nullptr, &layout[1], nullptr, nullptr,
 };
 } // namespace IppbLifMcBridgeFallbackAllowData
 
 constinit AsicUtils::MetaInfo const IppbLifMcBridgeFallbackAllow::metaInfo{
    Impl::trace, Impl::source, __LINE__, "IppbLifMcBridgeFallbackAllow", 44, false, 1, AsicUtils::ValueType::Raw256,
-   IppbLifMcBridgeFallbackAllowData::fields, IppbLifMcBridgeFallbackAllowData::pairs, {}, {}
+   IppbLifMcBridgeFallbackAllowData::fields, IppbLifMcBridgeFallbackAllowData::layouts, {}, {}
 };
 
 Raw256 IppbLifMcBridgeFallbackAllow::allFieldsMask() const {
@@ -2501,21 +2510,21 @@ constexpr U32 masks[] = {
    0xffffffff, 0xffffffff, 0xffffffff, 0xffffffff, 0xffffffff, 0xffffffff, 0xffffffff, 0xffffffff,
    0x3f, 0x0, 0x0, 0x0, 0x0, 0x0, 0x0, 0x0,
 };
-constexpr AsicUtils::TableLayout layouts[] = {
-   { { 0, 1u }, 9, 36, 8, 0, 0, 54316, 2, { { 10, 2 }, { 24, 9 } }, 0x165, 1 },
-   { { 0, 1u }, 9, 36, 8, 0, 0, 54316, 1, { { 10, 10 } }, 0x165, 1 },
-   { { 0, 1u }, 9, 36, 8, 0, 0, 54316, 2, { { 6, 14 }, { 6, 26 } }, 0x163, 1 },
-   { { 0, 1u }, 9, 36, 8, 0, 0, 54316, 1, { { 6, 14 } }, 0x163, 1 },
-   { { 0, 1u }, 9, 36, 8, 0, 0, 54316, 1, { { 0, 17 } }, 0x165, 1 },
+constexpr AsicUtils::TableLayout layout[] = {
+   { { 0, 1u }, 9, 36, 8, 0, 0, 54316, 2, { { 10, 2 }, { 24, 9 } }, 0x165, 1, &rows[0], &masks[0] },
+   { { 0, 1u }, 9, 36, 8, 0, 0, 54316, 1, { { 10, 10 } }, 0x165, 1, &rows[0], &masks[0] },
+   { { 0, 1u }, 9, 36, 8, 0, 0, 54316, 2, { { 6, 14 }, { 6, 26 } }, 0x163, 1, &rows[0], &masks[0] },
+   { { 0, 1u }, 9, 36, 8, 0, 0, 54316, 1, { { 6, 14 } }, 0x163, 1, &rows[0], &masks[0] },
+   { { 0, 1u }, 9, 36, 8, 0, 0, 54316, 1, { { 0, 17 } }, 0x165, 1, &rows[0], &masks[0] },
 };
-constexpr AsicUtils::PairRow pairs[] = {
-   { &layouts[0], &rows[0], &masks[0] }, { &layouts[1], &rows[0], &masks[0] }, { &layouts[2], &rows[0], &masks[0] }, {}, { &layouts[3], &rows[0], &masks[0] }, { &layouts[4], &rows[0], &masks[0] }, { &layouts[4], &rows[0], &masks[0] },
+constexpr AsicUtils::TableLayout const * layouts[] = {
+   &layout[0], &layout[1], &layout[2], nullptr, &layout[3], &layout[4], &layout[4],
 };
 } // namespace IppbProgTrapCfgData
 
 constinit AsicUtils::MetaInfo const IppbProgTrapCfg::metaInfo{
    Impl::trace, Impl::source, __LINE__, "IppbProgTrapCfg", 45, false, 1, AsicUtils::ValueType::Raw512,
-   IppbProgTrapCfgData::fields, IppbProgTrapCfgData::pairs, {}, {}
+   IppbProgTrapCfgData::fields, IppbProgTrapCfgData::layouts, {}, {}
 };
 
 Raw512 IppbProgTrapCfg::allFieldsMask() const {
@@ -2541,21 +2550,21 @@ constexpr AsicUtils::FieldRow rows[] = {
 constexpr U32 masks[] = {
    0xffffffff, 0xffffffff,
 };
-constexpr AsicUtils::TableLayout layouts[] = {
-   { { 0, 1u }, 2, 8, 1, 0, 0, 54353, 2, { { 10, 2 }, { 24, 9 } }, 0x207, 0 },
-   { { 0, 1u }, 2, 8, 1, 0, 0, 54353, 1, { { 10, 10 } }, 0x207, 0 },
-   { { 0, 1u }, 2, 8, 1, 0, 0, 54353, 2, { { 6, 14 }, { 6, 26 } }, 0x205, 0 },
-   { { 0, 1u }, 2, 8, 1, 0, 0, 54353, 1, { { 6, 14 } }, 0x205, 0 },
-   { { 0, 1u }, 2, 8, 1, 0, 0, 54353, 1, { { 0, 17 } }, 0x207, 0 },
+constexpr AsicUtils::TableLayout layout[] = {
+   { { 0, 1u }, 2, 8, 1, 0, 0, 54353, 2, { { 10, 2 }, { 24, 9 } }, 0x207, 0, &rows[0], &masks[0] },
+   { { 0, 1u }, 2, 8, 1, 0, 0, 54353, 1, { { 10, 10 } }, 0x207, 0, &rows[0], &masks[0] },
+   { { 0, 1u }, 2, 8, 1, 0, 0, 54353, 2, { { 6, 14 }, { 6, 26 } }, 0x205, 0, &rows[0], &masks[0] },
+   { { 0, 1u }, 2, 8, 1, 0, 0, 54353, 1, { { 6, 14 } }, 0x205, 0, &rows[0], &masks[0] },
+   { { 0, 1u }, 2, 8, 1, 0, 0, 54353, 1, { { 0, 17 } }, 0x207, 0, &rows[0], &masks[0] },
 };
-constexpr AsicUtils::PairRow pairs[] = {
-   { &layouts[0], &rows[0], &masks[0] }, { &layouts[1], &rows[0], &masks[0] }, { &layouts[2], &rows[0], &masks[0] }, {}, { &layouts[3], &rows[0], &masks[0] }, { &layouts[4], &rows[0], &masks[0] }, { &layouts[4], &rows[0], &masks[0] },
+constexpr AsicUtils::TableLayout const * layouts[] = {
+   &layout[0], &layout[1], &layout[2], nullptr, &layout[3], &layout[4], &layout[4],
 };
 } // namespace IppbTtl0ActionProfileData
 
 constinit AsicUtils::MetaInfo const IppbTtl0ActionProfile::metaInfo{
    Impl::trace, Impl::source, __LINE__, "IppbTtl0ActionProfile", 46, false, 1, AsicUtils::ValueType::U64,
-   IppbTtl0ActionProfileData::fields, IppbTtl0ActionProfileData::pairs, {}, {}
+   IppbTtl0ActionProfileData::fields, IppbTtl0ActionProfileData::layouts, {}, {}
 };
 
 U64 IppbTtl0ActionProfile::allFieldsMask() const {
@@ -2575,27 +2584,27 @@ constexpr AsicUtils::FieldRow rows[] = {
 constexpr U32 masks[] = {
    0xf,
 };
-constexpr AsicUtils::TableLayout layouts[] = {
-   { { 0, 256u }, 1, 4, 1, 0, 0, 8048, 2, { { 12, 2 }, { 26, 9 } }, 0x9f0000, 0 },
-   { { 0, 256u }, 1, 4, 1, 0, 0, 8048, 1, { { 6, 9 } }, 0x9f0000, 0 },
-   { { 0, 256u }, 1, 4, 1, 0, 0, 8048, 2, { { 8, 14 }, { 8, 26 } }, 0x9f0000, 0 },
-   { { 0, 256u }, 1, 4, 1, 0, 0, 8048, 1, { { 8, 14 } }, 0x9f0000, 0 },
-   { { 0, 256u }, 1, 4, 1, 0, 0, 8048, 1, { { 16, 16 } }, 0x9f0000, 0 },
-   { { 0, 256u }, 1, 4, 1, 0, 0, 8049, 2, { { 12, 2 }, { 26, 9 } }, 0xa00000, 0 },
-   { { 0, 256u }, 1, 4, 1, 0, 0, 8049, 1, { { 6, 9 } }, 0xa00000, 0 },
-   { { 0, 256u }, 1, 4, 1, 0, 0, 8049, 2, { { 8, 14 }, { 8, 26 } }, 0xa00000, 0 },
-   { { 0, 256u }, 1, 4, 1, 0, 0, 8049, 1, { { 8, 14 } }, 0xa00000, 0 },
-   { { 0, 256u }, 1, 4, 1, 0, 0, 8049, 1, { { 16, 16 } }, 0xa00000, 0 },
+constexpr AsicUtils::TableLayout layout[] = {
+   { { 0, 256u }, 1, 4, 1, 0, 0, 8048, 2, { { 12, 2 }, { 26, 9 } }, 0x9f0000, 0, &rows[0], &masks[0] },
+   { { 0, 256u }, 1, 4, 1, 0, 0, 8048, 1, { { 6, 9 } }, 0x9f0000, 0, &rows[0], &masks[0] },
+   { { 0, 256u }, 1, 4, 1, 0, 0, 8048, 2, { { 8, 14 }, { 8, 26 } }, 0x9f0000, 0, &rows[0], &masks[0] },
+   { { 0, 256u }, 1, 4, 1, 0, 0, 8048, 1, { { 8, 14 } }, 0x9f0000, 0, &rows[0], &masks[0] },
+   { { 0, 256u }, 1, 4, 1, 0, 0, 8048, 1, { { 16, 16 } }, 0x9f0000, 0, &rows[0], &masks[0] },
+   { { 0, 256u }, 1, 4, 1, 0, 0, 8049, 2, { { 12, 2 }, { 26, 9 } }, 0xa00000, 0, &rows[0], &masks[0] },
+   { { 0, 256u }, 1, 4, 1, 0, 0, 8049, 1, { { 6, 9 } }, 0xa00000, 0, &rows[0], &masks[0] },
+   { { 0, 256u }, 1, 4, 1, 0, 0, 8049, 2, { { 8, 14 }, { 8, 26 } }, 0xa00000, 0, &rows[0], &masks[0] },
+   { { 0, 256u }, 1, 4, 1, 0, 0, 8049, 1, { { 8, 14 } }, 0xa00000, 0, &rows[0], &masks[0] },
+   { { 0, 256u }, 1, 4, 1, 0, 0, 8049, 1, { { 16, 16 } }, 0xa00000, 0, &rows[0], &masks[0] },
 };
-constexpr AsicUtils::PairRow pairs[] = {
-   { &layouts[0], &rows[0], &masks[0] }, { &layouts[1], &rows[0], &masks[0] }, { &layouts[2], &rows[0], &masks[0] }, {}, { &layouts[3], &rows[0], &masks[0] }, { &layouts[4], &rows[0], &masks[0] }, { &layouts[4], &rows[0], &masks[0] },
-   { &layouts[5], &rows[0], &masks[0] }, { &layouts[6], &rows[0], &masks[0] }, { &layouts[7], &rows[0], &masks[0] }, {}, { &layouts[8], &rows[0], &masks[0] }, { &layouts[9], &rows[0], &masks[0] }, { &layouts[9], &rows[0], &masks[0] },
+constexpr AsicUtils::TableLayout const * layouts[] = {
+   &layout[0], &layout[1], &layout[2], nullptr, &layout[3], &layout[4], &layout[4],
+   &layout[5], &layout[6], &layout[7], nullptr, &layout[8], &layout[9], &layout[9],
 };
 } // namespace IppcInLifProfileCsFlagsData
 
 constinit AsicUtils::MetaInfo const IppcInLifProfileCsFlags::metaInfo{
    Impl::trace, Impl::source, __LINE__, "IppcInLifProfileCsFlags", 47, true, 2, AsicUtils::ValueType::U32,
-   IppcInLifProfileCsFlagsData::fields, IppcInLifProfileCsFlagsData::pairs, {}, {}
+   IppcInLifProfileCsFlagsData::fields, IppcInLifProfileCsFlagsData::layouts, {}, {}
 };
 
 U32 IppcInLifProfileCsFlags::allFieldsMask() const {
@@ -2617,21 +2626,21 @@ constexpr AsicUtils::FieldRow rows[] = {
 constexpr U32 masks[] = {
    0xffff,
 };
-constexpr AsicUtils::TableLayout layouts[] = {
-   { { 0, 1u }, 1, 4, 8, 0, 0, 54522, 2, { { 14, 2 }, { 28, 9 } }, 0x1f7, 1 },
-   { { 0, 1u }, 1, 4, 8, 0, 0, 54522, 1, { { 8, 9 } }, 0x1f3, 1 },
-   { { 0, 1u }, 1, 4, 8, 0, 0, 54522, 2, { { 10, 14 }, { 10, 26 } }, 0x1f3, 1 },
-   { { 0, 1u }, 1, 4, 8, 0, 0, 54522, 1, { { 10, 14 } }, 0x1f3, 1 },
-   { { 0, 1u }, 1, 4, 8, 0, 0, 54522, 1, { { 2, 18 } }, 0x1f3, 1 },
+constexpr AsicUtils::TableLayout layout[] = {
+   { { 0, 1u }, 1, 4, 8, 0, 0, 54522, 2, { { 14, 2 }, { 28, 9 } }, 0x1f7, 1, &rows[0], &masks[0] },
+   { { 0, 1u }, 1, 4, 8, 0, 0, 54522, 1, { { 8, 9 } }, 0x1f3, 1, &rows[0], &masks[0] },
+   { { 0, 1u }, 1, 4, 8, 0, 0, 54522, 2, { { 10, 14 }, { 10, 26 } }, 0x1f3, 1, &rows[0], &masks[0] },
+   { { 0, 1u }, 1, 4, 8, 0, 0, 54522, 1, { { 10, 14 } }, 0x1f3, 1, &rows[0], &masks[0] },
+   { { 0, 1u }, 1, 4, 8, 0, 0, 54522, 1, { { 2, 18 } }, 0x1f3, 1, &rows[0], &masks[0] },
 };
-constexpr AsicUtils::PairRow pairs[] = {
-   { &layouts[0], &rows[0], &masks[0] }, { &layouts[1], &rows[0], &masks[0] }, { &layouts[2], &rows[0], &masks[0] }, {}, { &layouts[3], &rows[0], &masks[0] }, { &layouts[4], &rows[0], &masks[0] }, { &layouts[4], &rows[0], &masks[0] },
+constexpr AsicUtils::TableLayout const * layouts[] = {
+   &layout[0], &layout[1], &layout[2], nullptr, &layout[3], &layout[4], &layout[4],
 };
 } // namespace IppdFerTrapCfgData
 
 constinit AsicUtils::MetaInfo const IppdFerTrapCfg::metaInfo{
    Impl::trace, Impl::source, __LINE__, "IppdFerTrapCfg", 48, false, 1, AsicUtils::ValueType::U32,
-   IppdFerTrapCfgData::fields, IppdFerTrapCfgData::pairs, {}, {}
+   IppdFerTrapCfgData::fields, IppdFerTrapCfgData::layouts, {}, {}
 };
 
 U32 IppdFerTrapCfg::allFieldsMask() const {
@@ -2651,19 +2660,19 @@ constexpr AsicUtils::FieldRow rows[] = {
 constexpr U32 masks[] = {
    0xff,
 };
-constexpr AsicUtils::TableLayout layouts[] = {
-   { { 0, 256u }, 1, 4, 1, 0, 0, 8156, 2, { { 10, 14 }, { 10, 26 } }, 0x20e0000, 0 },
-   { { 0, 256u }, 1, 4, 1, 0, 0, 8156, 1, { { 10, 14 } }, 0x20e0000, 0 },
-   { { 0, 256u }, 1, 4, 1, 0, 0, 8156, 1, { { 2, 18 } }, 0x20e0000, 0 },
+constexpr AsicUtils::TableLayout layout[] = {
+   { { 0, 256u }, 1, 4, 1, 0, 0, 8156, 2, { { 10, 14 }, { 10, 26 } }, 0x20e0000, 0, &rows[0], &masks[0] },
+   { { 0, 256u }, 1, 4, 1, 0, 0, 8156, 1, { { 10, 14 } }, 0x20e0000, 0, &rows[0], &masks[0] },
+   { { 0, 256u }, 1, 4, 1, 0, 0, 8156, 1, { { 2, 18 } }, 0x20e0000, 0, &rows[0], &masks[0] },
 };
-constexpr AsicUtils::PairRow pairs[] = {
-   {}, {}, { &layouts[0], &rows[0], &masks[0] }, {}, { &layouts[1], &rows[0], &masks[0] }, { &layouts[2], &rows[0], &masks[0] }, { &layouts[2], &rows[0], &masks[0] },
+constexpr AsicUtils::TableLayout const * layouts[] = {
+   nullptr, nullptr, &layout[0], nullptr, &layout[1], &layout[2], &layout[2],
 };
 } // namespace IppdInLifProfileMapData
 
 constinit AsicUtils::MetaInfo const IppdInLifProfileMap::metaInfo{
    Impl::trace, Impl::source, __LINE__, "IppdInLifProfileMap", 49, true, 1, AsicUtils::ValueType::U32,
-   IppdInLifProfileMapData::fields, IppdInLifProfileMapData::pairs, {}, {}
+   IppdInLifProfileMapData::fields, IppdInLifProfileMapData::layouts, {}, {}
 };
 
 U32 IppdInLifProfileMap::allFieldsMask() const {
@@ -2686,21 +2695,21 @@ constexpr AsicUtils::FieldRow rows[] = {
 constexpr U32 masks[] = {
    0xf, 0x3f,
 };
-constexpr AsicUtils::TableLayout layouts[] = {
-   { { 0, 256u }, 1, 4, 1, 0, 0, 8157, 2, { { 14, 2 }, { 28, 9 } }, 0x1090000, 0 },
-   { { 0, 256u }, 1, 4, 1, 0, 0, 8157, 1, { { 8, 9 } }, 0x1090000, 0 },
-   { { 0, 256u }, 1, 4, 1, 0, 0, 8157, 2, { { 10, 14 }, { 10, 26 } }, 0x1190000, 0 },
-   { { 0, 256u }, 1, 4, 1, 0, 0, 8157, 1, { { 10, 14 } }, 0x1190000, 0 },
-   { { 0, 256u }, 1, 4, 1, 0, 0, 8157, 1, { { 2, 18 } }, 0x1090000, 0 },
+constexpr AsicUtils::TableLayout layout[] = {
+   { { 0, 256u }, 1, 4, 1, 0, 0, 8157, 2, { { 14, 2 }, { 28, 9 } }, 0x1090000, 0, &rows[0], &masks[0] },
+   { { 0, 256u }, 1, 4, 1, 0, 0, 8157, 1, { { 8, 9 } }, 0x1090000, 0, &rows[4], &masks[1] },
+   { { 0, 256u }, 1, 4, 1, 0, 0, 8157, 2, { { 10, 14 }, { 10, 26 } }, 0x1190000, 0, &rows[4], &masks[1] },
+   { { 0, 256u }, 1, 4, 1, 0, 0, 8157, 1, { { 10, 14 } }, 0x1190000, 0, &rows[4], &masks[1] },
+   { { 0, 256u }, 1, 4, 1, 0, 0, 8157, 1, { { 2, 18 } }, 0x1090000, 0, &rows[4], &masks[1] },
 };
-constexpr AsicUtils::PairRow pairs[] = {
-   { &layouts[0], &rows[0], &masks[0] }, { &layouts[1], &rows[4], &masks[1] }, { &layouts[2], &rows[4], &masks[1] }, {}, { &layouts[3], &rows[4], &masks[1] }, { &layouts[4], &rows[4], &masks[1] }, { &layouts[4], &rows[4], &masks[1] },
+constexpr AsicUtils::TableLayout const * layouts[] = {
+   &layout[0], &layout[1], &layout[2], nullptr, &layout[3], &layout[4], &layout[4],
 };
 } // namespace IppdInLifProfileTableData
 
 constinit AsicUtils::MetaInfo const IppdInLifProfileTable::metaInfo{
    Impl::trace, Impl::source, __LINE__, "IppdInLifProfileTable", 50, true, 1, AsicUtils::ValueType::U32,
-   IppdInLifProfileTableData::fields, IppdInLifProfileTableData::pairs, {}, {}
+   IppdInLifProfileTableData::fields, IppdInLifProfileTableData::layouts, {}, {}
 };
 
 U32 IppdInLifProfileTable::allFieldsMask() const {
@@ -2722,21 +2731,21 @@ constexpr AsicUtils::FieldRow rows[] = {
 constexpr U32 masks[] = {
    0x7f,
 };
-constexpr AsicUtils::TableLayout layouts[] = {
-   { { 0, 16u }, 1, 4, 1, 0, 0, 8193, 2, { { 14, 2 }, { 28, 9 } }, 0x2020000, 0 },
-   { { 0, 16u }, 1, 4, 1, 0, 0, 8193, 1, { { 8, 9 } }, 0x2020000, 0 },
-   { { 0, 16u }, 1, 4, 1, 0, 0, 8193, 2, { { 10, 14 }, { 10, 26 } }, 0x2020000, 0 },
-   { { 0, 16u }, 1, 4, 1, 0, 0, 8193, 1, { { 10, 14 } }, 0x2020000, 0 },
-   { { 0, 16u }, 1, 4, 1, 0, 0, 8193, 1, { { 2, 18 } }, 0x2020000, 0 },
+constexpr AsicUtils::TableLayout layout[] = {
+   { { 0, 16u }, 1, 4, 1, 0, 0, 8193, 2, { { 14, 2 }, { 28, 9 } }, 0x2020000, 0, &rows[0], &masks[0] },
+   { { 0, 16u }, 1, 4, 1, 0, 0, 8193, 1, { { 8, 9 } }, 0x2020000, 0, &rows[0], &masks[0] },
+   { { 0, 16u }, 1, 4, 1, 0, 0, 8193, 2, { { 10, 14 }, { 10, 26 } }, 0x2020000, 0, &rows[0], &masks[0] },
+   { { 0, 16u }, 1, 4, 1, 0, 0, 8193, 1, { { 10, 14 } }, 0x2020000, 0, &rows[0], &masks[0] },
+   { { 0, 16u }, 1, 4, 1, 0, 0, 8193, 1, { { 2, 18 } }, 0x2020000, 0, &rows[0], &masks[0] },
 };
-constexpr AsicUtils::PairRow pairs[] = {
-   { &layouts[0], &rows[0], &masks[0] }, { &layouts[1], &rows[0], &masks[0] }, { &layouts[2], &rows[0], &masks[0] }, {}, { &layouts[3], &rows[0], &masks[0] }, { &layouts[4], &rows[0], &masks[0] }, { &layouts[4], &rows[0], &masks[0] },
+constexpr AsicUtils::TableLayout const * layouts[] = {
+   &layout[0], &layout[1], &layout[2], nullptr, &layout[3], &layout[4], &layout[4],
 };
 } // namespace IppdPphAttributesByEeiData
 
 constinit AsicUtils::MetaInfo const IppdPphAttributesByEei::metaInfo{
    Impl::trace, Impl::source, __LINE__, "IppdPphAttributesByEei", 51, true, 1, AsicUtils::ValueType::U32,
-   IppdPphAttributesByEeiData::fields, IppdPphAttributesByEeiData::pairs, {}, {}
+   IppdPphAttributesByEeiData::fields, IppdPphAttributesByEeiData::layouts, {}, {}
 };
 
 U32 IppdPphAttributesByEei::allFieldsMask() const {
@@ -2795,15 +2804,15 @@ constexpr AsicUtils::FieldRow rows[] = {
 constexpr U32 masks[] = {
    0xffffffff, 0xffffffff, 0xffffffff, 0xffffffff, 0xffffffff, 0xffffffff, 0xffff, 0x0,
 };
-constexpr AsicUtils::TableLayout layouts[] = {
-   { { 0, 1u }, 7, 28, 1, 0, 0, 54717, 2, { { 16, 2 }, { 30, 9 } }, 0x130, 0 },
-   { { 0, 1u }, 7, 28, 1, 0, 0, 54717, 1, { { 4, 10 } }, 0x130, 0 },
-   { { 0, 1u }, 7, 28, 1, 0, 0, 54717, 2, { { 0, 14 }, { 0, 26 } }, 0x130, 0 },
-   { { 0, 1u }, 7, 28, 1, 0, 0, 54717, 1, { { 0, 14 } }, 0x130, 0 },
-   { { 0, 1u }, 7, 28, 1, 0, 0, 54717, 1, { { 16, 17 } }, 0x130, 0 },
+constexpr AsicUtils::TableLayout layout[] = {
+   { { 0, 1u }, 7, 28, 1, 0, 0, 54717, 2, { { 16, 2 }, { 30, 9 } }, 0x130, 0, &rows[0], &masks[0] },
+   { { 0, 1u }, 7, 28, 1, 0, 0, 54717, 1, { { 4, 10 } }, 0x130, 0, &rows[0], &masks[0] },
+   { { 0, 1u }, 7, 28, 1, 0, 0, 54717, 2, { { 0, 14 }, { 0, 26 } }, 0x130, 0, &rows[0], &masks[0] },
+   { { 0, 1u }, 7, 28, 1, 0, 0, 54717, 1, { { 0, 14 } }, 0x130, 0, &rows[0], &masks[0] },
+   { { 0, 1u }, 7, 28, 1, 0, 0, 54717, 1, { { 16, 17 } }, 0x130, 0, &rows[0], &masks[0] },
 };
-constexpr AsicUtils::PairRow pairs[] = {
-   { &layouts[0], &rows[0], &masks[0] }, { &layouts[1], &rows[0], &masks[0] }, { &layouts[2], &rows[0], &masks[0] }, {}, { &layouts[3], &rows[0], &masks[0] }, { &layouts[4], &rows[0], &masks[0] }, { &layouts[4], &rows[0], &masks[0] },
+constexpr AsicUtils::TableLayout const * layouts[] = {
+   &layout[0], &layout[1], &layout[2], nullptr, &layout[3], &layout[4], &layout[4],
 };
 constexpr U16 recycFwdTrapCodeRun[] = {
    1, 6, 8, 10, 12, 14, 16, 18, 20, 22, 24, 26, 28, 30, 32, 34,
@@ -2819,7 +2828,7 @@ constexpr AsicUtils::FieldRun runs[] = {
 
 constinit AsicUtils::MetaInfo const IppeRecycFwdProfileMapping::metaInfo{
    Impl::trace, Impl::source, __LINE__, "IppeRecycFwdProfileMapping", 52, false, 1, AsicUtils::ValueType::Raw256,
-   IppeRecycFwdProfileMappingData::fields, IppeRecycFwdProfileMappingData::pairs, {}, IppeRecycFwdProfileMappingData::runs
+   IppeRecycFwdProfileMappingData::fields, IppeRecycFwdProfileMappingData::layouts, {}, IppeRecycFwdProfileMappingData::runs
 };
 
 Raw256 IppeRecycFwdProfileMapping::allFieldsMask() const {
@@ -2862,14 +2871,14 @@ constexpr U32 masks[] = {
    0xffffffff, 0xffffffff, 0xffffffff, 0xffffffff, 0xffffffff, 0xffffffff, 0xffffffff, 0xffffffff,
    0xffffffff, 0x3ffff, 0x0, 0x0, 0x0, 0x0, 0x0, 0x0,
 };
-constexpr AsicUtils::TableLayout layouts[] = {
-   { { 0, 1024u }, 10, 40, 1, 0, 0, 9599, 1, { { 2, 5 } }, 0x27000, 0 },
-   { { 0, 1024u }, 10, 40, 1, 0, 0, 9599, 1, { { 0, 12 } }, 0x23000, 0 },
-   { { 0, 1024u }, 10, 40, 1, 0, 0, 9599, 1, { { 24, 36 } }, 0x23000, 0 },
-   { { 0, 1024u }, 10, 40, 1, 0, 0, 9599, 1, { { 8, 20 } }, 0x23000, 0 },
+constexpr AsicUtils::TableLayout layout[] = {
+   { { 0, 1024u }, 10, 40, 1, 0, 0, 9599, 1, { { 2, 5 } }, 0x27000, 0, &rows[0], &masks[0] },
+   { { 0, 1024u }, 10, 40, 1, 0, 0, 9599, 1, { { 0, 12 } }, 0x23000, 0, &rows[0], &masks[0] },
+   { { 0, 1024u }, 10, 40, 1, 0, 0, 9599, 1, { { 24, 36 } }, 0x23000, 0, &rows[0], &masks[0] },
+   { { 0, 1024u }, 10, 40, 1, 0, 0, 9599, 1, { { 8, 20 } }, 0x23000, 0, &rows[17], &masks[16] },
 };
-constexpr AsicUtils::PairRow pairs[] = {
-   { &layouts[0], &rows[0], &masks[0] }, { &layouts[1], &rows[0], &masks[0] }, { &layouts[2], &rows[0], &masks[0] }, {}, { &layouts[2], &rows[0], &masks[0] }, { &layouts[3], &rows[17], &masks[16] }, { &layouts[3], &rows[17], &masks[16] },
+constexpr AsicUtils::TableLayout const * layouts[] = {
+   &layout[0], &layout[1], &layout[2], nullptr, &layout[2], &layout[3], &layout[3],
 };
 constexpr AsicUtils::TagRow tags[] = {
    { 1 << 0, 0, 137, 6, 20 },
@@ -2901,7 +2910,7 @@ constexpr AsicUtils::TagRow tags[] = {
 
 constinit AsicUtils::MetaInfo const Ipv4PcremFwdDestPcrem::metaInfo{
    Impl::trace, Impl::source, __LINE__, "Ipv4PcremFwdDestPcrem", 53, true, 1, AsicUtils::ValueType::Raw512,
-   Ipv4PcremFwdDestPcremData::fields, Ipv4PcremFwdDestPcremData::pairs, Ipv4PcremFwdDestPcremData::tags, {}
+   Ipv4PcremFwdDestPcremData::fields, Ipv4PcremFwdDestPcremData::layouts, Ipv4PcremFwdDestPcremData::tags, {}
 };
 
 Raw512 Ipv4PcremFwdDestPcrem::allFieldsMask() const {
@@ -2921,27 +2930,27 @@ constexpr AsicUtils::FieldRow rows[] = {
 constexpr U32 masks[] = {
    0xffffffff, 0xffffffff, 0xffffffff, 0xffffffff,
 };
-constexpr AsicUtils::TableLayout layouts[] = {
-   { { 0, 1u }, 4, 16, 1, 0, 0, 59140, 2, { { 22, 2 }, { 4, 10 } }, 0x210, 0 },
-   { { 0, 1u }, 4, 16, 1, 0, 0, 59140, 1, { { 18, 4 } }, 0x210, 0 },
-   { { 0, 1u }, 4, 16, 1, 0, 0, 59140, 2, { { 24, 12 }, { 24, 24 } }, 0x210, 0 },
-   { { 0, 1u }, 4, 16, 1, 0, 0, 59140, 1, { { 24, 12 } }, 0x210, 0 },
-   { { 0, 1u }, 4, 16, 1, 0, 0, 59140, 1, { { 30, 11 } }, 0x210, 0 },
-   { { 0, 1u }, 4, 16, 1, 0, 0, 59086, 2, { { 20, 2 }, { 2, 10 } }, 0x210, 0 },
-   { { 0, 1u }, 4, 16, 1, 0, 0, 59086, 1, { { 28, 9 } }, 0x210, 0 },
-   { { 0, 1u }, 4, 16, 1, 0, 0, 59086, 2, { { 20, 12 }, { 20, 24 } }, 0x210, 0 },
-   { { 0, 1u }, 4, 16, 1, 0, 0, 59086, 1, { { 20, 12 } }, 0x210, 0 },
-   { { 0, 1u }, 4, 16, 1, 0, 0, 59086, 1, { { 16, 11 } }, 0x210, 0 },
+constexpr AsicUtils::TableLayout layout[] = {
+   { { 0, 1u }, 4, 16, 1, 0, 0, 59140, 2, { { 22, 2 }, { 4, 10 } }, 0x210, 0, &rows[0], &masks[0] },
+   { { 0, 1u }, 4, 16, 1, 0, 0, 59140, 1, { { 18, 4 } }, 0x210, 0, &rows[0], &masks[0] },
+   { { 0, 1u }, 4, 16, 1, 0, 0, 59140, 2, { { 24, 12 }, { 24, 24 } }, 0x210, 0, &rows[0], &masks[0] },
+   { { 0, 1u }, 4, 16, 1, 0, 0, 59140, 1, { { 24, 12 } }, 0x210, 0, &rows[0], &masks[0] },
+   { { 0, 1u }, 4, 16, 1, 0, 0, 59140, 1, { { 30, 11 } }, 0x210, 0, &rows[0], &masks[0] },
+   { { 0, 1u }, 4, 16, 1, 0, 0, 59086, 2, { { 20, 2 }, { 2, 10 } }, 0x210, 0, &rows[0], &masks[0] },
+   { { 0, 1u }, 4, 16, 1, 0, 0, 59086, 1, { { 28, 9 } }, 0x210, 0, &rows[0], &masks[0] },
+   { { 0, 1u }, 4, 16, 1, 0, 0, 59086, 2, { { 20, 12 }, { 20, 24 } }, 0x210, 0, &rows[0], &masks[0] },
+   { { 0, 1u }, 4, 16, 1, 0, 0, 59086, 1, { { 20, 12 } }, 0x210, 0, &rows[0], &masks[0] },
+   { { 0, 1u }, 4, 16, 1, 0, 0, 59086, 1, { { 16, 11 } }, 0x210, 0, &rows[0], &masks[0] },
 };
-constexpr AsicUtils::PairRow pairs[] = {
-   { &layouts[0], &rows[0], &masks[0] }, { &layouts[1], &rows[0], &masks[0] }, { &layouts[2], &rows[0], &masks[0] }, {}, { &layouts[3], &rows[0], &masks[0] }, { &layouts[4], &rows[0], &masks[0] }, { &layouts[4], &rows[0], &masks[0] },
-   { &layouts[5], &rows[0], &masks[0] }, { &layouts[6], &rows[0], &masks[0] }, { &layouts[7], &rows[0], &masks[0] }, {}, { &layouts[8], &rows[0], &masks[0] }, { &layouts[9], &rows[0], &masks[0] }, { &layouts[9], &rows[0], &masks[0] },
+constexpr AsicUtils::TableLayout const * layouts[] = {
+   &layout[0], &layout[1], &layout[2], nullptr, &layout[3], &layout[4], &layout[4],
+   &layout[5], &layout[6], &layout[7], nullptr, &layout[8], &layout[9], &layout[9],
 };
 } // namespace MappingFwdInfoToEnTermData
 
 constinit AsicUtils::MetaInfo const MappingFwdInfoToEnTerm::metaInfo{
    Impl::trace, Impl::source, __LINE__, "MappingFwdInfoToEnTerm", 54, false, 2, AsicUtils::ValueType::Raw128,
-   MappingFwdInfoToEnTermData::fields, MappingFwdInfoToEnTermData::pairs, {}, {}
+   MappingFwdInfoToEnTermData::fields, MappingFwdInfoToEnTermData::layouts, {}, {}
 };
 
 Raw128 MappingFwdInfoToEnTerm::allFieldsMask() const {
@@ -2962,14 +2971,14 @@ constexpr U32 masks[] = {
    0x0, 0x0, 0x3f0000, 0x0, 0x0, 0x0, 0x0, 0x0,
    0x0, 0x0, 0x1f8000, 0x0, 0x0, 0x0, 0x0, 0x0,
 };
-constexpr AsicUtils::TableLayout layouts[] = {
-   { { 0, 1024u }, 6, 24, 1, 0, 0, 9602, 1, { { 2, 5 } }, 0x45000, 0 },
-   { { 0, 1024u }, 6, 24, 1, 0, 0, 9602, 1, { { 0, 12 } }, 0x38000, 0 },
-   { { 0, 1024u }, 6, 24, 1, 0, 0, 9602, 1, { { 24, 36 } }, 0x38000, 0 },
-   { { 0, 1024u }, 6, 24, 1, 0, 0, 9602, 1, { { 8, 20 } }, 0x38000, 0 },
+constexpr AsicUtils::TableLayout layout[] = {
+   { { 0, 1024u }, 6, 24, 1, 0, 0, 9602, 1, { { 2, 5 } }, 0x45000, 0, &rows[0], &masks[0] },
+   { { 0, 1024u }, 6, 24, 1, 0, 0, 9602, 1, { { 0, 12 } }, 0x38000, 0, &rows[0], &masks[0] },
+   { { 0, 1024u }, 6, 24, 1, 0, 0, 9602, 1, { { 24, 36 } }, 0x38000, 0, &rows[0], &masks[0] },
+   { { 0, 1024u }, 6, 24, 1, 0, 0, 9602, 1, { { 8, 20 } }, 0x38000, 0, &rows[1], &masks[8] },
 };
-constexpr AsicUtils::PairRow pairs[] = {
-   { &layouts[0], &rows[0], &masks[0] }, { &layouts[1], &rows[0], &masks[0] }, { &layouts[2], &rows[0], &masks[0] }, {}, { &layouts[2], &rows[0], &masks[0] }, { &layouts[3], &rows[1], &masks[8] }, { &layouts[3], &rows[1], &masks[8] },
+constexpr AsicUtils::TableLayout const * layouts[] = {
+   &layout[0], &layout[1], &layout[2], nullptr, &layout[2], &layout[3], &layout[3],
 };
 constexpr AsicUtils::TagRow tags[] = {
    { 1 << 0, 0, 80, 6, 8 },
@@ -3001,7 +3010,7 @@ constexpr AsicUtils::TagRow tags[] = {
 
 constinit AsicUtils::MetaInfo const PpmcDoubleOutLifSwap::metaInfo{
    Impl::trace, Impl::source, __LINE__, "PpmcDoubleOutLifSwap", 55, true, 1, AsicUtils::ValueType::Raw256,
-   PpmcDoubleOutLifSwapData::fields, PpmcDoubleOutLifSwapData::pairs, PpmcDoubleOutLifSwapData::tags, {}
+   PpmcDoubleOutLifSwapData::fields, PpmcDoubleOutLifSwapData::layouts, PpmcDoubleOutLifSwapData::tags, {}
 };
 
 Raw256 PpmcDoubleOutLifSwap::allFieldsMask() const {
@@ -3044,14 +3053,14 @@ constexpr U32 masks[] = {
    0xffffffff, 0xffffffff, 0xffffffff, 0xffffffff, 0xffffffff, 0xffffffff, 0xffffffff, 0xffffffff,
    0xffffffff, 0x3ffff, 0x0, 0x0, 0x0, 0x0, 0x0, 0x0,
 };
-constexpr AsicUtils::TableLayout layouts[] = {
-   { { 0, 1024u }, 10, 40, 1, 0, 0, 9599, 1, { { 2, 5 } }, 0x27000, 0 },
-   { { 0, 1024u }, 10, 40, 1, 0, 0, 9599, 1, { { 0, 12 } }, 0x23000, 0 },
-   { { 0, 1024u }, 10, 40, 1, 0, 0, 9599, 1, { { 24, 36 } }, 0x23000, 0 },
-   { { 0, 1024u }, 10, 40, 1, 0, 0, 9599, 1, { { 8, 20 } }, 0x23000, 0 },
+constexpr AsicUtils::TableLayout layout[] = {
+   { { 0, 1024u }, 10, 40, 1, 0, 0, 9599, 1, { { 2, 5 } }, 0x27000, 0, &rows[0], &masks[0] },
+   { { 0, 1024u }, 10, 40, 1, 0, 0, 9599, 1, { { 0, 12 } }, 0x23000, 0, &rows[0], &masks[0] },
+   { { 0, 1024u }, 10, 40, 1, 0, 0, 9599, 1, { { 24, 36 } }, 0x23000, 0, &rows[0], &masks[0] },
+   { { 0, 1024u }, 10, 40, 1, 0, 0, 9599, 1, { { 8, 20 } }, 0x23000, 0, &rows[17], &masks[16] },
 };
-constexpr AsicUtils::PairRow pairs[] = {
-   { &layouts[0], &rows[0], &masks[0] }, { &layouts[1], &rows[0], &masks[0] }, { &layouts[2], &rows[0], &masks[0] }, {}, { &layouts[2], &rows[0], &masks[0] }, { &layouts[3], &rows[17], &masks[16] }, { &layouts[3], &rows[17], &masks[16] },
+constexpr AsicUtils::TableLayout const * layouts[] = {
+   &layout[0], &layout[1], &layout[2], nullptr, &layout[2], &layout[3], &layout[3],
 };
 constexpr AsicUtils::TagRow tags[] = {
    { 1 << 0, 0, 77, 6, 10 },
@@ -3083,7 +3092,7 @@ constexpr AsicUtils::TagRow tags[] = {
 
 constinit AsicUtils::MetaInfo const PrivateHostReducedVrf::metaInfo{
    Impl::trace, Impl::source, __LINE__, "PrivateHostReducedVrf", 56, true, 1, AsicUtils::ValueType::Raw512,
-   PrivateHostReducedVrfData::fields, PrivateHostReducedVrfData::pairs, PrivateHostReducedVrfData::tags, {}
+   PrivateHostReducedVrfData::fields, PrivateHostReducedVrfData::layouts, PrivateHostReducedVrfData::tags, {}
 };
 
 Raw512 PrivateHostReducedVrf::allFieldsMask() const {
@@ -3108,20 +3117,20 @@ constexpr U32 masks[] = {
    0x0, 0x0, 0x0, 0x0, 0x0, 0x0, 0x0, 0x0,
    0x0, 0x0, 0x0, 0x0, 0x0, 0x0, 0x0, 0x0,
 };
-constexpr AsicUtils::TableLayout layouts[] = {
-   { { 0, 4294967295u }, 20, 80, 1, 0, 0, -1, 1, { { 10, 1 } }, 0x0, 0 },
-   { { 0, 4294967295u }, 20, 80, 1, 0, 0, -1, 1, { { 4, 5 } }, 0x0, 0 },
-   { { 0, 4294967295u }, 20, 80, 1, 0, 0, -1, 1, { { 28, 12 } }, 0x0, 0 },
-   { { 0, 4294967295u }, 20, 80, 1, 0, 0, -1, 1, { { 16, 15 } }, 0x0, 0 },
+constexpr AsicUtils::TableLayout layout[] = {
+   { { 0, 4294967295u }, 20, 80, 1, 0, 0, -1, 1, { { 10, 1 } }, 0x0, 0, &rows[0], &masks[0] },
+   { { 0, 4294967295u }, 20, 80, 1, 0, 0, -1, 1, { { 4, 5 } }, 0x0, 0, &rows[0], &masks[0] },
+   { { 0, 4294967295u }, 20, 80, 1, 0, 0, -1, 1, { { 28, 12 } }, 0x0, 0, &rows[0], &masks[0] },
+   { { 0, 4294967295u }, 20, 80, 1, 0, 0, -1, 1, { { 16, 15 } }, 0x0, 0, &rows[0], &masks[0] },
 };
-constexpr AsicUtils::PairRow pairs[] = {
-   { &layouts[0], &rows[0], &masks[0] }, { &layouts[1], &rows[0], &masks[0] }, { &layouts[2], &rows[0], &masks[0] }, {}, { &layouts[2], &rows[0], &masks[0] }, { &layouts[3], &rows[0], &masks[0] }, { &layouts[3], &rows[0], &masks[0] },
+constexpr AsicUtils::TableLayout const * layouts[] = {
+   &layout[0], &layout[1], &layout[2], nullptr, &layout[2], &layout[3], &layout[3],
 };
 } // namespace PweInlifCsProfileData
 
 constinit AsicUtils::MetaInfo const PweInlifCsProfile::metaInfo{
    Impl::trace, Impl::source, __LINE__, "PweInlifCsProfile", 57, true, 1, AsicUtils::ValueType::Raw1024,
-   PweInlifCsProfileData::fields, PweInlifCsProfileData::pairs, {}, {}
+   PweInlifCsProfileData::fields, PweInlifCsProfileData::layouts, {}, {}
 };
 
 Raw1024 PweInlifCsProfile::allFieldsMask() const {
@@ -3147,20 +3156,20 @@ constexpr U32 masks[] = {
    0x0, 0x0, 0x0, 0x0, 0x0, 0x0, 0x0, 0x0,
    0x0, 0x0, 0x0, 0x0, 0x0, 0x0, 0x0, 0x0,
 };
-constexpr AsicUtils::TableLayout layouts[] = {
-   { { 0, 4294967295u }, 20, 80, 1, 0, 0, -1, 1, { { 10, 1 } }, 0x0, 0 },
-   { { 0, 4294967295u }, 20, 80, 1, 0, 0, -1, 1, { { 4, 5 } }, 0x0, 0 },
-   { { 0, 4294967295u }, 20, 80, 1, 0, 0, -1, 1, { { 28, 12 } }, 0x0, 0 },
-   { { 0, 4294967295u }, 20, 80, 1, 0, 0, -1, 1, { { 16, 15 } }, 0x0, 0 },
+constexpr AsicUtils::TableLayout layout[] = {
+   { { 0, 4294967295u }, 20, 80, 1, 0, 0, -1, 1, { { 10, 1 } }, 0x0, 0, &rows[0], &masks[0] },
+   { { 0, 4294967295u }, 20, 80, 1, 0, 0, -1, 1, { { 4, 5 } }, 0x0, 0, &rows[0], &masks[0] },
+   { { 0, 4294967295u }, 20, 80, 1, 0, 0, -1, 1, { { 28, 12 } }, 0x0, 0, &rows[0], &masks[0] },
+   { { 0, 4294967295u }, 20, 80, 1, 0, 0, -1, 1, { { 16, 15 } }, 0x0, 0, &rows[0], &masks[0] },
 };
-constexpr AsicUtils::PairRow pairs[] = {
-   { &layouts[0], &rows[0], &masks[0] }, { &layouts[1], &rows[0], &masks[0] }, { &layouts[2], &rows[0], &masks[0] }, {}, { &layouts[2], &rows[0], &masks[0] }, { &layouts[3], &rows[0], &masks[0] }, { &layouts[3], &rows[0], &masks[0] },
+constexpr AsicUtils::TableLayout const * layouts[] = {
+   &layout[0], &layout[1], &layout[2], nullptr, &layout[2], &layout[3], &layout[3],
 };
 } // namespace RoutingInlifCsProfileData
 
 constinit AsicUtils::MetaInfo const RoutingInlifCsProfile::metaInfo{
    Impl::trace, Impl::source, __LINE__, "RoutingInlifCsProfile", 58, true, 1, AsicUtils::ValueType::Raw1024,
-   RoutingInlifCsProfileData::fields, RoutingInlifCsProfileData::pairs, {}, {}
+   RoutingInlifCsProfileData::fields, RoutingInlifCsProfileData::layouts, {}, {}
 };
 
 Raw1024 RoutingInlifCsProfile::allFieldsMask() const {
@@ -3186,20 +3195,20 @@ constexpr U32 masks[] = {
    0x0, 0x0, 0x0, 0x0, 0x0, 0x0, 0x0, 0x0,
    0x0, 0x0, 0x0, 0x0, 0x0, 0x0, 0x0, 0x0,
 };
-constexpr AsicUtils::TableLayout layouts[] = {
-   { { 0, 4294967295u }, 20, 80, 1, 0, 0, -1, 1, { { 10, 1 } }, 0x0, 0 },
-   { { 0, 4294967295u }, 20, 80, 1, 0, 0, -1, 1, { { 4, 5 } }, 0x0, 0 },
-   { { 0, 4294967295u }, 20, 80, 1, 0, 0, -1, 1, { { 28, 12 } }, 0x0, 0 },
-   { { 0, 4294967295u }, 20, 80, 1, 0, 0, -1, 1, { { 16, 15 } }, 0x0, 0 },
+constexpr AsicUtils::TableLayout layout[] = {
+   { { 0, 4294967295u }, 20, 80, 1, 0, 0, -1, 1, { { 10, 1 } }, 0x0, 0, &rows[0], &masks[0] },
+   { { 0, 4294967295u }, 20, 80, 1, 0, 0, -1, 1, { { 4, 5 } }, 0x0, 0, &rows[0], &masks[0] },
+   { { 0, 4294967295u }, 20, 80, 1, 0, 0, -1, 1, { { 28, 12 } }, 0x0, 0, &rows[0], &masks[0] },
+   { { 0, 4294967295u }, 20, 80, 1, 0, 0, -1, 1, { { 16, 15 } }, 0x0, 0, &rows[0], &masks[0] },
 };
-constexpr AsicUtils::PairRow pairs[] = {
-   { &layouts[0], &rows[0], &masks[0] }, { &layouts[1], &rows[0], &masks[0] }, { &layouts[2], &rows[0], &masks[0] }, {}, { &layouts[2], &rows[0], &masks[0] }, { &layouts[3], &rows[0], &masks[0] }, { &layouts[3], &rows[0], &masks[0] },
+constexpr AsicUtils::TableLayout const * layouts[] = {
+   &layout[0], &layout[1], &layout[2], nullptr, &layout[2], &layout[3], &layout[3],
 };
 } // namespace RoutingVeloroInlifCsProfileData
 
 constinit AsicUtils::MetaInfo const RoutingVeloroInlifCsProfile::metaInfo{
    Impl::trace, Impl::source, __LINE__, "RoutingVeloroInlifCsProfile", 59, true, 1, AsicUtils::ValueType::Raw1024,
-   RoutingVeloroInlifCsProfileData::fields, RoutingVeloroInlifCsProfileData::pairs, {}, {}
+   RoutingVeloroInlifCsProfileData::fields, RoutingVeloroInlifCsProfileData::layouts, {}, {}
 };
 
 Raw1024 RoutingVeloroInlifCsProfile::allFieldsMask() const {
@@ -3224,27 +3233,27 @@ constexpr AsicUtils::FieldRow rows[] = {
 constexpr U32 masks[] = {
    0xffff, 0x7ffff,
 };
-constexpr AsicUtils::TableLayout layouts[] = {
-   { { 0, 1u }, 1, 4, 1, 0, 0, 59162, 2, { { 22, 2 }, { 4, 10 } }, 0x24a, 0 },
-   { { 0, 1u }, 1, 4, 1, 0, 0, 59162, 1, { { 18, 4 } }, 0x24a, 0 },
-   { { 0, 1u }, 1, 4, 1, 0, 0, 59162, 2, { { 24, 12 }, { 24, 24 } }, 0x24a, 0 },
-   { { 0, 1u }, 1, 4, 1, 0, 0, 59162, 1, { { 24, 12 } }, 0x24a, 0 },
-   { { 0, 1u }, 1, 4, 1, 0, 0, 59162, 1, { { 30, 11 } }, 0x24a, 0 },
-   { { 0, 1u }, 1, 4, 1, 0, 0, 59108, 2, { { 20, 2 }, { 2, 10 } }, 0x24a, 0 },
-   { { 0, 1u }, 1, 4, 1, 0, 0, 59108, 1, { { 28, 9 } }, 0x24a, 0 },
-   { { 0, 1u }, 1, 4, 1, 0, 0, 59108, 2, { { 20, 12 }, { 20, 24 } }, 0x24a, 0 },
-   { { 0, 1u }, 1, 4, 1, 0, 0, 59108, 1, { { 20, 12 } }, 0x24a, 0 },
-   { { 0, 1u }, 1, 4, 1, 0, 0, 59108, 1, { { 16, 11 } }, 0x24a, 0 },
+constexpr AsicUtils::TableLayout layout[] = {
+   { { 0, 1u }, 1, 4, 1, 0, 0, 59162, 2, { { 22, 2 }, { 4, 10 } }, 0x24a, 0, &rows[0], &masks[0] },
+   { { 0, 1u }, 1, 4, 1, 0, 0, 59162, 1, { { 18, 4 } }, 0x24a, 0, &rows[0], &masks[0] },
+   { { 0, 1u }, 1, 4, 1, 0, 0, 59162, 2, { { 24, 12 }, { 24, 24 } }, 0x24a, 0, &rows[5], &masks[1] },
+   { { 0, 1u }, 1, 4, 1, 0, 0, 59162, 1, { { 24, 12 } }, 0x24a, 0, &rows[5], &masks[1] },
+   { { 0, 1u }, 1, 4, 1, 0, 0, 59162, 1, { { 30, 11 } }, 0x24a, 0, &rows[0], &masks[0] },
+   { { 0, 1u }, 1, 4, 1, 0, 0, 59108, 2, { { 20, 2 }, { 2, 10 } }, 0x24a, 0, &rows[0], &masks[0] },
+   { { 0, 1u }, 1, 4, 1, 0, 0, 59108, 1, { { 28, 9 } }, 0x24a, 0, &rows[0], &masks[0] },
+   { { 0, 1u }, 1, 4, 1, 0, 0, 59108, 2, { { 20, 12 }, { 20, 24 } }, 0x24a, 0, &rows[5], &masks[1] },
+   { { 0, 1u }, 1, 4, 1, 0, 0, 59108, 1, { { 20, 12 } }, 0x24a, 0, &rows[5], &masks[1] },
+   { { 0, 1u }, 1, 4, 1, 0, 0, 59108, 1, { { 16, 11 } }, 0x24a, 0, &rows[0], &masks[0] },
 };
-constexpr AsicUtils::PairRow pairs[] = {
-   { &layouts[0], &rows[0], &masks[0] }, { &layouts[1], &rows[0], &masks[0] }, { &layouts[2], &rows[5], &masks[1] }, {}, { &layouts[3], &rows[5], &masks[1] }, { &layouts[4], &rows[0], &masks[0] }, { &layouts[4], &rows[0], &masks[0] },
-   { &layouts[5], &rows[0], &masks[0] }, { &layouts[6], &rows[0], &masks[0] }, { &layouts[7], &rows[5], &masks[1] }, {}, { &layouts[8], &rows[5], &masks[1] }, { &layouts[9], &rows[0], &masks[0] }, { &layouts[9], &rows[0], &masks[0] },
+constexpr AsicUtils::TableLayout const * layouts[] = {
+   &layout[0], &layout[1], &layout[2], nullptr, &layout[3], &layout[4], &layout[4],
+   &layout[5], &layout[6], &layout[7], nullptr, &layout[8], &layout[9], &layout[9],
 };
 } // namespace SystemHeaderPphData
 
 constinit AsicUtils::MetaInfo const SystemHeaderPph::metaInfo{
    Impl::trace, Impl::source, __LINE__, "SystemHeaderPph", 60, false, 2, AsicUtils::ValueType::U32,
-   SystemHeaderPphData::fields, SystemHeaderPphData::pairs, {}, {}
+   SystemHeaderPphData::fields, SystemHeaderPphData::layouts, {}, {}
 };
 
 U32 SystemHeaderPph::allFieldsMask() const {
@@ -3264,21 +3273,21 @@ constexpr AsicUtils::FieldRow rows[] = {
 constexpr U32 masks[] = {
    0xffffffff, 0xffffffff, 0xffffffff, 0xffffffff,
 };
-constexpr AsicUtils::TableLayout layouts[] = {
-   { { 0, 1u }, 4, 16, 1, 0, 0, 54546, 2, { { 14, 2 }, { 28, 9 } }, 0x308, 0 },
-   { { 0, 1u }, 4, 16, 1, 0, 0, 54546, 1, { { 8, 9 } }, 0x308, 0 },
-   { { 0, 1u }, 4, 16, 1, 0, 0, 54546, 2, { { 10, 14 }, { 10, 26 } }, 0x30b, 0 },
-   { { 0, 1u }, 4, 16, 1, 0, 0, 54546, 1, { { 10, 14 } }, 0x30b, 0 },
-   { { 0, 1u }, 4, 16, 1, 0, 0, 54546, 1, { { 2, 18 } }, 0x308, 0 },
+constexpr AsicUtils::TableLayout layout[] = {
+   { { 0, 1u }, 4, 16, 1, 0, 0, 54546, 2, { { 14, 2 }, { 28, 9 } }, 0x308, 0, &rows[0], &masks[0] },
+   { { 0, 1u }, 4, 16, 1, 0, 0, 54546, 1, { { 8, 9 } }, 0x308, 0, &rows[0], &masks[0] },
+   { { 0, 1u }, 4, 16, 1, 0, 0, 54546, 2, { { 10, 14 }, { 10, 26 } }, 0x30b, 0, &rows[0], &masks[0] },
+   { { 0, 1u }, 4, 16, 1, 0, 0, 54546, 1, { { 10, 14 } }, 0x30b, 0, &rows[0], &masks[0] },
+   { { 0, 1u }, 4, 16, 1, 0, 0, 54546, 1, { { 2, 18 } }, 0x308, 0, &rows[0], &masks[0] },
 };
-constexpr AsicUtils::PairRow pairs[] = {
-   { &layouts[0], &rows[0], &masks[0] }, { &layouts[1], &rows[0], &masks[0] }, { &layouts[2], &rows[0], &masks[0] }, {}, { &layouts[3], &rows[0], &masks[0] }, { &layouts[4], &rows[0], &masks[0] }, { &layouts[4], &rows[0], &masks[0] },
+constexpr AsicUtils::TableLayout const * layouts[] = {
+   &layout[0], &layout[1], &layout[2], nullptr, &layout[3], &layout[4], &layout[4],
 };
 } // namespace TerminateNetworkHeadersData
 
 constinit AsicUtils::MetaInfo const TerminateNetworkHeaders::metaInfo{
    Impl::trace, Impl::source, __LINE__, "TerminateNetworkHeaders", 61, false, 1, AsicUtils::ValueType::Raw128,
-   TerminateNetworkHeadersData::fields, TerminateNetworkHeadersData::pairs, {}, {}
+   TerminateNetworkHeadersData::fields, TerminateNetworkHeadersData::layouts, {}, {}
 };
 
 Raw128 TerminateNetworkHeaders::allFieldsMask() const {
@@ -3299,21 +3308,21 @@ constexpr AsicUtils::FieldRow rows[] = {
 constexpr U32 masks[] = {
    0x3fffff,
 };
-constexpr AsicUtils::TableLayout layouts[] = {
-   { { 0, 32u }, 1, 4, 1, 0, 0, 8045, 2, { { 10, 2 }, { 24, 9 } }, 0x1420000, 0 },
-   { { 0, 32u }, 1, 4, 1, 0, 0, 8045, 1, { { 10, 10 } }, 0x1420000, 0 },
-   { { 0, 32u }, 1, 4, 1, 0, 0, 8045, 2, { { 6, 14 }, { 6, 26 } }, 0x1420000, 0 },
-   { { 0, 32u }, 1, 4, 1, 0, 0, 8045, 1, { { 6, 14 } }, 0x1420000, 0 },
-   { { 0, 32u }, 1, 4, 1, 0, 0, 8045, 1, { { 0, 17 } }, 0x1420000, 0 },
+constexpr AsicUtils::TableLayout layout[] = {
+   { { 0, 32u }, 1, 4, 1, 0, 0, 8045, 2, { { 10, 2 }, { 24, 9 } }, 0x1420000, 0, &rows[0], &masks[0] },
+   { { 0, 32u }, 1, 4, 1, 0, 0, 8045, 1, { { 10, 10 } }, 0x1420000, 0, &rows[0], &masks[0] },
+   { { 0, 32u }, 1, 4, 1, 0, 0, 8045, 2, { { 6, 14 }, { 6, 26 } }, 0x1420000, 0, &rows[0], &masks[0] },
+   { { 0, 32u }, 1, 4, 1, 0, 0, 8045, 1, { { 6, 14 } }, 0x1420000, 0, &rows[0], &masks[0] },
+   { { 0, 32u }, 1, 4, 1, 0, 0, 8045, 1, { { 0, 17 } }, 0x1420000, 0, &rows[0], &masks[0] },
 };
-constexpr AsicUtils::PairRow pairs[] = {
-   { &layouts[0], &rows[0], &masks[0] }, { &layouts[1], &rows[0], &masks[0] }, { &layouts[2], &rows[0], &masks[0] }, {}, { &layouts[3], &rows[0], &masks[0] }, { &layouts[4], &rows[0], &masks[0] }, { &layouts[4], &rows[0], &masks[0] },
+constexpr AsicUtils::TableLayout const * layouts[] = {
+   &layout[0], &layout[1], &layout[2], nullptr, &layout[3], &layout[4], &layout[4],
 };
 } // namespace UnknownDaProfileData
 
 constinit AsicUtils::MetaInfo const UnknownDaProfile::metaInfo{
    Impl::trace, Impl::source, __LINE__, "UnknownDaProfile", 62, true, 1, AsicUtils::ValueType::U32,
-   UnknownDaProfileData::fields, UnknownDaProfileData::pairs, {}, {}
+   UnknownDaProfileData::fields, UnknownDaProfileData::layouts, {}, {}
 };
 
 U32 UnknownDaProfile::allFieldsMask() const {
@@ -3339,20 +3348,20 @@ constexpr U32 masks[] = {
    0x0, 0x0, 0x0, 0x0, 0x0, 0x0, 0x0, 0x0,
    0x0, 0x0, 0x0, 0x0, 0x0, 0x0, 0x0, 0x0,
 };
-constexpr AsicUtils::TableLayout layouts[] = {
-   { { 0, 4294967295u }, 20, 80, 1, 0, 0, -1, 1, { { 10, 1 } }, 0x0, 0 },
-   { { 0, 4294967295u }, 20, 80, 1, 0, 0, -1, 1, { { 4, 5 } }, 0x0, 0 },
-   { { 0, 4294967295u }, 20, 80, 1, 0, 0, -1, 1, { { 28, 12 } }, 0x0, 0 },
-   { { 0, 4294967295u }, 20, 80, 1, 0, 0, -1, 1, { { 16, 15 } }, 0x0, 0 },
+constexpr AsicUtils::TableLayout layout[] = {
+   { { 0, 4294967295u }, 20, 80, 1, 0, 0, -1, 1, { { 10, 1 } }, 0x0, 0, &rows[0], &masks[0] },
+   { { 0, 4294967295u }, 20, 80, 1, 0, 0, -1, 1, { { 4, 5 } }, 0x0, 0, &rows[0], &masks[0] },
+   { { 0, 4294967295u }, 20, 80, 1, 0, 0, -1, 1, { { 28, 12 } }, 0x0, 0, &rows[0], &masks[0] },
+   { { 0, 4294967295u }, 20, 80, 1, 0, 0, -1, 1, { { 16, 15 } }, 0x0, 0, &rows[0], &masks[0] },
 };
-constexpr AsicUtils::PairRow pairs[] = {
-   { &layouts[0], &rows[0], &masks[0] }, { &layouts[1], &rows[0], &masks[0] }, { &layouts[2], &rows[0], &masks[0] }, {}, { &layouts[2], &rows[0], &masks[0] }, { &layouts[3], &rows[0], &masks[0] }, { &layouts[3], &rows[0], &masks[0] },
+constexpr AsicUtils::TableLayout const * layouts[] = {
+   &layout[0], &layout[1], &layout[2], nullptr, &layout[2], &layout[3], &layout[3],
 };
 } // namespace VeloroL2FodoProfileData
 
 constinit AsicUtils::MetaInfo const VeloroL2FodoProfile::metaInfo{
    Impl::trace, Impl::source, __LINE__, "VeloroL2FodoProfile", 63, true, 1, AsicUtils::ValueType::Raw1024,
-   VeloroL2FodoProfileData::fields, VeloroL2FodoProfileData::pairs, {}, {}
+   VeloroL2FodoProfileData::fields, VeloroL2FodoProfileData::layouts, {}, {}
 };
 
 Raw1024 VeloroL2FodoProfile::allFieldsMask() const {
@@ -3375,21 +3384,21 @@ constexpr AsicUtils::FieldRow rows[] = {
 constexpr U32 masks[] = {
    0xfffff,
 };
-constexpr AsicUtils::TableLayout layouts[] = {
-   { { 0, 256u }, 1, 4, 3, 0, 0, 8285, 2, { { 18, 2 }, { 0, 10 } }, 0x900000, 256 },
-   { { 0, 256u }, 1, 4, 3, 0, 0, 8285, 1, { { 6, 10 } }, 0x900000, 256 },
-   { { 0, 256u }, 1, 4, 3, 0, 0, 8285, 2, { { 2, 14 }, { 2, 26 } }, 0x900000, 256 },
-   { { 0, 256u }, 1, 4, 3, 0, 0, 8285, 1, { { 2, 14 } }, 0x900000, 256 },
-   { { 0, 256u }, 1, 4, 3, 0, 0, 8285, 1, { { 24, 12 } }, 0x900000, 256 },
-   { { 0, 256u }, 1, 4, 2, 3, 3, 7785, 2, { { 8, 2 }, { 22, 9 } }, 0x8d0300, 256 },
-   { { 0, 256u }, 1, 4, 2, 3, 3, 7785, 1, { { 8, 10 } }, 0x8d0300, 256 },
-   { { 0, 256u }, 1, 4, 2, 3, 3, 7785, 2, { { 4, 14 }, { 4, 26 } }, 0x8d0300, 256 },
-   { { 0, 256u }, 1, 4, 2, 3, 3, 7785, 1, { { 4, 14 } }, 0x8d0300, 256 },
-   { { 0, 256u }, 1, 4, 2, 3, 3, 7785, 1, { { 8, 17 } }, 0x8d0300, 256 },
+constexpr AsicUtils::TableLayout layout[] = {
+   { { 0, 256u }, 1, 4, 3, 0, 0, 8285, 2, { { 18, 2 }, { 0, 10 } }, 0x900000, 256, &rows[0], &masks[0] },
+   { { 0, 256u }, 1, 4, 3, 0, 0, 8285, 1, { { 6, 10 } }, 0x900000, 256, &rows[0], &masks[0] },
+   { { 0, 256u }, 1, 4, 3, 0, 0, 8285, 2, { { 2, 14 }, { 2, 26 } }, 0x900000, 256, &rows[0], &masks[0] },
+   { { 0, 256u }, 1, 4, 3, 0, 0, 8285, 1, { { 2, 14 } }, 0x900000, 256, &rows[0], &masks[0] },
+   { { 0, 256u }, 1, 4, 3, 0, 0, 8285, 1, { { 24, 12 } }, 0x900000, 256, &rows[0], &masks[0] },
+   { { 0, 256u }, 1, 4, 2, 3, 3, 7785, 2, { { 8, 2 }, { 22, 9 } }, 0x8d0300, 256, &rows[0], &masks[0] },
+   { { 0, 256u }, 1, 4, 2, 3, 3, 7785, 1, { { 8, 10 } }, 0x8d0300, 256, &rows[0], &masks[0] },
+   { { 0, 256u }, 1, 4, 2, 3, 3, 7785, 2, { { 4, 14 }, { 4, 26 } }, 0x8d0300, 256, &rows[0], &masks[0] },
+   { { 0, 256u }, 1, 4, 2, 3, 3, 7785, 1, { { 4, 14 } }, 0x8d0300, 256, &rows[0], &masks[0] },
+   { { 0, 256u }, 1, 4, 2, 3, 3, 7785, 1, { { 8, 17 } }, 0x8d0300, 256, &rows[0], &masks[0] },
 };
-constexpr AsicUtils::PairRow pairs[] = {
-   { &layouts[0], &rows[0], &masks[0] }, { &layouts[1], &rows[0], &masks[0] }, { &layouts[2], &rows[0], &masks[0] }, {}, { &layouts[3], &rows[0], &masks[0] }, { &layouts[4], &rows[0], &masks[0] }, { &layouts[4], &rows[0], &masks[0] },
-   { &layouts[5], &rows[0], &masks[0] }, { &layouts[6], &rows[0], &masks[0] }, { &layouts[7], &rows[0], &masks[0] }, {}, { &layouts[8], &rows[0], &masks[0] }, { &layouts[9], &rows[0], &masks[0] }, { &layouts[9], &rows[0], &masks[0] },
+constexpr AsicUtils::TableLayout const * layouts[] = {
+   &layout[0], &layout[1], &layout[2], nullptr, &layout[3], &layout[4], &layout[4],
+   &layout[5], &layout[6], &layout[7], nullptr, &layout[8], &layout[9], &layout[9],
 };
 constexpr U16 routingProfileRun[] = {
    0, 1, 2, 3,
@@ -3401,7 +3410,7 @@ constexpr AsicUtils::FieldRun runs[] = {
 
 constinit AsicUtils::MetaInfo const VsiProfileEnablers::metaInfo{
    Impl::trace, Impl::source, __LINE__, "VsiProfileEnablers", 64, true, 2, AsicUtils::ValueType::U32,
-   VsiProfileEnablersData::fields, VsiProfileEnablersData::pairs, {}, VsiProfileEnablersData::runs
+   VsiProfileEnablersData::fields, VsiProfileEnablersData::layouts, {}, VsiProfileEnablersData::runs
 };
 
 U32 VsiProfileEnablers::allFieldsMask() const {
@@ -3422,27 +3431,27 @@ constexpr AsicUtils::FieldRow rows[] = {
 constexpr U32 masks[] = {
    0xffffffff, 0x0,
 };
-constexpr AsicUtils::TableLayout layouts[] = {
-   { { 0, 128u }, 2, 8, 1, 0, 0, 8268, 2, { { 18, 2 }, { 0, 10 } }, 0xb70000, 0 },
-   { { 0, 128u }, 2, 8, 1, 0, 0, 8268, 1, { { 6, 10 } }, 0xb70000, 0 },
-   { { 0, 128u }, 2, 8, 1, 0, 0, 8268, 2, { { 2, 14 }, { 2, 26 } }, 0xb70000, 0 },
-   { { 0, 128u }, 2, 8, 1, 0, 0, 8268, 1, { { 2, 14 } }, 0xb70000, 0 },
-   { { 0, 128u }, 2, 8, 1, 0, 0, 8268, 1, { { 24, 12 } }, 0xb70000, 0 },
-   { { 0, 128u }, 2, 8, 1, 0, 0, 7770, 2, { { 8, 2 }, { 22, 9 } }, 0xb50000, 0 },
-   { { 0, 128u }, 2, 8, 1, 0, 0, 7770, 1, { { 8, 10 } }, 0xb50000, 0 },
-   { { 0, 128u }, 2, 8, 1, 0, 0, 7770, 2, { { 4, 14 }, { 4, 26 } }, 0xb50000, 0 },
-   { { 0, 128u }, 2, 8, 1, 0, 0, 7770, 1, { { 4, 14 } }, 0xb50000, 0 },
-   { { 0, 128u }, 2, 8, 1, 0, 0, 7770, 1, { { 8, 17 } }, 0xb50000, 0 },
+constexpr AsicUtils::TableLayout layout[] = {
+   { { 0, 128u }, 2, 8, 1, 0, 0, 8268, 2, { { 18, 2 }, { 0, 10 } }, 0xb70000, 0, &rows[0], &masks[0] },
+   { { 0, 128u }, 2, 8, 1, 0, 0, 8268, 1, { { 6, 10 } }, 0xb70000, 0, &rows[0], &masks[0] },
+   { { 0, 128u }, 2, 8, 1, 0, 0, 8268, 2, { { 2, 14 }, { 2, 26 } }, 0xb70000, 0, &rows[0], &masks[0] },
+   { { 0, 128u }, 2, 8, 1, 0, 0, 8268, 1, { { 2, 14 } }, 0xb70000, 0, &rows[0], &masks[0] },
+   { { 0, 128u }, 2, 8, 1, 0, 0, 8268, 1, { { 24, 12 } }, 0xb70000, 0, &rows[0], &masks[0] },
+   { { 0, 128u }, 2, 8, 1, 0, 0, 7770, 2, { { 8, 2 }, { 22, 9 } }, 0xb50000, 0, &rows[0], &masks[0] },
+   { { 0, 128u }, 2, 8, 1, 0, 0, 7770, 1, { { 8, 10 } }, 0xb50000, 0, &rows[0], &masks[0] },
+   { { 0, 128u }, 2, 8, 1, 0, 0, 7770, 2, { { 4, 14 }, { 4, 26 } }, 0xb50000, 0, &rows[0], &masks[0] },
+   { { 0, 128u }, 2, 8, 1, 0, 0, 7770, 1, { { 4, 14 } }, 0xb50000, 0, &rows[0], &masks[0] },
+   { { 0, 128u }, 2, 8, 1, 0, 0, 7770, 1, { { 8, 17 } }, 0xb50000, 0, &rows[0], &masks[0] },
 };
-constexpr AsicUtils::PairRow pairs[] = {
-   { &layouts[0], &rows[0], &masks[0] }, { &layouts[1], &rows[0], &masks[0] }, { &layouts[2], &rows[0], &masks[0] }, {}, { &layouts[3], &rows[0], &masks[0] }, { &layouts[4], &rows[0], &masks[0] }, { &layouts[4], &rows[0], &masks[0] },
-   { &layouts[5], &rows[0], &masks[0] }, { &layouts[6], &rows[0], &masks[0] }, { &layouts[7], &rows[0], &masks[0] }, {}, { &layouts[8], &rows[0], &masks[0] }, { &layouts[9], &rows[0], &masks[0] }, { &layouts[9], &rows[0], &masks[0] },
+constexpr AsicUtils::TableLayout const * layouts[] = {
+   &layout[0], &layout[1], &layout[2], nullptr, &layout[3], &layout[4], &layout[4],
+   &layout[5], &layout[6], &layout[7], nullptr, &layout[8], &layout[9], &layout[9],
 };
 } // namespace VsiProfileFlagsData
 
 constinit AsicUtils::MetaInfo const VsiProfileFlags::metaInfo{
    Impl::trace, Impl::source, __LINE__, "VsiProfileFlags", 65, true, 2, AsicUtils::ValueType::U64,
-   VsiProfileFlagsData::fields, VsiProfileFlagsData::pairs, {}, {}
+   VsiProfileFlagsData::fields, VsiProfileFlagsData::layouts, {}, {}
 };
 
 U64 VsiProfileFlags::allFieldsMask() const {
@@ -3472,27 +3481,27 @@ constexpr AsicUtils::FieldRow rows[] = {
 constexpr U32 masks[] = {
    0xffffffff, 0x7,
 };
-constexpr AsicUtils::TableLayout layouts[] = {
-   { { 0, 1u }, 2, 8, 1, 0, 0, 54906, 2, { { 18, 2 }, { 0, 10 } }, 0x16d, 0 },
-   { { 0, 1u }, 2, 8, 1, 0, 0, 54906, 1, { { 6, 10 } }, 0x175, 0 },
-   { { 0, 1u }, 2, 8, 1, 0, 0, 54906, 2, { { 2, 14 }, { 2, 26 } }, 0x175, 0 },
-   { { 0, 1u }, 2, 8, 1, 0, 0, 54906, 1, { { 2, 14 } }, 0x175, 0 },
-   { { 0, 1u }, 2, 8, 1, 0, 0, 54906, 1, { { 24, 12 } }, 0x175, 0 },
-   { { 0, 1u }, 2, 8, 1, 0, 0, 54135, 2, { { 8, 2 }, { 22, 9 } }, 0x16f, 0 },
-   { { 0, 1u }, 2, 8, 1, 0, 0, 54135, 1, { { 8, 10 } }, 0x16f, 0 },
-   { { 0, 1u }, 2, 8, 1, 0, 0, 54135, 2, { { 4, 14 }, { 4, 26 } }, 0x16f, 0 },
-   { { 0, 1u }, 2, 8, 1, 0, 0, 54135, 1, { { 4, 14 } }, 0x16f, 0 },
-   { { 0, 1u }, 2, 8, 1, 0, 0, 54135, 1, { { 8, 17 } }, 0x16f, 0 },
+constexpr AsicUtils::TableLayout layout[] = {
+   { { 0, 1u }, 2, 8, 1, 0, 0, 54906, 2, { { 18, 2 }, { 0, 10 } }, 0x16d, 0, &rows[0], &masks[0] },
+   { { 0, 1u }, 2, 8, 1, 0, 0, 54906, 1, { { 6, 10 } }, 0x175, 0, &rows[0], &masks[0] },
+   { { 0, 1u }, 2, 8, 1, 0, 0, 54906, 2, { { 2, 14 }, { 2, 26 } }, 0x175, 0, &rows[0], &masks[0] },
+   { { 0, 1u }, 2, 8, 1, 0, 0, 54906, 1, { { 2, 14 } }, 0x175, 0, &rows[0], &masks[0] },
+   { { 0, 1u }, 2, 8, 1, 0, 0, 54906, 1, { { 24, 12 } }, 0x175, 0, &rows[0], &masks[0] },
+   { { 0, 1u }, 2, 8, 1, 0, 0, 54135, 2, { { 8, 2 }, { 22, 9 } }, 0x16f, 0, &rows[0], &masks[0] },
+   { { 0, 1u }, 2, 8, 1, 0, 0, 54135, 1, { { 8, 10 } }, 0x16f, 0, &rows[0], &masks[0] },
+   { { 0, 1u }, 2, 8, 1, 0, 0, 54135, 2, { { 4, 14 }, { 4, 26 } }, 0x16f, 0, &rows[0], &masks[0] },
+   { { 0, 1u }, 2, 8, 1, 0, 0, 54135, 1, { { 4, 14 } }, 0x16f, 0, &rows[0], &masks[0] },
+   { { 0, 1u }, 2, 8, 1, 0, 0, 54135, 1, { { 8, 17 } }, 0x16f, 0, &rows[0], &masks[0] },
 };
-constexpr AsicUtils::PairRow pairs[] = {
-   { &layouts[0], &rows[0], &masks[0] }, { &layouts[1], &rows[0], &masks[0] }, { &layouts[2], &rows[0], &masks[0] }, {}, { &layouts[3], &rows[0], &masks[0] }, { &layouts[4], &rows[0], &masks[0] }, { &layouts[4], &rows[0], &masks[0] },
-   { &layouts[5], &rows[0], &masks[0] }, { &layouts[6], &rows[0], &masks[0] }, { &layouts[7], &rows[0], &masks[0] }, {}, { &layouts[8], &rows[0], &masks[0] }, { &layouts[9], &rows[0], &masks[0] }, { &layouts[9], &rows[0], &masks[0] },
+constexpr AsicUtils::TableLayout const * layouts[] = {
+   &layout[0], &layout[1], &layout[2], nullptr, &layout[3], &layout[4], &layout[4],
+   &layout[5], &layout[6], &layout[7], nullptr, &layout[8], &layout[9], &layout[9],
 };
 } // namespace VttTrapStrengths3Data
 
 constinit AsicUtils::MetaInfo const VttTrapStrengths3::metaInfo{
    Impl::trace, Impl::source, __LINE__, "VttTrapStrengths3", 66, false, 2, AsicUtils::ValueType::U64,
-   VttTrapStrengths3Data::fields, VttTrapStrengths3Data::pairs, {}, {}
+   VttTrapStrengths3Data::fields, VttTrapStrengths3Data::layouts, {}, {}
 };
 
 U64 VttTrapStrengths3::allFieldsMask() const {
@@ -3524,27 +3533,27 @@ constexpr AsicUtils::FieldRow rows[] = {
 constexpr U32 masks[] = {
    0xffffffff, 0x3ff,
 };
-constexpr AsicUtils::TableLayout layouts[] = {
-   { { 0, 1u }, 2, 8, 1, 0, 0, 54907, 2, { { 18, 2 }, { 0, 10 } }, 0x16e, 0 },
-   { { 0, 1u }, 2, 8, 1, 0, 0, 54907, 1, { { 6, 10 } }, 0x177, 0 },
-   { { 0, 1u }, 2, 8, 1, 0, 0, 54907, 2, { { 2, 14 }, { 2, 26 } }, 0x177, 0 },
-   { { 0, 1u }, 2, 8, 1, 0, 0, 54907, 1, { { 2, 14 } }, 0x177, 0 },
-   { { 0, 1u }, 2, 8, 1, 0, 0, 54907, 1, { { 24, 12 } }, 0x177, 0 },
-   { { 0, 1u }, 2, 8, 1, 0, 0, 54136, 2, { { 8, 2 }, { 22, 9 } }, 0x170, 0 },
-   { { 0, 1u }, 2, 8, 1, 0, 0, 54136, 1, { { 8, 10 } }, 0x170, 0 },
-   { { 0, 1u }, 2, 8, 1, 0, 0, 54136, 2, { { 4, 14 }, { 4, 26 } }, 0x170, 0 },
-   { { 0, 1u }, 2, 8, 1, 0, 0, 54136, 1, { { 4, 14 } }, 0x170, 0 },
-   { { 0, 1u }, 2, 8, 1, 0, 0, 54136, 1, { { 8, 17 } }, 0x170, 0 },
+constexpr AsicUtils::TableLayout layout[] = {
+   { { 0, 1u }, 2, 8, 1, 0, 0, 54907, 2, { { 18, 2 }, { 0, 10 } }, 0x16e, 0, &rows[0], &masks[0] },
+   { { 0, 1u }, 2, 8, 1, 0, 0, 54907, 1, { { 6, 10 } }, 0x177, 0, &rows[0], &masks[0] },
+   { { 0, 1u }, 2, 8, 1, 0, 0, 54907, 2, { { 2, 14 }, { 2, 26 } }, 0x177, 0, &rows[0], &masks[0] },
+   { { 0, 1u }, 2, 8, 1, 0, 0, 54907, 1, { { 2, 14 } }, 0x177, 0, &rows[0], &masks[0] },
+   { { 0, 1u }, 2, 8, 1, 0, 0, 54907, 1, { { 24, 12 } }, 0x177, 0, &rows[0], &masks[0] },
+   { { 0, 1u }, 2, 8, 1, 0, 0, 54136, 2, { { 8, 2 }, { 22, 9 } }, 0x170, 0, &rows[0], &masks[0] },
+   { { 0, 1u }, 2, 8, 1, 0, 0, 54136, 1, { { 8, 10 } }, 0x170, 0, &rows[0], &masks[0] },
+   { { 0, 1u }, 2, 8, 1, 0, 0, 54136, 2, { { 4, 14 }, { 4, 26 } }, 0x170, 0, &rows[0], &masks[0] },
+   { { 0, 1u }, 2, 8, 1, 0, 0, 54136, 1, { { 4, 14 } }, 0x170, 0, &rows[0], &masks[0] },
+   { { 0, 1u }, 2, 8, 1, 0, 0, 54136, 1, { { 8, 17 } }, 0x170, 0, &rows[0], &masks[0] },
 };
-constexpr AsicUtils::PairRow pairs[] = {
-   { &layouts[0], &rows[0], &masks[0] }, { &layouts[1], &rows[0], &masks[0] }, { &layouts[2], &rows[0], &masks[0] }, {}, { &layouts[3], &rows[0], &masks[0] }, { &layouts[4], &rows[0], &masks[0] }, { &layouts[4], &rows[0], &masks[0] },
-   { &layouts[5], &rows[0], &masks[0] }, { &layouts[6], &rows[0], &masks[0] }, { &layouts[7], &rows[0], &masks[0] }, {}, { &layouts[8], &rows[0], &masks[0] }, { &layouts[9], &rows[0], &masks[0] }, { &layouts[9], &rows[0], &masks[0] },
+constexpr AsicUtils::TableLayout const * layouts[] = {
+   &layout[0], &layout[1], &layout[2], nullptr, &layout[3], &layout[4], &layout[4],
+   &layout[5], &layout[6], &layout[7], nullptr, &layout[8], &layout[9], &layout[9],
 };
 } // namespace VttTrapStrengths4Data
 
 constinit AsicUtils::MetaInfo const VttTrapStrengths4::metaInfo{
    Impl::trace, Impl::source, __LINE__, "VttTrapStrengths4", 67, false, 2, AsicUtils::ValueType::U64,
-   VttTrapStrengths4Data::fields, VttTrapStrengths4Data::pairs, {}, {}
+   VttTrapStrengths4Data::fields, VttTrapStrengths4Data::layouts, {}, {}
 };
 
 U64 VttTrapStrengths4::allFieldsMask() const {
@@ -3576,27 +3585,27 @@ constexpr AsicUtils::FieldRow rows[] = {
 constexpr U32 masks[] = {
    0xffffffff, 0x3ff,
 };
-constexpr AsicUtils::TableLayout layouts[] = {
-   { { 0, 1u }, 2, 8, 1, 0, 0, 54908, 2, { { 18, 2 }, { 0, 10 } }, 0x16f, 0 },
-   { { 0, 1u }, 2, 8, 1, 0, 0, 54908, 1, { { 6, 10 } }, 0x179, 0 },
-   { { 0, 1u }, 2, 8, 1, 0, 0, 54908, 2, { { 2, 14 }, { 2, 26 } }, 0x179, 0 },
-   { { 0, 1u }, 2, 8, 1, 0, 0, 54908, 1, { { 2, 14 } }, 0x179, 0 },
-   { { 0, 1u }, 2, 8, 1, 0, 0, 54908, 1, { { 24, 12 } }, 0x179, 0 },
-   { { 0, 1u }, 2, 8, 1, 0, 0, 54137, 2, { { 8, 2 }, { 22, 9 } }, 0x171, 0 },
-   { { 0, 1u }, 2, 8, 1, 0, 0, 54137, 1, { { 8, 10 } }, 0x172, 0 },
-   { { 0, 1u }, 2, 8, 1, 0, 0, 54137, 2, { { 4, 14 }, { 4, 26 } }, 0x172, 0 },
-   { { 0, 1u }, 2, 8, 1, 0, 0, 54137, 1, { { 4, 14 } }, 0x172, 0 },
-   { { 0, 1u }, 2, 8, 1, 0, 0, 54137, 1, { { 8, 17 } }, 0x172, 0 },
+constexpr AsicUtils::TableLayout layout[] = {
+   { { 0, 1u }, 2, 8, 1, 0, 0, 54908, 2, { { 18, 2 }, { 0, 10 } }, 0x16f, 0, &rows[0], &masks[0] },
+   { { 0, 1u }, 2, 8, 1, 0, 0, 54908, 1, { { 6, 10 } }, 0x179, 0, &rows[0], &masks[0] },
+   { { 0, 1u }, 2, 8, 1, 0, 0, 54908, 2, { { 2, 14 }, { 2, 26 } }, 0x179, 0, &rows[0], &masks[0] },
+   { { 0, 1u }, 2, 8, 1, 0, 0, 54908, 1, { { 2, 14 } }, 0x179, 0, &rows[0], &masks[0] },
+   { { 0, 1u }, 2, 8, 1, 0, 0, 54908, 1, { { 24, 12 } }, 0x179, 0, &rows[0], &masks[0] },
+   { { 0, 1u }, 2, 8, 1, 0, 0, 54137, 2, { { 8, 2 }, { 22, 9 } }, 0x171, 0, &rows[0], &masks[0] },
+   { { 0, 1u }, 2, 8, 1, 0, 0, 54137, 1, { { 8, 10 } }, 0x172, 0, &rows[0], &masks[0] },
+   { { 0, 1u }, 2, 8, 1, 0, 0, 54137, 2, { { 4, 14 }, { 4, 26 } }, 0x172, 0, &rows[0], &masks[0] },
+   { { 0, 1u }, 2, 8, 1, 0, 0, 54137, 1, { { 4, 14 } }, 0x172, 0, &rows[0], &masks[0] },
+   { { 0, 1u }, 2, 8, 1, 0, 0, 54137, 1, { { 8, 17 } }, 0x172, 0, &rows[0], &masks[0] },
 };
-constexpr AsicUtils::PairRow pairs[] = {
-   { &layouts[0], &rows[0], &masks[0] }, { &layouts[1], &rows[0], &masks[0] }, { &layouts[2], &rows[0], &masks[0] }, {}, { &layouts[3], &rows[0], &masks[0] }, { &layouts[4], &rows[0], &masks[0] }, { &layouts[4], &rows[0], &masks[0] },
-   { &layouts[5], &rows[0], &masks[0] }, { &layouts[6], &rows[0], &masks[0] }, { &layouts[7], &rows[0], &masks[0] }, {}, { &layouts[8], &rows[0], &masks[0] }, { &layouts[9], &rows[0], &masks[0] }, { &layouts[9], &rows[0], &masks[0] },
+constexpr AsicUtils::TableLayout const * layouts[] = {
+   &layout[0], &layout[1], &layout[2], nullptr, &layout[3], &layout[4], &layout[4],
+   &layout[5], &layout[6], &layout[7], nullptr, &layout[8], &layout[9], &layout[9],
 };
 } // namespace VttTrapStrengths5Data
 
 constinit AsicUtils::MetaInfo const VttTrapStrengths5::metaInfo{
    Impl::trace, Impl::source, __LINE__, "VttTrapStrengths5", 68, false, 2, AsicUtils::ValueType::U64,
-   VttTrapStrengths5Data::fields, VttTrapStrengths5Data::pairs, {}, {}
+   VttTrapStrengths5Data::fields, VttTrapStrengths5Data::layouts, {}, {}
 };
 
 U64 VttTrapStrengths5::allFieldsMask() const {
@@ -3628,27 +3637,27 @@ constexpr AsicUtils::FieldRow rows[] = {
 constexpr U32 masks[] = {
    0xffffffff, 0x3ff,
 };
-constexpr AsicUtils::TableLayout layouts[] = {
-   { { 0, 1u }, 2, 8, 1, 0, 0, 54909, 2, { { 18, 2 }, { 0, 10 } }, 0x170, 0 },
-   { { 0, 1u }, 2, 8, 1, 0, 0, 54909, 1, { { 6, 10 } }, 0x17b, 0 },
-   { { 0, 1u }, 2, 8, 1, 0, 0, 54909, 2, { { 2, 14 }, { 2, 26 } }, 0x17b, 0 },
-   { { 0, 1u }, 2, 8, 1, 0, 0, 54909, 1, { { 2, 14 } }, 0x17b, 0 },
-   { { 0, 1u }, 2, 8, 1, 0, 0, 54909, 1, { { 24, 12 } }, 0x17b, 0 },
-   { { 0, 1u }, 2, 8, 1, 0, 0, 54138, 2, { { 8, 2 }, { 22, 9 } }, 0x172, 0 },
-   { { 0, 1u }, 2, 8, 1, 0, 0, 54138, 1, { { 8, 10 } }, 0x173, 0 },
-   { { 0, 1u }, 2, 8, 1, 0, 0, 54138, 2, { { 4, 14 }, { 4, 26 } }, 0x173, 0 },
-   { { 0, 1u }, 2, 8, 1, 0, 0, 54138, 1, { { 4, 14 } }, 0x173, 0 },
-   { { 0, 1u }, 2, 8, 1, 0, 0, 54138, 1, { { 8, 17 } }, 0x173, 0 },
+constexpr AsicUtils::TableLayout layout[] = {
+   { { 0, 1u }, 2, 8, 1, 0, 0, 54909, 2, { { 18, 2 }, { 0, 10 } }, 0x170, 0, &rows[0], &masks[0] },
+   { { 0, 1u }, 2, 8, 1, 0, 0, 54909, 1, { { 6, 10 } }, 0x17b, 0, &rows[0], &masks[0] },
+   { { 0, 1u }, 2, 8, 1, 0, 0, 54909, 2, { { 2, 14 }, { 2, 26 } }, 0x17b, 0, &rows[0], &masks[0] },
+   { { 0, 1u }, 2, 8, 1, 0, 0, 54909, 1, { { 2, 14 } }, 0x17b, 0, &rows[0], &masks[0] },
+   { { 0, 1u }, 2, 8, 1, 0, 0, 54909, 1, { { 24, 12 } }, 0x17b, 0, &rows[0], &masks[0] },
+   { { 0, 1u }, 2, 8, 1, 0, 0, 54138, 2, { { 8, 2 }, { 22, 9 } }, 0x172, 0, &rows[0], &masks[0] },
+   { { 0, 1u }, 2, 8, 1, 0, 0, 54138, 1, { { 8, 10 } }, 0x173, 0, &rows[0], &masks[0] },
+   { { 0, 1u }, 2, 8, 1, 0, 0, 54138, 2, { { 4, 14 }, { 4, 26 } }, 0x173, 0, &rows[0], &masks[0] },
+   { { 0, 1u }, 2, 8, 1, 0, 0, 54138, 1, { { 4, 14 } }, 0x173, 0, &rows[0], &masks[0] },
+   { { 0, 1u }, 2, 8, 1, 0, 0, 54138, 1, { { 8, 17 } }, 0x173, 0, &rows[0], &masks[0] },
 };
-constexpr AsicUtils::PairRow pairs[] = {
-   { &layouts[0], &rows[0], &masks[0] }, { &layouts[1], &rows[0], &masks[0] }, { &layouts[2], &rows[0], &masks[0] }, {}, { &layouts[3], &rows[0], &masks[0] }, { &layouts[4], &rows[0], &masks[0] }, { &layouts[4], &rows[0], &masks[0] },
-   { &layouts[5], &rows[0], &masks[0] }, { &layouts[6], &rows[0], &masks[0] }, { &layouts[7], &rows[0], &masks[0] }, {}, { &layouts[8], &rows[0], &masks[0] }, { &layouts[9], &rows[0], &masks[0] }, { &layouts[9], &rows[0], &masks[0] },
+constexpr AsicUtils::TableLayout const * layouts[] = {
+   &layout[0], &layout[1], &layout[2], nullptr, &layout[3], &layout[4], &layout[4],
+   &layout[5], &layout[6], &layout[7], nullptr, &layout[8], &layout[9], &layout[9],
 };
 } // namespace VttTrapStrengths6Data
 
 constinit AsicUtils::MetaInfo const VttTrapStrengths6::metaInfo{
    Impl::trace, Impl::source, __LINE__, "VttTrapStrengths6", 69, false, 2, AsicUtils::ValueType::U64,
-   VttTrapStrengths6Data::fields, VttTrapStrengths6Data::pairs, {}, {}
+   VttTrapStrengths6Data::fields, VttTrapStrengths6Data::layouts, {}, {}
 };
 
 U64 VttTrapStrengths6::allFieldsMask() const {

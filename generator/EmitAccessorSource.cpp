@@ -59,7 +59,7 @@ class ClassWriter {
       out_ << "constexpr AsicUtils::FieldInfo fields[] = " << items.text() << ";\n";
    }
 
-   static std::string layoutText( Layout const & layout ) {
+   std::string layoutText( Layout const & layout, std::size_t format ) const {
       std::vector< std::string > selectors;
       for ( auto const & [a, b] : layout.selectors ) {
          selectors.push_back( "{ " + std::to_string( a ) + ", " + std::to_string( b ) + " }" );
@@ -68,36 +68,35 @@ class ClassWriter {
              ", " + std::to_string( layout.width * 4 ) + ", " + std::to_string( layout.arrayElements ) + ", " +
              std::to_string( layout.arrayIndexMin ) + ", " + std::to_string( layout.arrayIndexFirst ) + ", " +
              std::to_string( layout.sdkDefinedId.value_or( -1 ) ) + ", " + std::to_string( layout.instances ) + ", { " +
-             list( selectors ) + " }, " + hex( layout.base ) + ", " + std::to_string( layout.arrayStep ) + " }";
+             list( selectors ) + " }, " + hex( layout.base ) + ", " + std::to_string( layout.arrayStep ) + ", &rows[" +
+             std::to_string( format * table_.fieldNames.size() ) + "], &masks[" +
+             std::to_string( format * typeBits( entryType_ ) / 32 ) + "] }";
    }
 
    void layouts() {
       std::vector< std::string > distinct;
-      Items pairs( chipCount );
+      Items byChip( chipCount );
       for ( unsigned variant = 0; variant < table_.variants; ++variant ) {
          for ( unsigned chip = firstChip; chip < firstChip + chipCount; ++chip ) {
             auto const found = table_.layouts.find( { chip, variant } );
             if ( found == table_.layouts.end() ) {
-               pairs.add( "{}" );
+               byChip.add( "nullptr" );
                continue;
             }
-            std::string const text = layoutText( found->second );
+            std::string const text = layoutText( found->second, formats_.formatOf.at( found->first ) );
             auto place = std::find( distinct.begin(), distinct.end(), text );
             if ( place == distinct.end() ) {
                place = distinct.insert( distinct.end(), text );
             }
-            auto const format = formats_.formatOf.at( found->first );
-            pairs.add( "{ &layouts[" + std::to_string( place - distinct.begin() ) + "], &rows[" +
-                       std::to_string( format * table_.fieldNames.size() ) + "], &masks[" +
-                       std::to_string( format * typeBits( entryType_ ) / 32 ) + "] }" );
+            byChip.add( "&layout[" + std::to_string( place - distinct.begin() ) + "]" );
          }
       }
       Items items( 1 );
       for ( auto const & text : distinct ) {
          items.add( text );
       }
-      out_ << "constexpr AsicUtils::TableLayout layouts[] = " << items.text() << ";\n"
-           << "constexpr AsicUtils::PairRow pairs[] = " << pairs.text() << ";\n";
+      out_ << "constexpr AsicUtils::TableLayout layout[] = " << items.text() << ";\n"
+           << "constexpr AsicUtils::TableLayout const * layouts[] = " << byChip.text() << ";\n";
    }
 
    void masks() {
@@ -162,7 +161,7 @@ class ClassWriter {
       out_ << "constinit AsicUtils::MetaInfo const " << name_
            << "::metaInfo{\n   Impl::trace, Impl::source, __LINE__, \"" << name_ << "\", " << number_ << ", "
            << ( table_.isMemory ? "true" : "false" ) << ", " << table_.variants
-           << ", AsicUtils::ValueType::" << entryType_ << ",\n   " << data_ << "::fields, " << data_ << "::pairs, "
+           << ", AsicUtils::ValueType::" << entryType_ << ",\n   " << data_ << "::fields, " << data_ << "::layouts, "
            << ( table_.hasTag() ? data_ + "::tags" : "{}" ) << ", "
            << ( table_.indexed.empty() ? "{}" : data_ + "::runs" ) << "\n};\n\n";
    }

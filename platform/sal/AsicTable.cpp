@@ -68,21 +68,22 @@ Operation writing( Operation::Scope scope, bool changed ) {
    }
 }
 
-[[gnu::always_inline]] inline DaceSalAsicTransferBase::Route
-DaceSalAsicTransferBase::route( Place place, char const * pattern ) const {
-   auto const arrayIndex = static_cast< U32 >( place.arrayIndex );
-   ::AsicUtils::TableLayout const * layout = pairLayout();
-   if ( meta().traced() || usable() < layout->bytes || ( place.entry != 0 && place.entry >= layout->span.count ) ||
-        arrayIndex - layout->arrayIndexFirst >= layout->arrayElements ) [[unlikely]] {
-      checkRoute( place, pattern );
-      layout = meta().pair( chipType, variant_ )->layout;
-   }
-   return { *layout, layout->base + place.entry + arrayIndex * layout->arrayStep };
+[[gnu::always_inline]] inline bool DaceSalAsicTransferBase::isSound( Place place ) const {
+   ::AsicUtils::TableLayout const & at = layout();
+   return !meta().traced() && usable() >= at.bytes && ( place.entry == 0 || place.entry < at.span.count ) &&
+          static_cast< U32 >( place.arrayIndex ) - at.arrayIndexFirst < at.arrayElements;
 }
 
-// Nobody listens, and the words can be taken from the buffer where they lie, or put there.
-[[gnu::always_inline]] inline bool DaceSalAsicTransferBase::isDirect() const {
-   return !operationListener() && Words::lieIn( buf_ );
+[[gnu::always_inline]] inline DaceSalAsicTransferBase::Route
+DaceSalAsicTransferBase::soundRoute( ::AsicUtils::TableLayout const & at, Place place ) {
+   return { at, at.base + place.entry + static_cast< U32 >( place.arrayIndex ) * at.arrayStep };
+}
+
+DaceSalAsicTransferBase::Route DaceSalAsicTransferBase::route( Place place, char const * pattern ) const {
+   if ( !isSound( place ) ) {
+      checkRoute( place, pattern );
+   }
+   return soundRoute( *meta().layout( chipType, variant_ ), place );
 }
 
 [[gnu::noinline]] void DaceSalAsicTransferBase::tell( OperationListener & listener,
@@ -102,15 +103,17 @@ DaceSalAsicTransferBase::route( Place place, char const * pattern ) const {
 }
 
 [[gnu::always_inline]] inline void DaceSalAsicTransferBase::readAny( Place place, std::source_location origin ) {
-   Route const way = route( place, "int %::doReadAny" );
-   if ( !isDirect() ) [[unlikely]] {
-      readAndTell( way, place, origin );
+   SchanDriver * const to = unheardDriver();
+   if ( !to || !isSound( place ) || !Words::lieIn( buf_ ) ) [[unlikely]] {
+      readAndTell( place, origin );
       return;
    }
-   driver().read( place.chip, way.copy( 0 ), { reinterpret_cast< U32 * >( buf_ ), way.layout.width } );
+   Route const way = soundRoute( layout(), place );
+   to->read( place.chip, way.copy( 0 ), { reinterpret_cast< U32 * >( buf_ ), way.layout.width } );
 }
 
-[[gnu::noinline]] void DaceSalAsicTransferBase::readAndTell( Route way, Place place, std::source_location origin ) {
+[[gnu::noinline]] void DaceSalAsicTransferBase::readAndTell( Place place, std::source_location origin ) {
+   Route const way = route( place, "int %::doReadAny" );
    Words words( buf_, way.layout.width );
    driver().read( place.chip, way.copy( 0 ), words.of( buf_ ) );
    words.give( buf_ );
@@ -120,21 +123,21 @@ DaceSalAsicTransferBase::route( Place place, char const * pattern ) const {
 }
 
 [[gnu::always_inline]] inline void DaceSalAsicTransferBase::writeAll( Place place, std::source_location origin ) const {
-   Route const way = route( place, "void %::doWriteAll" );
-   if ( !isDirect() ) [[unlikely]] {
-      writeAndTell( way, place, origin );
+   SchanDriver * const to = unheardDriver();
+   if ( !to || !isSound( place ) || !Words::lieIn( buf_ ) ) [[unlikely]] {
+      writeAndTell( place, origin );
       return;
    }
+   Route const way = soundRoute( layout(), place );
    std::span< U32 const > const words{ reinterpret_cast< U32 const * >( buf_ ), way.layout.width };
-   SchanDriver & to = driver();
-   to.write( place.chip, way.copy( 0 ), words );
+   to->write( place.chip, way.copy( 0 ), words );
    if ( way.layout.instanceCount > 1 ) {
-      to.write( place.chip, way.copy( 1 ), words );
+      to->write( place.chip, way.copy( 1 ), words );
    }
 }
 
-[[gnu::noinline]] void
-DaceSalAsicTransferBase::writeAndTell( Route way, Place place, std::source_location origin ) const {
+[[gnu::noinline]] void DaceSalAsicTransferBase::writeAndTell( Place place, std::source_location origin ) const {
+   Route const way = route( place, "void %::doWriteAll" );
    Words const words( buf_, way.layout.width );
    SchanDriver & to = driver();
    bool changed = false;

@@ -47,11 +47,15 @@ class DaceSalAsicTransferBase : public ::AsicUtils::BcmAsicBase {
          return { address, layout.selectors[instance][0], layout.selectors[instance][1] };
       }
    };
+   // Nothing is wrong with the place, and nothing is traced.
+   bool isSound( Place place ) const;
+   static Route soundRoute( ::AsicUtils::TableLayout const & at, Place place );
+   // The road of everything that is not plain: where a check fails, where somebody listens, or where the buffer is no
+   // address for words.
    Route route( Place place, char const * pattern ) const;
    void checkRoute( Place place, char const * pattern ) const;
-   bool isDirect() const;
-   void readAndTell( Route way, Place place, std::source_location origin );
-   void writeAndTell( Route way, Place place, std::source_location origin ) const;
+   void readAndTell( Place place, std::source_location origin );
+   void writeAndTell( Place place, std::source_location origin ) const;
    void tell( OperationListener & listener,
               Operation operation,
               Place place,

@@ -61,7 +61,7 @@ bool fits( U32 const * value, ValueType type, unsigned width ) {
 
 void BcmAsicBase::checkPair() const {
    ChipAndVariant const named{ Hardware::ChipType{ chipType }, variant_ };
-   if ( !pair_ ) {
+   if ( !layout_ ) {
       std::ostringstream message;
       message << named << " not in metainfo for " << meta_->name << "!";
       meta_->failWith( "0", message.str(), "%::" + std::string( meta_->name ) + "(ChipType, U8*, U16, bool, U8)" );
@@ -81,13 +81,13 @@ std::string BcmAsicBase::pattern( U16 field, Access access ) const {
 
 void BcmAsicBase::failLacking( U16 field, std::string_view pattern ) const {
    if ( !meta_->chipKnown( chipType ) || meta_->variantCount == 1 ) {
-      meta_->fail( pair() || !meta_->chipKnown( chipType ) ? "0" : meta_->variantText( "variant_" ), pattern );
+      meta_->fail( currentLayout() || !meta_->chipKnown( chipType ) ? "0" : meta_->variantText( "variant_" ), pattern );
    }
    // The variant that owns the field, where there is one.
    int owner = -1;
    int owners = 0;
    for ( U8 variant = 0; variant < meta_->variantCount; ++variant ) {
-      PairRow const * found = meta_->pair( chipType, variant );
+      TableLayout const * found = meta_->layout( chipType, variant );
       if ( found && found->rows[field].width != 0 ) {
          owner = variant;
          ++owners;
@@ -98,7 +98,7 @@ void BcmAsicBase::failLacking( U16 field, std::string_view pattern ) const {
 
 FieldRow const & BcmAsicBase::checkedRow( U16 field, Access access ) const {
    traceCall( [&] { return pattern( field, access ); } );
-   PairRow const * found = pair();
+   TableLayout const * found = currentLayout();
    if ( !found || found->rows[field].width == 0 ) {
       failLacking( field, pattern( field, access ) );
    }
@@ -107,7 +107,7 @@ FieldRow const & BcmAsicBase::checkedRow( U16 field, Access access ) const {
       meta_->fail( "len_ >= " + std::to_string( row.bytes() ), pattern( field, access ) );
    }
    // The pair is known to be valid now, also where the variant was changed.
-   pair_ = found;
+   layout_ = found;
    usable_ = usableLength();
    return row;
 }
@@ -155,7 +155,7 @@ U64 BcmAsicBase::fieldValue( U16 field ) const {
 
 bool BcmAsicBase::fieldValid( U16 field ) const {
    traceCall( [&] { return "bool %::is" + capitalised( meta_->fields[field].name ) + "Valid() const"; } );
-   PairRow const * found = pair();
+   TableLayout const * found = currentLayout();
    return found && found->rows[field].width != 0;
 }
 
@@ -165,7 +165,7 @@ U16 BcmAsicBase::fieldLen( U16 field ) const {
    if ( !meta_->chipKnown( chipType ) ) {
       meta_->fail( "0", pattern() );
    }
-   PairRow const * found = pair();
+   TableLayout const * found = currentLayout();
    if ( !found || found->rows[field].width == 0 ) {
       std::ostringstream message;
       message << ChipAndVariant{ Hardware::ChipType{ chipType }, variant_ } << " does not have field "
@@ -178,7 +178,7 @@ U16 BcmAsicBase::fieldLen( U16 field ) const {
 U16 BcmAsicBase::fieldStart( U16 field ) const {
    auto const pattern = [&] { return "U16 %::" + std::string( meta_->fields[field].name ) + "Offset() const"; };
    traceCall( pattern );
-   PairRow const * found = pair();
+   TableLayout const * found = currentLayout();
    if ( !found || found->rows[field].width == 0 ) {
       failLacking( field, pattern() );
    }
@@ -288,7 +288,7 @@ U16 BcmAsicBase::fieldOffset( U32 fieldId ) const {
 void BcmAsicBase::maskedEntry( U32 * words ) const {
    auto const pattern = [&] { return typeName( meta_->entryType ) + " %::getAllFields() const"; };
    traceCall( pattern );
-   PairRow const * found = pair();
+   TableLayout const * found = currentLayout();
    if ( !found ) {
       meta_->fail( meta_->chipKnown( chipType ) ? meta_->variantText( "variant_" ) : "0", pattern() );
    }

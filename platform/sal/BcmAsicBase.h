@@ -19,8 +19,8 @@ class BcmAsicBase : public AsicBase {
    // " not in metainfo for <Table>!".
    BcmAsicBase( MetaInfo const & meta, U8 chipType_, U8 * buf, U32 len, bool bufferHoldsEntry, U8 variant, U8 last )
       : AsicBase( chipType_, buf, len, bufferHoldsEntry, variant, last ), meta_( &meta ),
-        pair_( meta.pair( chipType_, variant ) ) {
-      if ( !pair_ || meta.traced() ) [[unlikely]] {
+        layout_( meta.layout( chipType_, variant ) ) {
+      if ( !layout_ || meta.traced() ) [[unlikely]] {
          checkPair();
       }
       usable_ = usableLength();
@@ -55,7 +55,7 @@ class BcmAsicBase : public AsicBase {
 
    // The buffer's length where chip and variant are known to be valid, else 0; and their layout then.
    U16 usable() const { return usable_; }
-   TableLayout const * pairLayout() const { return pair_->layout; }
+   TableLayout const & layout() const { return *layout_; }
 
    // A field of at most 64 bits that lies at one place wherever it exists at all. `field` is its place in the class's
    // list; `traced` whether level 8 is on.
@@ -77,7 +77,7 @@ class BcmAsicBase : public AsicBase {
 
    // A field of at most 32 bits whose place depends on the format, and which lies within a word in each.
    [[gnu::always_inline]] void fieldInIs( bool traced, U16 field, U32 value ) {
-      FieldRow const & row = pair_->rows[field];
+      FieldRow const & row = layout_->rows[field];
       U64 const placed = U64{ value } << row.shift;
       if ( traced || usable_ < row.wordBytes || ( placed & row.keep ) != 0 ) [[unlikely]] {
          fieldIs( field, value );
@@ -88,7 +88,7 @@ class BcmAsicBase : public AsicBase {
                          ( Detail::loadWord( at ) & static_cast< U32 >( row.keep ) ) | static_cast< U32 >( placed ) );
    }
    [[gnu::always_inline]] U32 fieldIn( bool traced, U16 field ) const {
-      FieldRow const & row = pair_->rows[field];
+      FieldRow const & row = layout_->rows[field];
       if ( traced || usable_ < row.wordBytes ) [[unlikely]] {
          return static_cast< U32 >( fieldValue( field ) );
       }
@@ -97,7 +97,7 @@ class BcmAsicBase : public AsicBase {
 
    // The same for a field that lies across two words in some format.
    [[gnu::always_inline]] void fieldAcrossIs( bool traced, U16 field, U32 value ) {
-      FieldRow const & row = pair_->rows[field];
+      FieldRow const & row = layout_->rows[field];
       if ( row.words == 1 ) {
          fieldInIs( traced, field, value );
          return;
@@ -115,7 +115,7 @@ class BcmAsicBase : public AsicBase {
                             static_cast< U32 >( placed >> 32 ) );
    }
    [[gnu::always_inline]] U32 fieldAcross( bool traced, U16 field ) const {
-      FieldRow const & row = pair_->rows[field];
+      FieldRow const & row = layout_->rows[field];
       if ( row.words == 1 ) {
          return fieldIn( traced, field );
       }
@@ -192,14 +192,14 @@ class BcmAsicBase : public AsicBase {
          meta_->trace( pattern(), chipType, variant_ );
       }
    }
-   PairRow const * pair() const { return meta_->pair( chipType, variant_ ); }
+   TableLayout const * currentLayout() const { return meta_->layout( chipType, variant_ ); }
    void maskedEntry( U32 * words ) const;
 
    // Traces the construction; ends the process where the pair of chip and variant does not exist.
    [[gnu::noinline]] void checkPair() const;
 
    MetaInfo const * meta_;
-   mutable PairRow const * pair_; // of the chip and variant that `usable_` is about
+   mutable TableLayout const * layout_; // of the chip and variant that `usable_` is about
 };
 
 } // namespace AsicUtils

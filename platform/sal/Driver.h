@@ -80,6 +80,7 @@ class OperationListener {
 namespace Impl {
 extern SchanDriver * theDriver;
 extern OperationListener * theListener;
+extern SchanDriver * unheardDriver; // the driver, as long as there is no listener
 } // namespace Impl
 
 // The driver of the process; null until one is installed. Using an accessor without one is a programming error:
@@ -94,5 +95,10 @@ inline OperationListener * operationListener() {
    return Impl::theListener;
 }
 void operationListenerIs( OperationListener * listener );
+
+// The driver where nobody listens, else null: one look for those who need to know both.
+inline SchanDriver * unheardDriver() {
+   return Impl::unheardDriver;
+}
 
 } // namespace DaceSal

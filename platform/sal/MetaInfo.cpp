@@ -43,7 +43,7 @@ std::string MetaInfo::variantText( char const * subject ) const {
 }
 
 bool MetaInfo::chipKnown( U32 chipType ) const {
-   return pair( chipType, 0 ) != nullptr;
+   return layout( chipType, 0 ) != nullptr;
 }
 
 U16 MetaInfo::fieldById( U32 fieldId ) const {
@@ -60,16 +60,16 @@ U16 MetaInfo::fieldByName( std::string_view fieldName ) const {
 
 TableLayout const & MetaInfo::layoutFor( std::string_view pattern, U32 chipType, U8 variant ) const {
    trace( pattern, chipType, variant );
-   PairRow const * found = pair( chipType, variant );
+   TableLayout const * found = layout( chipType, variant );
    if ( !found ) [[unlikely]] {
       fail( chipKnown( chipType ) ? variantText( "variant" ) : "0", pattern );
    }
-   return *found->layout;
+   return *found;
 }
 
 bool MetaInfo::chipTypeVariantValid( U32 chipType, U8 variant ) const {
    trace( "static bool %::chipTypeVariantValid(ChipType, U8)", chipType, variant );
-   return pair( chipType, variant ) != nullptr;
+   return layout( chipType, variant ) != nullptr;
 }
 
 U32 MetaInfo::tableVariantCount( U32 chipType ) const {
@@ -111,7 +111,7 @@ S32 MetaInfo::sdkDefinedId( U32 chipType, U8 variant ) const {
 
 U16 MetaInfo::fieldCount( U32 chipType, U8 variant ) const {
    layoutFor( "static U16 %::fieldCount(U32, U8)", chipType, variant );
-   FieldRow const * first = pair( chipType, variant )->rows;
+   FieldRow const * first = layout( chipType, variant )->rows;
    return static_cast< U16 >(
       std::count_if( first, first + fields.size(), []( FieldRow const & field ) { return field.width != 0; } ) );
 }
@@ -153,31 +153,31 @@ bool MetaInfo::getSchanAddress( U32 chipType,
                                 U16 arrayIndex ) const {
    constexpr char const * pattern = "static bool %::getSchanAddress(U32, U8, U32&, U32&, U32&, U16, U32, U16)";
    trace( pattern, chipType, variant );
-   PairRow const * found = pair( chipType, variant );
+   TableLayout const * found = layout( chipType, variant );
    if ( !found ) [[unlikely]] {
       if ( chipKnown( chipType ) ) {
          facility( 0, signature( pattern ), " chipType: ", chipType, " variant: ", variant, " failed." );
       }
       return false;
    }
-   TableLayout const & layout = *found->layout;
-   if ( isMemory ? tableEntry >= layout.span.count : tableEntry != 0 ) [[unlikely]] {
-      fail( isMemory ? "tableEntry < " + std::to_string( layout.span.count ) : "tableEntry == 0", pattern );
+   TableLayout const & at = *found;
+   if ( isMemory ? tableEntry >= at.span.count : tableEntry != 0 ) [[unlikely]] {
+      fail( isMemory ? "tableEntry < " + std::to_string( at.span.count ) : "tableEntry == 0", pattern );
    }
-   U32 const arrayIndexEnd = layout.arrayIndexFirst + layout.arrayElements;
+   U32 const arrayIndexEnd = at.arrayIndexFirst + at.arrayElements;
    if ( arrayIndex >= arrayIndexEnd ) [[unlikely]] {
-      fail( isMemory && !layout.hasArray() ? "arrayIndex == 0" : "arrayIndex < " + std::to_string( arrayIndexEnd ),
+      fail( isMemory && !at.hasArray() ? "arrayIndex == 0" : "arrayIndex < " + std::to_string( arrayIndexEnd ),
             pattern );
    }
-   if ( arrayIndex < layout.arrayIndexFirst ) [[unlikely]] {
-      fail( "arrayIndex >= " + std::to_string( layout.arrayIndexFirst ), pattern );
+   if ( arrayIndex < at.arrayIndexFirst ) [[unlikely]] {
+      fail( "arrayIndex >= " + std::to_string( at.arrayIndexFirst ), pattern );
    }
-   address = layout.base + tableEntry + arrayIndex * layout.arrayStep;
-   if ( !acceptsIdentifier( layout, identifier ) ) [[unlikely]] {
+   address = at.base + tableEntry + arrayIndex * at.arrayStep;
+   if ( !acceptsIdentifier( at, identifier ) ) [[unlikely]] {
       fail( "hasIdentifier( chipType, variant, identifier )", pattern );
    }
-   if ( identifier < layout.instanceCount || layout.instanceCount == 1 ) {
-      auto const & selectors = layout.selectors[std::min< U32 >( identifier, layout.instanceCount - 1u )];
+   if ( identifier < at.instanceCount || at.instanceCount == 1 ) {
+      auto const & selectors = at.selectors[std::min< U32 >( identifier, at.instanceCount - 1u )];
       selectorA = selectors[0];
       selectorB = selectors[1];
    }
@@ -211,7 +211,7 @@ bool MetaInfo::isFormat( Hardware::ChipType chipType, U8 const * buf, U16 len, U
    if ( tags.empty() ) {
       return chipKnown( chip );
    }
-   return pair( chip, variant ) && std::all_of( tags.begin(), tags.end(), [&]( TagRow const & tag ) {
+   return layout( chip, variant ) && std::all_of( tags.begin(), tags.end(), [&]( TagRow const & tag ) {
              return !appliesTo( tag, chip, variant ) ||
                     ( bytesFor( tag ) <= len && tagBits( tag, buf, len ) == tag.value );
           } );
@@ -221,7 +221,7 @@ void MetaInfo::handleBuf( Hardware::ChipType chipType, U8 * buf, U16 len, bool b
    constexpr char const * pattern = "void %::handleBuf(ChipType, U8*, U16, bool, U8)";
    U32 const chip = static_cast< U32 >( chipType );
    trace( pattern, chip, variant );
-   if ( !pair( chip, variant ) ) {
+   if ( !layout( chip, variant ) ) {
       fail( chipKnown( chip ) ? variantText( "variant" ) : "0", pattern );
    }
    for ( TagRow const & tag : tags ) {
@@ -252,7 +252,7 @@ U32 const * MetaInfo::fieldsMask( U32 chipType, U8 variant ) const {
    };
    layoutFor(
       patterns[static_cast< unsigned >( entryType ) - static_cast< unsigned >( ValueType::U32 )], chipType, variant );
-   return pair( chipType, variant )->mask;
+   return layout( chipType, variant )->mask;
 }
 
 } // namespace AsicUtils

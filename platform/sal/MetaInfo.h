@@ -78,7 +78,7 @@ struct FieldRow {
    constexpr U16 bytes() const { return static_cast< U16 >( ( offset + width + 7 ) / 8 ); }
 };
 
-// Geometry and address of one table on one chip.
+// One table on one chip: geometry, address, and where its fields lie.
 struct TableLayout {
    EntrySpan span; // the entries; count 1 for a register
    U16 width;      // words
@@ -90,16 +90,11 @@ struct TableLayout {
    U8 instanceCount;
    U8 selectors[2][2]; // by instance
    U32 base;
-   U32 arrayStep; // 0: no array
-
-   bool hasArray() const { return arrayStep != 0; }
-};
-
-// Layout and format of a pair of chip and variant; all null where the pair does not exist.
-struct PairRow {
-   TableLayout const * layout;
+   U32 arrayStep;         // 0: no array
    FieldRow const * rows; // one for each field of the class
    U32 const * mask;      // the bits of all fields
+
+   bool hasArray() const { return arrayStep != 0; }
 };
 
 // Part of a format's tag: bits that have a fixed value.
@@ -132,7 +127,7 @@ struct MetaInfo {
    U8 variantCount;
    ValueType entryType; // smallest type that holds an entry of the class's largest width
    std::span< FieldInfo const > fields;
-   PairRow const * pairs; // variant * chipCount + chipType - firstChip
+   TableLayout const * const * layouts; // variant * chipCount + chipType - firstChip; null where there is none
    std::span< TagRow const > tags;
    std::span< FieldRun const > runs;
 
@@ -180,12 +175,10 @@ struct MetaInfo {
    }
 
    // For those who work on rows. Null, or `fields.size()`, where there is none.
-   PairRow const * pair( U32 chipType, U8 variant ) const {
-      if ( chipType - firstChip >= chipCount || variant >= variantCount ) {
-         return nullptr;
-      }
-      PairRow const & row = pairs[variant * chipCount + chipType - firstChip];
-      return row.layout ? &row : nullptr;
+   TableLayout const * layout( U32 chipType, U8 variant ) const {
+      return chipType - firstChip >= chipCount || variant >= variantCount
+                ? nullptr
+                : layouts[variant * chipCount + chipType - firstChip];
    }
    bool chipKnown( U32 chipType ) const;
    U16 fieldById( U32 fieldId ) const;

@@ -6,7 +6,7 @@
 namespace {
 
 bool hasTerminals() {
-   return std::system( "command -v script >/dev/null" ) == 0;
+   return std::system( "script -qec true /dev/null > /dev/null 2>&1" ) == 0;
 }
 
 // Stands at the end of a command's line: the program itself has nothing to do there.
@@ -21,7 +21,7 @@ bool isColoured( std::string const & text ) {
 
 TEST( Terminal, isColouredUnlessNobodyWantsIt ) {
    if ( !hasTerminals() ) {
-      GTEST_SKIP() << "there is no script(1)";
+      GTEST_SKIP() << "there is no script(1), or no terminal to be had";
    }
    for ( char const * arguments : { "catalogue", "catalogue IppdFerTrapCfg", "constants" } ) {
       Command const coloured( onTerminal( "env -u NO_COLOR", arguments ) );
