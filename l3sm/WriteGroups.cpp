@@ -103,7 +103,7 @@ WriteGroup groupOf( std::vector< Decoded const * > const & writes ) {
          auto const after = valuesOf( writes, &Decoded::after, field );
          auto const before = valuesOf( writes, &Decoded::before, field );
          if ( after.size() == 1 && ( before != after ) == wanted ) {
-            GroupField shown{ first.after[field].name, wanted, joined( before ), after.front() };
+            GroupField const shown{ first.after[field].name, wanted, joined( before ), after.front() };
             if ( !run || !run->takes( shown, group.fields.back() ) ) {
                group.fields.push_back( shown );
                run = NumberedRun( shown.name );

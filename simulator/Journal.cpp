@@ -155,9 +155,9 @@ void Journal::flush() {
 
 // It is told once: what follows goes nowhere.
 void Journal::giveUpFile() {
-   std::runtime_error const error( fileError( path_ ) );
+   std::string const error = fileError( path_ );
    std::fclose( std::exchange( file_, nullptr ) );
-   throw error;
+   throw std::runtime_error( error );
 }
 
 // Nobody is left to hear of a file that can't be written but the one who reads standard error.

@@ -200,7 +200,7 @@ void VtiStatusDirSm::doInitialize( Netka::IntfId intfId ) {
 STAYS_WITH_THE_BASE( doSetupVxlanDestUdpPort, Netka::UdpPort )
 STAYS_WITH_THE_BASE( doSetupVxlanDestSecUdpPort, Netka::UdpPort )
 STAYS_WITH_THE_BASE( doHandleVxlanVtepToSecProfile, Netka::IpGenAddr const & )
-STAYS_WITH_THE_BASE( doHandleVxlanVrfToSbdVlan, L3::VrfName )
+STAYS_WITH_THE_BASE( doHandleVxlanVrfToSbdVlan, L3::VrfName ) // NOLINT(performance-unnecessary-value-param)
 STAYS_WITH_THE_BASE( doSetupVtepToVtepBridging, bool )
 STAYS_WITH_THE_BASE( doSetupRemoteVxlanDomain, bool )
 STAYS_WITH_THE_BASE( doSetupVxlanSrcAddr, Netka::IpGenAddr const & )

@@ -22,7 +22,7 @@ void Dir::entityIs( Corvo::String const & name, Corvo::Ptr< Entity > const & ent
    writeCheck();
    // Copies: a callback may take away where the arguments stand.
    Corvo::String const key = name;
-   auto const held = entity;
+   auto const held = entity; // NOLINT(performance-unnecessary-copy-initialization)
    entries_.set( key, held );
    if ( old ) {
       childDel( *old );

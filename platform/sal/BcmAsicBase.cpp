@@ -293,7 +293,7 @@ void BcmAsicBase::maskedEntry( U32 * words ) const {
       meta_->fail( meta_->chipKnown( chipType ) ? meta_->variantText( "variant_" ) : "0", pattern() );
    }
    U16 bytes = 0;
-   for ( U16 field = 0; field < meta_->fields.size(); ++field ) {
+   for ( std::size_t field = 0; field < meta_->fields.size(); ++field ) {
       FieldRow const & row = found->rows[field];
       if ( row.width != 0 ) {
          bytes = std::max( bytes, row.bytes() );

@@ -12,7 +12,7 @@ std::ostream & operator<<( std::ostream & out, ChipAndVariant const & pair ) {
 
 std::string MetaInfo::signature( std::string_view pattern ) const {
    std::string text;
-   for ( char c : pattern ) {
+   for ( char const c : pattern ) {
       if ( c == '%' ) {
          text += "Hardware::";
          text += name;
