@@ -141,7 +141,7 @@ void L3IntfSm::handlePortState( PortStatePtr const & portState ) {
    }
    trace( 5, "handlePortState", " ", intfId, " active ", portState->active() );
    if ( !isServedBy( intfId, config->get() ) ) {
-      ethConfigIs( *config );
+      ethConfigIs( EthConfigPtr( *config ) ); // a copy: what serving announces may change the directory
    }
    if ( in_.ethIntfVrfSmHelper ) {
       doUpdateManagedIntfStatusDirs( intfId, true );

@@ -48,7 +48,8 @@ class Command {
 
  private:
    static std::filesystem::path newFolder() {
-      std::string name = ( std::filesystem::temp_directory_path() / "l3sm-test-XXXXXX" ).string();
+      std::string name = ( std::filesystem::temp_directory_path() / "l3sm-test-" ).string();
+      name.append( 6, 'X' ); // which mkdtemp replaces
       return ::mkdtemp( name.data() );
    }
 };
