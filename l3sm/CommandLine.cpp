@@ -1,7 +1,7 @@
 #include "l3sm/CommandLine.h"
 
-#include "l3sm/InputError.h"
-#include "l3sm/Verbs.h"
+#include "inspection/files/InputError.h"
+#include "l3sm/verbs/Verbs.h"
 #include "rex/Nearest.h"
 
 #include <CLI/CLI.hpp>
@@ -9,6 +9,8 @@
 #include <iostream>
 
 namespace Cli {
+
+using namespace Inspection;
 
 namespace {
 

@@ -1,6 +1,6 @@
 #include "l3sm/Tracing.h"
 
-#include "l3sm/InputError.h"
+#include "inspection/files/InputError.h"
 #include "rex/Assert.h"
 #include "rex/Nearest.h"
 
@@ -10,6 +10,8 @@
 #include <sstream>
 
 namespace Cli {
+
+using namespace Inspection;
 
 Tracing::Tracing( std::string const & wanted, std::string const & file ) : path_( file ) {
    OutputFile const writable( file );

@@ -1,7 +1,7 @@
 // The traces of a run: which facilities, and where to.
 #pragma once
 
-#include "l3sm/OutputFile.h"
+#include "inspection/files/OutputFile.h"
 #include "rex/Trace.h"
 
 #include <cstdio>

@@ -1,8 +1,8 @@
 // What `l3sm run` writes: chips, journal, state, traces, summary.
 #include "l3sm/Command.h"
 
-#include "l3sm/ChipsFile.h"
-#include "l3sm/Json.h"
+#include "inspection/files/ChipsFile.h"
+#include "inspection/files/Json.h"
 
 #include <gtest/gtest.h>
 
@@ -23,7 +23,7 @@ std::vector< Value > rowsOf( std::string const & journal ) {
    std::vector< Value > rows;
    std::istringstream in( journal );
    for ( std::string line; std::getline( in, line ); ) {
-      rows.push_back( Cli::parseJson( line, "journal" ) );
+      rows.push_back( Inspection::parseJson( line, "journal" ) );
    }
    return rows;
 }
@@ -76,7 +76,7 @@ TEST( Run, quietPrintsNothing ) {
 
 TEST( Run, writesTheChipsByTableVariantArrayAndEntryWithDecodedFields ) {
    Command const l3sm( "run --quiet --chips chips.json" );
-   auto const chips = Cli::parseJson( l3sm.file( "chips.json" ), "chips" );
+   auto const chips = Inspection::parseJson( l3sm.file( "chips.json" ), "chips" );
    EXPECT_EQ( at( chips, { "faps", "0", "chipType" } ), Value( "BCM88690_B0" ) );
    EXPECT_EQ( at( chips, { "faps", "1", "chipType" } ), Value( "BCM88850_A0" ) );
    // cpuSnoopCodeN 0x123 from the scenario, cpuStrengthN 5, snoopStrengthN 0.
@@ -92,9 +92,9 @@ TEST( Run, writesTheChipsByTableVariantArrayAndEntryWithDecodedFields ) {
 
 TEST( Run, readsBackTheChipsThatItWrote ) {
    Command const l3sm( "run --quiet --chips chips.json" );
-   auto const chips = Cli::readChips( ( l3sm.folder / "chips.json" ).string() );
+   auto const chips = Inspection::readChips( ( l3sm.folder / "chips.json" ).string() );
    std::ostringstream again;
-   Cli::writeChips( again, chips );
+   Inspection::writeChips( again, chips );
    EXPECT_EQ( again.str(), l3sm.file( "chips.json" ) );
 }
 
@@ -105,14 +105,14 @@ TEST( Run, putsContentsOfTheScenarioOnTopOfTheBootImageInAllCopiesOrInEach ) {
       "6": {"0": {"instances": {"0": ["0x00000001"], "1": ["0x00000002"]}}}}}}})" );
    Command const l3sm( "run s.json --quiet --chips chips.json", { { "s.json", scenario } } );
    EXPECT_EQ( l3sm.errors, "" );
-   auto const chips = Cli::parseJson( l3sm.file( "chips.json" ), "chips" );
+   auto const chips = Inspection::parseJson( l3sm.file( "chips.json" ), "chips" );
    auto const & table = at( chips, { "faps", "0", "tables", "IppdFerTrapCfg", "0" } );
    EXPECT_EQ( at( table, { "5", "0", "words" } ), ( Value::List{ "0x00000abc" } ) );
    EXPECT_EQ( at( table, { "6", "0" } ),
               ( Value::Object{
                  { "instances",
                    Value::Object{ { "0", Value::List{ "0x00000001" } }, { "1", Value::List{ "0x00000002" } } } } } ) );
-   EXPECT_EQ( Cli::readChips( ( l3sm.folder / "chips.json" ).string() )
+   EXPECT_EQ( Inspection::readChips( ( l3sm.folder / "chips.json" ).string() )
                  .at( 0 )
                  .contents.tables.at( "IppdFerTrapCfg" )
                  .at( 0 )
@@ -175,7 +175,7 @@ TEST( Run, writesTheStateAtTheEnd ) {
    Command const l3sm( "run s.json --quiet --state state.json",
                        { { "s.json", scenarioWith( R"(, "state": {"vxlan/ecnConfig": null},
         "events": [{"set": {"path": "evpn/status", "attribute": "mplsEnabled", "value": true}}])" ) } } );
-   auto const state = Cli::parseJson( l3sm.file( "state.json" ), "state" );
+   auto const state = Inspection::parseJson( l3sm.file( "state.json" ), "state" );
    EXPECT_EQ( at( state, { "evpn/status" } ),
               ( Value::Object{ { "vxlanEnabled", false }, { "mplsEnabled", true }, { "evpnDciEnabled", false } } ) );
    EXPECT_TRUE( at( state, { "vxlan/ecnConfig" } ).isNull() );
@@ -220,7 +220,7 @@ TEST( Run, playsEveryExampleOfTheTree ) {
 TEST( Constants, areThereForEveryChipAndEveryRevision ) {
    Command const l3sm( "constants --json" );
    EXPECT_EQ( l3sm.status, 0 );
-   auto const constants = Cli::parseJson( l3sm.output, "constants" );
+   auto const constants = Inspection::parseJson( l3sm.output, "constants" );
    for ( std::string const chip :
          { "BCM88690_B0", "BCM88800_A0", "BCM88850_A0", "BCM88859_A2", "BCM88480_A0", "BCM88480_B0" } ) {
       for ( std::string const stage : { "ctx_fwd1", "ctx_fwd2", "ctx_encap_1", "ctx_encap_2" } ) {

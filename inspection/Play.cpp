@@ -1,0 +1,153 @@
+#include "inspection/Play.h"
+
+#include "inspection/views/Progress.h"
+
+#include <array>
+#include <cerrno>
+#include <cstring>
+#include <filesystem>
+#include <iostream>
+#include <poll.h>
+#include <sstream>
+#include <sys/wait.h>
+#include <unistd.h>
+
+namespace Inspection {
+
+namespace {
+
+constexpr int wrongInput = 2; // how a child tells of an InputError
+
+// The product lies beside the program: bin/l3sm, lib/libL3SmPlugin.so.
+std::string pluginBeside() {
+   std::error_code none;
+   auto const self = std::filesystem::read_symlink( "/proc/self/exe", none );
+   return ( self.parent_path().parent_path() / "lib" / "libL3SmPlugin.so" ).string();
+}
+
+// A stream whose text is in the parent's hands as soon as it is written.
+class PipeBuffer : public std::streambuf {
+ public:
+   explicit PipeBuffer( int pipe ) : pipe_( pipe ) {}
+
+ private:
+   int overflow( int letter ) override {
+      char const text = static_cast< char >( letter );
+      return xsputn( &text, 1 ) == 1 ? letter : traits_type::eof();
+   }
+   std::streamsize xsputn( char const * text, std::streamsize size ) override {
+      std::streamsize done = 0;
+      while ( done < size ) {
+         auto const written = ::write( pipe_, text + done, static_cast< std::size_t >( size - done ) );
+         if ( written < 0 && errno != EINTR ) {
+            break;
+         }
+         done += written < 0 ? 0 : written;
+      }
+      return done;
+   }
+   int pipe_;
+};
+
+[[noreturn]] void beChild( int output, int errors, std::function< void( std::ostream & ) > const & what ) {
+   ::dup2( errors, STDERR_FILENO );
+   PipeBuffer buffer( output );
+   std::ostream out( &buffer );
+   int status = 0;
+   try {
+      what( out );
+   } catch ( InputError const & error ) {
+      std::cerr << error.what();
+      status = wrongInput;
+   }
+   // Without the destructors and buffers that the parent has too.
+   std::cerr.flush();
+   ::_exit( status );
+}
+
+std::string written( std::string const & text ) {
+   std::string out;
+   for ( char const letter : text ) {
+      auto const code = static_cast< unsigned char >( letter );
+      if ( code < 0x20 && letter != '\n' ) {
+         char escape[5];
+         std::snprintf( escape, sizeof escape, "\\x%02x", code );
+         out += escape;
+      } else {
+         out += letter;
+      }
+   }
+   return out;
+}
+
+} // namespace
+
+void loadPlugin( std::string const & path ) {
+   try {
+      Simulator::loadPlugin( path.empty() ? pluginBeside() : path );
+   } catch ( Simulator::LibraryError const & error ) {
+      throw InputError( "--plugin", std::string( error.what() ) + "; name the plug-in's library with --plugin PATH" );
+   }
+}
+
+void play( Scenario const & scenario, Simulator::SimulatedSwitch & sw ) {
+   scenario.prepare( sw );
+   sw.start();
+   Progress progress( "playing events" );
+   for ( auto const & event : scenario.events ) {
+      progress.stands( event.number, scenario.events.size() );
+      scenario.play( sw, event );
+   }
+}
+
+Child inChild( std::function< void( std::ostream & ) > const & what ) {
+   std::array< std::array< int, 2 >, 2 > pipes; // output, errors; each: where to read, where to write
+   for ( auto & pipe : pipes ) {
+      if ( ::pipe( pipe.data() ) != 0 ) {
+         throw InputError( std::string( "no pipe to a child process: " ) + std::strerror( errno ) );
+      }
+   }
+   std::cout.flush();
+   std::cerr.flush();
+   pid_t const child = ::fork();
+   if ( child == 0 ) {
+      ::close( pipes[0][0] );
+      ::close( pipes[1][0] );
+      beChild( pipes[0][1], pipes[1][1], what );
+   }
+   ::close( pipes[0][1] );
+   ::close( pipes[1][1] );
+   if ( child < 0 ) {
+      ::close( pipes[0][0] );
+      ::close( pipes[1][0] );
+      throw InputError( std::string( "no child process: " ) + std::strerror( errno ) );
+   }
+
+   std::array< std::string, 2 > texts;
+   std::array< pollfd, 2 > ends{ pollfd{ pipes[0][0], POLLIN, 0 }, pollfd{ pipes[1][0], POLLIN, 0 } };
+   while ( ends[0].fd >= 0 || ends[1].fd >= 0 ) {
+      ::poll( ends.data(), ends.size(), -1 );
+      for ( std::size_t end = 0; end < ends.size(); ++end ) {
+         if ( ends[end].fd < 0 || ends[end].revents == 0 ) {
+            continue;
+         }
+         std::array< char, 1 << 16 > text;
+         auto const size = ::read( ends[end].fd, text.data(), text.size() );
+         if ( size > 0 ) {
+            texts[end].append( text.data(), static_cast< std::size_t >( size ) );
+         } else if ( size == 0 || errno != EINTR ) {
+            ::close( ends[end].fd );
+            ends[end].fd = -1;
+         }
+      }
+   }
+   int status = 0;
+   while ( ::waitpid( child, &status, 0 ) < 0 && errno == EINTR ) {
+   }
+   if ( WIFEXITED( status ) && WEXITSTATUS( status ) == wrongInput ) {
+      throw InputError( texts[1] );
+   }
+   return Child{ WIFEXITED( status ) && WEXITSTATUS( status ) == 0, std::move( texts[0] ), written( texts[1] ) };
+}
+
+} // namespace Inspection

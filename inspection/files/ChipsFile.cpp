@@ -1,0 +1,223 @@
+#include "inspection/files/ChipsFile.h"
+
+#include "simulator/TableMap.h"
+#include "state/CellStatus.h"
+
+#include <charconv>
+
+namespace Inspection {
+
+namespace {
+
+using Rex::Value;
+using Rex::ValueError;
+using Simulator::ArrayContents;
+using Simulator::EntryContents;
+using Simulator::Words;
+
+U32 wordFromValue( Value const & value ) {
+   auto const * text = value.text();
+   U32 word = 0;
+   if ( text && text->size() > 2 && text->starts_with( "0x" ) ) {
+      auto const [end, error] = std::from_chars( text->data() + 2, text->data() + text->size(), word, 16 );
+      if ( error == std::errc{} && end == text->data() + text->size() ) {
+         return word;
+      }
+   }
+   Rex::throwWrongKind( "a word like \"0x00000a00\"", value );
+}
+
+EntryContents entryFromValue( Value const & value ) {
+   Fields fields( value );
+   fields.find( "fields" ); // said once more, in other words
+   EntryContents contents;
+   bool const alike = fields.find( "words" ) != nullptr;
+   if ( alike == ( fields.find( "instances" ) != nullptr ) ) {
+      throw ValueError( "", "an entry has either \"words\" or \"instances\"" );
+   }
+   fields.with( "words", [&]( Value const & words ) { contents.copies.push_back( wordsFromValue( words ) ); } );
+   fields.with( "instances", [&]( Value const & instances ) {
+      forEachMember( instances, [&]( std::string const & instance, Value const & words ) {
+         if ( instance != std::to_string( contents.copies.size() ) ) {
+            throw ValueError( "", "expected instance " + std::to_string( contents.copies.size() ) );
+         }
+         contents.copies.push_back( wordsFromValue( words ) );
+      } );
+      if ( contents.copies.size() < 2 ) {
+         throw ValueError( "", "instances are two or more: give \"words\" where all hold the same" );
+      }
+   } );
+   fields.end();
+   return contents;
+}
+
+// An object whose keys are numbers.
+template< class Read >
+auto numbered( Value const & value, Read const & read ) {
+   std::map< U32, decltype( read( value ) ) > all;
+   forEachMember( value, [&]( std::string const & key, Value const & part ) {
+      all.emplace( Rex::Codec< U32 >::fromKey( key ), read( part ) );
+   } );
+   return all;
+}
+
+FapContents fapFromValue( Value const & value ) {
+   FapContents fap;
+   Fields fields( value );
+   auto const & chipType = fields.required( "chipType" );
+   fap.chipType = Rex::below( "chipType", [&] { return chipTypeFromValue( chipType ); } );
+   fields.with( "controls", [&]( Value const & controls ) {
+      fap.contents.controls =
+         numbered( controls, []( Value const & part ) { return Rex::Codec< U32 >::fromValue( part ); } );
+   } );
+   fields.with( "tables", [&]( Value const & tables ) { fap.contents.tables = tablesFromValue( tables ); } );
+   fields.end();
+   return fap;
+}
+
+void writeWords( std::ostream & out, Words const & words ) {
+   char const * before = "[";
+   for ( U32 const word : words ) {
+      out << before << '"' << wordText( word ) << '"';
+      before = ", ";
+   }
+   out << ']';
+}
+
+void writeEntry( std::ostream & out, EntryContents const & entry, Catalogue::Layout const & layout ) {
+   if ( entry.copies.size() > 1 ) {
+      char const * before = "{\"instances\": {\"";
+      for ( std::size_t copy = 0; copy < entry.copies.size(); ++copy ) {
+         out << before << copy << "\": ";
+         writeWords( out, entry.copies[copy] );
+         before = ", \"";
+      }
+      out << "}}";
+      return;
+   }
+   out << "{\"words\": ";
+   writeWords( out, entry.copies[0] );
+   char const * before = ", \"fields\": {\"";
+   for ( auto const & field : Simulator::decode( layout, entry.copies[0] ) ) {
+      out << before << field.name << "\": \"" << field.value << '"';
+      before = ", \"";
+   }
+   out << "}}";
+}
+
+// The members of an object, each on a line of its own.
+template< class Members, class Write >
+void writeObject( std::ostream & out, Members const & members, int indent, Write const & write ) {
+   char const * before = "{";
+   for ( auto const & [key, member] : members ) {
+      out << before << '\n' << std::string( static_cast< std::size_t >( indent ), ' ' ) << '"' << key << "\": ";
+      write( key, member );
+      before = ",";
+   }
+   out << ( members.empty() ? "{}" : "}" );
+}
+
+} // namespace
+
+std::string wordText( U32 word ) {
+   char text[11];
+   std::snprintf( text, sizeof text, "0x%08x", word );
+   return text;
+}
+
+Words wordsFromValue( Value const & value ) {
+   Words words;
+   for ( auto const & word : listOf( value ) ) {
+      words.push_back( Rex::below( std::to_string( words.size() ), [&] { return wordFromValue( word ); } ) );
+   }
+   return words;
+}
+
+Hardware::ChipType chipTypeFromValue( Value const & value ) {
+   try {
+      return Rex::Codec< Hardware::Dace::FapRevision >::fromValue( Value::Object{ { "chipType", value } } ).chipType();
+   } catch ( ValueError const & error ) {
+      throw ValueError( "", error.what() ); // the object is made here: its key is no place of the file
+   }
+}
+
+Simulator::TablesContents tablesFromValue( Value const & value ) {
+   Simulator::TablesContents tables;
+   forEachMember( value, [&]( std::string const & name, Value const & variants ) {
+      tables[name] = numbered( variants, []( Value const & arrays ) {
+         return numbered( arrays, []( Value const & entries ) { return numbered( entries, entryFromValue ); } );
+      } );
+   } );
+   return tables;
+}
+
+ChipsFile chipsOf( Simulator::SimulatedSwitch const & sw ) {
+   ChipsFile chips;
+   for ( auto const & fap : sw.description().faps ) {
+      auto const chipType = fap.revision.chipType();
+      chips[fap.fapId.value()] = { chipType, contentsOf( sw.chip( fap.fapId ), chipType ) };
+   }
+   return chips;
+}
+
+void writeTables( std::ostream & out,
+                  Simulator::TablesContents const & tables,
+                  Hardware::ChipType chipType,
+                  int indent ) {
+   writeObject( out, tables, indent, [&]( std::string const & name, auto const & variants ) {
+      auto const & table = *Catalogue::table( name );
+      writeObject( out, variants, indent + 1, [&]( U32 variant, auto const & arrays ) {
+         auto const & layout = *Catalogue::layout( table, static_cast< U8 >( chipType ), static_cast< U8 >( variant ) );
+         writeObject( out, arrays, indent + 2, [&]( U32, ArrayContents const & entries ) {
+            writeObject( out, entries, indent + 3, [&]( U32, EntryContents const & entry ) {
+               writeEntry( out, entry, layout );
+            } );
+         } );
+      } );
+   } );
+}
+
+void writeChips( std::ostream & out, ChipsFile const & chips ) {
+   out << "{\"faps\": ";
+   writeObject( out, chips, 1, [&]( U16, FapContents const & fap ) {
+      out << "{\"chipType\": \"" << fap.chipType << "\",\n  \"controls\": {";
+      char const * before = "\"";
+      for ( auto const & [control, value] : fap.contents.controls ) {
+         out << before << control << "\": " << value;
+         before = ", \"";
+      }
+      out << "},\n  \"tables\": ";
+      writeTables( out, fap.contents.tables, fap.chipType, 3 );
+      out << '}';
+   } );
+   out << "}\n";
+}
+
+ChipsFile readChips( std::string const & path ) {
+   auto const value = readJson( path );
+   return inFile( path, [&] {
+      ChipsFile chips;
+      Fields fields( value );
+      auto const & faps = fields.required( "faps" );
+      Rex::below( "faps", [&] {
+         forEachMember( faps, [&]( std::string const & key, Value const & fap ) {
+            chips.emplace( Rex::Codec< U16 >::fromKey( key ), fapFromValue( fap ) );
+         } );
+      } );
+      fields.end();
+      // What a chip has no place for is found by giving it to a chip of the kind.
+      for ( auto const & [fap, of] : chips ) {
+         Simulator::Chip scratch(
+            DaceSal::ChipId{ fap }, Hardware::chipTypeName( of.chipType ), Simulator::addressMap( of.chipType ) );
+         auto const place = "/faps/" + std::to_string( fap ) + "/tables";
+         try {
+            apply( of.contents.tables, scratch, of.chipType, place );
+         } catch ( Simulator::ContentsError const & error ) {
+            throw InputError( path, error.what() );
+         }
+      }
+      return chips;
+   } );
+}
+
+} // namespace Inspection

@@ -1,0 +1,65 @@
+#include "inspection/files/OutputFile.h"
+
+#include "inspection/files/InputError.h"
+
+#include <cerrno>
+#include <cstring>
+#include <filesystem>
+#include <fstream>
+#include <unistd.h>
+
+namespace Inspection {
+
+namespace {
+
+[[noreturn]] void refusePath( std::string const & path, int reason ) {
+   throw InputError( path, std::string( "can't be written: " ) + std::strerror( reason ) );
+}
+
+} // namespace
+
+OutputFile::OutputFile( std::string path ) : path_( std::move( path ) ) {
+   if ( !isWanted() ) {
+      return;
+   }
+   namespace fs = std::filesystem;
+   if ( fs::is_directory( path_ ) ) {
+      refusePath( path_, EISDIR );
+   }
+   auto const parent = fs::path( path_ ).parent_path();
+   std::string const there = fs::exists( path_ ) ? path_ : parent.empty() ? "." : parent.string();
+   if ( ::access( there.c_str(), W_OK ) != 0 ) {
+      refusePath( path_, errno );
+   }
+}
+
+void OutputFile::write( std::string const & text ) const {
+   if ( !isWanted() ) {
+      return;
+   }
+   std::ofstream out( path_, std::ios::binary );
+   out << text;
+   out.close();
+   if ( !out ) {
+      refusePath( path_, errno );
+   }
+}
+
+void OutputFile::refuse( std::string const & why ) const {
+   throw InputError( path_, "can't be written: " + why.substr( path_.size() + 2 ) );
+}
+
+void eachAlone( std::initializer_list< std::string > const & paths ) {
+   namespace fs = std::filesystem;
+   for ( auto one = paths.begin(); one != paths.end(); ++one ) {
+      for ( auto other = paths.begin(); other != one; ++other ) {
+         std::error_code none;
+         bool const isSame = *one == *other || fs::equivalent( *one, *other, none );
+         if ( isSame && !one->empty() && !fs::is_other( *one, none ) ) { // devices take whatever comes
+            throw InputError( *one, "is named twice; give each file a name of its own" );
+         }
+      }
+   }
+}
+
+} // namespace Inspection

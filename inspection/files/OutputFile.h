@@ -1,0 +1,40 @@
+// A file that a verb is to write at its end.
+//
+//    OutputFile const chips( path );      // at the door: InputError if it can't be written
+//    ...
+//    chips.write( text );                 // once everything went well
+#pragma once
+
+#include <initializer_list>
+#include <stdexcept>
+#include <string>
+
+namespace Inspection {
+
+class OutputFile {
+ public:
+   // An empty path: no file is wanted, and write() does nothing. Nothing is created yet.
+   explicit OutputFile( std::string path );
+   bool isWanted() const { return !path_.empty(); }
+   // Throws InputError.
+   void write( std::string const & text ) const;
+   // Runs `write`, which writes the file itself and throws "<path>: <reason>" as a std::runtime_error where it can't.
+   template< class Write >
+   void writing( Write const & write ) const {
+      try {
+         write();
+      } catch ( std::runtime_error const & error ) {
+         refuse( error.what() );
+      }
+   }
+
+ private:
+   [[noreturn]] void refuse( std::string const & why ) const;
+   std::string path_;
+};
+
+// No two of the files may be one: what is read would be gone, or what is written be lost. Empty paths don't count.
+// InputError.
+void eachAlone( std::initializer_list< std::string > const & paths );
+
+} // namespace Inspection

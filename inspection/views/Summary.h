@@ -1,0 +1,13 @@
+// The summary of a run, for people: what was programmed, by which function, decoded by field, for each event and FAP.
+#pragma once
+
+#include "inspection/Changes.h"
+#include "inspection/files/Scenario.h"
+
+#include <ostream>
+
+namespace Inspection {
+
+void writeSummary( std::ostream & out, Scenario const & scenario, Simulator::SimulatedSwitch const & sw );
+
+} // namespace Inspection

@@ -1,8 +1,0 @@
-// The scenario of examples/urpf-and-ip-traps.json, put in at build time.
-#pragma once
-
-namespace Cli {
-
-extern char const * const exampleText;
-
-} // namespace Cli
