@@ -1,6 +1,7 @@
 #include "inspection/Play.h"
 
 #include "inspection/views/Progress.h"
+#include "inspection/views/Terminal.h"
 
 #include <array>
 #include <cerrno>
@@ -57,7 +58,9 @@ class PipeBuffer : public std::streambuf {
    try {
       what( out );
    } catch ( InputError const & error ) {
-      std::cerr << error.what();
+      for ( auto const & line : error.lines() ) {
+         std::cerr << printable( line ) << '\n';
+      }
       status = wrongInput;
    }
    // Without the destructors and buffers that the parent has too.
@@ -65,19 +68,13 @@ class PipeBuffer : public std::streambuf {
    ::_exit( status );
 }
 
-std::string written( std::string const & text ) {
-   std::string out;
-   for ( char const letter : text ) {
-      auto const code = static_cast< unsigned char >( letter );
-      if ( code < 0x20 && letter != '\n' ) {
-         char escape[5];
-         std::snprintf( escape, sizeof escape, "\\x%02x", code );
-         out += escape;
-      } else {
-         out += letter;
-      }
+std::vector< std::string > linesOf( std::string const & text ) {
+   std::vector< std::string > lines;
+   std::istringstream in( text );
+   for ( std::string line; std::getline( in, line ); ) {
+      lines.push_back( printable( line ) );
    }
-   return out;
+   return lines;
 }
 
 } // namespace
@@ -144,10 +141,15 @@ Child inChild( std::function< void( std::ostream & ) > const & what ) {
    int status = 0;
    while ( ::waitpid( child, &status, 0 ) < 0 && errno == EINTR ) {
    }
+   auto const said = linesOf( texts[1] );
    if ( WIFEXITED( status ) && WEXITSTATUS( status ) == wrongInput ) {
-      throw InputError( texts[1] );
+      throw InputError( said );
    }
-   return Child{ WIFEXITED( status ) && WEXITSTATUS( status ) == 0, std::move( texts[0] ), written( texts[1] ) };
+   Child result{ WIFEXITED( status ) && WEXITSTATUS( status ) == 0, std::move( texts[0] ), {} };
+   for ( auto const & line : said ) {
+      result.errors += line + '\n';
+   }
+   return result;
 }
 
 } // namespace Inspection

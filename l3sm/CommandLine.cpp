@@ -1,6 +1,7 @@
 #include "l3sm/CommandLine.h"
 
 #include "inspection/files/InputError.h"
+#include "inspection/views/Terminal.h"
 #include "l3sm/verbs/Verbs.h"
 #include "rex/Nearest.h"
 
@@ -37,10 +38,7 @@ constexpr Verb verbs[] = {
 };
 
 int failed( std::string const & text ) {
-   // One line, whatever the text was made of.
-   std::string line = text;
-   std::replace( line.begin(), line.end(), '\n', ' ' );
-   std::cerr << "l3sm: " << line << std::endl;
+   std::cerr << "l3sm: " << printable( text ) << std::endl;
    return wrongUsage;
 }
 
@@ -87,7 +85,8 @@ int commandLine( int argc, char const * const * argv ) {
       std::string const verb = isVerb( argv[1] ) ? std::string( " " ) + argv[1] : "";
       return failed( std::string( error.what() ) + "; l3sm" + verb + " --help tells what there is" );
    } catch ( InputError const & error ) {
-      return failed( error.what() );
+      std::ranges::for_each( error.lines(), failed );
+      return wrongUsage;
    }
 }
 

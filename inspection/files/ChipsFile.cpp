@@ -61,18 +61,53 @@ auto numbered( Value const & value, Read const & read ) {
    return all;
 }
 
+Simulator::Contents contentsOf( Fields & fields ) {
+   Simulator::Contents contents;
+   fields.with( "controls", [&]( Value const & controls ) {
+      contents.controls =
+         numbered( controls, []( Value const & part ) { return Rex::Codec< U32 >::fromValue( part ); } );
+   } );
+   fields.with( "tables", [&]( Value const & tables ) { contents.tables = tablesFromValue( tables ); } );
+   return contents;
+}
+
 FapContents fapFromValue( Value const & value ) {
    FapContents fap;
    Fields fields( value );
    auto const & chipType = fields.required( "chipType" );
    fap.chipType = Rex::below( "chipType", [&] { return chipTypeFromValue( chipType ); } );
-   fields.with( "controls", [&]( Value const & controls ) {
-      fap.contents.controls =
-         numbered( controls, []( Value const & part ) { return Rex::Codec< U32 >::fromValue( part ); } );
-   } );
-   fields.with( "tables", [&]( Value const & tables ) { fap.contents.tables = tablesFromValue( tables ); } );
+   fap.contents = contentsOf( fields );
    fields.end();
    return fap;
+}
+
+// An object whose keys are the numbers of `all`.
+template< class All, class Write >
+Value::Object objectOf( All const & all, Write const & write ) {
+   Value::Object object;
+   for ( auto const & [number, part] : all ) {
+      object.emplace_hint( object.end(), std::to_string( number ), write( part ) );
+   }
+   return object;
+}
+
+Value valueOf( Words const & words ) {
+   Value::List list;
+   for ( U32 const word : words ) {
+      list.emplace_back( wordText( word ) );
+   }
+   return list;
+}
+
+Value valueOf( EntryContents const & entry ) {
+   if ( entry.copies.size() == 1 ) {
+      return Value::Object{ { "words", valueOf( entry.copies[0] ) } };
+   }
+   Value::Object instances;
+   for ( std::size_t copy = 0; copy < entry.copies.size(); ++copy ) {
+      instances.emplace( std::to_string( copy ), valueOf( entry.copies[copy] ) );
+   }
+   return Value::Object{ { "instances", std::move( instances ) } };
 }
 
 void writeWords( std::ostream & out, Words const & words ) {
@@ -149,6 +184,30 @@ Simulator::TablesContents tablesFromValue( Value const & value ) {
       } );
    } );
    return tables;
+}
+
+Simulator::Contents contentsFromValue( Value const & value ) {
+   auto const & object = objectOf( value );
+   if ( !object.contains( "tables" ) && !object.contains( "controls" ) ) {
+      return { .controls = {}, .tables = tablesFromValue( value ) };
+   }
+   Fields fields( value );
+   auto contents = contentsOf( fields );
+   fields.end();
+   return contents;
+}
+
+Value valueOf( Simulator::Contents const & contents ) {
+   Value::Object tables;
+   for ( auto const & [name, variants] : contents.tables ) {
+      tables.emplace( name, objectOf( variants, []( auto const & arrays ) {
+                         return objectOf( arrays, []( ArrayContents const & entries ) {
+                            return objectOf( entries, []( EntryContents const & entry ) { return valueOf( entry ); } );
+                         } );
+                      } ) );
+   }
+   return Value::Object{ { "tables", std::move( tables ) },
+                         { "controls", objectOf( contents.controls, []( U32 value ) { return Value( value ); } ) } };
 }
 
 ChipsFile chipsOf( Simulator::SimulatedSwitch const & sw ) {

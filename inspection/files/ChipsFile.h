@@ -35,6 +35,12 @@ ChipsFile readChips( std::string const & path );
 // Throws Rex::ValueError.
 Simulator::TablesContents tablesFromValue( Rex::Value const & value );
 
+// The contents of one chip, below its number in a scenario: {"tables": {...}, "controls": {"64": 255}}, or the tables
+// alone. Throws Rex::ValueError.
+Simulator::Contents contentsFromValue( Rex::Value const & value );
+// The longer form.
+Rex::Value valueOf( Simulator::Contents const & contents );
+
 // The words of one entry, as files have them. Throws Rex::ValueError.
 Simulator::Words wordsFromValue( Rex::Value const & value );
 // The chip of a name; throws Rex::ValueError.

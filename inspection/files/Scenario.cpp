@@ -1,7 +1,7 @@
 #include "inspection/files/Scenario.h"
 
-#include "inspection/files/ChipsFile.h"
 #include "inspection/files/BuiltInScenario.h"
+#include "inspection/files/ChipsFile.h"
 #include "inspection/views/Progress.h"
 #include "simulator/TableMap.h"
 
@@ -116,8 +116,8 @@ Scenario scenarioFromValue( Value const & value ) {
    fields.with( "toggles",
                 [&]( Value const & toggles ) { scenario.description.toggles = togglesFromValue( toggles ); } );
    fields.with( "chips", [&]( Value const & chips ) {
-      forEachMember( chips, [&]( std::string const & key, Value const & tables ) {
-         scenario.chips[Rex::Codec< U16 >::fromKey( key )] = tablesFromValue( tables );
+      forEachMember( chips, [&]( std::string const & key, Value const & contents ) {
+         scenario.chips[Rex::Codec< U16 >::fromKey( key )] = contentsFromValue( contents );
       } );
    } );
    fields.with( "state", [&]( Value const & state ) { scenario.state = objectOf( state ); } );
@@ -132,7 +132,9 @@ Scenario scenarioFromValue( Value const & value ) {
    return scenario;
 }
 
-Scenario checkedScenario( Value const & value, std::string const & file ) {
+} // namespace
+
+Scenario scenarioOf( Value const & value, std::string const & file ) {
    Scenario scenario = inFile( file, [&] { return scenarioFromValue( value ); } );
    scenario.file = file;
    // Played without a plug-in, whatever doesn't fit shows itself before the first chip is programmed.
@@ -147,8 +149,6 @@ Scenario checkedScenario( Value const & value, std::string const & file ) {
    }
    return scenario;
 }
-
-} // namespace
 
 std::string Event::text() const {
    std::string out = ( kind == Kind::set ? "set " : "delete " ) + path;
@@ -168,13 +168,17 @@ Simulator::FapDescription const & Scenario::fap( U16 number ) const {
 }
 
 void Scenario::fillChips( Simulator::ChipDriver & driver ) const {
-   for ( auto const & [number, tables] : chips ) {
+   for ( auto const & [number, contents] : chips ) {
       auto const & of = fap( number );
       auto const place = "/chips/" + std::to_string( number );
+      auto & chip = *driver.chip( of.fapId );
       try {
-         apply( tables, *driver.chip( of.fapId ), of.revision.chipType(), place );
+         apply( contents.tables, chip, of.revision.chipType(), place );
       } catch ( Simulator::ContentsError const & error ) {
          throw InputError( file, error.what() );
+      }
+      for ( auto const & [control, value] : contents.controls ) {
+         chip.controlIs( control, value );
       }
    }
 }
@@ -218,11 +222,84 @@ void Scenario::play( Simulator::SimulatedSwitch & sw, Event const & event ) cons
 }
 
 Scenario readScenario( std::string const & path ) {
-   return checkedScenario( readJson( path ), path );
+   return scenarioOf( readJson( path ), path );
 }
 
 Scenario builtInScenario() {
-   return checkedScenario( parseJson( exampleText, "the built-in example" ), "the built-in example" );
+   return scenarioOf( parseJson( exampleText, "the built-in example" ), "the built-in example" );
+}
+
+namespace {
+
+Value valueOf( Simulator::FapDescription const & fap ) {
+   Value::Object object{ { "fapId", fap.fapId.value() },
+                         { "revision", Rex::Codec< Hardware::Dace::FapRevision >::toValue( fap.revision ) } };
+   if ( !fap.name.empty() ) {
+      object["name"] = fap.name;
+   }
+   if ( fap.cores ) {
+      object["cores"] = *fap.cores;
+   }
+   if ( !fap.ports.empty() ) {
+      Value::Object ports;
+      for ( auto const & [systemPort, port] : fap.ports ) {
+         ports.emplace( std::to_string( systemPort ), port );
+      }
+      object["ports"] = std::move( ports );
+   }
+   return object;
+}
+
+Value valueOf( Toggle::Settings const & toggles ) {
+   Value::Object files;
+   for ( auto const & [file, states] : toggles ) {
+      files.emplace( file, Value::Object( states.begin(), states.end() ) );
+   }
+   return files;
+}
+
+} // namespace
+
+Value valueOf( Event const & event ) {
+   Value::Object object{ { "path", event.path } };
+   for ( auto const & [name, member] :
+         { std::pair( "attribute", &event.attribute ), std::pair( "key", &event.key ) } ) {
+      if ( *member ) {
+         object[name] = **member;
+      }
+   }
+   if ( event.kind == Event::Kind::set ) {
+      object["value"] = event.value;
+   }
+   return Value::Object{ { event.kind == Event::Kind::set ? "set" : "delete", std::move( object ) } };
+}
+
+Value valueOf( Scenario const & scenario, Parts parts ) {
+   Value::List faps;
+   for ( auto const & fap : scenario.description.faps ) {
+      faps.push_back( valueOf( fap ) );
+   }
+   Value::Object chips;
+   for ( auto const & [fap, contents] : scenario.chips ) {
+      chips.emplace( std::to_string( fap ), valueOf( contents ) );
+   }
+   Value::Object object{
+      { "name", scenario.name },
+      { "switch",
+        Value::Object{ { "slice", Value::Object{ { "name", scenario.description.sliceName } } },
+                       { "faps", std::move( faps ) } } },
+      { "toggles", valueOf( scenario.description.toggles ) },
+      { "chips", std::move( chips ) },
+      { "state", scenario.state },
+   };
+   if ( parts == Parts::all ) {
+      Value::List events;
+      for ( auto const & event : scenario.events ) {
+         events.push_back( valueOf( event ) );
+      }
+      object["events"] = std::move( events );
+   }
+   return object;
 }
 
 void toggleIs( Toggle::Settings & toggles, std::string const & text ) {

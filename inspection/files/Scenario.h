@@ -36,8 +36,8 @@ struct Scenario {
    std::string file; // for messages
    std::string name;
    Simulator::SwitchDescription description;
-   std::map< U16, Simulator::TablesContents > chips; // on top of the boot image
-   Rex::Value::Object state;                         // path to attributes, null to leave the path out
+   std::map< U16, Simulator::Contents > chips; // on top of the boot image
+   Rex::Value::Object state;                   // path to attributes, null to leave the path out
    std::vector< Event > events;
 
    // Puts chips and state in place. InputError where they don't fit.
@@ -49,6 +49,12 @@ struct Scenario {
 };
 
 Scenario readScenario( std::string const & path );
+// The same from a value that stands in another file, checked likewise.
+Scenario scenarioOf( Rex::Value const & value, std::string const & file );
+// A scenario, or one of its events, as its file has it.
+enum class Parts : U8 { all, withoutEvents };
+Rex::Value valueOf( Scenario const & scenario, Parts parts = Parts::all );
+Rex::Value valueOf( Event const & event );
 // The scenario that is played where none is named.
 Scenario builtInScenario();
 

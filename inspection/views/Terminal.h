@@ -34,6 +34,10 @@ class Style {
    bool colour_;
 };
 
+// A text that came from outside, as one line for people: control characters, which would move the cursor or recolour
+// the screen, and bytes that are no UTF-8 are written out as "\x1b".
+std::string printable( std::string_view text );
+
 // How many columns a text takes: characters of UTF-8, marks of a Style left out.
 std::size_t widthOf( std::string_view text );
 std::string padded( std::string text, std::size_t width );

@@ -1,4 +1,5 @@
 // On a terminal answers are coloured, unless NO_COLOR is set. `script` runs a command on a terminal of its own.
+#include "inspection/views/Terminal.h"
 #include "l3sm/Command.h"
 
 #include <gtest/gtest.h>
@@ -17,6 +18,16 @@ std::string onTerminal( std::string const & environment, std::string const & arg
 
 bool isColoured( std::string const & text ) {
    return text.find( "\033[" ) != std::string::npos;
+}
+
+TEST( Terminal, takesNoOrdersFromAName ) {
+   using Inspection::printable;
+   EXPECT_EQ( printable( "Fap3/0 \"größer\" ✓ 🂡" ), "Fap3/0 \"größer\" ✓ 🂡" );
+   EXPECT_EQ( printable( "\033[2J\n\x7f" ), "\\x1b[2J\\x0a\\x7f" );
+   EXPECT_EQ( printable( "\xc2\x9b" ), "\\xc2\\x9b" ); // the same order as one character
+   EXPECT_EQ( printable( "\x9b"
+                         "1m \xff \xc3" ),
+              "\\x9b1m \\xff \\xc3" ); // no UTF-8
 }
 
 TEST( Terminal, isColouredUnlessNobodyWantsIt ) {
