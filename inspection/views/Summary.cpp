@@ -1,5 +1,6 @@
 #include "inspection/views/Summary.h"
 
+#include "inspection/ServedFaps.h"
 #include "inspection/ServedInterfaces.h"
 #include "inspection/FoldedWrites.h"
 #include "simulator/BootImage.h"
@@ -79,9 +80,7 @@ class Summary {
          counts.writes += row.kind == Journal::Kind::write;
          counts.controls += row.kind == Journal::Kind::control;
          counts.changes += row.kind == Journal::Kind::write && row.changed;
-         if ( row.cause == "chip-init" ) {
-            initialised_.insert( row.fap );
-         }
+         served_.follow( row );
       }
    }
 
@@ -96,22 +95,9 @@ class Summary {
       out_ << '\n';
    }
 
-   // By what the plug-in has read and done, not by a rule of this program's own.
    std::string servedText( U16 fap ) const {
-      if ( initialised_.contains( fap ) ) {
-         return "served";
-      }
-      auto const readOn = []( std::string const & name ) {
-         auto const & readings = Toggle::readings();
-         return std::any_of( readings.begin(), readings.end(), [&]( Toggle::Reading const & reading ) {
-            return reading.name == name && reading.state;
-         } );
-      };
-      if ( readOn( "ArmOrderedSwTable" ) && readOn( "J2DaceL3Ni" ) ) {
-         return "NOT SERVED: no chip-init programming on a FAP of type 3 while ArmOrderedSwTable (Dace.json) and "
-                "J2DaceL3Ni (DaceToggles.json) are both on";
-      }
-      return "NOT SERVED: no plug-in has programmed it at chip initialisation";
+      auto const served = served_.of( fap );
+      return served.isServed ? "served" : "NOT SERVED: " + served.reason + "; " + served.remedy();
    }
 
    void writeToggles() {
@@ -245,7 +231,7 @@ class Summary {
    Simulator::SimulatedSwitch const & sw_;
    std::vector< Change > changes_;
    std::map< Place, Counts > counts_;
-   std::set< U16 > initialised_;
+   ServedFaps served_;
 };
 
 } // namespace

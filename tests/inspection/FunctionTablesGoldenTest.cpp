@@ -1,9 +1,8 @@
 // The catalogue tells which functions touch a table from a list in the source. It holds what the examples show: they
 // are played here, and ./dev golden writes the list anew.
-#include "l3sm/Command.h"
 #include "inspection/FunctionTables.h"
+#include "inspection/GoldenList.h"
 
-#include <gtest/gtest.h>
 #include <set>
 
 namespace {
@@ -11,7 +10,6 @@ namespace {
 namespace fs = std::filesystem;
 
 fs::path const source = L3SM_SOURCE_DIR;
-fs::path const list = source / "inspection/KnownFunctionTables.cpp";
 
 std::vector< Inspection::JournalFile > journalsOfTheExamples() {
    std::set< fs::path > examples;
@@ -42,15 +40,7 @@ TEST( TouchesGolden, areWhatTheExamplesShow ) {
          rows += rowOf( touch );
       }
    }
-   std::string const before = contentsOf( list );
-   std::string const first = "touches[] = {\n";
-   auto const begin = before.find( first ) + first.size();
-   std::string const after = before.substr( 0, begin ) + rows + before.substr( before.find( "   };\n", begin ) );
-   if ( std::getenv( "L3SM_GOLDEN_WRITE" ) && after != before ) {
-      std::ofstream( list ) << after;
-      return;
-   }
-   EXPECT_EQ( after, before ) << "To write inspection/KnownFunctionTables.cpp anew: ./dev golden";
+   expectList( "inspection/KnownFunctionTables.cpp", "touches[] = {\n", rows );
 }
 
 } // namespace
