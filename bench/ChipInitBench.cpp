@@ -26,7 +26,7 @@ SwitchDescription switchOf( ChipType chipType, U32 major, U16 cores, int faps, b
       description.faps.push_back(
          { .fapId = FapId( static_cast< U16 >( fap ) ), .cores = cores, .revision = { major, chipType, 7 } } );
    }
-   description.journalled = journalled;
+   description.journalled = journalled ? SwitchDescription::Journalled::kept : SwitchDescription::Journalled::none;
    return description;
 }
 
@@ -51,20 +51,20 @@ std::vector< Transfer > transfersOf( ChipType chipType, U32 major, U16 cores, in
    std::vector< Transfer > transfers;
    SimulatedSwitch sw( switchOf( chipType, major, cores, faps, true ) );
    initChips( sw );
-   for ( auto const & row : sw.journal().rows() ) {
-      if ( row.kind == Journal::Kind::control ) {
+   for ( auto const & row : sw.journal().operations() ) {
+      if ( row.kind == Simulator::Row::Kind::control ) {
          continue;
       }
       auto const & table = *Catalogue::table( row.table );
       auto const & layout = *Catalogue::layout( table, static_cast< U8 >( chipType ), row.variant );
-      bool const toAll = row.scope == Journal::Scope::all;
-      U32 const first = row.scope == Journal::Scope::core ? static_cast< U32 >( row.core ) : 0;
+      bool const toAll = row.scope == Simulator::Row::Scope::all;
+      U32 const first = row.scope == Simulator::Row::Scope::core ? static_cast< U32 >( row.core ) : 0;
       for ( U32 copy = first; copy < ( toAll ? layout.instanceCount : first + 1 ); ++copy ) {
          transfers.push_back( { FapId( row.fap ),
                                 addressOf( layout, static_cast< U32 >( row.array ), row.entry.value_or( 0 ) ),
                                 copy,
                                 static_cast< U32 >( row.words.size() * sizeof( U32 ) ),
-                                row.kind == Journal::Kind::read } );
+                                row.kind == Simulator::Row::Kind::read } );
       }
    }
    return transfers;

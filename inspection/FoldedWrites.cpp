@@ -1,6 +1,6 @@
 #include "inspection/FoldedWrites.h"
 
-#include "simulator/TableMap.h"
+#include "simulator/ChipContents.h"
 
 #include <algorithm>
 #include <set>
@@ -11,6 +11,7 @@ namespace Inspection {
 namespace {
 
 using Simulator::DecodedField;
+using Simulator::Row;
 
 constexpr char const * various = "various";
 constexpr std::size_t mostValues = 3; // of one field, before they are only called various
@@ -19,12 +20,12 @@ constexpr std::size_t longest = 40;   // text of several values
 // One call of one place in the source on one table.
 using Source = std::tuple< std::string_view, std::string_view, std::string_view, U8 >;
 
-Source sourceOf( Change const & change ) {
-   return { change.row.function, change.row.source, change.row.table, change.row.variant };
+Source sourceOf( Row const & row ) {
+   return { row.function, row.source, row.table, row.variant };
 }
 
 struct Decoded {
-   Change const * change;
+   Row const * row;
    std::vector< DecodedField > before;
    std::vector< DecodedField > after;
 };
@@ -94,7 +95,7 @@ class NumberedRun {
 WriteGroup groupOf( std::vector< Decoded const * > const & writes ) {
    WriteGroup group;
    for ( auto const * write : writes ) {
-      group.writes.push_back( write->change );
+      group.writes.push_back( write->row );
    }
    auto const & first = *writes.front();
    for ( bool const wanted : { true, false } ) {
@@ -137,7 +138,7 @@ void addGroups( std::vector< WriteGroup > & groups, std::vector< Decoded > const
 } // namespace
 
 bool WriteGroup::changed() const {
-   return std::any_of( writes.begin(), writes.end(), []( Change const * write ) { return write->row.changed; } );
+   return std::any_of( writes.begin(), writes.end(), []( Row const * write ) { return write->changed; } );
 }
 
 std::string ranges( std::vector< U32 > numbers ) {
@@ -161,12 +162,12 @@ std::string WriteGroup::places() const {
    std::vector< U32 > entries;
    std::vector< U32 > cores;
    for ( auto const * write : writes ) {
-      arrays.push_back( static_cast< U32 >( write->row.array ) );
-      if ( write->row.entry ) {
-         entries.push_back( *write->row.entry );
+      arrays.push_back( static_cast< U32 >( write->array ) );
+      if ( write->entry ) {
+         entries.push_back( *write->entry );
       }
-      if ( write->row.scope == Simulator::Journal::Scope::core ) {
-         cores.push_back( static_cast< U32 >( write->row.core ) );
+      if ( write->scope == Simulator::Row::Scope::core ) {
+         cores.push_back( static_cast< U32 >( write->core ) );
       }
    }
    std::string out;
@@ -183,20 +184,23 @@ std::string WriteGroup::places() const {
    return out;
 }
 
-std::vector< WriteGroup > groupsOf( std::vector< Change const * > const & changes ) {
+std::vector< WriteGroup > groupsOf( std::vector< Row const * > const & rows ) {
    std::vector< Source > order;
    std::map< Source, std::vector< Decoded > > bySource;
-   for ( auto const * change : changes ) {
-      if ( !change->layout ) {
+   for ( auto const * row : rows ) {
+      if ( !row->layout ) {
          continue;
       }
-      auto & writes = bySource[sourceOf( *change )];
+      auto & writes = bySource[sourceOf( *row )];
       if ( writes.empty() ) {
-         order.push_back( sourceOf( *change ) );
+         order.push_back( sourceOf( *row ) );
       }
-      writes.push_back( { change,
-                          Simulator::decode( *change->layout, change->before ),
-                          Simulator::decode( *change->layout, change->row.words ) } );
+      auto const after = Simulator::decode( *row->layout, row->words );
+      auto before = after;
+      for ( DecodedField & field : before ) {
+         field.value = "?";
+      }
+      writes.push_back( { row, row->before.empty() ? before : Simulator::decode( *row->layout, row->before ), after } );
    }
    std::vector< WriteGroup > groups;
    for ( auto const & source : order ) {

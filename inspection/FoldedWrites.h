@@ -1,9 +1,11 @@
 // Writes that say the same, told once: the entries that one place in the source gave the same values.
 //
-//    for ( WriteGroup const & group : groupsOf( changes ) ) { ... group.places() ... group.fields ... }
+//    for ( WriteGroup const & group : groupsOf( rows ) ) { ... group.places() ... group.fields ... }
 #pragma once
 
-#include "inspection/Changes.h"
+#include "simulator/Row.h"
+
+#include <string>
 
 namespace Inspection {
 
@@ -16,17 +18,17 @@ struct GroupField {
 };
 
 struct WriteGroup {
-   std::vector< Change const * > writes; // in their order
-   std::vector< GroupField > fields;     // those that changed first, each kind in the order of the catalogue
+   std::vector< Simulator::Row const * > writes; // in their order
+   std::vector< GroupField > fields;             // those that changed first, each kind in the order of the catalogue
 
-   Change const & first() const { return *writes.front(); }
+   Simulator::Row const & first() const { return *writes.front(); }
    bool changed() const;
    // "array 3, entries 0-31 127"; empty for a register without an array.
    std::string places() const;
 };
 
-// The table writes among `changes`, grouped; groups in the order of their first write.
-std::vector< WriteGroup > groupsOf( std::vector< Change const * > const & changes );
+// The table writes among the rows, grouped; groups in the order of their first write.
+std::vector< WriteGroup > groupsOf( std::vector< Simulator::Row const * > const & rows );
 
 // "0-31 127": ascending numbers, runs joined.
 std::string ranges( std::vector< U32 > numbers );

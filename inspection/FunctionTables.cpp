@@ -1,6 +1,6 @@
 #include "inspection/FunctionTables.h"
 
-#include "inspection/History.h"
+#include "inspection/FieldChanges.h"
 
 #include <map>
 #include <set>
@@ -11,30 +11,28 @@ namespace Inspection {
 namespace {
 
 using Rex::Value;
-using Simulator::Journal;
+using Simulator::Row;
 
 void add( std::map< std::string, Touch > & touches,
           std::map< std::string, std::set< std::string > > & fields,
           Catalogue::Table const & table,
-          JournalFile const & journal ) {
-   History history;
-   for ( Journal::Row const & row : journal.rows() ) {
-      if ( row.kind != Journal::Kind::control && row.table == table.name ) {
+          KeptRows const & journal ) {
+   for ( Simulator::Row const & row : journal.all() ) {
+      if ( row.table == table.name ) {
          std::string const function( row.function );
          Touch & touch = touches[function];
          touch.table = table.name;
          touch.function = function;
          touch.source = row.source.substr( 0, row.source.find( ':' ) );
-         ( row.kind == Journal::Kind::read ? touch.reads : touch.writes ) = true;
-         if ( row.kind == Journal::Kind::write ) {
-            for ( auto const & change : fieldChanges( *layoutOf( row ), history.before( row ), row.words ) ) {
+         ( row.kind == Simulator::Row::Kind::read ? touch.reads : touch.writes ) = true;
+         if ( row.kind == Simulator::Row::Kind::write ) {
+            for ( auto const & change : fieldChanges( row ) ) {
                if ( change.before && change.isChange() ) {
                   fields[function].insert( change.field->name );
                }
             }
          }
       }
-      history.follow( row );
    }
 }
 
@@ -54,10 +52,10 @@ std::vector< Touch > touchesOf( Catalogue::Table const & table ) {
    return all;
 }
 
-std::vector< Touch > touchesOf( Catalogue::Table const & table, std::vector< JournalFile > const & journals ) {
+std::vector< Touch > touchesOf( Catalogue::Table const & table, std::vector< KeptRows > const & journals ) {
    std::map< std::string, Touch > touches;
    std::map< std::string, std::set< std::string > > fields;
-   for ( JournalFile const & journal : journals ) {
+   for ( KeptRows const & journal : journals ) {
       add( touches, fields, table, journal );
    }
    std::vector< Touch > all;

@@ -4,7 +4,7 @@
 //    touchesOf( table, journals );       // those journals
 #pragma once
 
-#include "inspection/files/JournalFile.h"
+#include "inspection/KeptRows.h"
 #include "rex/Value.h"
 
 #include <span>
@@ -26,7 +26,7 @@ struct Touch {
 
 // In alphabetical order of functions.
 std::vector< Touch > touchesOf( Catalogue::Table const & table );
-std::vector< Touch > touchesOf( Catalogue::Table const & table, std::vector< JournalFile > const & journals );
+std::vector< Touch > touchesOf( Catalogue::Table const & table, std::vector< KeptRows > const & journals );
 
 // What the journals of the examples show, of every table: KnownTouches.cpp, which a test compares and writes.
 std::span< Touch const > knownTouches();

@@ -1,7 +1,7 @@
 #include "inspection/ProgrammedValues.h"
 
-#include "inspection/files/ChipsFile.h"
 #include "inspection/NamesAsTyped.h"
+#include "inspection/files/ChipsFile.h"
 #include "simulator/TableMap.h"
 
 #include <set>
@@ -13,7 +13,7 @@ namespace Inspection {
 namespace {
 
 using Simulator::BootNoise;
-using Simulator::Journal;
+using Simulator::Row;
 using Simulator::SimulatedSwitch;
 using Simulator::Words;
 
@@ -41,7 +41,7 @@ struct Run {
    std::map< std::pair< U16, U32 >, U32 > controls;
 };
 
-Cell cellOf( Journal::Row const & row, Hardware::ChipType chipType, U32 copy ) {
+Cell cellOf( Simulator::Row const & row, Hardware::ChipType chipType, U32 copy ) {
    auto const & table = *Catalogue::table( row.table );
    return { row.fap,
             Catalogue::layout( table, static_cast< U8 >( chipType ), row.variant ),
@@ -76,17 +76,17 @@ Run playOnce( Scenario const & scenario, BootNoise bootNoise ) {
 
    Run run;
    std::set< std::pair< Cell, std::string_view > > read;
-   for ( Journal::Row const & row : sw.journal().rows() ) {
-      if ( row.kind == Journal::Kind::control ) {
+   for ( Simulator::Row const & row : sw.journal().operations() ) {
+      if ( row.kind == Simulator::Row::Kind::control ) {
          run.controls[{ row.fap, row.control }] = row.value;
          continue;
       }
       Cell const first = cellOf( row, chipTypes.at( row.fap ), 0 );
-      if ( row.kind == Journal::Kind::read ) {
+      if ( row.kind == Simulator::Row::Kind::read ) {
          read.insert( { first, row.function } );
          continue;
       }
-      bool const isCore = row.scope == Journal::Scope::core;
+      bool const isCore = row.scope == Simulator::Row::Scope::core;
       for ( U32 copy = 0; copy < first.layout->selectors.size(); ++copy ) {
          if ( isCore && copy != static_cast< U32 >( row.core ) ) {
             continue;

@@ -9,7 +9,7 @@ namespace Inspection {
 namespace {
 
 using Rex::Value;
-using Simulator::Journal;
+using Simulator::Row;
 
 // What one function did to one FAP in one event, on one cause.
 struct Deed {
@@ -24,17 +24,17 @@ struct Deed {
 
 using Deeds = std::vector< Deed >; // in the order of their first operations
 
-void add( Deeds & deeds, Journal::Row const & row ) {
+void add( Deeds & deeds, Simulator::Row const & row ) {
    auto found = std::ranges::find_if(
       deeds, [&]( Deed const & deed ) { return deed.function == row.function && deed.cause == row.cause; } );
    if ( found == deeds.end() ) {
       found = deeds.insert( found, { row.function, row.cause, {} } );
    }
-   bool const isControl = row.kind == Journal::Kind::control;
+   bool const isControl = row.kind == Simulator::Row::Kind::control;
    found->tables.insert( isControl ? "controls" : std::string( row.table ) );
-   found->reads += row.kind == Journal::Kind::read;
-   found->writes += row.kind == Journal::Kind::write;
-   found->changes += row.kind == Journal::Kind::write && row.changed;
+   found->reads += row.kind == Simulator::Row::Kind::read;
+   found->writes += row.kind == Simulator::Row::Kind::write;
+   found->changes += row.kind == Simulator::Row::Kind::write && row.changed;
    found->controls += isControl;
 }
 
@@ -52,19 +52,6 @@ Value deedsValue( Deeds const & deeds ) {
       list.emplace_back( std::move( one ) );
    }
    return list;
-}
-
-void addGateList( Value::List & list, std::vector< Journal::Gate > const & gates ) {
-   for ( Journal::Gate const & gate : gates ) {
-      Value::Object one;
-      one["function"] = std::string( gate.function );
-      one["source"] = std::string( gate.source );
-      one["reason"] = std::string( gate.reason );
-      one["fap"] = gate.fap ? Value( *gate.fap ) : Value();
-      one["event"] = gate.event;
-      one["cause"] = std::string( gate.cause );
-      list.emplace_back( std::move( one ) );
-   }
 }
 
 } // namespace
@@ -104,19 +91,28 @@ Value togglesValue() {
    return toggles;
 }
 
-void addGates( Value::List & list, Journal::Row const & row ) {
-   addGateList( list, row.gates );
-   addGateList( list, row.gatesAfter );
+void addGate( Value::List & list, Row const & row ) {
+   if ( row.kind != Row::Kind::gate ) {
+      return;
+   }
+   Value::Object one;
+   one["function"] = std::string( row.function );
+   one["source"] = std::string( row.source );
+   one["reason"] = std::string( row.reason );
+   one["fap"] = row.isOfFap ? Value( row.fap ) : Value();
+   one["event"] = row.event;
+   one["cause"] = std::string( row.cause );
+   list.emplace_back( std::move( one ) );
 }
 
-Value runValue( Scenario const & scenario, Simulator::SimulatedSwitch const & sw ) {
+Value runValue( Scenario const & scenario, Simulator::SimulatedSwitch const & sw, KeptRows const & rows ) {
    std::vector< std::map< U16, Deeds > > byEvent( scenario.events.size() + 1 );
    Value::List gates;
-   Journal const & journal = sw.journal();
-   for ( std::size_t index = 0; index < journal.size(); ++index ) {
-      Journal::Row const row = journal.row( index );
-      add( byEvent[row.event][row.fap], row );
-      addGates( gates, row );
+   for ( Row const & row : rows.all() ) {
+      if ( row.isOperation() ) {
+         add( byEvent[row.event][row.fap], row );
+      }
+      addGate( gates, row );
    }
    Value::List events;
    for ( std::size_t event = 0; event < byEvent.size(); ++event ) {

@@ -33,21 +33,14 @@ std::string ServedFap::remedy() const {
    return text;
 }
 
-void ServedFaps::follow( Simulator::Journal::Row const & row ) {
-   if ( row.cause == chipInit ) {
+void ServedFaps::follow( Simulator::Row const & row ) {
+   if ( row.cause != chipInit || !row.isOfFap ) {
+      return;
+   }
+   if ( row.isOperation() ) {
       initialised_.insert( row.fap );
-   }
-   for ( auto const & gate : row.gates ) {
-      follow( gate );
-   }
-   for ( auto const & gate : row.gatesAfter ) {
-      follow( gate );
-   }
-}
-
-void ServedFaps::follow( Simulator::Journal::Gate const & gate ) {
-   if ( gate.cause == chipInit && gate.fap ) {
-      reasons_.emplace( *gate.fap, gate.reason );
+   } else if ( row.kind == Simulator::Row::Kind::gate ) {
+      reasons_.emplace( row.fap, row.reason );
    }
 }
 

@@ -2,13 +2,13 @@
 // done and by the gates that were found closed at chip initialisation, by no rule of this program's own.
 //
 //    ServedFaps faps;
-//    for ( Journal::Row const & row : rows ) { faps.follow( row ); }
+//    for ( Simulator::Row const & row : rows ) { faps.follow( row ); }
 //    faps.of( 0 ).reason;                // "FAP type 3 is not served while the toggles ... are on"
 //    faps.of( 0 ).remedy();              // "--toggle Dace.json:ArmOrderedSwTable=off opens it, as does ..."
 #pragma once
 
 #include "inspection/Toggles.h"
-#include "simulator/Journal.h"
+#include "simulator/Row.h"
 
 #include <map>
 #include <set>
@@ -33,11 +33,10 @@ struct ServedFap {
 
 class ServedFaps {
  public:
-   void follow( Simulator::Journal::Row const & row );
+   void follow( Simulator::Row const & row );
    ServedFap of( U16 fap ) const;
 
  private:
-   void follow( Simulator::Journal::Gate const & gate );
    std::set< U16 > initialised_;
    std::map< U16, std::string > reasons_; // of the gate that was closed for it
 };

@@ -65,6 +65,10 @@ class Chip {
    // Returns whether the value became different by it; the first value of a control always does.
    bool controlIs( U32 control, U32 value );
    std::map< U32, U32 > const & controls() const { return controls_; }
+   std::optional< U32 > control( U32 control ) const {
+      auto const found = controls_.find( control );
+      return found == controls_.end() ? std::nullopt : std::optional( found->second );
+   }
 
    // Contents that no program wrote: gives every copy of the entry at `at` (in any of its blocks) the words.
    void fill( SchanAddress const & at, std::span< U32 const > words );

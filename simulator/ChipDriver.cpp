@@ -30,6 +30,17 @@ bool ChipDriver::write( ChipId id, SchanAddress const & at, std::span< U32 const
    return served( id ).write( at, words );
 }
 
+bool ChipDriver::exchange( ChipId id, SchanAddress const & at, std::span< U32 const > words, std::span< U32 > before ) {
+   Chip & chip = served( id );
+   chip.read( at, before );
+   return chip.write( at, words );
+}
+
+std::optional< U32 > ChipDriver::controlValue( ChipId id, U32 control ) const {
+   Chip const * const it = chip( id );
+   return it ? it->control( control ) : std::nullopt;
+}
+
 bool ChipDriver::control( ChipId id, U32 control, U32 value ) {
    return served( id ).controlIs( control, value );
 }

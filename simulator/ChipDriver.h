@@ -26,7 +26,9 @@ class ChipDriver final : public DaceSal::SchanDriver {
 
    void read( ChipId id, SchanAddress const & at, std::span< U32 > words ) override;
    bool write( ChipId id, SchanAddress const & at, std::span< U32 const > words ) override;
+   bool exchange( ChipId id, SchanAddress const & at, std::span< U32 const > words, std::span< U32 > before ) override;
    bool control( ChipId id, U32 control, U32 value ) override;
+   std::optional< U32 > controlValue( ChipId id, U32 control ) const override;
 
  private:
    Chip & served( ChipId id ) {

@@ -1,95 +1,17 @@
 #include "simulator/Journal.h"
 
-#include "generated/Catalogue.h"
 #include "rex/Assert.h"
+#include "rex/Entity.h"
 #include "simulator/FunctionName.h"
 
-#include <algorithm>
-#include <array>
-#include <cerrno>
-#include <charconv>
-#include <cstring>
-#include <stdexcept>
 #include <utility>
 
 namespace Simulator {
 
 namespace {
 
-constexpr std::size_t flushBytes = 1 << 20; // of text, at most, before it goes to the file
-
-// Parts of a line.
-void add( std::string & line, std::string_view text ) {
-   line += text;
-}
-void add( std::string & line, bool value ) {
-   line += value ? "true" : "false";
-}
-template< std::integral Number >
-void add( std::string & line, Number number ) {
-   std::array< char, 24 > digits;
-   auto const end = std::to_chars( digits.begin(), digits.end(), number ).ptr;
-   line.append( digits.begin(), end );
-}
-
-// A string of JSON, with its quotes.
-void addQuoted( std::string & line, std::string_view text ) {
-   constexpr char digits[] = "0123456789abcdef";
-   line += '"';
-   for ( char const letter : text ) {
-      auto const code = static_cast< unsigned char >( letter );
-      if ( letter == '"' || letter == '\\' ) {
-         line += '\\';
-         line += letter;
-      } else if ( code < 0x20 ) {
-         line += "\\u00";
-         line += digits[code >> 4];
-         line += digits[code & 15];
-      } else {
-         line += letter;
-      }
-   }
-   line += '"';
-}
-
-void addWord( std::string & line, U32 word ) {
-   constexpr char digits[] = "0123456789abcdef";
-   line += "\"0x";
-   for ( int shift = 28; shift >= 0; shift -= 4 ) {
-      line += digits[word >> shift & 15];
-   }
-   line += '"';
-}
-
-void addGates( std::string & line, std::vector< Journal::Gate > const & gates ) {
-   char const * separator = "[{\"function\": ";
-   for ( Journal::Gate const & gate : gates ) {
-      line += separator;
-      separator = ", {\"function\": ";
-      addQuoted( line, gate.function );
-      line += ", \"source\": ";
-      addQuoted( line, gate.source );
-      line += ", \"reason\": ";
-      addQuoted( line, gate.reason );
-      if ( gate.fap ) {
-         line += ", \"fap\": ";
-         add( line, *gate.fap );
-      }
-      line += ", \"event\": ";
-      add( line, gate.event );
-      line += ", \"cause\": ";
-      addQuoted( line, gate.cause );
-      line += "}";
-   }
-   line += "]";
-}
-
-constexpr std::string_view kindNames[] = { "read", "write", "control" };
-constexpr std::string_view scopeNames[] = { "any", "all", "core" };
-
-std::string fileError( std::string const & path ) {
-   return path + ": " + std::strerror( errno );
-}
+constexpr std::size_t mostVariants = 4; // of a table
+constexpr std::size_t blockWords = 1 << 15;
 
 } // namespace
 
@@ -98,96 +20,204 @@ std::size_t Journal::OriginHash::operator()( OriginKey const & key ) const {
    return hash( key.function ) ^ hash( key.file ) * 3 ^ key.line * std::size_t{ 0x9e3779b97f4a7c15 };
 }
 
-Journal::Journal( std::function< std::string() > cause ) : cause_( std::move( cause ) ) {
-   failureHook_ = Rex::atFailure( [this] { flushAtFailure(); } );
+U32 const * Journal::WordStore::keep( std::span< U32 const > words, std::span< U32 const > before ) {
+   std::size_t const size = words.size() + before.size();
+   if ( blocks_.empty() || blocks_.back().capacity() - blocks_.back().size() < size ) {
+      blocks_.emplace_back().reserve( std::max( blockWords, size ) );
+   }
+   auto & block = blocks_.back();
+   U32 const * const kept = block.data() + block.size();
+   block.insert( block.end(), words.begin(), words.end() );
+   block.insert( block.end(), before.begin(), before.end() );
+   return kept;
+}
+
+void Journal::WordStore::forget() {
+   blocks_.resize( std::min< std::size_t >( blocks_.size(), 1 ) );
+   if ( !blocks_.empty() ) {
+      blocks_.front().clear();
+   }
+}
+
+Journal::Journal( Knowledge knowledge )
+   : knowledge_( std::move( knowledge ) ), what_( Rex::Value::Object{ { "start", Rex::Value::Object{} } } ) {
+   failureHook_ = Rex::atFailure( [this] { failed(); } );
 }
 
 Journal::~Journal() {
    Rex::failureHookDel( failureHook_ );
+   hearsNoMore();
+}
+
+void Journal::listens() {
+   DaceSal::operationListenerIs( this );
+   Rex::gateListenerIs( this );
+   Rex::writeListenerIs( knowledge_.pathOf ? this : nullptr );
+}
+
+void Journal::hearsNoMore() {
    if ( DaceSal::operationListener() == this ) {
       DaceSal::operationListenerIs( nullptr );
    }
    if ( Rex::gateListener() == this ) {
       Rex::gateListenerIs( nullptr );
    }
-   flushAtFailure();
-   if ( file_ ) {
-      std::fclose( file_ );
+   if ( Rex::writeListener() == this ) {
+      Rex::writeListenerIs( nullptr );
    }
 }
 
-void Journal::fileIs( std::string const & path ) {
-   std::FILE * const file = std::fopen( path.c_str(), "w" );
-   if ( !file ) {
-      throw std::runtime_error( fileError( path ) );
+void Journal::chipIs( U16 fap, Hardware::ChipType chipType ) {
+   if ( layouts_.size() <= fap ) {
+      layouts_.resize( fap + 1u );
    }
-   if ( file_ ) {
-      std::fclose( file_ );
+   Layouts & layouts = layouts_[fap];
+   layouts.assign( Catalogue::tables().size() * mostVariants, nullptr );
+   for ( Catalogue::Table const & table : Catalogue::tables() ) {
+      for ( Catalogue::Layout const & layout : table.layouts ) {
+         if ( layout.chipType == static_cast< U8 >( chipType ) ) {
+            layouts[table.number * mostVariants + layout.variant] = &layout;
+         }
+      }
    }
-   file_ = file;
-   path_ = path;
-   flushed_ = 0;
-   toldAhead_ = 0;
 }
 
-void Journal::flush() {
-   if ( !file_ ) {
+// ---- events
+
+void Journal::eventBegins( U32 event, Rex::Value what ) {
+   event_ = event;
+   what_ = std::move( what );
+}
+
+void Journal::eventIsDropped() {
+   --event_;
+}
+
+void Journal::eventEnds() {
+   handOver();
+   for ( RowReader * const reader : readers_ ) {
+      reader->eventEnds( event_ );
+   }
+   forget();
+}
+
+void Journal::handOver() {
+   for ( RowReader * const reader : readers_ ) {
+      reader->eventBegins( event_, what_ );
+   }
+   if ( readers_.empty() ) {
+      handedOver_ = records_.size();
+   }
+   while ( handedOver_ < records_.size() ) {
+      Row const next = row( records_[handedOver_++] );
+      for ( RowReader * const reader : readers_ ) {
+         reader->row( next );
+      }
+   }
+}
+
+void Journal::forget() {
+   if ( isKept_ ) {
       return;
    }
-   std::string text;
-   while ( flushed_ < records_.size() ) {
-      text.clear();
-      for ( ; flushed_ < records_.size() && text.size() < flushBytes; ++flushed_ ) {
-         Row next = row( flushed_ );
-         next.gates.erase( next.gates.begin(), next.gates.begin() + toldAhead_ );
-         toldAhead_ = static_cast< std::ptrdiff_t >( next.gatesAfter.size() );
-         text += json( next );
-         text += '\n';
-      }
-      if ( std::fwrite( text.data(), 1, text.size(), file_ ) != text.size() ) {
-         giveUpFile();
+   records_.clear();
+   words_.forget();
+   reasons_.clear();
+   publications_.clear();
+   handedOver_ = 0;
+}
+
+void Journal::ends( Ending::Kind kind ) {
+   if ( std::exchange( hasEnded_, true ) ) {
+      return;
+   }
+   Ending ending{ .kind = kind, .events = event_, .operations = operations_ };
+   if ( auto const * failure = Rex::failure(); failure && kind == Ending::Kind::assertion ) {
+      ending.text = failure->text;
+      ending.function = functionName( failure->function );
+      if ( !failure->file.empty() ) {
+         ending.source = std::string( fileName( failure->file ) ) + ":" + std::to_string( failure->line );
       }
    }
-   if ( std::fflush( file_ ) != 0 ) {
-      giveUpFile();
+   for ( RowReader * const reader : readers_ ) {
+      reader->ends( ending );
    }
 }
 
-// It is told once: what follows goes nowhere.
-void Journal::giveUpFile() {
-   std::string const error = fileError( path_ );
-   std::fclose( std::exchange( file_, nullptr ) );
-   throw std::runtime_error( error );
-}
-
-// Nobody is left to hear of a file that can't be written but the one who reads standard error.
-void Journal::flushAtFailure() {
+// Nobody is left to hear of a reader's trouble but the one who reads standard error.
+void Journal::failed() {
+   if ( hasEnded_ ) {
+      return;
+   }
    try {
-      flush();
+      handOver();
+      ends( Ending::Kind::assertion );
    } catch ( std::exception const & error ) {
       std::fprintf( stderr, "%s\n", error.what() );
    }
 }
 
+// ---- what is heard
+
+Journal::Record Journal::recordOf( Kind kind, U32 origin ) {
+   Record record{};
+   record.kind = kind;
+   record.event = event_;
+   record.origin = origin;
+   record.cause = causeNumber( knowledge_.cause() );
+   return record;
+}
+
 void Journal::operation( DaceSal::Operation const & operation ) {
-   bool const isControl = operation.kind == Kind::control;
-   records_.push_back( Record{ .words = words_.size(),
-                               .event = event_,
-                               .origin = originNumber( operation.origin ),
-                               .cause = causeNumber( cause_() ),
-                               .entryOrControl = isControl ? operation.controlNumber : operation.entry,
-                               .value = operation.controlValue,
-                               .array = operation.arrayIndex,
-                               .core = operation.core,
-                               .fap = operation.chip.value,
-                               .table = operation.table,
-                               .width = static_cast< U16 >( operation.words.size() ),
-                               .variant = operation.variant,
-                               .kind = operation.kind,
-                               .scope = operation.scope,
-                               .changed = operation.changed,
-                               .isRegister = operation.isRegister } );
-   words_.insert( words_.end(), operation.words.begin(), operation.words.end() );
+   using enum DaceSal::Operation::Kind;
+   Kind const kind = operation.kind == read ? Kind::read : operation.kind == write ? Kind::write : Kind::control;
+   Record record = recordOf( kind, originNumber( operation.origin ) );
+   record.seq = ++operations_;
+   record.isOfFap = true;
+   record.fap = operation.chip.value;
+   record.changed = operation.changed;
+   if ( kind == Kind::control ) {
+      record.entryOrControl = operation.controlNumber;
+      record.value = operation.controlValue;
+      record.hasBefore = operation.controlBefore.has_value();
+      record.valueBefore = operation.controlBefore.value_or( 0 );
+   } else {
+      record.words = words_.keep( operation.words, operation.before );
+      record.width = static_cast< U16 >( operation.words.size() );
+      record.hasBefore = !operation.before.empty();
+      record.entryOrControl = operation.entry;
+      record.isRegister = operation.isRegister;
+      record.table = operation.table;
+      record.variant = operation.variant;
+      record.array = operation.arrayIndex;
+      record.scope = operation.scope;
+      record.core = operation.core;
+   }
+   records_.push_back( record );
+}
+
+void Journal::gateClosed( Rex::ClosedGate const & gate ) {
+   Record record = recordOf( Kind::gate, originNumber( gate.origin ) );
+   record.reason = &reasons_.emplace_back( gate.reason );
+   record.isOfFap = gate.fap.has_value();
+   record.fap = gate.fap.value_or( 0 );
+   records_.push_back( record );
+}
+
+bool Journal::follows( Rex::Entity const & entity ) {
+   followed_ = knowledge_.pathOf( entity );
+   return !followed_.empty();
+}
+
+void Journal::written( Rex::Write const & write ) {
+   Record record = recordOf( Kind::publish, 0 );
+   record.publication =
+      &publications_.emplace_back( Publication{ .path = knowledge_.pathOf( write.entity ),
+                                                .attribute = write.attribute.name,
+                                                .key = write.key.empty() ? std::nullopt : std::optional( write.key ),
+                                                .before = write.before,
+                                                .after = write.after } );
+   records_.push_back( record );
 }
 
 U32 Journal::originNumber( std::source_location const & at ) {
@@ -211,137 +241,70 @@ U32 Journal::causeNumber( std::string cause ) {
    return latestCause_ = known->second;
 }
 
-void Journal::chipIs( U16 fap, Hardware::ChipType chipType ) {
-   chips_[fap] = Hardware::chipTypeName( chipType );
-}
+// ---- rows
 
-void Journal::gateClosed( Rex::ClosedGate const & gate ) {
-   gates_.push_back( GateRecord{ .before = records_.size(),
-                                 .origin = originNumber( gate.origin ),
-                                 .cause = causeNumber( cause_() ),
-                                 .event = event_,
-                                 .reason = std::string( gate.reason ),
-                                 .fap = gate.fap } );
-}
-
-std::vector< Journal::Gate > Journal::gatesBefore( std::size_t operation ) const {
-   std::vector< Gate > gates;
-   for ( GateRecord const & record : std::ranges::equal_range( gates_, operation, {}, &GateRecord::before ) ) {
-      gates.push_back( Gate{ .function = origins_[record.origin].function,
-                             .source = origins_[record.origin].source,
-                             .reason = record.reason,
-                             .fap = record.fap,
-                             .event = record.event,
-                             .cause = *causes_[record.cause] } );
+Row Journal::row( Record const & record ) const {
+   Row row{ .kind = record.kind, .event = record.event, .seq = record.seq };
+   row.cause = *causes_[record.cause];
+   row.causeNumber = record.cause;
+   row.isOfFap = record.isOfFap;
+   row.fap = record.fap;
+   if ( record.kind == Kind::publish ) {
+      Publication const & publication = *record.publication;
+      row.path = publication.path;
+      row.attribute = publication.attribute;
+      row.key = publication.key;
+      row.publishedBefore = &publication.before;
+      row.published = &publication.after;
+      return row;
    }
-   return gates;
-}
-
-Journal::Row Journal::row( std::size_t index ) const {
-   Record const & record = records_[index];
-   bool const isControl = record.kind == Kind::control;
-   U32 const * const words = words_.data() + record.words;
-   Row row{ .seq = index + 1,
-            .event = record.event,
-            .kind = record.kind,
-            .fap = record.fap,
-            .function = origins_[record.origin].function,
-            .source = origins_[record.origin].source,
-            .cause = *causes_[record.cause],
-            .changed = record.changed,
-            .table = {},
-            .variant = record.variant,
-            .array = record.array,
-            .entry = std::nullopt,
-            .scope = record.scope,
-            .core = record.core,
-            .words = { words, words + record.width },
-            .control = isControl ? record.entryOrControl : 0,
-            .value = record.value };
-   if ( !isControl ) {
+   row.function = origins_[record.origin].function;
+   row.source = origins_[record.origin].source;
+   row.originNumber = record.origin;
+   row.changed = record.changed;
+   switch ( record.kind ) {
+   case Kind::gate:
+      row.reason = *record.reason;
+      break;
+   case Kind::control:
+      row.control = record.entryOrControl;
+      row.value = record.value;
+      row.valueBefore = record.hasBefore ? std::optional( record.valueBefore ) : std::nullopt;
+      break;
+   case Kind::read:
+   case Kind::write:
+      row.tableNumber = record.table;
       row.table = Catalogue::tables()[record.table].name;
-      if ( !record.isRegister ) {
-         row.entry = record.entryOrControl;
-      }
-   }
-   if ( auto const chip = chips_.find( record.fap ); chip != chips_.end() ) {
-      row.chip = chip->second;
-   }
-   row.gates = gatesBefore( index );
-   if ( index + 1 == records_.size() ) {
-      row.gatesAfter = gatesBefore( index + 1 );
+      row.layout = record.fap < layouts_.size() && !layouts_[record.fap].empty()
+                      ? layouts_[record.fap][record.table * mostVariants + record.variant]
+                      : nullptr;
+      row.variant = record.variant;
+      row.array = record.array;
+      row.entry = record.isRegister ? std::nullopt : std::optional( record.entryOrControl );
+      row.scope = record.scope;
+      row.core = record.core;
+      row.words = { record.words, record.width };
+      row.before = { record.words + record.width, record.hasBefore ? record.width : 0u };
+      break;
+   case Kind::publish:
+      break;
    }
    return row;
 }
 
-std::vector< Journal::Row > Journal::rows() const {
+std::vector< Row > Journal::rows() const {
    std::vector< Row > all;
-   all.reserve( size() );
-   for ( std::size_t index = 0; index < size(); ++index ) {
-      all.push_back( row( index ) );
+   all.reserve( records_.size() );
+   for ( Record const & record : records_ ) {
+      all.push_back( row( record ) );
    }
    return all;
 }
 
-std::string Journal::json( Row const & row ) {
-   std::string line;
-   line.reserve( 320 );
-   auto const key = [&line]( std::string_view name, auto const & value ) {
-      line += line.empty() ? "{\"" : ", \"";
-      line += name;
-      line += "\": ";
-      add( line, value );
-   };
-   auto const text = [&]( std::string_view name, std::string_view value ) {
-      key( name, std::string_view{} );
-      addQuoted( line, value );
-   };
-
-   key( "seq", row.seq );
-   key( "event", row.event );
-   text( "op", kindNames[static_cast< std::size_t >( row.kind )] );
-   key( "fap", row.fap );
-   if ( row.kind == Kind::control ) {
-      key( "control", row.control );
-      key( "value", row.value );
-   } else {
-      text( "table", row.table );
-      key( "variant", row.variant );
-      key( "array", row.array );
-      if ( row.entry ) {
-         key( "entry", *row.entry );
-      } else {
-         key( "entry", std::string_view( "null" ) );
-      }
-      text( "scope", scopeNames[static_cast< std::size_t >( row.scope )] );
-      if ( row.scope == Scope::core ) {
-         key( "core", row.core );
-      }
-      key( "words", std::string_view( "[" ) );
-      for ( std::size_t word = 0; word < row.words.size(); ++word ) {
-         line += word == 0 ? "" : ", ";
-         addWord( line, row.words[word] );
-      }
-      line += ']';
-   }
-   if ( row.kind != Kind::read ) {
-      key( "changed", row.changed );
-   }
-   text( "function", row.function );
-   text( "source", row.source );
-   text( "cause", row.cause );
-   if ( row.chip ) {
-      text( "chip", row.chip );
-   }
-   for ( auto const & [name, gates] :
-         { std::pair( "gates", &row.gates ), std::pair( "gatesAfter", &row.gatesAfter ) } ) {
-      if ( !gates->empty() ) {
-         key( name, std::string_view{} );
-         addGates( line, *gates );
-      }
-   }
-   line += '}';
-   return line;
+std::vector< Row > Journal::operations() const {
+   auto all = rows();
+   std::erase_if( all, []( Row const & row ) { return !row.isOperation(); } );
+   return all;
 }
 
 } // namespace Simulator

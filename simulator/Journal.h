@@ -1,108 +1,84 @@
-// The journal: every driver operation, reads included, with the function, the place in the source and the cause that
-// made it.
+// The journal of a switch under way: hears of every driver operation, of every gate that was found closed (rex/Gate.h)
+// and of every value that is published (rex/WriteListener.h), and hands them, event by event, to those who read along.
 //
-//    Journal journal{ [&] { return switch.cause(); } };
-//    journal.fileIs( "journal.jsonl" );
-//    DaceSal::operationListenerIs( &journal );
+//    Journal journal{ { .cause = [&] { return switch.cause(); }, .pathOf = … } };
+//    journal.readerAdd( writer );                  // hears of each event when it is over
+//    journal.eventBegins( 1, what );
 //    ...
-//    for ( Journal::Row const & row : journal.rows() ) { ... }
+//    journal.eventEnds();                          // the readers have its rows now, and the journal forgets them
+//    journal.ends( Ending::Kind::complete );
 //
-// A gate that a function of the plug-in found closed (rex/Gate.h) is told with the next operation, or with the last one
-// where none follows.
+// An operation costs a short binary record; text is made by readers, when the event is over. When the process fails,
+// the readers are handed what there is of the event under way, and an Ending that tells what has failed.
 //
-// An operation costs a short binary record; text is made when the journal is flushed: when the owner says so, when the
-// journal ends, and when the process fails, so that the file is complete up to the last operation. The names of
-// functions and files are copied when they are first seen: a journal outlives the plug-in that it tells of.
+//    journal.rowsAreKept();                        // for tests: nothing is forgotten
+//    for ( Row const & row : journal.operations() ) { ... }
+//
+// The names of functions and files are copied when they are first seen: a journal outlives the plug-in that it tells
+// of, and what its rows refer to stays as long as they are kept.
 //
 // Threading: the agent's scheduler thread.
 #pragma once
 
 #include "constants/ChipType.h"
 #include "rex/Gate.h"
-#include "sal/Driver.h"
+#include "rex/WriteListener.h"
+#include "simulator/Row.h"
 
-#include <cstdio>
 #include <deque>
 #include <functional>
 #include <map>
-#include <optional>
-#include <string>
 #include <unordered_map>
-#include <vector>
 
 namespace Simulator {
 
-class Journal final : public DaceSal::OperationListener, public Rex::GateListener {
+class Journal final : public DaceSal::OperationListener, public Rex::GateListener, public Rex::WriteListener {
  public:
-   using Kind = DaceSal::Operation::Kind;
-   using Scope = DaceSal::Operation::Scope;
+   using Kind = Row::Kind;
+   using Scope = Row::Scope;
 
-   // A condition that kept a function from running. Its names are the journal's.
-   struct Gate {
-      std::string_view function;
-      std::string_view source;
-      std::string_view reason;
-      std::optional< U16 > fap;
-      U32 event;
-      std::string_view cause;
+   struct Knowledge {
+      std::function< std::string() > cause; // what is being dispatched; asked at each row
+      // The path of an entity whose values are published; empty for others. None: nothing is published.
+      std::function< std::string( Rex::Entity const & ) > pathOf = {};
    };
 
-   // One operation. Its names are the journal's: valid while the journal is.
-   struct Row {
-      U64 seq; // from 1
-      U32 event;
-      Kind kind;
-      U16 fap;
-      std::string_view function;
-      std::string_view source; // file and line
-      std::string_view cause;
-      bool changed; // reads: false
-
-      // Reads and writes.
-      std::string_view table;
-      U8 variant;
-      int array;
-      std::optional< U32 > entry; // none for a register
-      Scope scope;
-      int core; // with Scope::core
-      std::vector< U32 > words;
-
-      // Controls.
-      U32 control;
-      U32 value;
-
-      char const * chip = nullptr;         // kind of chip, where the journal was told
-      std::vector< Gate > gates = {};      // found closed since the operation before
-      std::vector< Gate > gatesAfter = {}; // the last operation: those found closed since
-   };
-
-   // `cause` tells what is being dispatched; it is asked at each operation.
-   explicit Journal( std::function< std::string() > cause );
+   explicit Journal( Knowledge knowledge );
    ~Journal() override;
    Journal( Journal const & ) = delete;
    Journal & operator=( Journal const & ) = delete;
 
-   // The number of the event that what follows belongs to; 0 at the start.
-   void eventIs( U32 event ) { event_ = event; }
+   // Hears what happens in the process from now on; idempotent.
+   void listens();
+   void hearsNoMore();
 
-   // What kind of chip a FAP is, so that a reader can decode the words of its operations.
+   // What kind of chip a FAP is, so that its rows have their layout.
    void chipIs( U16 fap, Hardware::ChipType chipType );
 
-   // Writes the journal to a file, one JSON object a line, at each flush from now on. A file that can't be made:
-   // std::runtime_error, "<path>: <reason>".
-   void fileIs( std::string const & path );
-   // Brings the rows since the last flush to the file. A file that can't be written: std::runtime_error.
-   void flush();
+   // A reader hears of what ends from now on; it outlives the journal, or is taken out.
+   void readerAdd( RowReader & reader ) { readers_.push_back( &reader ); }
+   void readerDel( RowReader & reader ) { std::erase( readers_, &reader ); }
 
-   std::size_t size() const { return records_.size(); }
-   Row row( std::size_t index ) const;
+   void eventBegins( U32 event, Rex::Value what );
+   void eventEnds();
+   // As if it had never begun.
+   void eventIsDropped();
+   U32 event() const { return event_; }
+   U64 operationCount() const { return operations_; }
+   // The run is over; idempotent.
+   void ends( Ending::Kind kind );
+
+   // Rows are kept from now on.
+   void rowsAreKept() { isKept_ = true; }
+   // The rows that are kept, or those of the event under way.
    std::vector< Row > rows() const;
-
-   // The row as a line of the file, without the line's end.
-   static std::string json( Row const & row );
+   // Those of them that are driver operations.
+   std::vector< Row > operations() const;
 
    void operation( DaceSal::Operation const & operation ) override;
    void gateClosed( Rex::ClosedGate const & gate ) override;
+   bool follows( Rex::Entity const & entity ) override;
+   void written( Rex::Write const & write ) override;
 
  private:
    struct Origin {
@@ -118,14 +94,27 @@ class Journal final : public DaceSal::OperationListener, public Rex::GateListene
    struct OriginHash {
       std::size_t operator()( OriginKey const & key ) const;
    };
-   // An operation as it is kept. What is only there for some kinds shares its place with what the others have.
+   struct Publication {
+      std::string path;
+      std::string_view attribute;
+      std::optional< std::string > key;
+      Rex::Value before;
+      Rex::Value after;
+   };
+   // A row as it is kept. What is only there for some kinds shares its place with what the others have.
    struct Record {
-      std::size_t words; // index of the first, among the words of all
+      union {
+         U32 const * words; // and behind them those that stood there before
+         std::string const * reason;
+         Publication const * publication;
+      };
+      U64 seq;
       U32 event;
       U32 origin;
       U32 cause;
       U32 entryOrControl;
       U32 value;
+      U32 valueBefore;
       int array;
       int core;
       U16 fap;
@@ -136,40 +125,49 @@ class Journal final : public DaceSal::OperationListener, public Rex::GateListene
       Scope scope;
       bool changed;
       bool isRegister;
+      bool hasBefore;
+      bool isOfFap;
    };
+   // Words of rows, which stay where they are until all are forgotten.
+   class WordStore {
+    public:
+      U32 const * keep( std::span< U32 const > words, std::span< U32 const > before );
+      void forget();
 
-   struct GateRecord {
-      std::size_t before; // index of the operation that follows
-      U32 origin;
-      U32 cause;
-      U32 event;
-      std::string reason;
-      std::optional< U16 > fap;
+    private:
+      std::deque< std::vector< U32 > > blocks_;
    };
+   using Layouts = std::vector< Catalogue::Layout const * >; // of one kind of chip, by table and variant
 
-   // The gates that were found closed just before an operation.
-   std::vector< Gate > gatesBefore( std::size_t operation ) const;
+   Record recordOf( Kind kind, U32 origin );
    U32 originNumber( std::source_location const & at );
    U32 causeNumber( std::string cause );
-   [[noreturn]] void giveUpFile();
-   void flushAtFailure();
+   Row row( Record const & record ) const;
+   void handOver();
+   void forget();
+   void failed();
 
-   std::function< std::string() > cause_;
+   Knowledge knowledge_;
    U32 event_ = 0;
+   U64 operations_ = 0;
+   std::vector< RowReader * > readers_;
+   bool isKept_ = false;
+   bool hasEnded_ = false;
+   Rex::Value what_;            // the event under way
+   std::size_t handedOver_ = 0; // rows of events that are over
+
    std::vector< Record > records_;
-   std::vector< U32 > words_;
+   WordStore words_;
+   std::deque< std::string > reasons_;
+   std::deque< Publication > publications_;
+
    std::deque< Origin > origins_;
    std::unordered_map< OriginKey, U32, OriginHash > originNumbers_;
    std::vector< std::string const * > causes_; // the keys of the numbers
    std::map< std::string, U32 > causeNumbers_;
    U32 latestCause_ = 0;
-   std::deque< GateRecord > gates_; // in order
-   std::map< U16, char const * > chips_;
-
-   std::FILE * file_ = nullptr;
-   std::string path_;
-   std::size_t flushed_ = 0;      // rows
-   std::ptrdiff_t toldAhead_ = 0; // gates before the next row that stand in the file already
+   std::vector< Layouts > layouts_; // by FAP
+   std::string followed_;           // the path of the entity that was asked about last
    int failureHook_ = 0;
 };
 

@@ -1,5 +1,6 @@
 #include "simulator/SimulatedSwitch.h"
 
+#include "interface/ManagedIntfStatusDir.h"
 #include "simulator/TableMap.h"
 
 #include <dlfcn.h>
@@ -37,6 +38,11 @@ SwitchDescription checked( SwitchDescription description ) {
    return description;
 }
 
+// An event, as a scenario has it.
+Rex::Value eventOf( char const * kind, Rex::Value::Object const & what ) {
+   return Rex::Value::Object{ { kind, what } };
+}
+
 } // namespace
 
 void loadPlugin( std::string const & path ) {
@@ -47,7 +53,9 @@ void loadPlugin( std::string const & path ) {
 }
 
 SimulatedSwitch::SimulatedSwitch( SwitchDescription description )
-   : description_( checked( std::move( description ) ) ), journal_( [this] { return cause(); } ),
+   : description_( checked( std::move( description ) ) ),
+     journal_( { .cause = [this] { return cause(); },
+                 .pathOf = [this]( Rex::Entity const & entity ) { return publishedPath( entity ); } } ),
      scheduler_( makePtr< Orb::TaskScheduler >() ),
      entityManager_( makePtr< Stordb::EntityManager >( state_.database(), scheduler_ ) ),
      context_( makePtr< Agent::MounterPlugin::MounterContext >( entityManager_, state_.shared() ) ) {
@@ -55,9 +63,12 @@ SimulatedSwitch::SimulatedSwitch( SwitchDescription description )
    shareObjects();
    publishCell();
    DaceSal::schanDriverIs( &driver_ );
-   if ( description_.journalled ) {
-      DaceSal::operationListenerIs( &journal_ );
-      Rex::gateListenerIs( &journal_ );
+   using enum SwitchDescription::Journalled;
+   if ( description_.journalled == kept ) {
+      journal_.rowsAreKept();
+   }
+   if ( description_.journalled != none ) {
+      journal_.listens();
    }
 }
 
@@ -136,10 +147,12 @@ void SimulatedSwitch::start() {
    initChips();
    auto const slice = entity< DaceFapNi::SliceSmStateInfo >( "shared/sliceSmStateData" );
    if ( slice && slice->sliceState() == sliceDown ) {
+      Corvo::Publisher::ForeignWrite const agents;
       slice->sliceStateIs( sliceUp );
    }
    scheduler_->runUntilIdle();
    phase_ = Phase::running;
+   journal_.eventEnds();
 }
 
 void SimulatedSwitch::initChips() {
@@ -161,56 +174,61 @@ void SimulatedSwitch::stop() {
    phase_ = Phase::stopped;
    DaceFapNi::defaultPluginLoader().releasePlugins();
    scheduler_->clear();
-   if ( DaceSal::operationListener() == &journal_ ) {
-      DaceSal::operationListenerIs( nullptr );
-   }
-   if ( Rex::gateListener() == &journal_ ) {
-      Rex::gateListenerIs( nullptr );
-   }
+   journal_.hearsNoMore();
    DaceSal::schanDriverIs( nullptr );
 }
 
-void SimulatedSwitch::change( std::function< void() > const & what, std::string const & cause ) {
+void SimulatedSwitch::change( std::function< void() > const & what, std::string const & cause, Rex::Value event ) {
    bool const isEvent = phase_ == Phase::running;
    if ( isEvent ) {
       eventCause_ = cause;
-      journal_.eventIs( ++event_ );
+      journal_.eventBegins( ++event_, std::move( event ) );
    }
    try {
       Corvo::Publisher::ForeignWrite const foreign;
       what();
    } catch ( Rex::ValueError const & ) {
       if ( isEvent ) {
-         journal_.eventIs( --event_ );
+         --event_;
+         journal_.eventIsDropped();
       }
       throw;
    }
    if ( isEvent ) {
       scheduler_->runUntilIdle();
+      journal_.eventEnds();
    }
 }
 
 void SimulatedSwitch::set( std::string const & path, std::string const & attribute, Rex::Value const & value ) {
-   change( [&] { state_.attributeIs( path, attribute, value ); }, path + " " + attribute );
+   change( [&] { state_.attributeIs( path, attribute, value ); },
+           path + " " + attribute,
+           eventOf( "set", { { "path", path }, { "attribute", attribute }, { "value", value } } ) );
 }
 
 void SimulatedSwitch::setAttributes( std::string const & path, Rex::Value const & attributes ) {
-   change( [&] { state_.attributesIs( path, attributes ); }, path );
+   change( [&] { state_.attributesIs( path, attributes ); },
+           path,
+           eventOf( "set", { { "path", path }, { "value", attributes } } ) );
 }
 
 void SimulatedSwitch::setEntry( std::string const & path,
                                 std::string const & attribute,
                                 std::string const & key,
                                 Rex::Value const & value ) {
-   change( [&] { state_.entryIs( path, attribute, key, value ); }, path + " " + attribute );
+   change( [&] { state_.entryIs( path, attribute, key, value ); },
+           path + " " + attribute,
+           eventOf( "set", { { "path", path }, { "attribute", attribute }, { "key", key }, { "value", value } } ) );
 }
 
 void SimulatedSwitch::deleteEntry( std::string const & path, std::string const & attribute, std::string const & key ) {
-   change( [&] { state_.entryDel( path, attribute, key ); }, path + " " + attribute );
+   change( [&] { state_.entryDel( path, attribute, key ); },
+           path + " " + attribute,
+           eventOf( "delete", { { "path", path }, { "attribute", attribute }, { "key", key } } ) );
 }
 
 void SimulatedSwitch::deleteEntity( std::string const & path ) {
-   change( [&] { state_.entityDel( path ); }, path );
+   change( [&] { state_.entityDel( path ); }, path, eventOf( "delete", { { "path", path } } ) );
 }
 
 std::string SimulatedSwitch::cause() const {
@@ -223,6 +241,18 @@ std::string SimulatedSwitch::cause() const {
       }
    }
    return event_ == 0 ? "start" : eventCause_;
+}
+
+// What this agent makes for itself has no path in the tree, but for what it publishes.
+std::string SimulatedSwitch::publishedPath( Rex::Entity const & entity ) const {
+   if ( &entity == Interface::ManagedIntfStatusDir::newest() ) {
+      return "managed/intfStatusDir";
+   }
+   if ( &entity == Interface::ManagedIntfStatusLocalDir::newest() ) {
+      return "managed/intfStatusLocalDir";
+   }
+   auto const path = state_.pathOf( entity );
+   return StateTree::isMachinery( path ) ? std::string() : path;
 }
 
 std::string SimulatedSwitch::causeOf( Corvo::Notification const & notification ) const {

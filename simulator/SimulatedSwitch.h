@@ -5,7 +5,7 @@
 //    sw.start();                                                     // event 0; start( path ) loads a library first
 //    sw.set( "evpn/status", "evpnDciEnabled", true );                // event 1
 //    sw.change( [&] { sw.entity< Evpn::EvpnStatus >( "evpn/status" )->mplsEnabledIs( true ); } );   // event 2
-//    for ( Journal::Row const & row : sw.journal().rows() ) { ... }
+//    for ( Row const & row : sw.journal().operations() ) { ... }
 //    contentsOf( sw.chip( FapId( 0 ) ), ChipType::BCM88690_B0 );
 //
 // Life of a switch:
@@ -51,7 +51,9 @@ struct SwitchDescription {
    std::string sliceName = "Linecard1";
    std::vector< FapDescription > faps = {};
    Toggle::Settings toggles = {}; // what is not named has its default
-   bool journalled = true;        // false: no operation is recorded
+   // none: nothing is recorded; streamed: for the readers of the journal; kept: for journal().rows() as well.
+   enum class Journalled : U8 { none, streamed, kept };
+   Journalled journalled = Journalled::kept;
    BootNoise bootNoise = BootNoise::plain;
 };
 
@@ -102,7 +104,8 @@ class SimulatedSwitch {
    // The entity at the path goes; before the start: the path is left out.
    void deleteEntity( std::string const & path );
    // Whatever `what` does, as one event.
-   void change( std::function< void() > const & what, std::string const & cause = "change" );
+   // `event` tells of it as a scenario does.
+   void change( std::function< void() > const & what, std::string const & cause = "change", Rex::Value event = {} );
 
    // The number of the event under way or, between events, of the last one.
    U32 event() const { return event_; }
@@ -127,6 +130,7 @@ class SimulatedSwitch {
    void shareObjects();
    void publishCell();
    void initChips();
+   std::string publishedPath( Rex::Entity const & entity ) const;
    std::string causeOf( Corvo::Notification const & notification ) const;
 
    SwitchDescription description_;

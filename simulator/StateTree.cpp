@@ -324,6 +324,10 @@ std::string StateTree::pathOf( Rex::Entity const & entity ) const {
    return step.empty() ? std::string() : above + "/" + step;
 }
 
+bool StateTree::isMachinery( std::string const & path ) {
+   return !path.empty() && rootOf( path ).kind == Kind::machinery;
+}
+
 Rex::Value StateTree::value() const {
    Rex::Value::Object all;
    for ( auto const & root : roots ) {

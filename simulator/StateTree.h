@@ -74,6 +74,8 @@ class StateTree {
 
    // The path of an entity; empty if it isn't in the tree.
    std::string pathOf( Rex::Entity const & entity ) const;
+   // Whether the path lies where there is nothing to see for people.
+   static bool isMachinery( std::string const & path );
 
    // Path to attributes, null for a path that was left out; and the managed interface directories that a plug-in
    // publishes, below "managed/".

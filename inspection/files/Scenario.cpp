@@ -137,9 +137,11 @@ Scenario scenarioFromValue( Value const & value ) {
 Scenario scenarioOf( Value const & value, std::string const & file ) {
    Scenario scenario = inFile( file, [&] { return scenarioFromValue( value ); } );
    scenario.file = file;
+   scenario.document = value;
+   scenario.document.object()->erase( "events" );
    // Played without a plug-in, whatever doesn't fit shows itself before the first chip is programmed.
    auto description = scenario.description;
-   description.journalled = false;
+   description.journalled = Simulator::SwitchDescription::Journalled::none;
    Simulator::SimulatedSwitch rehearsal( description );
    scenario.prepare( rehearsal );
    Progress progress( "checking events" );
@@ -156,6 +158,20 @@ std::string Event::text() const {
    out += key ? "[" + *key + "]" : "";
    out += kind == Kind::set ? " = " + Rex::toText( value ) : "";
    return out;
+}
+
+Rex::Value Scenario::begin() const {
+   Value::Object value = *document.object();
+   Value::Object toggles;
+   for ( auto const & [toggleFile, states] : description.toggles ) {
+      Value::Object of;
+      for ( auto const & [toggle, isOn] : states ) {
+         of.emplace( toggle, isOn );
+      }
+      toggles.emplace( toggleFile, std::move( of ) );
+   }
+   value["toggles"] = std::move( toggles );
+   return value;
 }
 
 Simulator::FapDescription const & Scenario::fap( U16 number ) const {

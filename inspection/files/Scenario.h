@@ -39,7 +39,10 @@ struct Scenario {
    std::map< U16, Simulator::Contents > chips; // on top of the boot image
    Rex::Value::Object state;                   // path to attributes, null to leave the path out
    std::vector< Event > events;
+   Rex::Value document; // as it was read
 
+   // The document without its events, with the toggles that hold: what a journal begins with.
+   Rex::Value begin() const;
    // Puts chips and state in place. InputError where they don't fit.
    void prepare( Simulator::SimulatedSwitch & sw ) const;
    void fillChips( Simulator::ChipDriver & driver ) const;

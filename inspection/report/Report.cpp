@@ -1,9 +1,8 @@
 #include "inspection/report/Report.h"
 
-#include "inspection/Changes.h"
-#include "inspection/report/ReportPage.h"
-#include "inspection/RunValue.h"
 #include "inspection/NamesAsTyped.h"
+#include "inspection/RunValue.h"
+#include "inspection/report/ReportPage.h"
 #include "simulator/BootImage.h"
 #include "simulator/TableMap.h"
 
@@ -15,7 +14,7 @@ namespace Inspection {
 namespace {
 
 using Rex::Value;
-using Simulator::Journal;
+using Simulator::Row;
 using Simulator::SimulatedSwitch;
 using Simulator::Words;
 
@@ -36,19 +35,19 @@ class Strings {
    Value::List list_;
 };
 
-Value::List wordsValue( Words const & words ) {
+Value::List wordsValue( Simulator::WordView words ) {
    return { words.begin(), words.end() };
 }
 
 // A row of numbers, in the order in which report/model.js reads them.
-Value operationValue( Journal::Row const & row, Change const * change, Strings & strings ) {
-   bool const isControl = row.kind == Journal::Kind::control;
-   bool const isWrite = row.kind == Journal::Kind::write;
+Value operationValue( Row const & row, Strings & strings ) {
+   bool const isControl = row.kind == Simulator::Row::Kind::control;
+   bool const isWrite = row.kind == Simulator::Row::Kind::write;
    Value before;
-   if ( change && isControl ) {
-      before = change->controlBefore ? Value( *change->controlBefore ) : Value();
-   } else if ( change ) {
-      before = wordsValue( change->before );
+   if ( isControl ) {
+      before = row.valueBefore ? Value( *row.valueBefore ) : Value();
+   } else if ( isWrite ) {
+      before = wordsValue( row.before.empty() ? row.words : row.before );
    }
    Value::List list;
    list.emplace_back( row.seq );
@@ -59,7 +58,7 @@ Value operationValue( Journal::Row const & row, Change const * change, Strings &
    list.emplace_back( isControl ? row.value : row.variant );
    list.emplace_back( row.array );
    list.push_back( row.entry ? Value( *row.entry ) : Value() );
-   list.push_back( row.scope == Journal::Scope::core ? Value( row.core ) : Value() );
+   list.push_back( row.scope == Simulator::Row::Scope::core ? Value( row.core ) : Value() );
    list.push_back( isWrite ? Value( wordsValue( row.words ) ) : Value() );
    list.push_back( std::move( before ) );
    list.emplace_back( row.changed ? 1 : 0 );
@@ -124,31 +123,21 @@ Value eventsValue( Scenario const & scenario ) {
    return events;
 }
 
-Value dataOf( Scenario const & scenario, SimulatedSwitch const & sw ) {
+Value dataOf( Scenario const & scenario, SimulatedSwitch const & sw, KeptRows const & rows ) {
    auto const & description = sw.description();
-   Simulator::ChipDriver before;
-   for ( auto const & fap : description.faps ) {
-      auto const chipType = fap.revision.chipType();
-      Simulator::boot(
-         before.chipIs( fap.fapId, Hardware::chipTypeName( chipType ), Simulator::addressMap( chipType ) ), chipType );
-   }
-   scenario.fillChips( before );
-   auto const changes = changesOf( sw.journal(), before, description );
-
    Strings strings;
    Value::List operations;
    Value::List gates;
    std::set< std::string_view > tables;
-   auto change = changes.begin();
-   for ( std::size_t index = 0; index < sw.journal().size(); ++index ) {
-      Journal::Row const row = sw.journal().row( index );
-      bool const isRead = row.kind == Journal::Kind::read;
-      operations.push_back( operationValue( row, isRead ? nullptr : &*change, strings ) );
-      change += isRead ? 0 : 1;
-      if ( row.kind != Journal::Kind::control ) {
+   for ( Row const & row : rows.all() ) {
+      addGate( gates, row );
+      if ( !row.isOperation() ) {
+         continue;
+      }
+      operations.push_back( operationValue( row, strings ) );
+      if ( row.kind != Row::Kind::control ) {
          tables.insert( row.table );
       }
-      addGates( gates, row );
    }
    Value::Object data;
    data["name"] = scenario.name;
@@ -190,11 +179,11 @@ void put( std::string & page, std::string const & mark, std::string const & text
 
 } // namespace
 
-std::string reportOf( Scenario const & scenario, SimulatedSwitch const & sw ) {
+std::string reportOf( Scenario const & scenario, SimulatedSwitch const & sw, KeptRows const & rows ) {
    std::string page = reportPage;
    // From the end to the beginning: a mark that stands in what is put in is never found.
    put( page, "@SCRIPT@", reportScript );
-   put( page, "@DATA@", inScript( Rex::toText( dataOf( scenario, sw ) ) ) );
+   put( page, "@DATA@", inScript( Rex::toText( dataOf( scenario, sw, rows ) ) ) );
    put( page, "@STYLE@", reportStyle );
    put( page, "@TITLE@", escaped( scenario.name.empty() ? "l3sm run" : scenario.name ) );
    return page;

@@ -1,8 +1,8 @@
 #include "inspection/views/Summary.h"
 
+#include "inspection/FoldedWrites.h"
 #include "inspection/ServedFaps.h"
 #include "inspection/ServedInterfaces.h"
-#include "inspection/FoldedWrites.h"
 #include "simulator/BootImage.h"
 #include "simulator/TableMap.h"
 
@@ -13,7 +13,7 @@ namespace Inspection {
 namespace {
 
 using Simulator::addressMap;
-using Simulator::Journal;
+using Simulator::Row;
 
 constexpr std::size_t mostGroups = 6;  // of one function on one table, before the rest is only counted
 constexpr std::size_t lineWidth = 116; // of the lists of fields that stay as they are
@@ -46,17 +46,11 @@ struct Counts {
 
 class Summary {
  public:
-   Summary( std::ostream & out, Scenario const & scenario, Simulator::SimulatedSwitch const & sw )
-      : out_( out ), scenario_( scenario ), sw_( sw ) {
-      Simulator::ChipDriver before;
-      for ( auto const & fap : scenario.description.faps ) {
-         auto const chipType = fap.revision.chipType();
-         Simulator::boot( before.chipIs( fap.fapId, Hardware::chipTypeName( chipType ), addressMap( chipType ) ),
-                          chipType );
-      }
-      scenario.fillChips( before );
-      changes_ = changesOf( sw.journal(), before, scenario.description );
-   }
+   Summary( std::ostream & out,
+            Scenario const & scenario,
+            Simulator::SimulatedSwitch const & sw,
+            KeptRows const & rows )
+      : out_( out ), scenario_( scenario ), sw_( sw ), rows_( rows ) {}
 
    void write() {
       countOperations();
@@ -73,14 +67,16 @@ class Summary {
    using Place = std::pair< U32, U16 >; // event and FAP
 
    void countOperations() {
-      for ( std::size_t index = 0; index < sw_.journal().size(); ++index ) {
-         auto const row = sw_.journal().row( index );
-         auto & counts = counts_[{ row.event, row.fap }];
-         counts.reads += row.kind == Journal::Kind::read;
-         counts.writes += row.kind == Journal::Kind::write;
-         counts.controls += row.kind == Journal::Kind::control;
-         counts.changes += row.kind == Journal::Kind::write && row.changed;
+      for ( auto const & row : rows_.all() ) {
          served_.follow( row );
+         if ( !row.isOperation() ) {
+            continue;
+         }
+         auto & counts = counts_[{ row.event, row.fap }];
+         counts.reads += row.kind == Row::Kind::read;
+         counts.writes += row.kind == Row::Kind::write;
+         counts.controls += row.kind == Row::Kind::control;
+         counts.changes += row.kind == Row::Kind::write && row.changed;
       }
    }
 
@@ -145,19 +141,20 @@ class Summary {
       out_ << "  FAP " << fap.fapId << ": " << plural( counts.reads, "read" ) << ", "
            << plural( counts.writes, "write" ) << ", " << counts.changes << " of them with a change, "
            << plural( counts.controls, "control" ) << '\n';
-      std::vector< Change const * > writes;
-      std::vector< Change const * > controls;
-      for ( auto const & change : changes_ ) {
-         if ( change.row.event == event && change.row.fap == fap.fapId.value() ) {
-            ( change.layout ? writes : controls ).push_back( &change );
+      std::vector< Row const * > writes;
+      std::vector< Row const * > controls;
+      for ( auto const & row : rows_.all() ) {
+         if ( row.event == event && row.fap == fap.fapId.value() &&
+              ( row.kind == Row::Kind::write || row.kind == Row::Kind::control ) ) {
+            ( row.layout ? writes : controls ).push_back( &row );
          }
       }
       writeGroups( groupsOf( writes ) );
       for ( auto const * control : controls ) {
-         out_ << "    " << control->row.function << "  " << control->row.source << '\n';
-         out_ << "      control " << control->row.control << ": "
-              << ( control->controlBefore ? std::to_string( *control->controlBefore ) : "unset" ) << " -> "
-              << control->row.value << '\n';
+         out_ << "    " << control->function << "  " << control->source << '\n';
+         out_ << "      control " << control->control << ": "
+              << ( control->valueBefore ? std::to_string( *control->valueBefore ) : "unset" ) << " -> "
+              << control->value << '\n';
       }
    }
 
@@ -167,13 +164,13 @@ class Summary {
       std::size_t ofSource = 0;
       std::size_t left = 0;
       for ( auto const & group : groups ) {
-         auto const & row = group.first().row;
+         auto const & row = group.first();
          if ( row.source != source || row.function != function ) {
             writeLeft( left );
             left = 0;
             ofSource = 0;
             if ( row.function != function ) {
-               out_ << "    " << row.function << "  " << group.first().row.cause << '\n';
+               out_ << "    " << row.function << "  " << group.first().cause << '\n';
             }
             function = row.function;
             source = row.source;
@@ -194,7 +191,7 @@ class Summary {
    }
 
    void writeGroup( WriteGroup const & group ) {
-      auto const & row = group.first().row;
+      auto const & row = group.first();
       auto const places = group.places();
       out_ << "      " << row.table << ( group.first().layout->variant ? " variant " : "" )
            << ( group.first().layout->variant ? std::to_string( row.variant ) : "" )
@@ -229,15 +226,18 @@ class Summary {
    std::ostream & out_;
    Scenario const & scenario_;
    Simulator::SimulatedSwitch const & sw_;
-   std::vector< Change > changes_;
+   KeptRows const & rows_;
    std::map< Place, Counts > counts_;
    ServedFaps served_;
 };
 
 } // namespace
 
-void writeSummary( std::ostream & out, Scenario const & scenario, Simulator::SimulatedSwitch const & sw ) {
-   Summary( out, scenario, sw ).write();
+void writeSummary( std::ostream & out,
+                   Scenario const & scenario,
+                   Simulator::SimulatedSwitch const & sw,
+                   KeptRows const & rows ) {
+   Summary( out, scenario, sw, rows ).write();
 }
 
 } // namespace Inspection

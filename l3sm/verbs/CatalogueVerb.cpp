@@ -1,11 +1,11 @@
 // The verb `catalogue`: the chip tables, their geometry and where their fields lie.
-#include "inspection/views/BitDrawing.h"
-#include "inspection/files/JournalFile.h"
-#include "inspection/files/Json.h"
 #include "inspection/AlikeLayouts.h"
-#include "inspection/NamesAsTyped.h"
-#include "inspection/views/Terminal.h"
 #include "inspection/FunctionTables.h"
+#include "inspection/KeptRows.h"
+#include "inspection/NamesAsTyped.h"
+#include "inspection/files/Json.h"
+#include "inspection/views/BitDrawing.h"
+#include "inspection/views/Terminal.h"
 #include "l3sm/verbs/Verbs.h"
 
 #include <algorithm>
@@ -256,13 +256,13 @@ void showTable( std::ostream & out,
 // From the journals that were named, or else from those of the examples.
 std::vector< Touch > touchesOf( Catalogue::Table const & table, Options const & options ) {
    if ( options.journals.empty() ) {
-      return Cli::touchesOf( table );
+      return Inspection::touchesOf( table );
    }
-   std::vector< JournalFile > journals;
+   std::vector< KeptRows > journals;
    for ( std::string const & path : options.journals ) {
-      journals.push_back( readJournal( path ) );
+      journals.push_back( rowsOf( path ) );
    }
-   return Cli::touchesOf( table, journals );
+   return Inspection::touchesOf( table, journals );
 }
 
 int answer( Options const & options ) {

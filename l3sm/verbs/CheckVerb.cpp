@@ -1,8 +1,8 @@
 // The verb `check`: plays a scenario and verifies what the plug-in can verify on the chips afterwards.
-#include "inspection/files/ChipsFile.h"
-#include "inspection/Play.h"
-#include "inspection/views/Progress.h"
 #include "inspection/NamesAsTyped.h"
+#include "inspection/Play.h"
+#include "inspection/files/ChipsFile.h"
+#include "inspection/views/Progress.h"
 #include "inspection/views/Terminal.h"
 #include "l3sm/verbs/Verbs.h"
 #include "rex/Assert.h"
@@ -20,7 +20,7 @@ using namespace Inspection;
 namespace {
 
 using Rex::Value;
-using Simulator::Journal;
+using Simulator::Row;
 using Simulator::SimulatedSwitch;
 
 // The operations of this type whose names begin so look at a chip and complain by assertion.
@@ -58,16 +58,17 @@ std::vector< std::string > verifications() {
 }
 
 bool wasInitialised( SimulatedSwitch const & sw, U16 fap ) {
-   return std::ranges::any_of( sw.journal().rows(),
-                               [&]( Journal::Row const & row ) { return row.fap == fap && row.cause == "chip-init"; } );
+   return std::ranges::any_of( sw.journal().operations(), [&]( Simulator::Row const & row ) {
+      return row.fap == fap && row.cause == "chip-init";
+   } );
 }
 
 // Where the last operation was made, a part of the text on each line.
-void tellPlace( std::ostream & out, Journal const & journal, std::size_t before ) {
-   out << journal.size() - before << '\n';
-   if ( journal.size() > before ) {
-      auto const row = journal.row( journal.size() - 1 );
-      if ( row.kind != Journal::Kind::control ) {
+void tellPlace( std::ostream & out, Simulator::Journal const & journal, std::size_t before ) {
+   out << journal.operationCount() - before << '\n';
+   if ( journal.operationCount() > before ) {
+      auto const row = journal.operations().back();
+      if ( row.kind != Simulator::Row::Kind::control ) {
          std::string place = "array " + std::to_string( row.array );
          place += row.entry ? " entry " + std::to_string( *row.entry ) : "";
          out << row.table << '\n' << place << '\n';
@@ -88,7 +89,7 @@ Verdict verify( SimulatedSwitch & sw, Hardware::Dace::Cell::FapStatus const & st
       return verdict;
    }
    Child const child = inChild( [&]( std::ostream & out ) {
-      std::size_t const before = sw.journal().size();
+      std::size_t const before = sw.journal().operationCount();
       Rex::atFailure( [&] { tellPlace( out, sw.journal(), before ); } );
       ( *Rex::Operations::find( type, name ) )( &status );
       tellPlace( out, sw.journal(), before );

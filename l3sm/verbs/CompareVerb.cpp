@@ -1,8 +1,8 @@
 // The verb `compare`: one scenario on every kind of chip, and with each toggle flipped alone: where the programming
 // differs.
+#include "inspection/NamesAsTyped.h"
 #include "inspection/ProgrammedValues.h"
 #include "inspection/views/Progress.h"
-#include "inspection/NamesAsTyped.h"
 #include "inspection/views/Terminal.h"
 #include "l3sm/verbs/Verbs.h"
 

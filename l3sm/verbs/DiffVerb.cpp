@@ -1,7 +1,7 @@
 // The verb `diff`: two chip-contents files, entry by entry and field by field.
 #include "inspection/ChipDifferences.h"
-#include "inspection/views/Progress.h"
 #include "inspection/NamesAsTyped.h"
+#include "inspection/views/Progress.h"
 #include "l3sm/verbs/Verbs.h"
 
 #include <algorithm>

@@ -1,10 +1,10 @@
 // The verb `replay`: applies the writes of a journal to a fresh switch, and compares.
 #include "inspection/ChipDifferences.h"
-#include "inspection/files/JournalFile.h"
-#include "inspection/files/OutputFile.h"
-#include "inspection/views/Progress.h"
-#include "inspection/files/Scenario.h"
+#include "inspection/KeptRows.h"
 #include "inspection/NamesAsTyped.h"
+#include "inspection/files/OutputFile.h"
+#include "inspection/files/Scenario.h"
+#include "inspection/views/Progress.h"
 #include "l3sm/verbs/Verbs.h"
 #include "simulator/BootImage.h"
 #include "simulator/TableMap.h"
@@ -21,7 +21,7 @@ using namespace Inspection;
 namespace {
 
 using Rex::Value;
-using Simulator::Journal;
+using Simulator::Row;
 using Simulator::Words;
 
 struct Options {
@@ -34,7 +34,7 @@ struct Options {
 
 // A read of the journal that the switch answers differently.
 struct OtherRead {
-   Journal::Row const * row;
+   Simulator::Row const * row;
    Words here;
 };
 
@@ -55,12 +55,15 @@ class Replayer {
 
    bool hasChip( U16 fap ) const { return chipTypes_.contains( fap ); }
 
-   void apply( JournalFile const & journal ) {
+   void apply( KeptRows const & journal ) {
       Progress progress( "replaying" );
-      for ( Journal::Row const & row : journal.rows() ) {
-         progress.stands( static_cast< std::size_t >( &row - journal.rows().data() ), journal.rows().size() );
+      for ( Simulator::Row const & row : journal.all() ) {
+         progress.stands( row.seq, journal.all().size() );
+         if ( !row.isOperation() ) {
+            continue;
+         }
          auto & chip = *driver.chip( DaceSal::ChipId{ row.fap } );
-         if ( row.kind == Journal::Kind::control ) {
+         if ( row.kind == Simulator::Row::Kind::control ) {
             chip.controlIs( row.control, row.value );
             ++controls;
             continue;
@@ -71,7 +74,7 @@ class Replayer {
             return Simulator::addressOf( layout, static_cast< U32 >( row.array ), row.entry.value_or( 0 ), copy );
          };
          auto const place = std::tuple( row.fap, row.table, row.variant, row.array, row.entry );
-         if ( row.kind == Journal::Kind::read ) {
+         if ( row.kind == Simulator::Row::Kind::read ) {
             ++reads;
             auto const words = chip.entry( at( 0 ) ).words();
             bool const isOther = !std::ranges::equal( words, row.words );
@@ -86,7 +89,7 @@ class Replayer {
          }
          written.insert( place );
          ++writes;
-         bool const isCore = row.scope == Journal::Scope::core;
+         bool const isCore = row.scope == Simulator::Row::Scope::core;
          U32 const first = isCore ? static_cast< U32 >( row.core ) : 0;
          U32 const last = isCore ? first : static_cast< U32 >( layout.selectors.size() ) - 1;
          for ( U32 copy = first; copy <= last; ++copy ) {
@@ -116,7 +119,7 @@ class Replayer {
 };
 
 // What kind of chip each FAP is: the scenario, the file to compare with and the journal may say.
-void makeChips( Replayer & replayer, JournalFile const & journal, Scenario const * scenario, ChipsFile const & chips ) {
+void makeChips( Replayer & replayer, KeptRows const & journal, Scenario const * scenario, ChipsFile const & chips ) {
    if ( scenario ) {
       for ( auto const & fap : scenario->description.faps ) {
          replayer.chipIs( fap.fapId.value(), fap.revision.chipType() );
@@ -125,14 +128,13 @@ void makeChips( Replayer & replayer, JournalFile const & journal, Scenario const
    for ( auto const & [fap, contents] : chips ) {
       replayer.chipIs( fap, contents.chipType );
    }
-   for ( std::size_t index = 0; index < journal.rows().size(); ++index ) {
-      Journal::Row const & row = journal.rows()[index];
-      if ( row.chip ) {
-         replayer.chipIs( row.fap, chipNamed( row.chip ) );
-      } else if ( !replayer.hasChip( row.fap ) ) {
-         throw InputError( journal.path() + ":" + std::to_string( index + 1 ),
-                           "nothing says what kind of chip FAP " + std::to_string( row.fap ) +
-                              " is; give --chips or --scenario" );
+   for ( std::size_t index = 0; index < journal.all().size(); ++index ) {
+      Simulator::Row const & row = journal.all()[index];
+      if ( row.layout ) {
+         replayer.chipIs( row.fap, Hardware::ChipType{ row.layout->chipType } );
+      } else if ( row.isOperation() && !replayer.hasChip( row.fap ) ) {
+         throw InputError( "nothing says what kind of chip FAP " + std::to_string( row.fap ) +
+                           " is; give --chips or --scenario" );
       }
    }
    if ( scenario ) {
@@ -149,7 +151,7 @@ void showReads( std::ostream & out, std::vector< OtherRead > const & all, char c
    Columns columns;
    for ( std::size_t index = 0; index < std::min( shown, all.size() ); ++index ) {
       auto const & [row, here] = all[index];
-      auto const & layout = *layoutOf( *row );
+      auto const & layout = *row->layout;
       std::string const head = row->table.data();
       std::string const place = placeText(
          *Catalogue::table( row->table ), layout, static_cast< U32 >( row->array ), row->entry.value_or( 0 ) );
@@ -175,7 +177,7 @@ void showReads( std::ostream & out, std::vector< OtherRead > const & all, char c
 
 int answer( Options const & options ) {
    OutputFile const out( options.out );
-   auto const journal = readJournal( options.journal );
+   auto const journal = rowsOf( options.journal );
    std::optional< Scenario > const scenario =
       options.scenario.empty() ? std::nullopt : std::optional( readScenario( options.scenario ) );
    ChipsFile const chips = options.chips.empty() ? ChipsFile() : readChips( options.chips );

@@ -1,8 +1,9 @@
-#include "inspection/files/ChipsFile.h"
-#include "inspection/files/OutputFile.h"
 #include "inspection/Play.h"
-#include "inspection/report/Report.h"
 #include "inspection/RunValue.h"
+#include "inspection/files/ChipsFile.h"
+#include "inspection/files/JournalWriter.h"
+#include "inspection/files/OutputFile.h"
+#include "inspection/report/Report.h"
 #include "inspection/views/Summary.h"
 #include "l3sm/Tracing.h"
 #include "l3sm/verbs/Verbs.h"
@@ -48,12 +49,17 @@ int run( Options const & options ) {
    loadPlugin( options.plugin );
    tracing.start();
 
+   scenario.description.journalled = Simulator::SwitchDescription::Journalled::streamed;
    Simulator::SimulatedSwitch sw( scenario.description );
+   std::optional< JournalWriter > writer;
    if ( journal.isWanted() ) {
-      journal.writing( [&] { sw.journal().fileIs( options.journal ); } );
+      writer.emplace( options.journal, JournalWriter::Begin{ scenario.begin() } );
+      sw.journal().readerAdd( *writer );
    }
+   KeptRows rows;
+   sw.journal().readerAdd( rows );
    play( scenario, sw );
-   journal.writing( [&] { sw.journal().flush(); } );
+   sw.journal().ends( Simulator::Ending::Kind::complete );
    tracing.flush();
 
    if ( chips.isWanted() ) {
@@ -65,12 +71,12 @@ int run( Options const & options ) {
       state.write( toJson( sw.state().value(), 2 ) + "\n" );
    }
    if ( report.isWanted() ) {
-      report.write( reportOf( scenario, sw ) );
+      report.write( reportOf( scenario, sw, rows ) );
    }
    if ( options.json ) {
-      std::cout << toJson( runValue( scenario, sw ), 3 ) << '\n';
+      std::cout << toJson( runValue( scenario, sw, rows ), 3 ) << '\n';
    } else if ( !options.quiet ) {
-      writeSummary( std::cout, scenario, sw );
+      writeSummary( std::cout, scenario, sw, rows );
    }
    return 0;
 }

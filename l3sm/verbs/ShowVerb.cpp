@@ -1,6 +1,6 @@
 // The verb `show`: chip contents, decoded by field.
-#include "inspection/files/ChipsFile.h"
 #include "inspection/NamesAsTyped.h"
+#include "inspection/files/ChipsFile.h"
 #include "inspection/views/Terminal.h"
 #include "l3sm/verbs/Verbs.h"
 

@@ -1,8 +1,8 @@
 // The verb `why`: which operation wrote it, where in the source, on which cause; and who left it alone.
-#include "inspection/History.h"
-#include "inspection/files/JournalFile.h"
-#include "inspection/files/Json.h"
+#include "inspection/FieldChanges.h"
+#include "inspection/KeptRows.h"
 #include "inspection/NamesAsTyped.h"
+#include "inspection/files/Json.h"
 #include "inspection/views/Terminal.h"
 #include "l3sm/verbs/Verbs.h"
 
@@ -17,7 +17,7 @@ using namespace Inspection;
 namespace {
 
 using Rex::Value;
-using Simulator::Journal;
+using Simulator::Row;
 
 struct Options {
    std::string journal;
@@ -72,7 +72,7 @@ struct NamedChange {
 
 // A write, with what it did to what is asked about.
 struct Write {
-   Journal::Row const * row;
+   Simulator::Row const * row;
    std::string place;
    std::vector< NamedChange > changes; // empty: it wrote what was there
 };
@@ -85,7 +85,7 @@ struct Look {
    U32 lastEvent = 0;
 };
 struct ClosedGate {
-   Journal::Gate gate; // the latest
+   Simulator::Row gate; // the latest
    std::size_t times = 0;
 };
 
@@ -101,17 +101,18 @@ class Teller {
  public:
    Teller( Subject const & subject, Options const & options ) : subject_( subject ), options_( options ) {}
 
-   Story tell( JournalFile const & journal ) {
-      for ( Journal::Row const & row : journal.rows() ) {
-         for ( auto const * gates : { &row.gates, &row.gatesAfter } ) {
-            for ( Journal::Gate const & gate : *gates ) {
-               closed( gate );
-            }
+   Story tell( KeptRows const & journal ) {
+      for ( Simulator::Row const & row : journal.all() ) {
+         if ( row.kind == Row::Kind::gate ) {
+            closed( row );
+            continue;
+         }
+         if ( !row.isOperation() ) {
+            continue;
          }
          if ( isAbout( row ) ) {
             follow( row );
          }
-         history_.follow( row );
       }
       std::ranges::reverse( story_.changed );
       std::ranges::reverse( story_.same );
@@ -124,11 +125,11 @@ class Teller {
    }
 
  private:
-   bool isAbout( Journal::Row const & row ) const {
+   bool isAbout( Simulator::Row const & row ) const {
       if ( options_.fap && *options_.fap != row.fap ) {
          return false;
       }
-      if ( row.kind == Journal::Kind::control ) {
+      if ( row.kind == Simulator::Row::Kind::control ) {
          return !subject_.table && row.control == subject_.control;
       }
       return subject_.table && row.table == subject_.table->name &&
@@ -137,9 +138,9 @@ class Teller {
              ( !options_.entry || *options_.entry == row.entry.value_or( 0 ) );
    }
 
-   void follow( Journal::Row const & row ) {
+   void follow( Simulator::Row const & row ) {
       functions_.insert( std::string( row.function ) );
-      if ( row.kind == Journal::Kind::read ) {
+      if ( row.kind == Simulator::Row::Kind::read ) {
          auto found = std::ranges::find_if( story_.looks, [&]( Look const & look ) {
             return look.function == row.function && look.source == row.source;
          } );
@@ -154,20 +155,20 @@ class Teller {
       ( write.changes.empty() ? story_.same : story_.changed ).push_back( std::move( write ) );
    }
 
-   static std::string placeOf( Journal::Row const & row ) {
-      if ( row.kind == Journal::Kind::control ) {
+   static std::string placeOf( Simulator::Row const & row ) {
+      if ( row.kind == Simulator::Row::Kind::control ) {
          return "";
       }
       std::string const place = placeText(
-         *Catalogue::table( row.table ), *layoutOf( row ), static_cast< U32 >( row.array ), row.entry.value_or( 0 ) );
-      std::string const core = row.scope == Journal::Scope::core ? "core " + std::to_string( row.core ) : "";
+         *Catalogue::table( row.table ), *row.layout, static_cast< U32 >( row.array ), row.entry.value_or( 0 ) );
+      std::string const core = row.scope == Simulator::Row::Scope::core ? "core " + std::to_string( row.core ) : "";
       return place + ( place.empty() || core.empty() ? "" : " " ) + core;
    }
 
-   std::vector< NamedChange > changesOf( Journal::Row const & row ) const {
+   std::vector< NamedChange > changesOf( Simulator::Row const & row ) const {
       std::vector< NamedChange > changes;
-      if ( row.kind == Journal::Kind::control ) {
-         auto const before = history_.controlBefore( row );
+      if ( row.kind == Simulator::Row::Kind::control ) {
+         auto const before = row.valueBefore;
          if ( row.changed ) {
             changes.push_back( { "",
                                  before ? std::optional( std::to_string( *before ) ) : std::nullopt,
@@ -175,7 +176,7 @@ class Teller {
          }
          return changes;
       }
-      for ( auto const & change : fieldChanges( *layoutOf( row ), history_.before( row ), row.words ) ) {
+      for ( auto const & change : fieldChanges( row ) ) {
          bool const isAsked = subject_.field.empty() || subject_.field == change.field->name;
          // Where nobody knows what stood there before, the journal still knows whether anything became different.
          if ( isAsked && row.changed && change.isChange() ) {
@@ -185,8 +186,8 @@ class Teller {
       return changes;
    }
 
-   void closed( Journal::Gate const & gate ) {
-      if ( options_.fap && gate.fap && *gate.fap != *options_.fap ) {
+   void closed( Simulator::Row const & gate ) {
+      if ( options_.fap && gate.isOfFap && gate.fap != *options_.fap ) {
          return;
       }
       auto found = std::ranges::find_if( gates_, [&]( ClosedGate const & known ) {
@@ -201,7 +202,6 @@ class Teller {
 
    Subject const & subject_;
    Options const & options_;
-   History history_;
    Story story_;
    std::vector< ClosedGate > gates_;
    std::set< std::string > functions_;
@@ -224,7 +224,7 @@ void showWrites( std::ostream & out, std::vector< Write > const & writes, Style 
       columns = Columns();
    };
    for ( Write const & write : writes ) {
-      Journal::Row const & row = *write.row;
+      Simulator::Row const & row = *write.row;
       if ( std::string const now = eventText( row.event, row.cause ); now != event ) {
          flush();
          out << "  " << style.strong( now ) << '\n';
@@ -260,7 +260,7 @@ void showGates( std::ostream & out, std::vector< ClosedGate > const & gates, Sty
    for ( auto const & [gate, times] : gates ) {
       columns.row( { std::string( gate.function ),
                      style.differs( gate.reason ),
-                     gate.fap ? "FAP " + std::to_string( *gate.fap ) : "",
+                     gate.isOfFap ? "FAP " + std::to_string( gate.fap ) : "",
                      style.faint( eventText( gate.event, gate.cause ) ),
                      style.faint( gate.source ),
                      times == 1 ? "" : style.faint( counted( times, "time", "times" ) ) } );
@@ -305,14 +305,14 @@ void showStory( std::ostream & out, Subject const & subject, Story const & story
 Value writesValue( std::vector< Write > const & writes ) {
    Value::List list;
    for ( Write const & write : writes ) {
-      Journal::Row const & row = *write.row;
+      Simulator::Row const & row = *write.row;
       Value::Object one{ { "seq", row.seq },
                          { "event", row.event },
                          { "cause", std::string( row.cause ) },
                          { "fap", row.fap },
                          { "function", std::string( row.function ) },
                          { "source", std::string( row.source ) } };
-      if ( row.kind == Journal::Kind::write ) {
+      if ( row.kind == Simulator::Row::Kind::write ) {
          one["variant"] = row.variant;
          one["array"] = row.array;
          one["entry"] = row.entry ? Value( *row.entry ) : Value();
@@ -334,7 +334,7 @@ Value gatesValue( std::vector< ClosedGate > const & gates ) {
       list.push_back( Value::Object{ { "function", std::string( gate.function ) },
                                      { "source", std::string( gate.source ) },
                                      { "reason", std::string( gate.reason ) },
-                                     { "fap", gate.fap ? Value( *gate.fap ) : Value() },
+                                     { "fap", gate.isOfFap ? Value( gate.fap ) : Value() },
                                      { "event", gate.event },
                                      { "cause", std::string( gate.cause ) },
                                      { "times", times } } );
@@ -377,22 +377,16 @@ void checkPlace( Subject const & subject, Options const & options ) {
    }
 }
 
-void checkFap( JournalFile const & journal, U16 fap ) {
-   auto const isOf = [&]( std::vector< Journal::Gate > const & gates ) {
-      return std::ranges::any_of( gates, [&]( Journal::Gate const & gate ) { return gate.fap == fap; } );
-   };
-   auto const & rows = journal.rows();
-   if ( std::ranges::none_of( rows, [&]( Journal::Row const & row ) {
-           return row.fap == fap || isOf( row.gates ) || isOf( row.gatesAfter );
-        } ) ) {
-      throw InputError( journal.path(), "it tells nothing of a FAP " + std::to_string( fap ) );
+void checkFap( KeptRows const & journal, U16 fap ) {
+   if ( std::ranges::none_of( journal.all(), [&]( Row const & row ) { return row.isOfFap && row.fap == fap; } ) ) {
+      throw InputError( "the journal tells nothing of a FAP " + std::to_string( fap ) );
    }
 }
 
 int answer( Options const & options ) {
    Subject const subject = subjectOf( options.what );
    checkPlace( subject, options );
-   JournalFile const journal = readJournal( options.journal );
+   KeptRows const journal = rowsOf( options.journal );
    if ( options.fap ) {
       checkFap( journal, *options.fap );
    }

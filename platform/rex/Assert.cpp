@@ -6,6 +6,7 @@
 #include <iostream>
 #include <iterator>
 #include <map>
+#include <optional>
 
 namespace Rex {
 
@@ -31,7 +32,27 @@ void runFailureHooks() {
    }
 }
 
+std::optional< Failure > theFailure;
+
+// The first failure counts: one that follows is its consequence.
+Failure & failed( Failure const & what ) {
+   return theFailure ? *theFailure : theFailure.emplace( what );
+}
+
+std::string textOfTheException() {
+   if ( auto const exception = std::current_exception() ) {
+      try {
+         std::rethrow_exception( exception );
+      } catch ( std::exception const & error ) {
+         return error.what();
+      } catch ( ... ) { // NOLINT(bugprone-empty-catch)
+      }
+   }
+   return "terminate";
+}
+
 [[noreturn]] void terminateWithHooks() {
+   failed( { .text = textOfTheException(), .message = {}, .file = {}, .function = {} } );
    runFailureHooks();
    if ( failureHooks().previousTerminate ) {
       failureHooks().previousTerminate();
@@ -41,7 +62,16 @@ void runFailureHooks() {
 
 } // namespace
 
+Failure const * failure() {
+   return theFailure ? &*theFailure : nullptr;
+}
+
 void assertionFailed( char const * text, AssertionSite const & site ) {
+   Failure & what =
+      failed( { .text = {}, .message = {}, .file = site.file, .line = site.line, .function = site.function } );
+   if ( what.text.empty() ) {
+      what.text = text;
+   }
    std::cout.flush();
    std::fprintf( stderr,
                  "%s: %s:%u: %s: Assertion `%s' failed.\n",
@@ -57,6 +87,7 @@ void assertionFailed( char const * text, AssertionSite const & site ) {
 SassertHelper::~SassertHelper() {
    std::string const message = message_.str();
    std::fprintf( stderr, "%s\n", message.c_str() );
+   failed( { .text = {}, .message = message, .file = site_.file, .line = site_.line, .function = site_.function } );
    std::string const text = std::string( "\"" ) + text_ + "\" == nullptr";
    assertionFailed( text.c_str(), site_ );
 }

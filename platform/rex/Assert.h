@@ -63,6 +63,18 @@ class SassertHelper {
    std::ostringstream message_;
 };
 
+// What ended the process, for the hooks of atFailure.
+struct Failure {
+   std::string text;     // the assertion's, or what an exception that nobody caught says
+   std::string message;  // of a SassertHelper; else empty
+   std::string file;     // empty for an exception
+   unsigned line = 0;    // 0 for an exception
+   std::string function; // as the compiler writes it
+};
+
+// Null as long as nothing has failed.
+Failure const * failure();
+
 // Registers a hook that runs once before the process ends by an assertion or an uncaught exception, newest first.
 // Used to bring to safety what is still in memory. A hook that fails in turn is not run again.
 // Returns a number by which failureHookDel takes it back.

@@ -53,6 +53,10 @@ bool Attribute::entryDel( Entity &, std::string const & ) const {
    throw ValueError( "", std::string( name ) + " has no entries: leave the key out" ).below( "key" );
 }
 
+Value Attribute::entry( Entity const &, std::string const & ) const {
+   return {};
+}
+
 Corvo::Ptr< Entity > Attribute::child( Entity const &, std::string const & ) const {
    return nullptr;
 }

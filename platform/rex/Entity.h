@@ -38,6 +38,7 @@
 #include "corvo/Publisher.h"
 #include "rex/HashMap2018.h"
 #include "rex/Type.h"
+#include "rex/WriteListener.h"
 
 #include <map>
 #include <optional>
@@ -100,7 +101,9 @@ class Entity : public Corvo::Node {
    void assign( T & attribute, T const & value, short id ) {
       if ( !( attribute == value ) ) {
          writeCheck();
+         Impl::PendingWrite write( *this, id );
          attribute = value;
+         write.done();
          publisher_.publish( id, nullptr, &attribute );
       }
    }

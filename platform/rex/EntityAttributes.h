@@ -13,7 +13,9 @@ template< class Key, class Type >
 REX_SHARED void MapAttribute< Key, Type >::set( Entity & owner, short id, Key key, Type value ) {
    if ( auto const found = map_.find( key ); found == map_.end() || !( found->second == value ) ) {
       owner.writeCheck();
+      Impl::PendingWrite write( owner, id, &key );
       map_[key] = value;
+      write.done();
       owner.publisher_.publish( id, &key, &value ); // copies: a callback may take the entry away
    }
 }
@@ -24,7 +26,9 @@ REX_SHARED bool MapAttribute< Key, Type >::del( Entity & owner, short id, Key ke
       return false;
    }
    owner.writeCheck();
+   Impl::PendingWrite write( owner, id, &key );
    map_.erase( key );
+   write.done();
    owner.publisher_.publish( id, &key, nullptr );
    return true;
 }
@@ -43,6 +47,7 @@ REX_SHARED void HeldEntity< Type >::set( short id,
       return;
    }
    owner_.writeCheck();
+   Impl::PendingWrite write( owner_, id );
    auto const old = std::exchange( entity_, entity );
    if ( old ) {
       owner_.childDel( *old );
@@ -50,6 +55,7 @@ REX_SHARED void HeldEntity< Type >::set( short id,
    if ( entity ) {
       owner_.childAdd( *entity );
    }
+   write.done();
    owner_.publisher_.publish( id, nullptr, entity.get() );
 }
 
@@ -71,11 +77,13 @@ REX_SHARED void CollectionAttribute< Type, Container >::set( short id, Corvo::Pt
       return;
    }
    owner_.writeCheck();
+   Impl::PendingWrite write( owner_, id, &key );
    entities_.set( key, entity );
    if ( old ) {
       owner_.childDel( *old );
    }
    owner_.childAdd( *entity );
+   write.done();
    owner_.publisher_.publish( id, &key, entity.get() );
 }
 
@@ -85,8 +93,10 @@ REX_SHARED Corvo::Ptr< Type > CollectionAttribute< Type, Container >::del( short
       return nullptr;
    }
    owner_.writeCheck();
+   Impl::PendingWrite write( owner_, id, &key );
    auto const old = entities_.del( key );
    owner_.childDel( *old );
+   write.done();
    owner_.publisher_.publish( id, &key, nullptr );
    return old;
 }
@@ -96,7 +106,9 @@ REX_SHARED void ReferencesAttribute< Type >::set( Entity & owner, short id, Corv
    owner.writeCheck();
    if ( entity && entities_.get( entity->rexKey() ) != entity ) {
       Key const key = entity->rexKey();
+      Impl::PendingWrite write( owner, id, &key );
       entities_.set( key, entity );
+      write.done();
       owner.publisher_.publish( id, &key, entity.get() );
    }
 }
@@ -104,8 +116,10 @@ REX_SHARED void ReferencesAttribute< Type >::set( Entity & owner, short id, Corv
 template< class Type >
 REX_SHARED Corvo::Ptr< Type > ReferencesAttribute< Type >::del( Entity & owner, short id, Key key ) {
    owner.writeCheck();
+   Impl::PendingWrite write( owner, id, &key );
    Corvo::Ptr< Type > const old = entities_.del( key );
    if ( old ) {
+      write.done();
       owner.publisher_.publish( id, &key, nullptr );
    }
    return old;
@@ -172,6 +186,11 @@ class MapAttributeData : public Attribute {
       }
       return object;
    }
+   Value entry( Entity const & of, std::string const & key ) const override {
+      auto const & entries = ( static_cast< Self const & >( of ).*Member ).all();
+      auto const found = entries.find( Codec< Key >::fromKey( key ) );
+      return found == entries.end() ? Value() : Codec< Type >::toValue( found->second );
+   }
    void valueIs( Entity & of, Value const & value ) const override {
       std::map< Key, Type > wanted;
       for ( auto const & [key, entry] : objectOf( value ) ) {
@@ -218,6 +237,10 @@ class CollectionAttributeData : public Attribute {
          object.emplace( Codec< Key >::toKey( key ), entity->value() );
       }
       return object;
+   }
+   Value entry( Entity const & of, std::string const & key ) const override {
+      auto const entity = ( static_cast< Self const & >( of ).*Member ).all().get( Codec< Key >::fromKey( key ) );
+      return entity ? entity->value() : Value();
    }
    void valueIs( Entity & of, Value const & value ) const override {
       std::map< std::string, Corvo::Ptr< Type > > wanted;
@@ -277,6 +300,10 @@ class ReferencesAttributeData : public Attribute {
          object.emplace( Codec< Key >::toKey( key ), entity->value() );
       }
       return object;
+   }
+   Value entry( Entity const & of, std::string const & key ) const override {
+      auto const entity = ( static_cast< Self const & >( of ).*Member ).all().get( Codec< Key >::fromKey( key ) );
+      return entity ? entity->value() : Value();
    }
    void valueIs( Entity &, Value const & ) const override { throw refusal(); }
    void entryIs( Entity &, std::string const &, Value const & ) const override { throw refusal(); }

@@ -40,6 +40,8 @@ class Attribute {
    // place "/key" or below "/value".
    virtual void entryIs( Entity & of, std::string const & key, Value const & value ) const;
    virtual bool entryDel( Entity & of, std::string const & key ) const;
+   // One entry of a map or collection; null if there is none.
+   virtual Value entry( Entity const & of, std::string const & key ) const;
    // The entity that it holds, under `key` in a collection; null if there is none.
    virtual Corvo::Ptr< Entity > child( Entity const & of, std::string const & key ) const;
    // Visits the entities that it holds.

@@ -42,11 +42,10 @@ class Words {
    unsigned width_;
 };
 
-Operation writing( Operation::Scope scope, bool changed ) {
+Operation writing( Operation::Scope scope ) {
    Operation operation;
    operation.kind = Operation::Kind::write;
    operation.scope = scope;
-   operation.changed = changed;
    return operation;
 }
 
@@ -140,12 +139,19 @@ DaceSalAsicTransferBase::Route DaceSalAsicTransferBase::route( Place place, char
    Route const way = route( place, "void %::doWriteAll" );
    Words const words( buf_, way.layout.width );
    SchanDriver & to = driver();
-   bool changed = false;
+   OperationListener * const listener = operationListener();
+   Operation operation = writing( Operation::Scope::all );
+   std::array< std::array< U32, Raw1024::words >, 2 > before;
+   bool alike = true;
    for ( U32 instance = 0; instance < way.layout.instanceCount; ++instance ) {
-      changed |= to.write( place.chip, way.copy( instance ), words.of( buf_ ) );
+      std::span< U32 > const stood{ before[instance].data(), way.layout.width };
+      operation.changed |= listener ? to.exchange( place.chip, way.copy( instance ), words.of( buf_ ), stood )
+                                    : to.write( place.chip, way.copy( instance ), words.of( buf_ ) );
+      alike = alike && ( !listener || std::equal( stood.begin(), stood.end(), before[0].begin() ) );
    }
-   if ( OperationListener * listener = operationListener() ) {
-      tell( *listener, writing( Operation::Scope::all, changed ), place, words.of( buf_ ), origin );
+   if ( listener ) {
+      operation.before = { before[0].data(), alike ? way.layout.width : 0u };
+      tell( *listener, operation, place, words.of( buf_ ), origin );
    }
 }
 
@@ -161,12 +167,18 @@ void DaceSalAsicTransferBase::writeCore( Place place, int core, std::source_loca
    }
    Words const words( buf_, way.layout.width );
    std::span< U32 const > const taken = words.of( buf_ );
-   Operation operation =
-      writing( Operation::Scope::core, driver().write( place.chip, way.copy( static_cast< U32 >( core ) ), taken ) );
-   operation.core = core;
-   if ( OperationListener * listener = operationListener() ) {
-      tell( *listener, operation, place, taken, origin );
+   SchanAddress const at = way.copy( static_cast< U32 >( core ) );
+   OperationListener * const listener = operationListener();
+   if ( !listener ) {
+      driver().write( place.chip, at, taken );
+      return;
    }
+   std::array< U32, Raw1024::words > before;
+   Operation operation = writing( Operation::Scope::core );
+   operation.core = core;
+   operation.before = { before.data(), way.layout.width };
+   operation.changed = driver().exchange( place.chip, at, taken, { before.data(), way.layout.width } );
+   tell( *listener, operation, place, taken, origin );
 }
 
 // ---- registers

@@ -9,6 +9,7 @@
 
 #include "corvo/Types.h"
 
+#include <optional>
 #include <source_location>
 #include <span>
 
@@ -45,8 +46,19 @@ class SchanDriver {
    // Copies `words` to `at`. Returns whether the contents became different by it. Failures as for read.
    virtual bool write( ChipId chip, SchanAddress const & at, std::span< U32 const > words ) = 0;
 
+   // Likewise, and hands over in `before`, as wide as `words`, what stood there: for who listens. A driver that doesn't
+   // know it from its write reads it first.
+   virtual bool
+   exchange( ChipId chip, SchanAddress const & at, std::span< U32 const > words, std::span< U32 > before ) {
+      read( chip, at, before );
+      return write( chip, at, words );
+   }
+
    // Sets a numbered control of a chip. Returns whether its value became different by it.
    virtual bool control( ChipId chip, U32 control, U32 value ) = 0;
+
+   // The value that a control was set to; none if it never was, or if the driver can't tell.
+   virtual std::optional< U32 > controlValue( ChipId, U32 ) const { return std::nullopt; }
 };
 
 // What the driver was asked to do.
@@ -58,7 +70,7 @@ struct Operation {
    Scope scope = Scope::any;
    bool changed = false;    // writes and controls: the contents of some copy became different
    bool isRegister = false; // a register has no entry
-   ChipId chip;
+   ChipId chip = {};
    U16 table = 0; // number of the accessor class: its place in the alphabetical list of classes
    U8 variant = 0;
    int arrayIndex = 0;
@@ -66,8 +78,10 @@ struct Operation {
    U32 entry = 0;
    U32 controlNumber = 0; // Kind::control
    U32 controlValue = 0;
-   std::span< U32 const > words;
-   std::source_location origin;
+   std::optional< U32 > controlBefore = {}; // none: it had no value yet, or nobody knows
+   std::span< U32 const > words = {};
+   std::span< U32 const > before = {}; // writes: what stood there; empty where the copies that were written differed
+   std::source_location origin = {};
 };
 
 // Hears of every operation, after it was carried out. The record and its words are valid during the call only.

@@ -11,11 +11,14 @@ class DriverControlSal : public SwitchControlSal {
    explicit DriverControlSal( SchanDriver & driver ) : driver_( driver ) {}
 
    int switchControlSet( U16 unit, U32 control, U32 value, U32, std::source_location origin ) override {
-      bool const changed = driver_.control( ChipId{ unit }, control, value );
-      if ( auto * listener = operationListener() ) {
-         Operation operation;
+      auto * const listener = operationListener();
+      Operation operation;
+      if ( listener ) {
+         operation.controlBefore = driver_.controlValue( ChipId{ unit }, control );
+      }
+      operation.changed = driver_.control( ChipId{ unit }, control, value );
+      if ( listener ) {
          operation.kind = Operation::Kind::control;
-         operation.changed = changed;
          operation.chip = ChipId{ unit };
          operation.controlNumber = control;
          operation.controlValue = value;

@@ -36,6 +36,11 @@ class TransferTest : public testing::Test, public DaceSal::SchanDriver, public D
       written.assign( words.begin(), words.end() );
       return at.selectorA == changedIn;
    }
+   bool
+   exchange( ChipId chip, SchanAddress const & at, std::span< U32 const > words, std::span< U32 > before ) override {
+      std::fill( before.begin(), before.end(), 0 );
+      return write( chip, at, words );
+   }
    bool control( ChipId, U32, U32 ) override { return false; }
 
    void operation( Operation const & heard ) override {

@@ -2,6 +2,7 @@
 // are played here, and ./dev golden writes the list anew.
 #include "inspection/FunctionTables.h"
 #include "inspection/GoldenList.h"
+#include "l3sm/Command.h"
 
 #include <set>
 
@@ -11,16 +12,16 @@ namespace fs = std::filesystem;
 
 fs::path const source = L3SM_SOURCE_DIR;
 
-std::vector< Inspection::JournalFile > journalsOfTheExamples() {
+std::vector< Inspection::KeptRows > journalsOfTheExamples() {
    std::set< fs::path > examples;
    for ( auto const & example : fs::directory_iterator( source / "examples" ) ) {
       examples.insert( example.path() );
    }
-   std::vector< Inspection::JournalFile > journals;
+   std::vector< Inspection::KeptRows > journals;
    for ( fs::path const & example : examples ) {
       Command const l3sm( "run '" + example.string() + "' --quiet --journal journal" );
       EXPECT_EQ( l3sm.status, 0 ) << example << l3sm.errors;
-      journals.push_back( Inspection::readJournal( ( l3sm.folder / "journal" ).string() ) );
+      journals.push_back( Inspection::rowsOf( ( l3sm.folder / "journal" ).string() ) );
    }
    return journals;
 }

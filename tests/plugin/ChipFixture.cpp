@@ -100,11 +100,11 @@ std::set< std::string > ChipFixture::changedPlaces( FapId fapId ) const {
 }
 
 std::vector< ChipFixture::Row > ChipFixture::rows() const {
-   return sw().journal().rows();
+   return sw().journal().operations();
 }
 
 std::string ChipFixture::text( Row const & row ) {
-   using Kind = Simulator::Journal::Kind;
+   using Kind = Simulator::Row::Kind;
    if ( row.kind == Kind::control ) {
       return "control " + std::to_string( row.control ) + " = " + std::to_string( row.value );
    }
@@ -113,7 +113,7 @@ std::string ChipFixture::text( Row const & row ) {
    if ( row.entry ) {
       it += "/" + std::to_string( *row.entry );
    }
-   if ( row.scope == Simulator::Journal::Scope::core ) {
+   if ( row.scope == Simulator::Row::Scope::core ) {
       it += " core " + std::to_string( row.core );
    }
    return it;

@@ -88,7 +88,7 @@ class ChipFixture : public testing::Test {
 
    // ---- how it got there
 
-   using Row = Simulator::Journal::Row;
+   using Row = Simulator::Row;
    std::vector< Row > rows() const;
 
    // "read IppdFerTrapCfg 0/3" (variant, array index), "write EnablersVectors 0/1/22" (entry), "write ... core 1",

@@ -194,7 +194,7 @@ TEST_F( ChipInitListOfOneChip, isFollowedByTheMachinesOwnList ) {
    // The flood set, which the machine has written once more between them.
    U64 flood = 0;
    for ( auto const & row : rows() ) {
-      if ( row.table == "UnknownDaProfile" && row.kind == Simulator::Journal::Kind::write ) {
+      if ( row.table == "UnknownDaProfile" && row.kind == Simulator::Row::Kind::write ) {
          flood = row.seq;
       }
    }

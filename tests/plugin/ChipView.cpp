@@ -40,9 +40,9 @@ void TestSwitch::fieldIs( At const & at, char const * name, U64 value, FapId fap
    chip( fap ).fill( Simulator::addressOf( layout( at, fap ), at.array, at.entry ), words );
 }
 
-std::vector< Journal::Row > TestSwitch::rows( std::optional< U32 > ofEvent ) const {
-   std::vector< Journal::Row > found;
-   for ( auto const & row : journal().rows() ) {
+std::vector< Simulator::Row > TestSwitch::rows( std::optional< U32 > ofEvent ) const {
+   std::vector< Simulator::Row > found;
+   for ( auto const & row : journal().operations() ) {
       if ( row.event == ofEvent.value_or( event() ) ) {
          found.push_back( row );
       }
@@ -61,11 +61,11 @@ TestSwitch::operations( std::string const & part, FapId fap, std::optional< U32 
    return texts;
 }
 
-std::string TestSwitch::text( Journal::Row const & row ) {
-   if ( row.kind == Journal::Kind::control ) {
+std::string TestSwitch::text( Simulator::Row const & row ) {
+   if ( row.kind == Simulator::Row::Kind::control ) {
       return "control " + std::to_string( row.control ) + " = " + std::to_string( row.value );
    }
-   return ( row.kind == Journal::Kind::read ? "read " : "write " ) + std::string( row.table ) + " " +
+   return ( row.kind == Simulator::Row::Kind::read ? "read " : "write " ) + std::string( row.table ) + " " +
           std::to_string( row.variant ) + "/" + std::to_string( row.array ) + "/" +
           ( row.entry ? std::to_string( *row.entry ) : "-" );
 }

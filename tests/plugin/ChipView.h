@@ -49,12 +49,12 @@ class TestSwitch : public Simulator::SimulatedSwitch {
    void fieldIs( At const & at, char const * name, U64 value, FapId fap = {} );
 
    // The rows of an event; of the last one if none is named.
-   std::vector< Journal::Row > rows( std::optional< U32 > ofEvent = {} ) const;
+   std::vector< Simulator::Row > rows( std::optional< U32 > ofEvent = {} ) const;
    // The same as text: "read <table> <variant>/<array>/<entry>", "write ...", "control <number> = <value>", of the
    // tables whose name contains `part`, on one FAP.
    std::vector< std::string >
    operations( std::string const & part = "", FapId fap = {}, std::optional< U32 > ofEvent = {} ) const;
-   static std::string text( Journal::Row const & row );
+   static std::string text( Simulator::Row const & row );
 
    // Announces an attribute again, unchanged.
    void announce( std::string const & path, short attribute );

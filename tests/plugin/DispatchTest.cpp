@@ -22,7 +22,7 @@ struct Row {
 // The functions that have spoken: those that begin a trace of the plug-in, and those that worked on a chip.
 class Heard {
  public:
-   explicit Heard( Simulator::Journal const & journal ) : journal_( journal ), seen_( journal.size() ) {
+   explicit Heard( Simulator::Journal const & journal ) : journal_( journal ), seen_( journal.rows().size() ) {
       Rex::traceSinkIs( [this]( Rex::TraceRecord const & record ) {
          std::string const & text = record.text;
          auto name = text.substr( 0, text.find_first_of( " ,." ) );
@@ -46,8 +46,11 @@ class Heard {
 
    // Since the last call.
    Names take() {
-      for ( ; seen_ < journal_.size(); ++seen_ ) {
-         names_.emplace( journal_.row( seen_ ).function );
+      auto const rows = journal_.rows();
+      for ( ; seen_ < rows.size(); ++seen_ ) {
+         if ( rows[seen_].isOperation() ) {
+            names_.emplace( rows[seen_].function );
+         }
       }
       return std::exchange( names_, {} );
    }

@@ -88,7 +88,7 @@ TEST( Evpn, theFlagsHaveTwoElementsOnTheLargeChips ) {
       }
       // One element is finished before the next begins.
       auto const rows = sw.rows( 1 );
-      EXPECT_TRUE( std::ranges::is_sorted( rows, {}, &Journal::Row::array ) );
+      EXPECT_TRUE( std::ranges::is_sorted( rows, {}, &Simulator::Row::array ) );
    }
 }
 
@@ -114,7 +114,7 @@ std::vector< int > changedProfiles( TestSwitch const & sw, U32 event ) {
    std::vector< U32 > before;
    for ( auto const & row : sw.rows( event ) ) {
       std::vector< U32 > const words( row.words.begin(), row.words.end() );
-      if ( row.kind == Journal::Kind::read ) {
+      if ( row.kind == Simulator::Row::Kind::read ) {
          before = words;
          continue;
       }

@@ -225,9 +225,9 @@ TEST( FfcModifier, readsTheParametersOfAnInstruction ) {
 TEST( FfcModifier, aRunWithTheSameLengthsChangesNoWord ) {
    Machine machine( { ChipType::BCM88850_A0 } );
    machine.lengths->prefixLenIs( 0, 24 );
-   auto const before = machine.sw.journal().size();
+   auto const before = machine.sw.journal().operationCount();
    machine.sm->handlePrefixLengthInExactMatch();
-   auto const rows = machine.sw.journal().rows();
+   auto const rows = machine.sw.journal().operations();
    EXPECT_EQ( rows.size(), before + 6 );
    for ( auto at = before; at < rows.size(); ++at ) {
       EXPECT_FALSE( rows[at].changed );
@@ -236,9 +236,9 @@ TEST( FfcModifier, aRunWithTheSameLengthsChangesNoWord ) {
 
 TEST( FfcModifier, aSecondMachineFindsNothingInAKeyThatIsNoLongerReduced ) {
    Machine machine;
-   auto const before = machine.sw.journal().size();
+   auto const before = machine.sw.journal().operationCount();
    auto const second = RemFfcModifierSm::RemFfcModifierSmIs( machine.sw.cellStatus(), machine.lengths );
-   auto const rows = machine.sw.journal().rows();
+   auto const rows = machine.sw.journal().operations();
    EXPECT_EQ( rows.size(), before + 18 + 2 ); // every builder is looked at, and the database written
 }
 
@@ -246,13 +246,13 @@ TEST( FfcModifier, hearsTheLengthsUntilItGoes ) {
    Machine machine;
    auto const lengths = machine.lengths;
    machine.sm->markAndSweepFlagSet( true );
-   auto const before = machine.sw.journal().size();
+   auto const before = machine.sw.journal().operationCount();
    lengths->prefixLenIs( 0, 24 );
-   EXPECT_EQ( machine.sw.journal().size(), before );
+   EXPECT_EQ( machine.sw.journal().operationCount(), before );
    machine.sm->markAndSweepFlagSet( false );
    machine.sm->hasNotificationActiveIs( false );
    lengths->prefixLenIs( 0, 21 );
-   EXPECT_EQ( machine.sw.journal().size(), before );
+   EXPECT_EQ( machine.sw.journal().operationCount(), before );
    machine.sm = nullptr;
    EXPECT_FALSE( lengths->publisher()->hasSubscribers() );
 }

@@ -74,8 +74,8 @@ std::string tableText( std::string const & table, U32 variant, U32 array ) {
 
 std::set< Place > writtenPlaces( Simulator::SimulatedSwitch const & sw ) {
    std::set< Place > places;
-   for ( auto const & row : sw.journal().rows() ) {
-      if ( row.kind == Journal::Kind::write && row.fap == theFap.value() ) {
+   for ( auto const & row : sw.journal().operations() ) {
+      if ( row.kind == Simulator::Row::Kind::write && row.fap == theFap.value() ) {
          places.insert( { tableText( std::string( row.table ), row.variant, static_cast< U32 >( row.array ) ),
                           row.entry.value_or( 0 ) } );
       }

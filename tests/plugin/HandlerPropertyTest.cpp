@@ -342,7 +342,7 @@ TEST( HandlerProperties, theSameInputsAgainChangeNoWord ) {
       U32 const last = sw.event();
       announceAll( sw );
       std::set< std::string > functions;
-      for ( auto const & row : sw.journal().rows() ) {
+      for ( auto const & row : sw.journal().operations() ) {
          if ( row.event > last ) {
             RC_ASSERT( !row.changed );
             functions.emplace( row.function );

@@ -24,7 +24,7 @@ struct OwnL3Sm : MountedSwitch {
    Corvo::Ptr< Routing::Hardware::Config > config() {
       return sw.entity< Routing::Hardware::Config >( "routing/hardware/config" );
    }
-   std::size_t operations() { return sw.journal().rows().size(); }
+   std::size_t operations() { return sw.journal().operations().size(); }
 };
 
 TEST( FapType, ByChipType ) {

@@ -238,7 +238,7 @@ TEST( Mounter, AMounterThatIsGoneHearsNoReport ) {
 std::size_t chipInitOperations( MountedSwitch & agent ) {
    agent.init();
    agent.initChips();
-   return agent.sw.journal().rows().size();
+   return agent.sw.journal().operations().size();
 }
 
 TEST( ChipInitGate, FapOfType3IsNotServedWithBothTogglesOn ) {
@@ -268,7 +268,7 @@ TEST( ChipInitGate, FapOfType4IsNeverServedAndReadsNoToggle ) {
    auto const fapStatus = Corvo::makePtr< Hardware::Dace::Cell::FapStatus >( Hardware::Dace::FapId( 0 ) );
    fapStatus->revisionIs( { 10, static_cast< ChipType >( 20 ), 7 } );
    agent.shared< DaceFapNi::ChipInitConfigDir >( "chipInitConfigDir" )->initChip( fapStatus );
-   EXPECT_TRUE( agent.sw.journal().rows().empty() );
+   EXPECT_TRUE( agent.sw.journal().operations().empty() );
    for ( auto const & reading : Toggle::readings() ) {
       EXPECT_NE( reading.name, "ArmOrderedSwTable" );
    }

@@ -90,7 +90,7 @@ TEST( MplsParser, configuredWithNeitherSettingNorDefaultFailsBeforeAnyWrite ) {
          defaults( missing == 0 ? 255 : 4, missing == 1 ? 255 : 3, missing == 2 ? 255 : 2, missing == 3 ? 255 : 1 ) );
       machine.config->parserSettingsConfiguredIs( true );
       EXPECT_THROW( machine.build(), Rex::BadOptionalAccess );
-      EXPECT_EQ( machine.sw.journal().size(), 0u ) << missing;
+      EXPECT_EQ( machine.sw.journal().operationCount(), 0u ) << missing;
       // Nothing was left behind.
       EXPECT_FALSE( machine.config->publisher()->hasSubscribers() );
    }
@@ -101,7 +101,7 @@ TEST( MplsParser, withoutTheLastDefaultFailsBeforeAnyWriteEvenWithoutAFap ) {
       Machine machine( chips );
       machine.capability->parserDefault3Is( 255 );
       EXPECT_THROW( machine.build(), Rex::BadOptionalAccess );
-      EXPECT_EQ( machine.sw.journal().size(), 0u );
+      EXPECT_EQ( machine.sw.journal().operationCount(), 0u );
    }
 }
 
@@ -128,23 +128,23 @@ TEST( MplsParser, withoutAFapAnEarlierDefaultIsNotMissed ) {
    machine.capability->attributesIs( defaults( 255, 255, 255, 1 ) );
    auto const sm = machine.build();
    EXPECT_TRUE( sm );
-   EXPECT_EQ( machine.sw.journal().size(), 0u );
+   EXPECT_EQ( machine.sw.journal().operationCount(), 0u );
 }
 
 TEST( MplsParser, hearsTheConfigurationWhileItsNotificationsAreOn ) {
    Machine machine( { ChipType::BCM88690_B0 } );
    auto const sm = machine.build();
-   EXPECT_EQ( machine.sw.journal().size(), 5u );
+   EXPECT_EQ( machine.sw.journal().operationCount(), 5u );
    sm->hasNotificationActiveIs( false );
    machine.config->parserSettingsConfiguredIs( true );
-   EXPECT_EQ( machine.sw.journal().size(), 5u );
+   EXPECT_EQ( machine.sw.journal().operationCount(), 5u );
    sm->hasNotificationActiveIs( true );
-   EXPECT_EQ( machine.sw.journal().size(), 5u );
+   EXPECT_EQ( machine.sw.journal().operationCount(), 5u );
    machine.config->parserSettingsConfiguredIs( false );
-   EXPECT_EQ( machine.sw.journal().size(), 10u );
+   EXPECT_EQ( machine.sw.journal().operationCount(), 10u );
    sm->markAndSweepFlagSet( true );
    machine.config->parserSettingsConfiguredIs( true );
-   EXPECT_EQ( machine.sw.journal().size(), 10u );
+   EXPECT_EQ( machine.sw.journal().operationCount(), 10u );
 }
 
 TEST( MplsParser, tellsEachRun ) {

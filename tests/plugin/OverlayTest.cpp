@@ -28,12 +28,12 @@ Strings OverlayTest::writes() {
    auto const & journal = sw().journal();
    for ( ; seen_ < journal.size(); ++seen_ ) {
       auto const row = journal.row( seen_ );
-      if ( row.kind == Simulator::Journal::Kind::read ) {
+      if ( row.kind == Simulator::Row::Kind::read ) {
          continue;
       }
       std::ostringstream out;
       out << row.fap << ' ';
-      if ( row.kind == Simulator::Journal::Kind::control ) {
+      if ( row.kind == Simulator::Row::Kind::control ) {
          out << text( row );
       } else {
          out << text( row ).substr( 6 ) << " = 0x" << std::hex << std::setfill( '0' );

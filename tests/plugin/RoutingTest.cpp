@@ -88,7 +88,7 @@ TEST_P( RoutingTest, writesTheVectorsToEveryCopy ) {
    for ( U32 copy = 0; copy < copiesOf( GetParam() ); ++copy ) {
       EXPECT_EQ( words( vectors, { .variant = 1, .array = 3, .entry = 21 }, copy ), ( Words{ 0x154, 0x400 } ) );
    }
-   EXPECT_EQ( rows().front().scope, Simulator::Journal::Scope::all );
+   EXPECT_EQ( rows().front().scope, Simulator::Row::Scope::all );
 }
 
 TEST_F( ChipFixture, readsTheSrv6ToggleOnlyWhenTheVectorThatItDecidesIsWritten ) {

@@ -191,7 +191,7 @@ TEST( SlotLoadBalance, anEntryBeforeInitializationWaits ) {
    sw.mode( "3", 2 );
    sw.set( std::string( lag ) + "/slotLoadBalance/3", "guePktTypeHashMode", 1 );
    sw.set( std::string( lag ) + "/slotLoadBalance/3", "guePktTypeHashMode", 2 );
-   EXPECT_EQ( sw.journal().size(), 0u );
+   EXPECT_EQ( sw.journal().operationCount(), 0u );
    sw.set( "shared/phySmStateData", "allEthPhyIntfConfigDir", Object{} );
    EXPECT_EQ( sw.operations( "VsiProfileEnablers" ), programming );
    sw.expectProfile( 0 );

@@ -230,7 +230,8 @@ class Life {
 class SoakTest : public testing::TestWithParam< SoakCase > {
  public:
    static Simulator::SwitchDescription description() {
-      Simulator::SwitchDescription all{ .toggles = GetParam().toggles, .journalled = false };
+      Simulator::SwitchDescription all{ .toggles = GetParam().toggles,
+                                        .journalled = Simulator::SwitchDescription::Journalled::none };
       for ( U16 number = 0; auto const kind : Hardware::allChipTypes ) {
          all.faps.push_back( { .fapId = FapId( number ),
                                .cores = copiesOf( kind ),

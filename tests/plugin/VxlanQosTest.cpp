@@ -136,7 +136,7 @@ TEST_F( VxlanQosTest, walksEveryEntryOfEveryFapInOrder ) {
    ecnConfig->dscpEcnRewriteBridgedIs( true );
    std::vector< std::pair< int, int > > reads;
    for ( auto const & row : rows() ) {
-      if ( row.kind == Simulator::Journal::Kind::read ) {
+      if ( row.kind == Simulator::Row::Kind::read ) {
          reads.emplace_back( row.fap, static_cast< int >( *row.entry ) );
       }
    }

@@ -3,12 +3,7 @@
 #include "generated/Catalogue.h"
 #include "rex/Assert.h"
 
-#include <filesystem>
-#include <fstream>
 #include <gtest/gtest.h>
-#include <sstream>
-#include <stdexcept>
-#include <unistd.h>
 
 using namespace Simulator;
 using DaceSal::ChipId;
@@ -33,17 +28,9 @@ namespace {
 
 struct JournalTest : testing::Test {
    std::string cause = "chip-init";
-   Journal journal{ [this] { return cause; } };
-   std::filesystem::path path = std::filesystem::temp_directory_path() / ( "journal-" + std::to_string( getpid() ) );
+   Journal journal{ { .cause = [this] { return cause; } } };
 
-   JournalTest() { std::filesystem::remove( path ); }
-   ~JournalTest() override { std::filesystem::remove( path ); }
-
-   std::string file() const {
-      std::ostringstream text;
-      text << std::ifstream( path ).rdbuf();
-      return text.str();
-   }
+   JournalTest() { journal.rowsAreKept(); }
 
    void writeVector( U32 entry, std::vector< U32 > const & words, Scope scope = Scope::all, int core = 0 ) {
       journal.operation( { .kind = Kind::write,
@@ -68,51 +55,11 @@ struct JournalTest : testing::Test {
                            .origin = std::source_location::current() } );
    }
 };
-using JournalDeathTest = JournalTest;
-
-// The line without the two keys that name a place in this file.
-std::string withoutPlace( std::string line ) {
-   auto const from = line.find( ", \"function\"" );
-   auto const to = line.find( ", \"cause\"" );
-   return line.erase( from, to - from );
-}
-
-TEST_F( JournalTest, tellsOfAReadFromAnyCopy ) {
-   std::vector< U32 > const words{ 0xa00 };
-   journal.operation( DaceFapNi::readTrap( words ) );
-   ASSERT_EQ( journal.size(), 1u );
-   EXPECT_EQ( withoutPlace( Journal::json( journal.row( 0 ) ) ),
-              R"({"seq": 1, "event": 0, "op": "read", "fap": 3, "table": "IppdFerTrapCfg", "variant": 0, "array": 4, )"
-              R"("entry": null, "scope": "any", "words": ["0x00000a00"], "cause": "chip-init"})" );
-}
-
-TEST_F( JournalTest, tellsOfAWriteToAllCopiesAndToOneCore ) {
-   writeVector( 21, { 4, 0x400 } );
-   writeVector( 0, { 0xffffffff, 0 }, Scope::core, 1 );
-   EXPECT_EQ(
-      withoutPlace( Journal::json( journal.row( 0 ) ) ),
-      R"({"seq": 1, "event": 0, "op": "write", "fap": 0, "table": "EnablersVectors", "variant": 1, "array": 3, )"
-      R"("entry": 21, "scope": "all", "words": ["0x00000004", "0x00000400"], "changed": true, )"
-      R"("cause": "chip-init"})" );
-   EXPECT_EQ(
-      withoutPlace( Journal::json( journal.row( 1 ) ) ),
-      R"({"seq": 2, "event": 0, "op": "write", "fap": 0, "table": "EnablersVectors", "variant": 1, "array": 3, )"
-      R"("entry": 0, "scope": "core", "core": 1, "words": ["0xffffffff", "0x00000000"], "changed": true, )"
-      R"("cause": "chip-init"})" );
-}
-
-TEST_F( JournalTest, tellsOfAControl ) {
-   cause = "start";
-   control( 64, 255, false );
-   EXPECT_EQ( withoutPlace( Journal::json( journal.row( 0 ) ) ),
-              R"({"seq": 1, "event": 0, "op": "control", "fap": 1, "control": 64, "value": 255, "changed": false, )"
-              R"("cause": "start"})" );
-}
 
 TEST_F( JournalTest, namesFunctionAndSourceOfEachRow ) {
    unsigned const line = __LINE__ + 1;
    journal.operation( DaceFapNi::readTrap( {} ) );
-   auto const row = journal.row( 0 );
+   auto const row = journal.rows()[0];
    EXPECT_EQ( row.source, "JournalTest.cpp:" + std::to_string( line ) );
    EXPECT_NE( row.function.find( "::TestBody" ), std::string_view::npos );
    EXPECT_EQ( row.function.find( "void" ), std::string_view::npos );
@@ -120,7 +67,8 @@ TEST_F( JournalTest, namesFunctionAndSourceOfEachRow ) {
 
 TEST_F( JournalTest, keepsTheEventAndCauseOfEachRow ) {
    control( 1, 1, true );
-   journal.eventIs( 1 );
+   journal.eventEnds();
+   journal.eventBegins( 1, {} );
    cause = "evpn/status evpnDciEnabled";
    control( 1, 2, true );
    cause = "chip-init";
@@ -140,12 +88,12 @@ TEST_F( JournalTest, answersToTests ) {
    control( 65, 9, true );
    auto const rows = journal.rows();
    EXPECT_EQ( rows[0].table, "EnablersVectors" );
-   EXPECT_EQ( rows[0].kind, Kind::write );
+   EXPECT_EQ( rows[0].kind, Row::Kind::write );
    EXPECT_EQ( rows[0].entry, 7u );
    EXPECT_EQ( rows[0].array, 3 );
    EXPECT_EQ( rows[0].variant, 1 );
    EXPECT_EQ( rows[0].words, ( std::vector< U32 >{ 1, 2 } ) );
-   EXPECT_EQ( rows[1].kind, Kind::control );
+   EXPECT_EQ( rows[1].kind, Row::Kind::control );
    EXPECT_EQ( rows[1].fap, 1 );
    EXPECT_EQ( rows[1].control, 65u );
    EXPECT_EQ( rows[1].value, 9u );
@@ -154,7 +102,7 @@ TEST_F( JournalTest, answersToTests ) {
 
 TEST_F( JournalTest, keepsItsAnswersWhileItGrows ) {
    writeVector( 7, { 1, 2 } );
-   auto const before = journal.row( 0 );
+   auto const before = journal.rows()[0];
    for ( U32 entry = 0; entry < 1000; ++entry ) {
       cause = "cause " + std::to_string( entry );
       writeVector( entry % 32, { entry, 0 } );
@@ -162,156 +110,126 @@ TEST_F( JournalTest, keepsItsAnswersWhileItGrows ) {
    EXPECT_EQ( before.cause, "chip-init" );
    EXPECT_EQ( before.table, "EnablersVectors" );
    EXPECT_EQ( before.words, ( std::vector< U32 >{ 1, 2 } ) );
-   EXPECT_EQ( Journal::json( before ), Journal::json( journal.row( 0 ) ) );
 }
 
-TEST_F( JournalTest, escapesWhatJsonCannotHold ) {
-   cause = "a \"b\" \\ \n";
-   control( 1, 1, true );
-   EXPECT_NE( Journal::json( journal.row( 0 ) ).find( R"("cause": "a \"b\" \\ \u000a"})" ), std::string::npos );
-}
-
-TEST_F( JournalTest, bringsToTheFileWhatIsNewAtEachFlush ) {
-   journal.fileIs( path );
-   control( 1, 1, true );
-   control( 1, 2, true );
-   EXPECT_EQ( file(), "" );
-   journal.flush();
-   std::string const lines = Journal::json( journal.row( 0 ) ) + "\n" + Journal::json( journal.row( 1 ) ) + "\n";
-   EXPECT_EQ( file(), lines );
-   journal.flush();
-   EXPECT_EQ( file(), lines );
-   control( 1, 3, true );
-   journal.flush();
-   EXPECT_EQ( file(), lines + Journal::json( journal.row( 2 ) ) + "\n" );
-}
-
-TEST_F( JournalTest, bringsMoreThanABufferToTheFile ) {
-   journal.fileIs( path );
-   std::vector< U32 > const words( 16, 0x12345678 );
-   for ( U32 entry = 0; entry < 10000; ++entry ) {
-      writeVector( entry, words );
+// Writes down what it hears.
+struct Heard : RowReader {
+   std::vector< std::string > all;
+   void eventBegins( U32 event, Rex::Value const & what ) override {
+      all.push_back( "event " + std::to_string( event ) + " " + Rex::toText( what ) );
    }
-   journal.flush();
-   std::ifstream lines( path );
-   std::string line;
-   std::size_t count = 0;
-   while ( std::getline( lines, line ) ) {
-      EXPECT_TRUE( line.starts_with( "{\"seq\": " + std::to_string( ++count ) + "," ) );
+   void row( Row const & row ) override {
+      all.push_back( row.kind == Row::Kind::gate ? "gate " + std::string( row.reason )
+                                                 : "control " + std::to_string( row.control ) );
    }
-   EXPECT_EQ( count, 10000u );
+   void eventEnds( U32 event ) override { all.push_back( "end of " + std::to_string( event ) ); }
+   void ends( Ending const & ending ) override {
+      all.push_back( "ends after " + std::to_string( ending.events ) + " events, " +
+                     std::to_string( ending.operations ) + " operations" );
+   }
+};
+
+TEST( Journal, handsEachEventToItsReadersWhenItIsOverAndForgetsIt ) {
+   Journal journal{ { .cause = [] { return std::string( "start" ); } } };
+   Heard heard;
+   journal.readerAdd( heard );
+   auto const control = [&]( U32 number ) {
+      journal.operation( { .kind = Kind::control, .controlNumber = number, .words = {} } );
+   };
+   control( 64 );
+   EXPECT_TRUE( heard.all.empty() );
+   EXPECT_EQ( journal.rows().size(), 1u );
+   journal.eventEnds();
+   EXPECT_EQ( heard.all, ( std::vector< std::string >{ R"(event 0 {"start": {}})", "control 64", "end of 0" } ) );
+   EXPECT_TRUE( journal.rows().empty() );
+
+   heard.all.clear();
+   journal.eventBegins( 1, "what" );
+   control( 65 );
+   journal.gateClosed( { "the toggle is off", U16{ 3 }, std::source_location::current() } );
+   control( 66 );
+   journal.eventEnds();
+   journal.ends( Ending::Kind::complete );
+   journal.ends( Ending::Kind::interrupted );
+   EXPECT_EQ( heard.all,
+              ( std::vector< std::string >{ R"(event 1 "what")",
+                                            "control 65",
+                                            "gate the toggle is off",
+                                            "control 66",
+                                            "end of 1",
+                                            "ends after 1 events, 3 operations" } ) );
 }
 
-TEST_F( JournalTest, isCompleteAtItsEndAndHearsNoMore ) {
-   {
-      Journal ending( [] { return std::string( "start" ); } );
-      DaceSal::operationListenerIs( &ending );
-      ending.fileIs( path );
-      ending.operation( DaceFapNi::readTrap( {} ) );
-   }
-   EXPECT_NE( file().find( "\"op\": \"read\"" ), std::string::npos );
-   EXPECT_EQ( DaceSal::operationListener(), nullptr );
-}
-
-TEST_F( JournalTest, refusesAFileThatCannotBeMade ) {
-   try {
-      journal.fileIs( "/nowhere/journal.jsonl" );
-      FAIL() << "no refusal";
-   } catch ( std::runtime_error const & error ) {
-      EXPECT_STREQ( error.what(), "/nowhere/journal.jsonl: No such file or directory" );
-   }
-}
-
-TEST_F( JournalTest, reportsAFileThatCannotBeWritten ) {
-   journal.fileIs( "/dev/full" );
-   control( 1, 1, true );
-   try {
-      journal.flush();
-      FAIL() << "no report";
-   } catch ( std::runtime_error const & error ) {
-      EXPECT_STREQ( error.what(), "/dev/full: No space left on device" );
-   }
-}
-
-TEST_F( JournalDeathTest, isCompleteUpToTheLastOperationWhenAnAssertionFails ) {
+TEST( JournalDeath, handsOverWhatThereIsOfAnEventThatFails ) {
+   struct Telling : Heard {
+      void ends( Ending const & ending ) override {
+         for ( std::string const & line : all ) {
+            std::fprintf( stderr, "%s;", line.c_str() );
+         }
+         std::fprintf( stderr, "%s in %s;", ending.text.c_str(), ending.source.substr( 0, 15 ).c_str() );
+      }
+   };
    EXPECT_DEATH(
       {
-         journal.fileIs( path );
-         control( 64, 255, true );
+         Journal journal{ { .cause = [] { return std::string( "start" ); } } };
+         Telling heard;
+         journal.readerAdd( heard );
+         journal.operation( { .kind = Kind::control, .controlNumber = 64, .words = {} } );
          Rex::sassert( false, "the end" );
       },
-      "the end" );
-   EXPECT_NE( file().find( "\"control\": 64, \"value\": 255" ), std::string::npos );
+      R"(event 0 ."start": ...;control 64;the end in JournalTest.cpp;)" );
 }
 
-void failing() {
-   throw std::runtime_error( "nobody listens" );
-}
-
-TEST_F( JournalDeathTest, isCompleteUpToTheLastOperationWhenAnExceptionIsNotCaught ) {
-   EXPECT_DEATH(
-      {
-         journal.fileIs( path );
-         control( 65, 1, true );
-         []() noexcept { failing(); }();
-      },
-      "nobody listens" );
-   EXPECT_NE( file().find( "\"control\": 65" ), std::string::npos );
-}
-
-TEST_F( JournalTest, tellsTheGatesThatWereFoundClosedWithTheNextOperation ) {
-   Rex::gateListenerIs( &journal );
+TEST_F( JournalTest, tellsOfAGateWhereItWasFoundClosed ) {
+   journal.listens();
    cause = "evpn/status vxlanEnabled";
    EXPECT_TRUE( Rex::gate( true, "this one is open" ) );
    EXPECT_FALSE( Rex::gate( false, "the toggle \"X\" is off" ) );
+   control( 1, 2, true );
    EXPECT_FALSE( Rex::gate( false, "the chip lacks the context", U16{ 3 } ) );
-   control( 1, 2, true );
-   control( 1, 3, true );
 
-   auto const gates = journal.row( 0 ).gates;
-   ASSERT_EQ( gates.size(), 2u );
-   EXPECT_EQ( gates[0].reason, "the toggle \"X\" is off" );
-   EXPECT_EQ( gates[0].fap, std::nullopt );
-   EXPECT_EQ( gates[1].fap, U16{ 3 } );
-   EXPECT_EQ( gates[1].cause, "evpn/status vxlanEnabled" );
-   EXPECT_TRUE( gates[0].source.starts_with( "JournalTest.cpp:" ) );
-   EXPECT_TRUE( journal.row( 1 ).gates.empty() );
-
-   std::string const line = Journal::json( journal.row( 0 ) );
-   EXPECT_NE(
-      line.find( R"("reason": "the toggle \"X\" is off", "event": 0, "cause": "evpn/status vxlanEnabled"}, {)" ),
-      std::string::npos )
-      << line;
-   EXPECT_NE( line.find( R"("reason": "the chip lacks the context", "fap": 3, "event": 0)" ), std::string::npos )
-      << line;
+   auto const rows = journal.rows();
+   ASSERT_EQ( rows.size(), 3u );
+   EXPECT_EQ( rows[0].kind, Row::Kind::gate );
+   EXPECT_EQ( rows[0].reason, "the toggle \"X\" is off" );
+   EXPECT_FALSE( rows[0].isOfFap );
+   EXPECT_EQ( rows[0].cause, "evpn/status vxlanEnabled" );
+   EXPECT_TRUE( rows[0].source.starts_with( "JournalTest.cpp:" ) );
+   EXPECT_EQ( rows[1].seq, 1u );
+   EXPECT_TRUE( rows[2].isOfFap );
+   EXPECT_EQ( rows[2].fap, 3 );
+   EXPECT_EQ( journal.operations().size(), 1u );
 }
 
-TEST_F( JournalTest, tellsTheLastGatesWithTheLastOperationAndEachGateOnce ) {
-   Rex::gateListenerIs( &journal );
-   journal.fileIs( path );
-   control( 1, 2, true );
-   Rex::gate( false, "first" );
-   journal.flush();
-   control( 1, 3, true );
-   Rex::gate( false, "second" );
-   journal.flush();
-
-   std::string const text = file();
-   EXPECT_EQ( text.find( "first" ), text.rfind( "first" ) );
-   EXPECT_NE( text.find( R"("gatesAfter": [{"function": )" ), std::string::npos );
-   EXPECT_EQ( text.find( R"("gates": )" ), std::string::npos ) << text;
-   EXPECT_EQ( text.find( "second" ), text.rfind( "second" ) );
-   EXPECT_EQ( journal.row( 1 ).gates.size(), 1u );
-   EXPECT_EQ( journal.row( 1 ).gatesAfter.size(), 1u );
+TEST_F( JournalTest, hearsNoMoreAtItsEnd ) {
+   {
+      Journal ending{ { .cause = [] { return std::string( "start" ); } } };
+      ending.listens();
+      EXPECT_EQ( DaceSal::operationListener(), &ending );
+   }
+   EXPECT_EQ( DaceSal::operationListener(), nullptr );
+   EXPECT_EQ( Rex::gateListener(), nullptr );
 }
 
-TEST_F( JournalTest, namesTheKindOfChipWhereItIsKnown ) {
-   journal.chipIs( 1, Hardware::ChipType::BCM88800_A0 );
-   control( 1, 2, true );
+TEST_F( JournalTest, givesRowsTheirLayoutWhereTheKindOfChipIsKnown ) {
+   journal.chipIs( 0, Hardware::ChipType::BCM88800_A0 );
    writeVector( 5, { 1, 0 } );
+   journal.operation( DaceFapNi::readTrap( {} ) );
+   EXPECT_EQ( journal.rows()[0].layout, Catalogue::layout( *Catalogue::table( "EnablersVectors" ), 11, 1 ) );
+   EXPECT_EQ( journal.rows()[1].layout, nullptr );
+}
 
-   EXPECT_TRUE( Journal::json( journal.row( 0 ) ).ends_with( R"("cause": "chip-init", "chip": "BCM88800_A0"})" ) );
-   EXPECT_EQ( journal.row( 1 ).chip, nullptr );
+TEST_F( JournalTest, tellsWhatStoodThereBefore ) {
+   std::vector< U32 > const words{ 1, 2 };
+   std::vector< U32 > const before{ 3, 4 };
+   journal.operation( { .kind = Kind::write, .changed = true, .table = 1, .words = words, .before = before } );
+   writeVector( 0, words );
+   journal.operation( { .kind = Kind::control, .controlBefore = 7, .words = {} } );
+   auto const rows = journal.rows();
+   EXPECT_EQ( rows[0].words, words );
+   EXPECT_EQ( rows[0].before, before );
+   EXPECT_TRUE( rows[1].before.empty() );
+   EXPECT_EQ( rows[2].valueBefore, 7u );
 }
 
 } // namespace

@@ -125,7 +125,7 @@ class RecordingPlugin {
 
 std::vector< std::string > causes( SimulatedSwitch const & sw ) {
    std::vector< std::string > all;
-   for ( auto const & row : sw.journal().rows() ) {
+   for ( auto const & row : sw.journal().operations() ) {
       all.push_back( std::to_string( row.event ) + " control " + std::to_string( row.control ) + ": " +
                      std::string( row.cause ) );
    }
@@ -172,8 +172,8 @@ TEST( SimulatedSwitch, tellsTheCauseOfEachOperation ) {
                          "0 control 65: start",
                          "1 control 66: evpn/status evpnDciEnabled",
                          "1 control 67: evpn/status evpnDciEnabled" } ) );
-   EXPECT_EQ( sw.journal().rows()[0].fap, 2 );
-   EXPECT_EQ( sw.journal().rows()[1].fap, 10 );
+   EXPECT_EQ( sw.journal().operations()[0].fap, 2 );
+   EXPECT_EQ( sw.journal().operations()[1].fap, 10 );
 }
 
 TEST( SimulatedSwitch, countsAChangeThatIsNoneAsAnEventAndARefusedOneNot ) {

@@ -1,0 +1,190 @@
+#include "inspection/files/ByteStreams.h"
+
+#include "inspection/files/InputError.h"
+
+#include <cerrno>
+#include <cstring>
+#include <fcntl.h>
+#include <unistd.h>
+#include <utility>
+#include <vector>
+#include <zstd.h>
+
+namespace Inspection {
+
+namespace {
+
+constexpr std::size_t pendingBytes = 1 << 18; // before they go to the compressor or the kernel
+constexpr int compressionLevel = 1;           // a journal repeats itself: more effort gains little
+
+std::string reason() {
+   return std::strerror( errno );
+}
+
+} // namespace
+
+bool isCompressedName( std::string_view path ) {
+   return path.ends_with( ".zst" );
+}
+
+// ---- out
+
+struct ByteSink::Compressor {
+   Compressor() : context( ZSTD_createCCtx() ), out( ZSTD_CStreamOutSize() ) {
+      ZSTD_CCtx_setParameter( context, ZSTD_c_compressionLevel, compressionLevel );
+      ZSTD_CCtx_setParameter( context, ZSTD_c_checksumFlag, 1 );
+   }
+   ~Compressor() { ZSTD_freeCCtx( context ); }
+   Compressor( Compressor const & ) = delete;
+   Compressor & operator=( Compressor const & ) = delete;
+
+   ZSTD_CCtx * context;
+   std::vector< char > out;
+};
+
+ByteSink::ByteSink( std::string path )
+   : path_( std::move( path ) ), file_( ::open( path_.c_str(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, 0666 ) ) {
+   if ( file_ < 0 ) {
+      throw InputError( path_, "can't be written: " + reason() );
+   }
+   if ( isCompressedName( path_ ) ) {
+      compressor_ = std::make_unique< Compressor >();
+   }
+}
+
+ByteSink::~ByteSink() {
+   try {
+      close();
+   } catch ( InputError const & error ) {
+      std::fprintf( stderr, "%s\n", error.what() );
+   }
+}
+
+// It is told once: what follows goes nowhere.
+void ByteSink::giveUp() {
+   std::string const why = reason();
+   ::close( std::exchange( file_, -1 ) );
+   throw InputError( path_, "can't be written: " + why );
+}
+
+void ByteSink::put( std::string_view bytes ) {
+   while ( !bytes.empty() && file_ >= 0 ) {
+      auto const written = ::write( file_, bytes.data(), bytes.size() );
+      if ( written < 0 && errno != EINTR ) {
+         giveUp();
+      }
+      bytes.remove_prefix( written < 0 ? 0 : static_cast< std::size_t >( written ) );
+   }
+}
+
+void ByteSink::compress( int how ) {
+   ZSTD_inBuffer in{ pending_.data(), pending_.size(), 0 };
+   std::size_t left = 1;
+   while ( left != 0 || in.pos < in.size ) {
+      ZSTD_outBuffer out{ compressor_->out.data(), compressor_->out.size(), 0 };
+      left = ZSTD_compressStream2( compressor_->context, &out, &in, static_cast< ZSTD_EndDirective >( how ) );
+      put( { compressor_->out.data(), out.pos } );
+      if ( how == ZSTD_e_continue && in.pos == in.size ) {
+         break;
+      }
+   }
+   pending_.clear();
+}
+
+void ByteSink::append( std::string_view bytes ) {
+   pending_ += bytes;
+   if ( pending_.size() >= pendingBytes ) {
+      if ( compressor_ ) {
+         compress( ZSTD_e_continue );
+      } else {
+         bringToDisk();
+      }
+   }
+}
+
+void ByteSink::bringToDisk() {
+   if ( compressor_ ) {
+      compress( ZSTD_e_flush );
+   } else {
+      put( std::exchange( pending_, {} ) );
+   }
+}
+
+void ByteSink::close() {
+   if ( file_ < 0 ) {
+      return;
+   }
+   if ( compressor_ ) {
+      compress( ZSTD_e_end );
+   } else {
+      bringToDisk();
+   }
+   if ( ::close( std::exchange( file_, -1 ) ) != 0 ) {
+      throw InputError( path_, "can't be written: " + reason() );
+   }
+}
+
+// ---- in
+
+struct ByteSource::Decompressor {
+   Decompressor() : context( ZSTD_createDCtx() ), in( ZSTD_DStreamInSize() ) {}
+   ~Decompressor() { ZSTD_freeDCtx( context ); }
+   Decompressor( Decompressor const & ) = delete;
+   Decompressor & operator=( Decompressor const & ) = delete;
+
+   ZSTD_DCtx * context;
+   std::vector< char > in;
+   ZSTD_inBuffer input{ nullptr, 0, 0 };
+   bool isInFrame = false;
+};
+
+ByteSource::ByteSource( std::string path )
+   : path_( std::move( path ) ), file_( ::open( path_.c_str(), O_RDONLY | O_CLOEXEC ) ) {
+   if ( file_ < 0 ) {
+      throw InputError( path_, "can't be read: " + reason() );
+   }
+   if ( isCompressedName( path_ ) ) {
+      decompressor_ = std::make_unique< Decompressor >();
+   }
+}
+
+ByteSource::~ByteSource() {
+   ::close( file_ );
+}
+
+std::size_t ByteSource::readRaw( std::span< char > into ) {
+   while ( true ) {
+      auto const size = ::read( file_, into.data(), into.size() );
+      if ( size >= 0 ) {
+         return static_cast< std::size_t >( size );
+      }
+      if ( errno != EINTR ) {
+         throw InputError( path_, "can't be read: " + reason() );
+      }
+   }
+}
+
+std::size_t ByteSource::read( std::span< char > into ) {
+   if ( !decompressor_ ) {
+      return readRaw( into );
+   }
+   auto & [context, in, input, isInFrame] = *decompressor_;
+   ZSTD_outBuffer out{ into.data(), into.size(), 0 };
+   while ( out.pos == 0 ) {
+      if ( input.pos == input.size ) {
+         input = { in.data(), readRaw( in ), 0 };
+         if ( input.size == 0 ) {
+            isCut_ = isInFrame;
+            return 0;
+         }
+      }
+      auto const left = ZSTD_decompressStream( context, &out, &input );
+      if ( ZSTD_isError( left ) ) {
+         throw InputError( path_, std::string( "can't be decompressed: " ) + ZSTD_getErrorName( left ) );
+      }
+      isInFrame = left != 0;
+   }
+   return out.pos;
+}
+
+} // namespace Inspection

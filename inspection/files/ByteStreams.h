@@ -1,0 +1,75 @@
+// Files as streams of bytes, compressed with zstd where their name ends in ".zst".
+//
+//    ByteSink sink( "run.jsonl.zst" );          // InputError
+//    sink.append( text );
+//    sink.bringToDisk();                        // what was appended survives this process from here on
+//
+//    ByteSource source( "run.jsonl.zst" );      // InputError
+//    while ( auto const size = source.read( buffer ) ) { ... }
+//
+// A file that can't be written any more: InputError, once; what follows goes nowhere.
+//
+// Threading: one thread for each stream.
+#pragma once
+
+#include "corvo/Types.h"
+
+#include <memory>
+#include <span>
+#include <string>
+#include <string_view>
+
+namespace Inspection {
+
+bool isCompressedName( std::string_view path );
+
+class ByteSink {
+ public:
+   // Makes the file, or empties it.
+   explicit ByteSink( std::string path );
+   ~ByteSink();
+   ByteSink( ByteSink const & ) = delete;
+   ByteSink & operator=( ByteSink const & ) = delete;
+
+   std::string const & path() const { return path_; }
+   void append( std::string_view bytes );
+   // Hands everything to the kernel. A compressed file can be read up to here then.
+   void bringToDisk();
+   // Brings the rest to the file and ends it. Idempotent.
+   void close();
+
+ private:
+   struct Compressor;
+   void put( std::string_view bytes );
+   void compress( int how );
+   [[noreturn]] void giveUp();
+
+   std::string path_;
+   int file_;
+   std::string pending_;
+   std::unique_ptr< Compressor > compressor_;
+};
+
+class ByteSource {
+ public:
+   explicit ByteSource( std::string path );
+   ~ByteSource();
+   ByteSource( ByteSource const & ) = delete;
+   ByteSource & operator=( ByteSource const & ) = delete;
+
+   // Reads on into `into`, which isn't empty; how many bytes came. 0: the end. A compressed file that breaks off ends
+   // there, and isCut() tells.
+   std::size_t read( std::span< char > into );
+   bool isCut() const { return isCut_; }
+
+ private:
+   struct Decompressor;
+   std::size_t readRaw( std::span< char > into );
+
+   std::string path_;
+   int file_;
+   bool isCut_ = false;
+   std::unique_ptr< Decompressor > decompressor_;
+};
+
+} // namespace Inspection

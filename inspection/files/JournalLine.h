@@ -1,0 +1,61 @@
+// One line of a journal, taken apart.
+//
+// Threading: one thread for each parser.
+#pragma once
+
+#include "constants/ChipType.h"
+#include "simulator/Row.h"
+
+#include <deque>
+#include <map>
+#include <optional>
+#include <simdjson.h>
+#include <unordered_map>
+#include <variant>
+
+namespace Inspection {
+
+class JournalLineParser {
+ public:
+   struct EventLine {
+      U32 event;
+      Rex::Value what;
+   };
+   struct BeginLine {
+      int format;
+      Rex::Value scenario;
+      std::string plugin;
+   };
+   using Parsed = std::variant< Simulator::Row, EventLine, BeginLine, Simulator::Ending >;
+
+   // A FAP's kind of chip: its rows have their layout from now on.
+   void chipIs( U16 fap, Hardware::ChipType chipType ) { chipTypes_[fap] = chipType; }
+
+   // `line` has SIMDJSON_PADDING bytes behind it that may be read. What the row refers to is valid until the next call,
+   // its texts as long as the parser. Rex::ValueError.
+   Parsed parse( std::string_view line );
+
+ private:
+   struct Text {
+      std::string_view text;
+      U32 number;
+   };
+
+   Simulator::Row row( simdjson::dom::object const & object, Simulator::Row::Kind kind );
+   void operation( simdjson::dom::object const & object, Simulator::Row & row );
+   void access( simdjson::dom::object const & object, Simulator::Row & row );
+   void publication( simdjson::dom::object const & object, Simulator::Row & row );
+   Text kept( std::string_view text );
+   Catalogue::Layout const * layoutOf( Simulator::Row const & row ) const;
+
+   simdjson::dom::parser parser_;
+   std::map< U16, Hardware::ChipType > chipTypes_;
+   std::deque< std::string > texts_;
+   std::unordered_map< std::string_view, U32 > numbers_;
+   std::vector< U32 > words_;
+   std::vector< U32 > before_;
+   Rex::Value published_;
+   Rex::Value publishedBefore_;
+};
+
+} // namespace Inspection
