@@ -1,7 +1,7 @@
 // Which FAPs are served, and how the gate of the others is opened.
 #include "inspection/ServedFaps.h"
 
-#include "inspection/files/JournalFile.h"
+#include "inspection/KeptRows.h"
 #include "l3sm/Command.h"
 
 #include <gtest/gtest.h>
@@ -16,9 +16,9 @@ std::string const gateExample = "'" L3SM_SOURCE_DIR "/examples/gate.json' --quie
 ServedFaps after( std::string const & arguments ) {
    Command const l3sm( "run " + arguments );
    EXPECT_EQ( l3sm.status, 0 ) << l3sm.errors;
-   auto const journal = Inspection::readJournal( ( l3sm.folder / "j" ).string() );
+   auto const journal = Inspection::rowsOf( ( l3sm.folder / "j" ).string() );
    ServedFaps faps;
-   for ( auto const & row : journal.rows() ) {
+   for ( auto const & row : journal.all() ) {
       faps.follow( row );
    }
    return faps;

@@ -25,9 +25,9 @@ void OverlayTest::oneFapOfEachKind() {
 
 Strings OverlayTest::writes() {
    Strings all;
-   auto const & journal = sw().journal();
-   for ( ; seen_ < journal.size(); ++seen_ ) {
-      auto const row = journal.row( seen_ );
+   auto const rows = sw().journal().operations();
+   for ( ; seen_ < rows.size(); ++seen_ ) {
+      auto const & row = rows[seen_];
       if ( row.kind == Simulator::Row::Kind::read ) {
          continue;
       }
