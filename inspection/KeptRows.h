@@ -12,6 +12,9 @@ namespace Inspection {
 
 class KeptRows final : public Simulator::RowReader {
  public:
+   KeptRows() = default;
+   KeptRows( KeptRows && ) = default; // rows refer to the texts and words that are kept beside them
+   KeptRows & operator=( KeptRows && ) = default;
    std::deque< Simulator::Row > const & all() const { return rows_; }
    void row( Simulator::Row const & row ) override;
 
