@@ -61,7 +61,8 @@ int commandLine( int argc, char const * const * argv ) {
    CLI::App app( "l3sm: programs simulated chips with the layer-3 unicast plug-in, and shows them.", "l3sm" );
    app.require_subcommand( 1 );
    app.footer(
-      "`l3sm VERB --help` explains a verb.\nExit status: 0 fine, 1 the answer is \"no\", 2 wrong usage or input." );
+      "`l3sm VERB --help` explains a verb.\nExit status: 0 fine, 1 the answer is \"no\", 2 wrong usage or input, "
+      "3 nothing could be judged." );
    Action action;
    for ( auto const & verb : verbs ) {
       auto * const sub = app.add_subcommand( verb.name, verb.does );
