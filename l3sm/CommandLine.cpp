@@ -34,6 +34,7 @@ constexpr Verb verbs[] = {
    { "why", "which operation wrote it, where in the source, on which cause", defineWhy },
    { "compare", "one scenario on every kind of chip, and with each toggle flipped alone", defineCompare },
    { "replay", "apply the writes of a journal to a fresh switch, and compare", defineReplay },
+   { "plan", "what a start and the events of a scenario would change, without changing anything", definePlan },
    { "check", "play a scenario and verify what can be verified on the chips afterwards", defineCheck },
 };
 

@@ -10,7 +10,7 @@ namespace Simulator {
 
 namespace {
 
-constexpr std::size_t mostVariants = 4; // of a table
+constexpr std::size_t mostVariants = 8; // of a table
 constexpr std::size_t blockWords = 1 << 15;
 
 } // namespace
@@ -76,6 +76,7 @@ void Journal::chipIs( U16 fap, Hardware::ChipType chipType ) {
    for ( Catalogue::Table const & table : Catalogue::tables() ) {
       for ( Catalogue::Layout const & layout : table.layouts ) {
          if ( layout.chipType == static_cast< U8 >( chipType ) ) {
+            Rex::sassert( layout.variant < mostVariants, "layout.variant < mostVariants" );
             layouts[table.number * mostVariants + layout.variant] = &layout;
          }
       }

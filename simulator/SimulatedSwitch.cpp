@@ -38,6 +38,24 @@ SwitchDescription checked( SwitchDescription description ) {
    return description;
 }
 
+// The handle that plug-ins are given: whatever driver the process has at the time, so that what stands before the chips
+// hears of controls, too.
+class DriverOfTheProcess final : public DaceSal::SchanDriver {
+ public:
+   void read( DaceSal::ChipId chip, DaceSal::SchanAddress const & at, std::span< U32 > words ) override {
+      DaceSal::schanDriver()->read( chip, at, words );
+   }
+   bool write( DaceSal::ChipId chip, DaceSal::SchanAddress const & at, std::span< U32 const > words ) override {
+      return DaceSal::schanDriver()->write( chip, at, words );
+   }
+   bool control( DaceSal::ChipId chip, U32 control, U32 value ) override {
+      return DaceSal::schanDriver()->control( chip, control, value );
+   }
+   std::optional< U32 > controlValue( DaceSal::ChipId chip, U32 control ) const override {
+      return DaceSal::schanDriver()->controlValue( chip, control );
+   }
+};
+
 // An event, as a scenario has it.
 Rex::Value eventOf( char const * kind, Rex::Value::Object const & what ) {
    return Rex::Value::Object{ { kind, what } };
@@ -106,7 +124,8 @@ void SimulatedSwitch::shareObjects() {
    phyShared->allEthPhyIntfStatusDirIs( makePtr< Interface::AllEthPhyIntfStatusDir >() );
    state_.rootIs( "shared/phySmStateSharedStatus", phyShared );
 
-   auto * const sdkHandle = static_cast< DaceSal::SchanDriver * >( &driver_ );
+   static DriverOfTheProcess handle;
+   auto * const sdkHandle = static_cast< DaceSal::SchanDriver * >( &handle );
    state_.rootIs( "shared/agentSdkState",
                   makePtr< DaceFapNi::AgentSdkState >( sdkHandle, makePtr< DaceSal::SalGlobalConfig >() ) );
    state_.rootIs( "shared/agentScheduler", makePtr< DaceFapNi::TaskScheduler >( scheduler_ ) );

@@ -21,5 +21,6 @@ Action defineWhy( VerbOptions & verb );
 Action defineCompare( VerbOptions & verb );
 Action defineReplay( VerbOptions & verb );
 Action defineCheck( VerbOptions & verb );
+Action definePlan( VerbOptions & verb );
 
 } // namespace Cli

@@ -219,6 +219,18 @@ TEST_F( JournalTest, givesRowsTheirLayoutWhereTheKindOfChipIsKnown ) {
    EXPECT_EQ( journal.rows()[1].layout, nullptr );
 }
 
+TEST_F( JournalTest, knowsTheLayoutOfEveryTableAndVariant ) {
+   journal.chipIs( 0, Hardware::ChipType::BCM88690_B0 );
+   for ( Catalogue::Table const & table : Catalogue::tables() ) {
+      for ( Catalogue::Layout const & layout : table.layouts ) {
+         if ( layout.chipType == 10 && table.hasMemory ) {
+            journal.operation( { .kind = Kind::read, .table = table.number, .variant = layout.variant } );
+            EXPECT_EQ( journal.rows().back().layout, &layout ) << table.name << " " << unsigned{ layout.variant };
+         }
+      }
+   }
+}
+
 TEST_F( JournalTest, tellsWhatStoodThereBefore ) {
    std::vector< U32 > const words{ 1, 2 };
    std::vector< U32 > const before{ 3, 4 };

@@ -1,0 +1,18 @@
+// A plan, for people and for programs.
+#pragma once
+
+#include "inspection/Plan.h"
+#include "inspection/views/Terminal.h"
+
+namespace Inspection {
+
+struct PlanTextOptions {
+   bool stat = false;             // tables alone
+   std::optional< U16 > fap = {}; // only this one
+   bool all = false;              // every place, else the first few of each kind
+};
+
+void showPlan( std::ostream & out, Plan const & plan, PlanTextOptions const & options, Style const & style );
+Rex::Value planValue( Plan const & plan, std::optional< U16 > fap );
+
+} // namespace Inspection
