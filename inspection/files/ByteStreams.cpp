@@ -2,6 +2,8 @@
 
 #include "inspection/files/InputError.h"
 
+#include <algorithm>
+#include <array>
 #include <cerrno>
 #include <cstring>
 #include <fcntl.h>
@@ -16,6 +18,8 @@ namespace {
 
 constexpr std::size_t pendingBytes = 1 << 18; // before they go to the compressor or the kernel
 constexpr int compressionLevel = 1;           // a journal repeats itself: more effort gains little
+
+constexpr std::string_view frameBegin = "\x28\xb5\x2f\xfd"; // of zstd
 
 std::string reason() {
    return std::strerror( errno );
@@ -143,8 +147,29 @@ ByteSource::ByteSource( std::string path )
    if ( file_ < 0 ) {
       throw InputError( path_, "can't be read: " + reason() );
    }
-   if ( isCompressedName( path_ ) ) {
+   readAhead();
+}
+
+// Compressed is what begins so, whatever its name is.
+void ByteSource::readAhead() {
+   std::array< char, frameBegin.size() > begin;
+   std::size_t size = 0;
+   while ( size < begin.size() ) {
+      auto const more = readRaw( std::span( begin ).subspan( size ) );
+      if ( more == 0 ) {
+         break;
+      }
+      size += more;
+   }
+   ahead_.assign( begin.data(), size );
+   if ( ahead_ == frameBegin ) {
       decompressor_ = std::make_unique< Decompressor >();
+      std::ranges::copy( ahead_, decompressor_->in.begin() );
+      decompressor_->input = { decompressor_->in.data(), size, 0 };
+      ahead_.clear();
+   } else if ( size > 0 && isCompressedName( path_ ) && frameBegin.starts_with( ahead_ ) ) {
+      isCut_ = true;
+      ahead_.clear();
    }
 }
 
@@ -165,6 +190,12 @@ std::size_t ByteSource::readRaw( std::span< char > into ) {
 }
 
 std::size_t ByteSource::read( std::span< char > into ) {
+   if ( !ahead_.empty() ) {
+      auto const size = std::min( ahead_.size(), into.size() );
+      std::ranges::copy( std::string_view( ahead_ ).substr( 0, size ), into.begin() );
+      ahead_.erase( 0, size );
+      return size + ( size < into.size() ? readRaw( into.subspan( size ) ) : 0 );
+   }
    if ( !decompressor_ ) {
       return readRaw( into );
    }

@@ -1,4 +1,5 @@
-// Files as streams of bytes, compressed with zstd where their name ends in ".zst".
+// Files as streams of bytes. They are written compressed with zstd where their name ends in ".zst", and decompressed
+// where they begin as zstd does.
 //
 //    ByteSink sink( "run.jsonl.zst" );          // InputError
 //    sink.append( text );
@@ -64,11 +65,13 @@ class ByteSource {
 
  private:
    struct Decompressor;
+   void readAhead();
    std::size_t readRaw( std::span< char > into );
 
    std::string path_;
    int file_;
    bool isCut_ = false;
+   std::string ahead_; // read, and not yet handed over
    std::unique_ptr< Decompressor > decompressor_;
 };
 

@@ -1,128 +1,21 @@
 #include "inspection/files/JournalLine.h"
 
 #include "inspection/files/ChipsFile.h"
-
-#include <charconv>
+#include "inspection/files/JsonElements.h"
 
 namespace Inspection {
 
 namespace {
 
-using Rex::Value;
 using Rex::ValueError;
 using Simulator::Ending;
 using Simulator::Row;
 namespace dom = simdjson::dom;
+using namespace JsonElements;
 
 constexpr std::string_view kindNames[] = { "read", "write", "control", "gate", "publish" };
 constexpr std::string_view scopeNames[] = { "any", "all", "core" };
 constexpr std::string_view endingNames[] = { "complete", "interrupted", "assertion" };
-
-dom::element member( dom::object const & object, char const * key ) {
-   dom::element element;
-   if ( object[key].get( element ) ) {
-      throw ValueError( "", std::string( "\"" ) + key + "\" is missing" );
-   }
-   return element;
-}
-
-template< class T >
-T number( dom::element element, char const * key ) {
-   std::uint64_t value = 0;
-   if ( element.get( value ) || value > std::numeric_limits< T >::max() ) {
-      throw ValueError( Rex::pointerStep( key ),
-                        "expected a number from 0 to " + std::to_string( std::numeric_limits< T >::max() ) );
-   }
-   return static_cast< T >( value );
-}
-
-template< class T >
-T number( dom::object const & object, char const * key ) {
-   return number< T >( member( object, key ), key );
-}
-
-bool boolean( dom::object const & object, char const * key ) {
-   bool value = false;
-   if ( member( object, key ).get( value ) ) {
-      throw ValueError( Rex::pointerStep( key ), "expected true or false" );
-   }
-   return value;
-}
-
-std::string_view text( dom::object const & object, char const * key ) {
-   std::string_view value;
-   if ( member( object, key ).get( value ) ) {
-      throw ValueError( Rex::pointerStep( key ), "expected a string" );
-   }
-   return value;
-}
-
-// The place of a text in a list of names.
-template< class Kind, std::size_t count >
-Kind oneOf( std::string_view word, char const * key, std::string_view const ( &names )[count] ) {
-   auto const found = std::ranges::find( names, word );
-   if ( found == std::end( names ) ) {
-      std::string known;
-      for ( auto const name : names ) {
-         known += ( known.empty() ? "" : ", " ) + std::string( name );
-      }
-      throw ValueError( Rex::pointerStep( key ), "\"" + std::string( word ) + "\" is none of " + known );
-   }
-   return static_cast< Kind >( found - names );
-}
-
-Value valueOf( dom::element element ) {
-   switch ( element.type() ) {
-   case dom::element_type::ARRAY: {
-      Value::List list;
-      for ( dom::element const part : dom::array( element ) ) {
-         list.push_back( valueOf( part ) );
-      }
-      return list;
-   }
-   case dom::element_type::OBJECT: {
-      Value::Object object;
-      for ( auto const [key, part] : dom::object( element ) ) {
-         object.emplace( key, valueOf( part ) );
-      }
-      return object;
-   }
-   case dom::element_type::INT64:
-      return std::int64_t( element );
-   case dom::element_type::UINT64:
-   case dom::element_type::DOUBLE:
-      throw ValueError( "", "a number that is too large, or not whole" );
-   case dom::element_type::STRING:
-      return std::string( std::string_view( element ) );
-   case dom::element_type::BOOL:
-      return bool( element );
-   case dom::element_type::NULL_VALUE:
-      break;
-   }
-   return {};
-}
-
-U32 wordOf( dom::element element, char const * key ) {
-   std::string_view digits;
-   U32 word = 0;
-   if ( element.get( digits ) || digits.size() < 3 || digits.size() > 10 || !digits.starts_with( "0x" ) ||
-        std::from_chars( digits.data() + 2, digits.data() + digits.size(), word, 16 ).ptr !=
-           digits.data() + digits.size() ) {
-      throw ValueError( Rex::pointerStep( key ), "expected words such as \"0x00000a00\"" );
-   }
-   return word;
-}
-
-void wordsInto( std::vector< U32 > & words, dom::element element, char const * key ) {
-   dom::array list;
-   if ( element.get( list ) ) {
-      throw ValueError( Rex::pointerStep( key ), "expected a list of words" );
-   }
-   words.clear();
-   for ( dom::element const word : list ) {
-      words.push_back( wordOf( word, key ) );
-   }
-}
 
 Ending endingOf( dom::object const & object ) {
    Ending ending;
@@ -144,6 +37,8 @@ std::string counted( std::size_t words ) {
 } // namespace
 
 JournalLineParser::Parsed JournalLineParser::parse( std::string_view line ) {
+   gatesBefore_.clear();
+   gatesAfter_.clear();
    dom::element root;
    dom::object object;
    if ( auto const error = parser_.parse( line.data(), line.size(), false ).get( root ) ) {
@@ -157,9 +52,11 @@ JournalLineParser::Parsed JournalLineParser::parse( std::string_view line ) {
       return EventLine{ number< U32 >( object, "event" ), valueOf( member( object, "what" ) ) };
    }
    if ( op == "begin" ) {
-      return BeginLine{ number< int >( object, "format" ),
-                        valueOf( member( object, "scenario" ) ),
-                        std::string( text( object, "plugin" ) ) };
+      auto const format = number< int >( object, "format" );
+      if ( format != 2 ) {
+         throw ValueError( "/format", "this program reads formats 1 and 2, not " + std::to_string( format ) );
+      }
+      return BeginLine{ format, valueOf( member( object, "scenario" ) ), std::string( text( object, "plugin" ) ) };
    }
    if ( op == "end" ) {
       return endingOf( object );
@@ -195,20 +92,46 @@ Row JournalLineParser::row( dom::object const & object, Row::Kind kind ) {
    row.isOfFap = !object["fap"].get( fap ) && !fap.is_null();
    if ( kind == Row::Kind::gate ) {
       row.fap = row.isOfFap ? number< U16 >( fap, "fap" ) : U16{ 0 };
+      if ( row.isOfFap ) {
+         checkFap( row.fap );
+      }
       row.reason = kept( text( object, "reason" ) ).text;
       return row;
    }
    row.fap = number< U16 >( object, "fap" );
    row.seq = number< U64 >( object, "seq" );
    operation( object, row );
+   gatesInto( gatesBefore_, object, "gates" );
+   gatesInto( gatesAfter_, object, "gatesAfter" );
    return row;
+}
+
+void JournalLineParser::checkFap( U16 fap ) const {
+   if ( areChipsAll_ && !chipTypes_.contains( fap ) ) {
+      throw ValueError( "/fap", "the switch that the journal begins with has no FAP " + std::to_string( fap ) );
+   }
+}
+
+void JournalLineParser::gatesInto( std::vector< Row > & gates, dom::object const & object, char const * key ) {
+   dom::array list;
+   if ( object[key].get( list ) ) {
+      return;
+   }
+   for ( dom::element const element : list ) {
+      dom::object gate;
+      if ( element.get( gate ) ) {
+         throw ValueError( Rex::pointerStep( key ), "expected objects" );
+      }
+      gates.push_back( Rex::below( key, [&] { return row( gate, Row::Kind::gate ); } ) );
+   }
 }
 
 void JournalLineParser::operation( dom::object const & object, Row & row ) {
    std::string_view chip; // format 1
    if ( !object["chip"].get( chip ) ) {
-      chipTypes_[row.fap] = chipTypeFromValue( std::string( chip ) );
+      chipTypes_[row.fap] = Rex::below( "chip", [&] { return chipTypeFromValue( std::string( chip ) ); } );
    }
+   checkFap( row.fap );
    row.changed = row.kind != Row::Kind::read && boolean( object, "changed" );
    if ( row.kind != Row::Kind::control ) {
       access( object, row );
@@ -243,6 +166,9 @@ void JournalLineParser::access( dom::object const & object, Row & row ) {
    if ( !object["before"].get( before ) ) {
       wordsInto( before_, before, "before" );
       row.before = before_;
+      if ( before_.size() != words_.size() ) {
+         throw ValueError( "/before", "expected as many words as were written, " + std::to_string( words_.size() ) );
+      }
    } else if ( row.kind == Row::Kind::write && !row.changed ) {
       row.before = words_;
    }

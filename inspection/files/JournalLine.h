@@ -30,10 +30,16 @@ class JournalLineParser {
 
    // A FAP's kind of chip: its rows have their layout from now on.
    void chipIs( U16 fap, Hardware::ChipType chipType ) { chipTypes_[fap] = chipType; }
+   // Every FAP is known: rows of another are wrong.
+   void chipsAreAll() { areChipsAll_ = true; }
 
    // `line` has SIMDJSON_PADDING bytes behind it that may be read. What the row refers to is valid until the next call,
    // its texts as long as the parser. Rex::ValueError.
    Parsed parse( std::string_view line );
+
+   // The gates that the row carries, in format 1: those that were found closed before it, and after it.
+   std::vector< Simulator::Row > const & gatesBefore() const { return gatesBefore_; }
+   std::vector< Simulator::Row > const & gatesAfter() const { return gatesAfter_; }
 
  private:
    struct Text {
@@ -45,11 +51,16 @@ class JournalLineParser {
    void operation( simdjson::dom::object const & object, Simulator::Row & row );
    void access( simdjson::dom::object const & object, Simulator::Row & row );
    void publication( simdjson::dom::object const & object, Simulator::Row & row );
+   void gatesInto( std::vector< Simulator::Row > & gates, simdjson::dom::object const & object, char const * key );
+   void checkFap( U16 fap ) const;
    Text kept( std::string_view text );
    Catalogue::Layout const * layoutOf( Simulator::Row const & row ) const;
 
    simdjson::dom::parser parser_;
    std::map< U16, Hardware::ChipType > chipTypes_;
+   bool areChipsAll_ = false;
+   std::vector< Simulator::Row > gatesBefore_;
+   std::vector< Simulator::Row > gatesAfter_;
    std::deque< std::string > texts_;
    std::unordered_map< std::string_view, U32 > numbers_;
    std::vector< U32 > words_;

@@ -1,10 +1,13 @@
 #include "inspection/files/JournalReader.h"
 
 #include "inspection/files/ChipsFile.h"
+#include "inspection/files/FileKind.h"
 #include "inspection/files/JournalLine.h"
 #include "inspection/files/Json.h"
 
+#include <algorithm>
 #include <cstring>
+#include <utility>
 
 namespace Inspection {
 
@@ -14,7 +17,43 @@ using Rex::ValueError;
 using Simulator::Ending;
 using Simulator::Row;
 
-constexpr std::size_t chunk = 1 << 20;
+constexpr std::size_t chunk = 1 << 18;
+
+// Which lines to take apart. The program's own lines are told by what they begin with; others are taken apart first.
+class Wanted {
+ public:
+   explicit Wanted( RowFilter const & filter ) : filter_( filter ), table_( "\"table\": \"" + filter.table + "\"" ) {}
+
+   bool mayBe( std::string_view line ) const {
+      constexpr std::string_view begin = "{\"op\": \"";
+      if ( !line.starts_with( begin ) ) {
+         return true;
+      }
+      auto const op = line.substr( begin.size() );
+      bool const isRead = op.starts_with( "read\"" );
+      if ( !isRead && !op.starts_with( "write\"" ) ) {
+         return filter_.operationsToo || !op.starts_with( "control\"" );
+      }
+      if ( !filter_.operationsToo || ( isRead && !filter_.readsToo ) ) {
+         return false;
+      }
+      return filter_.table.empty() || ::memmem( op.data(), op.size(), table_.data(), table_.size() ) != nullptr ||
+             ::memmem( op.data(), op.size(), "\"table\": ", 9 ) == nullptr;
+   }
+
+   bool is( Row const & row ) const {
+      if ( !row.isOperation() ) {
+         return true;
+      }
+      bool const isRead = row.kind == Row::Kind::read;
+      return filter_.operationsToo && ( !isRead || filter_.readsToo ) &&
+             ( row.kind == Row::Kind::control || filter_.table.empty() || filter_.table == row.table );
+   }
+
+ private:
+   RowFilter const & filter_;
+   std::string table_;
+};
 
 } // namespace
 
@@ -24,35 +63,61 @@ JournalReader::JournalReader( std::string path )
    : path_( std::move( path ) ), source_( path_ ), parser_( std::make_unique< Parser >() ) {
    Line line{};
    if ( !nextLine( line ) ) {
-      throw InputError( path_, "is empty: no journal; `l3sm run --journal FILE` writes one" );
+      throw InputError( path_,
+                        source_.isCut() ? "is cut before its first line: nothing of it can be read"
+                                        : "is empty, no journal; `l3sm run --journal FILE` writes one" );
    }
-   if ( line.text.starts_with( "{\"op\": \"begin\"" ) ) {
-      begin( line );
-   } else {
-      format_ = 1;
-      pending_ = line;
-   }
+   checkIsJournal( line );
+   begin( line );
 }
 
 JournalReader::~JournalReader() = default;
 
+void JournalReader::checkIsJournal( Line const & line ) const {
+   if ( kindOf( line.text ) == FileKind::journal ) {
+      return;
+   }
+   // More than the first line is there in most cases, and tells more.
+   std::string_view const all( line.text.data(),
+                               to_ - static_cast< std::size_t >( line.text.data() - buffer_.data() ) );
+   if ( kindOf( all ) == FileKind::journal && line.isWhole ) {
+      return; // the first line is wrong, and that is told when it is read
+   }
+   throw InputError( path_, notA( FileKind::journal, all ) );
+}
+
 void JournalReader::begin( Line const & line ) {
-   inFile( place(), [&] {
-      auto parsed = std::get< JournalLineParser::BeginLine >( parser_->parse( line.text ) );
-      scenario_ = std::move( parsed.scenario );
-      plugin_ = std::move( parsed.plugin );
-      Rex::below( "scenario", [&] {
-         Fields fields( scenario_ );
-         Fields theSwitch( fields.required( "switch" ) );
-         for ( Rex::Value const & fap : listOf( theSwitch.required( "faps" ) ) ) {
-            Fields of( fap );
-            auto const number = of.required< U16 >( "fapId" );
-            auto const chipType = chipTypeFromValue( Fields( of.required( "revision" ) ).required( "chipType" ) );
-            chipTypes_[number] = chipType;
-            parser_->chipIs( number, chipType );
-         }
-      } );
+   try {
+      auto parsed = parser_->parse( line.text );
+      if ( auto * begun = std::get_if< JournalLineParser::BeginLine >( &parsed ) ) {
+         scenario_ = std::move( begun->scenario );
+         plugin_ = std::move( begun->plugin );
+         theSwitchIs();
+         return;
+      }
+   } catch ( ValueError const & error ) {
+      if ( !line.isWhole ) {
+         throw InputError( path_, "is cut in its first line: nothing of it can be read" );
+      }
+      throw InputError( error.place().empty() ? place() : place() + ": " + error.place(), error.what() );
+   }
+   format_ = 1;
+   pending_ = line;
+}
+
+void JournalReader::theSwitchIs() {
+   Rex::below( "scenario", [&] {
+      Fields fields( scenario_ );
+      Fields theSwitch( fields.required( "switch" ) );
+      for ( Rex::Value const & fap : listOf( theSwitch.required( "faps" ) ) ) {
+         Fields of( fap );
+         auto const number = of.required< U16 >( "fapId" );
+         auto const chipType = chipTypeFromValue( Fields( of.required( "revision" ) ).required( "chipType" ) );
+         chipTypes_[number] = chipType;
+         parser_->chipIs( number, chipType );
+      }
    } );
+   parser_->chipsAreAll();
 }
 
 // Finds the end of the line in the buffer, and reads on where it isn't there.
@@ -79,85 +144,138 @@ bool JournalReader::nextLine( Line & line ) {
          to_ -= from_;
          from_ = 0;
       }
-      buffer_.resize( std::max( buffer_.size(), to_ + chunk + simdjson::SIMDJSON_PADDING ) );
+      if ( buffer_.size() < to_ + chunk + simdjson::SIMDJSON_PADDING ) {
+         buffer_.resize( 2 * to_ + chunk + simdjson::SIMDJSON_PADDING );
+      }
       auto const size = source_.read( { buffer_.data() + to_, chunk } );
       to_ += size;
       isAtEnd_ = size == 0;
    }
 }
 
-// By what the program's own lines begin with; whatever looks otherwise is read.
-bool JournalReader::isWanted( std::string_view line, RowFilter const & filter ) const {
-   bool const isRead = line.starts_with( "{\"op\": \"read\"" );
-   bool const isWrite = line.starts_with( "{\"op\": \"write\"" );
-   if ( !isRead && !isWrite ) {
-      return filter.operationsToo || !line.starts_with( "{\"op\": \"control\"" );
+// What has been handed over so far.
+struct JournalReader::Reading {
+   void eventBegins( U32 number, Rex::Value const & what ) {
+      if ( event && number <= *event ) {
+         throw ValueError( "/event",
+                           "event " + std::to_string( number ) + " stands behind event " + std::to_string( *event ) );
+      }
+      endEvent();
+      event = number;
+      reader.eventBegins( number, what );
    }
-   if ( !filter.operationsToo || ( isRead && !filter.readsToo ) ) {
-      return false;
+   void endEvent() const {
+      if ( event ) {
+         reader.eventEnds( *event );
+      }
    }
-   return filter.table.empty() || line.find( "\"table\": \"" + filter.table + "\"" ) != std::string_view::npos;
-}
+   // Format 1 has no lines for events: rows tell of them.
+   void rowOfFormat1( Row const & row ) {
+      if ( !event || row.event > *event ) {
+         eventBegins( row.event, {} );
+      }
+      if ( wanted.is( row ) ) {
+         reader.row( row );
+      }
+   }
+   void row( Row const & row ) {
+      if ( event != row.event ) {
+         throw ValueError( "/event",
+                           event ? "stands in event " + std::to_string( *event ) : "stands before the first event" );
+      }
+      if ( wanted.is( row ) ) {
+         reader.row( row );
+      }
+   }
+
+   Simulator::RowReader & reader;
+   Wanted wanted;
+   std::optional< U32 > event = {};
+   U64 operations = 0;
+};
 
 Ending JournalReader::read( Simulator::RowReader & reader, RowFilter const & filter ) {
+   Reading reading{ .reader = reader, .wanted = Wanted( filter ) };
    std::optional< Ending > ending;
-   std::optional< U32 > event;
-   U64 operations = 0;
+   bool isCutInLine = false;
    Line line = pending_;
    while ( !line.text.empty() || nextLine( line ) ) {
       Line const current = std::exchange( line, {} );
-      if ( current.text.empty() || !isWanted( current.text, filter ) ) {
+      if ( current.text.empty() || ( current.isWhole && !reading.wanted.mayBe( current.text ) ) ) {
          continue;
       }
-      if ( ending ) {
-         remarks_.push_back( place() + ": stands behind the journal's end; it isn't read" );
-         break;
-      }
-      JournalLineParser::Parsed parsed;
       try {
-         parsed = parser_->parse( current.text );
+         auto parsed = parser_->parse( current.text );
+         if ( std::holds_alternative< JournalLineParser::BeginLine >( parsed ) ) {
+            remarks_.push_back( place() + ": another journal begins here; only the first is read" );
+            break;
+         }
+         if ( ending ) {
+            remarks_.push_back( place() + ": stands behind the journal's end; it isn't read" );
+            break;
+         }
+         if ( auto const * row = std::get_if< Row >( &parsed ) ) {
+            reading.operations = row->isOperation() ? row->seq : reading.operations;
+            if ( format_ != 1 ) {
+               reading.row( *row );
+            } else {
+               std::ranges::for_each( parser_->gatesBefore(),
+                                      [&]( Row const & gate ) { reading.rowOfFormat1( gate ); } );
+               reading.rowOfFormat1( *row );
+               std::ranges::for_each( parser_->gatesAfter(),
+                                      [&]( Row const & gate ) { reading.rowOfFormat1( gate ); } );
+            }
+         } else if ( auto const * begun = std::get_if< JournalLineParser::EventLine >( &parsed ) ) {
+            reading.eventBegins( begun->event, begun->what );
+         } else {
+            ending = std::get< Ending >( parsed );
+            if ( ending->kind != Ending::Kind::assertion ) {
+               reading.endEvent();
+            }
+         }
       } catch ( ValueError const & error ) {
          if ( !current.isWhole ) {
+            isCutInLine = true;
             break;
          }
          throw InputError( error.place().empty() ? place() : place() + ": " + error.place(), error.what() );
       }
-      if ( auto const * row = std::get_if< Row >( &parsed ) ) {
-         if ( format_ == 1 && event != row->event ) {
-            if ( event ) {
-               reader.eventEnds( *event );
-            }
-            event = row->event;
-            reader.eventBegins( *event, {} );
-         }
-         operations += row->isOperation();
-         reader.row( *row );
-      } else if ( auto const * begun = std::get_if< JournalLineParser::EventLine >( &parsed ) ) {
-         if ( event ) {
-            reader.eventEnds( *event );
-         }
-         event = begun->event;
-         reader.eventBegins( *event, begun->what );
-      } else if ( auto * end = std::get_if< Ending >( &parsed ) ) {
-         if ( event && end->kind != Ending::Kind::assertion ) {
-            reader.eventEnds( *event );
-         }
-         ending = *end;
-      } else {
-         remarks_.push_back( place() + ": a second journal begins here; only the first is read" );
-         break;
-      }
    }
+   bool const isCut = isCutInLine || ( !ending && ( source_.isCut() || format_ != 1 ) );
    if ( !ending ) {
-      ending = Ending{ .kind = format_ == 1 ? Ending::Kind::complete : Ending::Kind::cut,
-                       .events = event.value_or( 0 ),
-                       .operations = operations };
-      if ( format_ == 1 && event ) {
-         reader.eventEnds( *event );
+      if ( !isCut ) {
+         reading.endEvent();
       }
+      ending = Ending{ .kind = isCut ? Ending::Kind::cut : Ending::Kind::complete,
+                       .events = reading.event.value_or( 0 ),
+                       .operations = reading.operations };
    }
+   tell( *ending, isCutInLine );
    reader.ends( *ending );
    return *ending;
+}
+
+void JournalReader::tell( Ending const & ending, bool isCutInLine ) {
+   std::string const event = ending.events == 0 ? "the start" : "event " + std::to_string( ending.events );
+   switch ( ending.kind ) {
+   case Ending::Kind::complete:
+      break;
+   case Ending::Kind::interrupted:
+      remarks_.insert( remarks_.begin(), path_ + ": the run was interrupted after " + event );
+      break;
+   case Ending::Kind::assertion:
+      remarks_.insert( remarks_.begin(),
+                       path_ + ": the run ended in " + event + " by a failed assertion: " + ending.text +
+                          ( ending.function.empty() ? "" : ", in " + ending.function ) +
+                          ( ending.source.empty() ? "" : " (" + ending.source + ")" ) );
+      break;
+   case Ending::Kind::cut:
+      remarks_.insert( remarks_.begin(),
+                       ( isCutInLine ? place() + ": the journal is cut here, in "
+                                     : path_ + ": the journal has no end; it is cut in or after " ) +
+                          event + "; what is told ends there" );
+      break;
+   }
 }
 
 } // namespace Inspection

@@ -50,8 +50,8 @@ class JournalReader {
 
    // Once.
    Simulator::Ending read( Simulator::RowReader & reader, RowFilter const & filter = {} );
-   // What is odd about the journal, a line each, ready to be shown; complete after read(): "run.jsonl is cut after
-   // event 17: …".
+   // What is odd about the journal, a line each, ready to be shown; complete after read(): "run.jsonl: is cut in event
+   // 17; what is told ends there".
    std::vector< std::string > const & remarks() const { return remarks_; }
 
  private:
@@ -62,8 +62,11 @@ class JournalReader {
    };
 
    bool nextLine( Line & line );
-   bool isWanted( std::string_view line, RowFilter const & filter ) const;
    void begin( Line const & line );
+   void checkIsJournal( Line const & line ) const;
+   void theSwitchIs();
+   void tell( Simulator::Ending const & ending, bool isCutInLine );
+   struct Reading;
    std::string place() const { return path_ + ":" + std::to_string( lineNumber_ ); }
 
    std::string path_;

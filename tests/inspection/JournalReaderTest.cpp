@@ -1,0 +1,257 @@
+// Journals as they come: whole, cut, of an older format, of other programs, and files that are none.
+#include "JournalSample.h"
+
+using namespace Inspection;
+
+namespace {
+
+std::string const begin =
+   R"({"op": "begin", "format": 2, "l3sm": "1.0.0", "plugin": "", "scenario": {"switch": {"slice": {"name": "L"}, "faps": [)"
+   R"({"fapId": 0, "revision": {"chipType": "BCM88690_B0", "sdkVersion": 7, "major": 5}}]}}})"
+   "\n";
+std::string const event0 = R"({"op": "event", "event": 0, "what": {"start": {}}})"
+                           "\n";
+std::string const end = R"({"op": "end", "ended": "complete", "events": 0, "operations": 1})"
+                        "\n";
+
+// A write of a register, with what may be wrong about it.
+std::string
+written( std::string const & place, std::string const & words = R"(["0x00000a00"])", std::string const & more = "" ) {
+   return R"({"op": "write", "seq": 1, "event": 0, "fap": 0, )" + place + R"(, "scope": "all", "words": )" + words +
+          R"(, "changed": true)" + more + R"(, "function": "f", "source": "a.cpp:1", "cause": "start"})" + "\n";
+}
+std::string const aWrite = written( R"("table": "IppdFerTrapCfg", "variant": 0, "array": 3, "entry": null)" );
+
+struct Reading {
+   std::vector< std::string > heard;
+   std::vector< std::string > remarks;
+   std::string error;
+};
+
+Reading readingOf( std::string const & text, RowFilter const & filter = {}, char const * name = "run.jsonl" ) {
+   Folder const folder;
+   auto const path = folder.file( name, text );
+   auto const withoutFolder = [&]( std::string line ) {
+      auto const at = line.find( path );
+      return at == std::string::npos ? line : line.replace( at, path.size(), name );
+   };
+   Reading reading;
+   Heard heard;
+   try {
+      JournalReader journal( path );
+      journal.read( heard, filter );
+      for ( auto const & remark : journal.remarks() ) {
+         reading.remarks.push_back( withoutFolder( remark ) );
+      }
+   } catch ( InputError const & error ) {
+      reading.error = withoutFolder( error.what() );
+   }
+   reading.heard = heard.lines;
+   return reading;
+}
+
+using Remarks = std::vector< std::string >;
+
+TEST( JournalReader, ReadsUpToWhereTheLastLineIsCut ) {
+   auto const reading = readingOf( begin + event0 + aWrite + aWrite.substr( 0, 40 ) );
+   EXPECT_EQ( reading.heard.size(), 3u );
+   EXPECT_EQ( reading.heard.back(), "cut 0 1" );
+   EXPECT_EQ( reading.remarks,
+              Remarks{ "run.jsonl:4: the journal is cut here, in the start; what is told ends there" } );
+}
+
+TEST( JournalReader, TellsThatTheEndIsMissing ) {
+   auto const reading = readingOf( begin + event0 + aWrite );
+   EXPECT_EQ( reading.heard.back(), "cut 0 1" );
+   EXPECT_EQ(
+      reading.remarks,
+      Remarks{ "run.jsonl: the journal has no end; it is cut in or after the start; what is told ends there" } );
+}
+
+TEST( JournalReader, DoesNotNeedTheEndOfTheLastLine ) {
+   auto const reading = readingOf( begin + event0 + aWrite + end.substr( 0, end.size() - 1 ) );
+   EXPECT_EQ( reading.heard.back(), "complete 0 1" );
+   EXPECT_EQ( reading.remarks, Remarks{} );
+}
+
+TEST( JournalReader, ReadsACompressedJournalUpToWhereItIsCut ) {
+   Folder const folder;
+   std::string whole;
+   {
+      JournalWriter writer( folder / "run.jsonl.zst", { .scenario = sampleScenario() } );
+      for ( U32 event = 0; event < 100; ++event ) {
+         playSampleEvent( writer, event );
+      }
+      writer.ends( complete( 99 ) );
+   }
+   whole = folder.text( "run.jsonl.zst" );
+   for ( std::size_t const size : { whole.size() / 2, whole.size() - 1 } ) {
+      auto const reading = readingOf( whole.substr( 0, size ), {}, "run.jsonl.zst" );
+      EXPECT_EQ( reading.error, "" );
+      EXPECT_GT( reading.heard.size(), 100u );
+      EXPECT_EQ( reading.heard[0], R"(event 0 {"start": {}})" );
+   }
+   auto const half = readingOf( whole.substr( 0, whole.size() / 2 ), {}, "run.jsonl.zst" );
+   EXPECT_TRUE( half.heard.back().starts_with( "cut " ) ) << half.heard.back();
+   ASSERT_EQ( half.remarks.size(), 1u );
+   EXPECT_NE( half.remarks[0].find( "cut" ), std::string::npos );
+   EXPECT_EQ( readingOf( whole.substr( 0, 2 ), {}, "run.jsonl.zst" ).error,
+              "run.jsonl.zst: is cut before its first line: nothing of it can be read" );
+}
+
+TEST( JournalReader, ReadsACompressedJournalOfAnyName ) {
+   Folder const folder;
+   writeSample( folder / "run.jsonl.zst" );
+   auto const reading = readingOf( folder.text( "run.jsonl.zst" ), {}, "renamed" );
+   EXPECT_EQ( reading.error, "" );
+   EXPECT_EQ( reading.heard.back(), "complete 1 10" );
+}
+
+TEST( JournalReader, TellsHowTheRunEnded ) {
+   EXPECT_EQ( readingOf( begin + event0 +
+                         R"({"op": "end", "ended": "assertion", "events": 4, "operations": 0, "text": "a < b", )"
+                         R"("function": "f", "source": "a.cpp:1"})" )
+                 .remarks,
+              Remarks{ "run.jsonl: the run ended in event 4 by a failed assertion: a < b, in f (a.cpp:1)" } );
+   EXPECT_EQ(
+      readingOf( begin + event0 + R"({"op": "end", "ended": "interrupted", "events": 4, "operations": 0})" ).remarks,
+      Remarks{ "run.jsonl: the run was interrupted after event 4" } );
+}
+
+TEST( JournalReader, ReadsTheFirstOfTwoJournals ) {
+   for ( bool const isFirstWhole : { true, false } ) {
+      auto const first = begin + event0 + aWrite + ( isFirstWhole ? end : "" );
+      auto const reading = readingOf( first + begin + event0 + aWrite + aWrite + end );
+      EXPECT_EQ( std::ranges::count( reading.heard, "event 0 {\"start\": {}}" ), 1 );
+      EXPECT_EQ( reading.remarks.back(),
+                 std::string( "run.jsonl:" ) + ( isFirstWhole ? "5" : "4" ) +
+                    ": another journal begins here; only the first is read" );
+   }
+   EXPECT_EQ( readingOf( begin + event0 + aWrite + end + aWrite ).remarks,
+              Remarks{ "run.jsonl:5: stands behind the journal's end; it isn't read" } );
+}
+
+TEST( JournalReader, TellsWhatAFileIsInstead ) {
+   auto const remedy = "; `l3sm run --journal FILE` writes one";
+   auto const errorOf = []( std::string const & text ) { return readingOf( text ).error; };
+   EXPECT_EQ( errorOf( "" ), std::string( "run.jsonl: is empty, no journal" ) + remedy );
+   EXPECT_EQ( errorOf( "\n\n" ), std::string( "run.jsonl: is empty, no journal" ) + remedy );
+   EXPECT_EQ( errorOf( "{\"faps\": {\n \"0\": {}}}\n" ),
+              std::string( "run.jsonl: is a chips file, no journal" ) + remedy );
+   EXPECT_EQ( errorOf( "{\n \"name\": \"a: {b\",\n \"switch\": {}}\n" ),
+              std::string( "run.jsonl: is a scenario, no journal" ) + remedy );
+   EXPECT_EQ( errorOf( "{\n \"bridging/config\": {}}\n" ),
+              std::string( "run.jsonl: is a state file, no journal" ) + remedy );
+   EXPECT_EQ( errorOf( "<!DOCTYPE html>\n" ),
+              std::string( "run.jsonl: is a page for a browser, no journal" ) + remedy );
+   EXPECT_EQ( errorOf( "{\"a\": 1}\n" ),
+              std::string( "run.jsonl: is a JSON file of another kind, no journal" ) + remedy );
+   EXPECT_EQ( errorOf( std::string( "\x7f"
+                                    "ELF\x02\x01\x00",
+                                    7 ) ),
+              std::string( "run.jsonl: is a binary file of another kind, no journal" ) + remedy );
+   EXPECT_EQ( errorOf( "hello\n" ), std::string( "run.jsonl: is a text of another kind, no journal" ) + remedy );
+   EXPECT_EQ( errorOf( begin.substr( 0, 60 ) ), "run.jsonl: is cut in its first line: nothing of it can be read" );
+   EXPECT_EQ( errorOf( R"({"op": "begin", "format": 3, "plugin": "", "scenario": {}})"
+                       "\n" ),
+              "run.jsonl:1: /format: this program reads formats 1 and 2, not 3" );
+}
+
+TEST( JournalReader, ReadsLinesOfOtherPrograms ) {
+   auto const reading =
+      readingOf( R"( { "scenario":{"switch":{"faps":[{"fapId":0,"revision":{"chipType":"BCM88690_B0"}}]}},)"
+                 R"("plugin":"","format":2,"op":"begin" })"
+                 "\n\n"
+                 R"({"what":{"start":{}},"event":0,"op":"event"})"
+                 "\r\n"
+                 R"({"words":["0xA00"],"op":"write","table":"IppdFerTrapCfg","entry":null,"cause":"start","seq":1,)"
+                 R"("event":0,"fap":0,"variant":0,"array":3,"scope":"all","changed":false,"function":"f","source":"s"})"
+                 "\n"
+                 R"({"ended":"complete","op":"end","events":0,"operations":1})" );
+   EXPECT_EQ( reading.error, "" );
+   ASSERT_EQ( reading.heard.size(), 4u );
+   EXPECT_NE( reading.heard[1].find( R"("words": ["0x00000a00"])" ), std::string::npos );
+}
+
+TEST( JournalReader, PassesOverRowsThatNobodyWantsWhateverTheyLookLike ) {
+   std::string const other =
+      R"({"table":"IppdFerTrapCfg","op":"read","entry":null,"cause":"start","seq":1,"words":["0x1"],)"
+      R"("event":0,"fap":0,"variant":0,"array":3,"scope":"any","function":"f","source":"s"})"
+      "\n";
+   auto const text = begin + event0 + aWrite + other + end;
+   EXPECT_EQ( readingOf( text ).heard.size(), 5u );
+   EXPECT_EQ( readingOf( text, { .readsToo = false } ).heard.size(), 4u );
+   EXPECT_EQ( readingOf( text, { .table = "EnablersVectors" } ).heard.size(), 3u );
+   EXPECT_EQ( readingOf( text, { .table = "IppdFerTrapCfg" } ).heard.size(), 5u );
+   EXPECT_EQ( readingOf( text, { .operationsToo = false } ).heard.size(), 3u );
+}
+
+TEST( JournalReader, TellsWhichLineIsWrong ) {
+   auto const errorOf = []( std::string const & line ) { return readingOf( begin + event0 + line + end ).error; };
+   auto const noPlace = []( std::string const & table, std::string const & words ) {
+      return "run.jsonl:3: " + table + " has no such variant, array index and entry of " + words +
+             " on the chip of FAP 0";
+   };
+   std::string const trap = R"("table": "IppdFerTrapCfg", )";
+   EXPECT_TRUE( errorOf( "{\"op\": \"write\"\n" ).starts_with( "run.jsonl:3: no JSON: " ) );
+   EXPECT_EQ( errorOf( "[1]\n" ), "run.jsonl:3: expected an object" );
+   EXPECT_EQ( errorOf( "{\"op\": \"jump\", \"event\": 0}\n" ),
+              "run.jsonl:3: /op: \"jump\" is none of read, write, control, gate, publish" );
+   EXPECT_EQ( errorOf( written( R"("table": "NoSuchTable", "variant": 0, "array": 3, "entry": null)" ) ),
+              "run.jsonl:3: /table: no table has this name; `l3sm catalogue` lists them" );
+   EXPECT_EQ( errorOf( written( trap + R"("variant": 0, "array": 99, "entry": null)" ) ),
+              noPlace( "IppdFerTrapCfg", "1 word" ) );
+   EXPECT_EQ( errorOf( written( trap + R"("variant": 5, "array": 3, "entry": null)" ) ),
+              noPlace( "IppdFerTrapCfg", "1 word" ) );
+   EXPECT_EQ( errorOf( written( trap + R"("variant": 0, "array": 3, "entry": 1)" ) ),
+              noPlace( "IppdFerTrapCfg", "1 word" ) );
+   EXPECT_EQ( errorOf( written( trap + R"("variant": 0, "array": 3, "entry": null)", R"(["0x1", "0x2"])" ) ),
+              noPlace( "IppdFerTrapCfg", "2 words" ) );
+   EXPECT_EQ( errorOf( written( trap + R"("variant": 0, "array": 3, "entry": null)", R"(["0x100000000"])" ) ),
+              "run.jsonl:3: /words: expected words such as \"0x00000a00\"" );
+   EXPECT_EQ( errorOf( written(
+                 trap + R"("variant": 0, "array": 3, "entry": null)", R"(["0x1"])", R"(, "before": ["0x1", "0x2"])" ) ),
+              "run.jsonl:3: /before: expected as many words as were written, 1" );
+   std::string otherFap = aWrite;
+   otherFap.replace( otherFap.find( "\"fap\": 0" ), 8, "\"fap\": 7" );
+   EXPECT_EQ( errorOf( otherFap ), "run.jsonl:3: /fap: the switch that the journal begins with has no FAP 7" );
+   std::string otherEvent = aWrite;
+   otherEvent.replace( otherEvent.find( "\"event\": 0" ), 10, "\"event\": 3" );
+   EXPECT_EQ( errorOf( otherEvent ), "run.jsonl:3: /event: stands in event 0" );
+   EXPECT_EQ( errorOf( event0 ), "run.jsonl:3: /event: event 0 stands behind event 0" );
+   EXPECT_EQ( readingOf( begin + aWrite ).error, "run.jsonl:2: /event: stands before the first event" );
+}
+
+TEST( JournalReader, TellsOfACoreThatTheChipLacks ) {
+   std::string line = aWrite;
+   line.replace( line.find( R"("scope": "all")" ), 14, R"("scope": "core", "core": 2)" );
+   EXPECT_EQ( readingOf( begin + event0 + line + end ).error,
+              "run.jsonl:3: /core: IppdFerTrapCfg has no such instance" );
+}
+
+// The format before there were lines for events and gates.
+TEST( JournalReader, ReadsFormat1 ) {
+   std::string const place = R"("fap": 0, "table": "IppdFerTrapCfg", "variant": 0, "array": 3, "entry": null, )";
+   std::string const from = R"("function": "f", "source": "a.cpp:1", "cause": "start", "chip": "BCM88690_B0")";
+   std::string const gate = R"({"function": "g", "source": "a.cpp:2", "reason": "off", "fap": 0, "event": )";
+   auto const reading =
+      readingOf( R"({"seq": 1, "event": 0, "op": "read", )" + place + R"("scope": "any", "words": ["0x00000001"], )" +
+                 from + "}\n" + R"({"seq": 2, "event": 2, "op": "write", )" + place +
+                 R"("scope": "all", "words": ["0x00000002"], "changed": true, )" + from + R"(, "gates": [)" + gate +
+                 R"(1, "cause": "x y"}], "gatesAfter": [)" + gate + R"(3, "cause": "z"}]})" + "\n" );
+   EXPECT_EQ( reading.error, "" );
+   EXPECT_EQ( reading.remarks, Remarks{} );
+   ASSERT_EQ( reading.heard.size(), 13u );
+   EXPECT_EQ( reading.heard[0], "event 0 null" );
+   EXPECT_EQ( reading.heard[3], "event 1 null" );
+   EXPECT_EQ( reading.heard[4],
+              R"({"op": "gate", "event": 1, "fap": 0, "reason": "off", "function": "g", "source": "a.cpp:2", )"
+              R"("cause": "x y"})" );
+   EXPECT_EQ( reading.heard[6], "event 2 null" );
+   EXPECT_TRUE( reading.heard[7].starts_with( R"({"op": "write", "seq": 2, "event": 2)" ) );
+   EXPECT_EQ( reading.heard[9], "event 3 null" );
+   EXPECT_TRUE( reading.heard[10].starts_with( R"({"op": "gate", "event": 3)" ) );
+   EXPECT_EQ( reading.heard[12], "complete 3 2" );
+}
+
+} // namespace
