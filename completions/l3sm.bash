@@ -26,7 +26,7 @@ _l3sm() {
     --table)
       mapfile -t COMPREPLY < <(compgen -W "$(_l3sm_tables "$program") controls" -- "$current")
       return ;;
-    --fap | --variant | --array | --entry | --trace | --toggle) return ;;
+    --fap | --variant | --array | --entry | --at | --trace | --toggle) return ;;
     --chips | --journal | --state | --report | --trace-out | --plugin | --scenario | --out)
       mapfile -t COMPREPLY < <(compgen -f -- "$current")
       return ;;

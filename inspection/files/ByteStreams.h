@@ -58,6 +58,7 @@ class ByteSource {
    ByteSource( ByteSource const & ) = delete;
    ByteSource & operator=( ByteSource const & ) = delete;
 
+   std::string const & path() const { return path_; }
    // Reads on into `into`, which isn't empty; how many bytes came. 0: the end. A compressed file that breaks off ends
    // there, and isCut() tells.
    std::size_t read( std::span< char > into );

@@ -1,5 +1,6 @@
 #include "inspection/files/ChipsFile.h"
 
+#include "inspection/files/ChipsReader.h"
 #include "simulator/TableMap.h"
 #include "state/CellStatus.h"
 
@@ -69,16 +70,6 @@ Simulator::Contents contentsOf( Fields & fields ) {
    } );
    fields.with( "tables", [&]( Value const & tables ) { contents.tables = tablesFromValue( tables ); } );
    return contents;
-}
-
-FapContents fapFromValue( Value const & value ) {
-   FapContents fap;
-   Fields fields( value );
-   auto const & chipType = fields.required( "chipType" );
-   fap.chipType = Rex::below( "chipType", [&] { return chipTypeFromValue( chipType ); } );
-   fap.contents = contentsOf( fields );
-   fields.end();
-   return fap;
 }
 
 // An object whose keys are the numbers of `all`.
@@ -253,30 +244,9 @@ void writeChips( std::ostream & out, ChipsFile const & chips ) {
 }
 
 ChipsFile readChips( std::string const & path ) {
-   auto const value = readJson( path );
-   return inFile( path, [&] {
-      ChipsFile chips;
-      Fields fields( value );
-      auto const & faps = fields.required( "faps" );
-      Rex::below( "faps", [&] {
-         forEachMember( faps, [&]( std::string const & key, Value const & fap ) {
-            chips.emplace( Rex::Codec< U16 >::fromKey( key ), fapFromValue( fap ) );
-         } );
-      } );
-      fields.end();
-      // What a chip has no place for is found by giving it to a chip of the kind.
-      for ( auto const & [fap, of] : chips ) {
-         Simulator::Chip scratch(
-            DaceSal::ChipId{ fap }, Hardware::chipTypeName( of.chipType ), Simulator::addressMap( of.chipType ) );
-         auto const place = "/faps/" + std::to_string( fap ) + "/tables";
-         try {
-            apply( of.contents.tables, scratch, of.chipType, place );
-         } catch ( Simulator::ContentsError const & error ) {
-            throw InputError( path, error.what() );
-         }
-      }
-      return chips;
-   } );
+   ChipsFile chips;
+   eachFap( path, {}, [&]( U16 fap, FapContents contents ) { chips.emplace( fap, std::move( contents ) ); } );
+   return chips;
 }
 
 } // namespace Inspection

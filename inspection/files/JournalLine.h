@@ -30,6 +30,7 @@ class JournalLineParser {
 
    // A FAP's kind of chip: its rows have their layout from now on.
    void chipIs( U16 fap, Hardware::ChipType chipType ) { chipTypes_[fap] = chipType; }
+   std::map< U16, Hardware::ChipType > const & chipTypes() const { return chipTypes_; }
    // Every FAP is known: rows of another are wrong.
    void chipsAreAll() { areChipsAll_ = true; }
 

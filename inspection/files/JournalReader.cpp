@@ -73,6 +73,10 @@ JournalReader::JournalReader( std::string path )
 
 JournalReader::~JournalReader() = default;
 
+std::map< U16, Hardware::ChipType > const & JournalReader::chipTypes() const {
+   return parser_->chipTypes();
+}
+
 void JournalReader::checkIsJournal( Line const & line ) const {
    if ( kindOf( line.text ) == FileKind::journal ) {
       return;
@@ -113,7 +117,6 @@ void JournalReader::theSwitchIs() {
          Fields of( fap );
          auto const number = of.required< U16 >( "fapId" );
          auto const chipType = chipTypeFromValue( Fields( of.required( "revision" ) ).required( "chipType" ) );
-         chipTypes_[number] = chipType;
          parser_->chipIs( number, chipType );
       }
    } );

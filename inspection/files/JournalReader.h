@@ -46,9 +46,9 @@ class JournalReader {
    Rex::Value const & scenario() const { return scenario_; }
    std::string const & plugin() const { return plugin_; }
    // The kinds of chip, by FAP, as far as the journal tells.
-   std::map< U16, Hardware::ChipType > const & chipTypes() const { return chipTypes_; }
+   std::map< U16, Hardware::ChipType > const & chipTypes() const;
 
-   // Once.
+   // Once. A reader may refuse a row with a Rex::ValueError, which is told with the row's line.
    Simulator::Ending read( Simulator::RowReader & reader, RowFilter const & filter = {} );
    // What is odd about the journal, a line each, ready to be shown; complete after read(): "run.jsonl: is cut in event
    // 17; what is told ends there".
@@ -82,7 +82,6 @@ class JournalReader {
    int format_ = 2;
    Rex::Value scenario_;
    std::string plugin_;
-   std::map< U16, Hardware::ChipType > chipTypes_;
    std::vector< std::string > remarks_;
    std::unique_ptr< Parser > parser_;
 };

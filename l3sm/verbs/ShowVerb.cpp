@@ -1,6 +1,9 @@
-// The verb `show`: chip contents, decoded by field.
+// The verb `show`: chip contents, from a chips file or a journal, decoded by field.
 #include "inspection/NamesAsTyped.h"
-#include "inspection/files/ChipsFile.h"
+#include "inspection/ReplayedChips.h"
+#include "inspection/files/ChipsReader.h"
+#include "inspection/files/FileKind.h"
+#include "inspection/views/ReplayText.h"
 #include "inspection/views/Terminal.h"
 #include "l3sm/verbs/Verbs.h"
 
@@ -25,7 +28,8 @@ struct Options {
    std::optional< U32 > variant;
    std::optional< U32 > array;
    std::optional< U32 > entry;
-   bool all = false; // unset fields too
+   std::optional< U32 > at; // an event of a journal
+   bool all = false;        // unset fields too
    bool json = false;
 };
 
@@ -220,21 +224,42 @@ Value fapValue( FapContents const & fap, Options const & options ) {
    return value;
 }
 
+// What a journal's chips held at its end, or when an event was over; returns what is odd about the journal.
+std::vector< std::string > showJournal( Options const & options, auto const & show ) {
+   JournalReader journal( options.file );
+   ReplayedChips chips( journal );
+   if ( options.at ) {
+      chips.stopsAfter( *options.at );
+   }
+   auto const ending =
+      journal.read( chips, { .table = options.tables.size() == 1 ? options.tables[0] : "", .readsToo = false } );
+   if ( options.at && *options.at > ending.events ) {
+      throw InputError( options.file,
+                        "there is no event " + std::to_string( *options.at ) + "; the last is " +
+                           std::to_string( ending.events ) );
+   }
+   if ( options.fap && !chips.chipTypes().contains( *options.fap ) ) {
+      throw InputError( options.file, "there is no FAP " + std::to_string( *options.fap ) );
+   }
+   if ( !options.json ) {
+      showRemarks( std::cout, journal.remarks(), Style::of( std::cout ) );
+   }
+   for ( auto const & [fap, chipType] : chips.chipTypes() ) {
+      if ( wanted( options.fap, fap ) ) {
+         show( fap, FapContents{ chipType, chips.contents( fap ) } );
+      }
+   }
+   return journal.remarks();
+}
+
 int answer( Options const & options ) {
    for ( std::string const & table : options.tables ) {
       tableNamed( table );
    }
-   ChipsFile const chips = readChips( options.file );
-   if ( options.fap && !chips.contains( *options.fap ) ) {
-      throw InputError( options.file, "there is no FAP " + std::to_string( *options.fap ) );
-   }
    Style const style = Style::of( std::cout );
    Value::Object faps;
    bool isFirst = true;
-   for ( auto const & [number, fap] : chips ) {
-      if ( !wanted( options.fap, number ) ) {
-         continue;
-      }
+   auto const show = [&]( U16 number, FapContents const & fap ) {
       if ( options.json ) {
          faps[std::to_string( number )] = fapValue( fap, options );
       } else {
@@ -242,12 +267,23 @@ int answer( Options const & options ) {
          showFap( std::cout, number, fap, options, style );
       }
       isFirst = false;
-   }
-   if ( chips.empty() && !options.json ) {
-      std::cout << "no FAP\n";
+   };
+   std::vector< std::string > remarks;
+   if ( kindOfFile( options.file ) == FileKind::journal ) {
+      remarks = showJournal( options, show );
+   } else if ( options.at ) {
+      throw InputError( options.file, "--at asks for an event, and only a journal has events" );
+   } else {
+      eachFap( options.file, { .fap = options.fap, .tables = options.tables }, show );
    }
    if ( options.json ) {
-      std::cout << toJson( Value::Object{ { "faps", faps } }, 7 ) << '\n';
+      Value::Object all{ { "faps", faps } };
+      if ( !remarks.empty() ) {
+         all["remarks"] = Value::List( remarks.begin(), remarks.end() );
+      }
+      std::cout << toJson( all, 7 ) << '\n';
+   } else if ( isFirst ) {
+      std::cout << "no FAP\n";
    }
    return 0;
 }
@@ -256,12 +292,13 @@ int answer( Options const & options ) {
 
 Action defineShow( VerbOptions & verb ) {
    auto const options = std::make_shared< Options >();
-   verb.required( "CHIPS", options->file, "a file that `l3sm run --chips` wrote" );
+   verb.required( "FILE", options->file, "a file that `l3sm run --chips` or `--journal` wrote" );
    verb.texts( "TABLE", options->tables, "only these tables" );
    verb.number( "--fap", options->fap, "only this FAP" );
    verb.number( "--variant", options->variant, "only this variant" );
    verb.number( "--array", options->array, "only this array index" );
    verb.number( "--entry", options->entry, "only this entry" );
+   verb.number( "--at", options->at, "from a journal: what stood there when this event was over, not at its end" );
    verb.flag( "--all", options->all, "unset fields too" );
    verb.flag( "--json", options->json, "for programs" );
    return [options] { return answer( *options ); };

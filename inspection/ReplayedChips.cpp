@@ -1,0 +1,155 @@
+#include "inspection/ReplayedChips.h"
+
+#include "inspection/files/ChipsFile.h"
+#include "simulator/BootImage.h"
+#include "simulator/TableMap.h"
+
+namespace Inspection {
+
+using Rex::Value;
+using Simulator::addressOf;
+using Simulator::Chip;
+using Simulator::Row;
+using Simulator::Words;
+
+ReplayedChips::ReplayedChips( JournalReader const & journal )
+   : journal_( journal ), isBeginKnown_( journal.format() != 1 ) {
+   for ( auto const & [fap, chipType] : journal.chipTypes() ) {
+      chipIs( fap, chipType );
+   }
+   fill( journal.path(), journal.scenario() );
+}
+
+void ReplayedChips::chipIs( U16 fap, Hardware::ChipType chipType ) {
+   auto const [known, isNew] = chipTypes_.emplace( fap, chipType );
+   if ( isNew ) {
+      auto & made = driver_.chipIs(
+         DaceSal::ChipId{ fap }, Hardware::chipTypeName( chipType ), Simulator::addressMap( chipType ) );
+      Simulator::boot( made, chipType );
+      chips_.resize( std::max< std::size_t >( chips_.size(), fap + 1u ) );
+      chips_[fap] = &made;
+   } else if ( known->second != chipType ) {
+      throw InputError( "FAP " + std::to_string( fap ) + " is a " + Hardware::chipTypeName( known->second ) +
+                        " in one file and a " + Hardware::chipTypeName( chipType ) + " in another" );
+   }
+}
+
+// The scenario's chips, as a journal begins with them.
+void ReplayedChips::fill( std::string const & file, Value const & scenario ) {
+   auto const * const object = scenario.object();
+   if ( !object || !object->contains( "chips" ) ) {
+      return;
+   }
+   inFile( file, [&] {
+      forEachMember( object->at( "chips" ), [&]( std::string const & key, Value const & part ) {
+         auto const fap = Rex::Codec< U16 >::fromKey( key );
+         auto const contents = contentsFromValue( part );
+         auto const chipType = chipTypes_.find( fap );
+         if ( chipType == chipTypes_.end() ) {
+            throw Rex::ValueError( "", "the switch has no FAP " + key );
+         }
+         try {
+            apply( contents.tables, chip( fap ), chipType->second, "/chips/" + key );
+         } catch ( Simulator::ContentsError const & error ) {
+            throw InputError( file, error.what() );
+         }
+         for ( auto const & [control, value] : contents.controls ) {
+            chip( fap ).controlIs( control, value );
+         }
+      } );
+   } );
+}
+
+Simulator::Contents ReplayedChips::contents( U16 fap ) const {
+   return contentsOf( *driver_.chip( DaceSal::ChipId{ fap } ), chipTypes_.at( fap ) );
+}
+
+void ReplayedChips::eventBegins( U32 event, Value const & ) {
+   event_ = last_ ? std::min( event, *last_ ) : event;
+}
+
+void ReplayedChips::row( Row const & row ) {
+   if ( !row.isOperation() || ( last_ && row.event > *last_ ) ) {
+      return;
+   }
+   if ( journal_.format() == 1 ) {
+      auto const told = journal_.chipTypes().find( row.fap );
+      if ( told != journal_.chipTypes().end() ) {
+         chipIs( row.fap, told->second );
+      }
+   }
+   if ( row.fap >= chips_.size() || !chips_[row.fap] ) {
+      throw Rex::ValueError(
+         "", "nothing says what kind of chip FAP " + std::to_string( row.fap ) + " is; give --chips or --scenario" );
+   }
+   auto & chip = *chips_[row.fap];
+   if ( row.kind == Row::Kind::control ) {
+      chip.controlIs( row.control, row.value );
+      ++controls_;
+      return;
+   }
+   auto const * layout = row.layout;
+   if ( layout->chipType != static_cast< U8 >( chipTypes_.at( row.fap ) ) ) {
+      // The journal didn't say what kind of chip it is, and another file has.
+      layout = Catalogue::layout(
+         Catalogue::tables()[row.tableNumber], static_cast< U8 >( chipTypes_.at( row.fap ) ), row.variant );
+      if ( !layout || layout->width != row.words.size() ||
+           row.entry.value_or( 0 ) >= Simulator::entryCount( *layout ) ||
+           static_cast< U32 >( row.array ) - layout->arrayIndexFirst >= layout->arrayElements ) {
+         throw Rex::ValueError( "", std::string( row.table ) + " has no such place on this kind of chip" );
+      }
+   }
+   if ( row.kind == Row::Kind::read ) {
+      ++reads_;
+      compare( row, *layout, chip, row.words );
+      return;
+   }
+   ++writes_;
+   if ( !row.before.empty() ) {
+      compare( row, *layout, chip, row.before );
+   }
+   bool const isCore = row.scope == Row::Scope::core;
+   U32 const first = isCore ? static_cast< U32 >( row.core ) : 0;
+   U32 const last = isCore ? first : static_cast< U32 >( layout->selectors.size() ) - 1;
+   for ( U32 copy = first; copy <= last; ++copy ) {
+      chip.write( addressOf( *layout, static_cast< U32 >( row.array ), row.entry.value_or( 0 ), copy ), row.words );
+   }
+   if ( !isBeginKnown_ ) {
+      auto const at = addressOf( *layout, static_cast< U32 >( row.array ), row.entry.value_or( 0 ) );
+      written_.insert( U64{ row.fap } << 48 | U64{ at.selectorA } << 40 | U64{ at.selectorB } << 32 | at.address );
+   }
+}
+
+void ReplayedChips::compare( Row const & row,
+                             Catalogue::Layout const & layout,
+                             Chip & chip,
+                             Simulator::WordView journalled ) {
+   U32 const copy = row.scope == Row::Scope::core ? static_cast< U32 >( row.core ) : 0;
+   auto const at = addressOf( layout, static_cast< U32 >( row.array ), row.entry.value_or( 0 ), copy );
+   auto const here = chip.entry( at ).words( copy );
+   if ( std::ranges::equal( here, journalled ) ) {
+      return;
+   }
+   auto const first = addressOf( layout, static_cast< U32 >( row.array ), row.entry.value_or( 0 ) );
+   U64 const place = U64{ row.fap } << 48 | U64{ first.selectorA } << 40 | U64{ first.selectorB } << 32 | first.address;
+   bool const isBegin = !isBeginKnown_ && !written_.contains( place );
+   auto & list = isBegin ? begunWith_ : others_;
+   list.seqs.push_back( row.seq );
+   if ( list.first.size() < OtherContentsList::inFull ) {
+      list.first.push_back( { .seq = row.seq,
+                              .event = row.event,
+                              .fap = row.fap,
+                              .isBefore = row.kind == Row::Kind::write,
+                              .table = &Catalogue::tables()[row.tableNumber],
+                              .layout = &layout,
+                              .array = static_cast< U32 >( row.array ),
+                              .entry = row.entry.value_or( 0 ),
+                              .journalled = Words( journalled.begin(), journalled.end() ),
+                              .here = Words( here.begin(), here.end() ) } );
+   }
+   if ( isBegin ) {
+      chip.fill( first, Words( journalled.begin(), journalled.end() ) );
+   }
+}
+
+} // namespace Inspection
