@@ -8,7 +8,7 @@ _l3sm_tables() { "$1" catalogue 2> /dev/null | sed -n '2,/^$/s/ .*//p'; }
 
 _l3sm_fields() { "$1" catalogue "$2" --json 2> /dev/null | grep -o '"name": "[^"]*"' | sed 's/.*: "//; s/"$//' | sort -u; }
 
-_l3sm_options() { "$1" "$2" --help 2> /dev/null | sed -nE 's/^  (-h,)?(--[a-z-]+).*/\2/p'; }
+_l3sm_options() { "$1" "$2" --help 2> /dev/null | sed -nE 's/^  (-[a-z],)?(--[a-z-]+).*/\2/p'; }
 
 _l3sm() {
   local program=$1 current=${COMP_WORDS[COMP_CWORD]} previous=${COMP_WORDS[COMP_CWORD - 1]} verb=${COMP_WORDS[1]}
@@ -16,7 +16,7 @@ _l3sm() {
   if ((COMP_CWORD == 1)); then
     local verbs
     verbs=$("$program" --help 2> /dev/null | sed -n '/^Subcommands:/,/^$/s/^  \([a-z][a-z]*\) .*/\1/p')
-    mapfile -t COMPREPLY < <(compgen -W "$verbs --help" -- "$current")
+    mapfile -t COMPREPLY < <(compgen -W "$verbs --help --version" -- "$current")
     return
   fi
   case $previous in
@@ -26,8 +26,11 @@ _l3sm() {
     --table)
       mapfile -t COMPREPLY < <(compgen -W "$(_l3sm_tables "$program") controls" -- "$current")
       return ;;
-    --fap | --variant | --array | --entry | --at | --trace | --toggle) return ;;
-    --chips | --journal | --state | --report | --trace-out | --plugin | --scenario | --out)
+    --event)
+      mapfile -t COMPREPLY < <(compgen -W "all last" -- "$current")
+      return ;;
+    --fap | --variant | --array | --entry | --at | --last | --function | --cause | --trace | --toggle) return ;;
+    --chips | --journal | --state | --save | --report | --trace-out | --plugin | --scenario | --out | -o)
       mapfile -t COMPREPLY < <(compgen -f -- "$current")
       return ;;
   esac

@@ -68,6 +68,27 @@ std::vector< Touch > touchesOf( Catalogue::Table const & table, std::vector< Kep
    return all;
 }
 
+std::vector< Touch > controlTouches( std::vector< KeptRows > const & journals ) {
+   std::map< std::pair< U32, std::string >, Touch > touches;
+   for ( KeptRows const & journal : journals ) {
+      for ( Simulator::Row const & row : journal.all() ) {
+         if ( row.kind == Row::Kind::control ) {
+            std::string const function( row.function );
+            touches[{ row.control, function }] = { .table = "control." + std::to_string( row.control ),
+                                                   .function = function,
+                                                   .source =
+                                                      std::string( row.source.substr( 0, row.source.find( ':' ) ) ),
+                                                   .writes = true };
+         }
+      }
+   }
+   std::vector< Touch > all;
+   for ( auto const & touch : touches ) {
+      all.push_back( touch.second );
+   }
+   return all;
+}
+
 Value touchesValue( std::vector< Touch > const & touches ) {
    Value::List list;
    for ( Touch const & touch : touches ) {

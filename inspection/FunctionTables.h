@@ -28,7 +28,11 @@ struct Touch {
 std::vector< Touch > touchesOf( Catalogue::Table const & table );
 std::vector< Touch > touchesOf( Catalogue::Table const & table, std::vector< KeptRows > const & journals );
 
-// What the journals of the examples show, of every table: KnownTouches.cpp, which a test compares and writes.
+// Which functions set a control, as "control.64" in place of a table.
+std::vector< Touch > controlTouches( std::vector< KeptRows > const & journals );
+
+// What the journals of the examples show, of every table and control: KnownTouches.cpp, which a test compares and
+// writes.
 std::span< Touch const > knownTouches();
 
 Rex::Value touchesValue( std::vector< Touch > const & touches );

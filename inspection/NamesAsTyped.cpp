@@ -8,9 +8,63 @@
 
 namespace Inspection {
 
+namespace {
+
+std::set< std::string > fieldsOf( Catalogue::Table const & table ) {
+   std::set< std::string > names;
+   for ( auto const & layout : table.layouts ) {
+      for ( auto const & field : layout.fields ) {
+         names.insert( field.name );
+      }
+   }
+   return names;
+}
+
+// "IppdFerTrapCfg, EthernetTrap and 3 more"
+std::string someOf( std::vector< Catalogue::Table const * > const & tables ) {
+   constexpr std::size_t most = 4;
+   std::string text;
+   for ( std::size_t table = 0; table < std::min( most, tables.size() ); ++table ) {
+      text += ( table == 0 ? "" : ", " ) + std::string( tables[table]->name );
+   }
+   return text + ( tables.size() > most ? " and " + std::to_string( tables.size() - most ) + " more" : "" );
+}
+
+// "0 to 3", "0, 2"
+std::string rangeText( std::set< U32 > const & numbers ) {
+   if ( numbers.size() > 2 && *numbers.rbegin() - *numbers.begin() + 1 == numbers.size() ) {
+      return std::to_string( *numbers.begin() ) + " to " + std::to_string( *numbers.rbegin() );
+   }
+   std::string text;
+   for ( U32 const number : numbers ) {
+      text += ( text.empty() ? "" : ", " ) + std::to_string( number );
+   }
+   return text;
+}
+
+} // namespace
+
+std::vector< Catalogue::Table const * > tablesWithField( std::string_view field ) {
+   std::vector< Catalogue::Table const * > all;
+   for ( auto const & table : Catalogue::tables() ) {
+      bool const hasIt = std::ranges::any_of( table.layouts, [&]( auto const & it ) { return it.field( field ); } );
+      if ( table.hasMemory && hasIt ) {
+         all.push_back( &table );
+      }
+   }
+   return all;
+}
+
 Catalogue::Table const & tableNamed( std::string const & name ) {
    if ( auto const * const table = Catalogue::table( name ) ) {
       return *table;
+   }
+   std::string const head = name.substr( 0, name.find( '.' ) );
+   if ( head != name && Catalogue::table( head ) ) {
+      throw InputError( "\"" + name + "\" is no table but a field of one; the table is " + head );
+   }
+   if ( auto const with = tablesWithField( name ); !with.empty() ) {
+      throw InputError( "\"" + name + "\" is no table but a field, of " + someOf( with ) );
    }
    std::vector< std::string > names;
    for ( auto const & table : Catalogue::tables() ) {
@@ -22,18 +76,101 @@ Catalogue::Table const & tableNamed( std::string const & name ) {
 }
 
 std::string fieldNamed( Catalogue::Table const & table, std::string const & name ) {
-   std::set< std::string > names;
-   for ( auto const & layout : table.layouts ) {
-      for ( auto const & field : layout.fields ) {
-         names.insert( field.name );
-      }
-   }
+   auto const names = fieldsOf( table );
    if ( names.contains( name ) ) {
       return name;
    }
    auto const remedy = Rex::didYouMean( name, { names.begin(), names.end() } );
    throw InputError( std::string( table.name ) + " has no field \"" + name + "\"" +
                      ( remedy.empty() ? "; `l3sm catalogue " + std::string( table.name ) + "` lists them" : remedy ) );
+}
+
+std::string TablePart::text() const {
+   return table->name + ( field.empty() ? "" : "." + field ) + ( bit ? ":" + std::to_string( *bit ) : "" );
+}
+
+U32 TablePart::width() const {
+   U32 widest = 0;
+   for ( auto const & layout : table->layouts ) {
+      auto const * const it = layout.field( field );
+      widest = std::max( widest, it ? it->width : U32{ 0 } );
+   }
+   return widest;
+}
+
+TablePart partNamed( std::string const & typed ) {
+   auto const colon = typed.find( ':' );
+   std::string const name = typed.substr( 0, colon );
+   auto const dot = name.find( '.' );
+   std::string const head = name.substr( 0, dot );
+   TablePart part;
+   if ( dot != std::string::npos ) {
+      part.table = &tableNamed( head );
+      part.field = fieldNamed( *part.table, name.substr( dot + 1 ) );
+   } else if ( auto const with = tablesWithField( head ); !Catalogue::table( head ) && !with.empty() ) {
+      if ( with.size() > 1 ) {
+         throw InputError( std::to_string( with.size() ) + " tables have a field \"" + head + "\": " + someOf( with ) +
+                           "; say which, as in " + with.front()->name + "." + head );
+      }
+      part.table = with.front();
+      part.field = head;
+   } else {
+      part.table = &tableNamed( head );
+   }
+   if ( colon == std::string::npos ) {
+      return part;
+   }
+   try {
+      part.bit = Rex::Codec< U32 >::fromKey( typed.substr( colon + 1 ) );
+   } catch ( Rex::ValueError const & ) {
+      throw InputError( "\"" + typed.substr( colon + 1 ) + "\" is no bit; say it as in " + name + ":0" );
+   }
+   if ( part.field.empty() ) {
+      throw InputError( "a bit is one of a field, as in " + std::string( part.table->name ) + "." +
+                        *fieldsOf( *part.table ).begin() + ":0" );
+   }
+   if ( *part.bit >= part.width() ) {
+      throw InputError( part.table->name + ( "." + part.field ) + " has the bits 0 to " +
+                        std::to_string( part.width() - 1 ) );
+   }
+   return part;
+}
+
+void checkPlace( Catalogue::Table const & table, TypedPlace const & place ) {
+   std::string const name = table.name;
+   auto layouts = std::vector< Catalogue::Layout >( table.layouts.begin(), table.layouts.end() );
+   // Keeps the layouts that have it; where none does, tells what those have.
+   auto const narrow =
+      [&]( std::optional< U32 > const & number, char const * what, auto const & first, auto const & size ) {
+         if ( !number ) {
+            return;
+         }
+         std::set< U32 > there;
+         for ( auto const & layout : layouts ) {
+            for ( U32 each = first( layout ); each < first( layout ) + size( layout ); ++each ) {
+               there.insert( each );
+            }
+         }
+         if ( !there.contains( *number ) ) {
+            throw InputError( name + " has no " + what + " " + std::to_string( *number ) + "; there is " +
+                              rangeText( there ) );
+         }
+         std::erase_if(
+            layouts, [&]( auto const & it ) { return *number < first( it ) || *number >= first( it ) + size( it ); } );
+      };
+   auto const none = []( auto const & ) { return U32{ 0 }; };
+   narrow(
+      place.variant,
+      "variant",
+      []( auto const & it ) { return U32{ it.variant }; },
+      []( auto const & ) { return U32{ 1 }; } );
+   narrow(
+      place.array,
+      "array index",
+      []( auto const & it ) { return U32{ it.arrayIndexFirst }; },
+      []( auto const & it ) { return U32{ it.arrayElements }; } );
+   narrow( place.entry, "entry", none, []( auto const & it ) { return std::max< U32 >( it.entries, 1 ); } );
+   narrow( place.copy, "copy", none, []( auto const & it ) { return U32{ it.instanceCount }; } );
 }
 
 Hardware::ChipType chipNamed( std::string const & name ) {

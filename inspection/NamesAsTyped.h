@@ -3,19 +3,54 @@
 //
 //    Catalogue::Table const & table = tableNamed( "IppdFerTrapCfg" );          // InputError
 //    fieldNamed( table, "cpuStrengthN" );                                     // InputError
+//    partNamed( "IppdFerTrapCfg.cpuStrengthN:2" );                            // a table, field or bit
+//    partNamed( "cpuStrengthN" );                                             // likewise, where one table has it
+//    checkPlace( table, { .array = 3 } );                                     // InputError where no chip has it
 #pragma once
 
 #include "constants/ChipType.h"
 #include "generated/Catalogue.h"
 
+#include <optional>
 #include <string>
 #include <vector>
 
 namespace Inspection {
 
+// A field where a table is wanted is refused with its table.
 Catalogue::Table const & tableNamed( std::string const & name );
 // The name, if a layout of the table has the field.
 std::string fieldNamed( Catalogue::Table const & table, std::string const & name );
+
+// A table, one field of it, or one bit of that.
+struct TablePart {
+   Catalogue::Table const * table = nullptr;
+   std::string field = {}; // empty: all
+   std::optional< U32 > bit = {};
+
+   // "IppdFerTrapCfg.cpuStrengthN:2"
+   std::string text() const;
+   // How wide the field is where it is widest.
+   U32 width() const;
+};
+
+// Understands "TABLE", "TABLE.FIELD", "TABLE.FIELD:BIT", and the last two without their table where one alone has the
+// field.
+TablePart partNamed( std::string const & typed );
+// The tables that have a field of this name.
+std::vector< Catalogue::Table const * > tablesWithField( std::string_view field );
+
+// Where something lies in a table, as far as it was said.
+struct TypedPlace {
+   std::optional< U32 > variant = {};
+   std::optional< U32 > array = {};
+   std::optional< U32 > entry = {};
+   std::optional< U32 > copy = {};
+};
+
+// Throws, with what there is, unless the table has the place on some chip.
+void checkPlace( Catalogue::Table const & table, TypedPlace const & place );
+
 Hardware::ChipType chipNamed( std::string const & name );
 
 // An entry's place, as people read it: "variant 1 [3] 12". What can only be one way is left out: the variant of a table

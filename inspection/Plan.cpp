@@ -102,8 +102,9 @@ class Planner final : public Simulator::RowReader {
    void row( Row const & row ) override {
       PlannedEvent & event = plan_.events.back();
       event.operations += row.isOperation();
+      event.writes += row.kind == Row::Kind::write;
+      event.changingWrites += row.isOperation() && row.changed;
       if ( row.kind == Row::Kind::control ) {
-         event.changingWrites += row.changed;
          wrote( { row.fap, 0, 0, row.control }, row, 0, {} );
       } else if ( row.kind == Row::Kind::write ) {
          bool const isCore = row.scope == Row::Scope::core;
@@ -111,7 +112,6 @@ class Planner final : public Simulator::RowReader {
          for ( U32 copy = isCore ? static_cast< U32 >( row.core ) : 0; copy < copies; ++copy ) {
             auto const at =
                Simulator::addressOf( *row.layout, static_cast< U32 >( row.array ), row.entry.value_or( 0 ), copy );
-            event.changingWrites += row.changed;
             wrote(
                { row.fap, at.selectorA, at.selectorB, at.address }, row, copy, { row.words.begin(), row.words.end() } );
             if ( isCore ) {
@@ -230,7 +230,9 @@ bool Plan::isEmpty() const {
    return std::ranges::all_of( events, []( PlannedEvent const & event ) { return event.changes.empty(); } );
 }
 
-Plan planOf( Scenario const & scenario, std::string const & plugin ) {
+Plan planOf( Scenario const & scenario,
+             std::string const & plugin,
+             std::vector< Simulator::RowReader * > const & others ) {
    Plan plan{ .name = scenario.name.empty() ? scenario.file : scenario.name, .events = {} };
    loadPlugin( plugin );
    auto description = scenario.description;
@@ -240,8 +242,10 @@ Plan planOf( Scenario const & scenario, std::string const & plugin ) {
    DaceSal::schanDriverIs( &staged );
    Planner planner( plan, scenario, staged );
    sw.journal().readerAdd( planner );
+   for ( auto * const other : others ) {
+      sw.journal().readerAdd( *other );
+   }
    play( scenario, sw );
-   sw.journal().readerDel( planner );
    sw.stop();
    return plan;
 }

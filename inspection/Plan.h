@@ -23,8 +23,9 @@ struct PlannedEvent {
    // Writes: `before` is what stands there, `words` what would; scope core where one copy alone would change. Controls
    // likewise.
    std::vector< Simulator::Row > changes;
-   std::size_t operations = 0;     // that were made to get there
-   std::size_t changingWrites = 0; // that would have reached the chips, unstaged
+   std::size_t operations = 0; // that were made to get there
+   std::size_t writes = 0;
+   std::size_t changingWrites = 0; // writes and controls with a change that would have reached the chips, unstaged
 
    std::size_t entries() const; // that would change
    std::size_t controls() const;
@@ -40,7 +41,9 @@ struct Plan {
    std::deque< std::vector< U32 > > words = {};
 };
 
-// Plays the scenario. InputError where it doesn't fit, or the library can't be loaded.
-Plan planOf( Scenario const & scenario, std::string const & plugin );
+// Plays the scenario, with `others` reading along. InputError where it doesn't fit, or the library can't be loaded.
+Plan planOf( Scenario const & scenario,
+             std::string const & plugin,
+             std::vector< Simulator::RowReader * > const & others = {} );
 
 } // namespace Inspection

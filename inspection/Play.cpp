@@ -19,13 +19,6 @@ namespace {
 
 constexpr int wrongInput = 2; // how a child tells of an InputError
 
-// The product lies beside the program: bin/l3sm, lib/libL3SmPlugin.so.
-std::string pluginBeside() {
-   std::error_code none;
-   auto const self = std::filesystem::read_symlink( "/proc/self/exe", none );
-   return ( self.parent_path().parent_path() / "lib" / "libL3SmPlugin.so" ).string();
-}
-
 // A stream whose text is in the parent's hands as soon as it is written.
 class PipeBuffer : public std::streambuf {
  public:
@@ -79,22 +72,42 @@ std::vector< std::string > linesOf( std::string const & text ) {
 
 } // namespace
 
+std::string pluginBeside() {
+   std::error_code none;
+   auto const above = std::filesystem::read_symlink( "/proc/self/exe", none ).parent_path().parent_path();
+   auto const asBuilt = above / "lib" / "libL3SmPlugin.so";
+   auto const asInstalled = above / L3SM_PLUGIN_FOLDER / "libL3SmPlugin.so";
+   return ( exists( asBuilt, none ) ? asBuilt : asInstalled ).string();
+}
+
 void loadPlugin( std::string const & path ) {
+   std::string const library = path.empty() ? pluginBeside() : path;
+   std::string const remedy = "; name the plug-in's library with --plugin PATH";
    try {
-      Simulator::loadPlugin( path.empty() ? pluginBeside() : path );
+      Simulator::loadPlugin( library );
    } catch ( Simulator::LibraryError const & error ) {
-      throw InputError( "--plugin", std::string( error.what() ) + "; name the plug-in's library with --plugin PATH" );
+      throw InputError( "--plugin", error.what() + remedy );
+   }
+   if ( DaceFapNi::defaultPluginLoader().registrations().empty() ) {
+      throw InputError( "--plugin", library + " registers no plug-in" + remedy );
    }
 }
 
-void play( Scenario const & scenario, Simulator::SimulatedSwitch & sw ) {
+bool play( Scenario const & scenario, Simulator::SimulatedSwitch & sw, Onlooker const & onlooker ) {
    scenario.prepare( sw );
    sw.start();
    Progress progress( "playing events" );
    for ( auto const & event : scenario.events ) {
+      if ( onlooker.stops && onlooker.stops() ) {
+         return false;
+      }
       progress.stands( event.number, scenario.events.size() );
+      if ( onlooker.before ) {
+         onlooker.before( event );
+      }
       scenario.play( sw, event );
    }
+   return !( onlooker.stops && onlooker.stops() );
 }
 
 Child inChild( std::function< void( std::ostream & ) > const & what ) {

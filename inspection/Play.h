@@ -15,11 +15,21 @@
 
 namespace Inspection {
 
+// The product lies beside the program: bin/l3sm and lib/libL3SmPlugin.so, or in the folder that the distribution has
+// for the libraries of this kind of machine.
+std::string pluginBeside();
+
 // Loads the plug-in's library; an empty path means the one beside this program.
 void loadPlugin( std::string const & path );
 
-// Prepares, starts, and plays every event.
-void play( Scenario const & scenario, Simulator::SimulatedSwitch & sw );
+// Who looks on while a scenario is played.
+struct Onlooker {
+   std::function< void( Event const & ) > before = {}; // each event
+   std::function< bool() > stops = {};                 // whether to play no more; asked before each event
+};
+
+// Prepares, starts, and plays every event. False where the onlooker has stopped it.
+bool play( Scenario const & scenario, Simulator::SimulatedSwitch & sw, Onlooker const & onlooker = {} );
 
 // What a child process left behind.
 struct Child {

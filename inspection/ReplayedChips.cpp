@@ -48,11 +48,7 @@ void ReplayedChips::fill( std::string const & file, Value const & scenario ) {
          if ( chipType == chipTypes_.end() ) {
             throw Rex::ValueError( "", "the switch has no FAP " + key );
          }
-         try {
-            apply( contents.tables, chip( fap ), chipType->second, "/chips/" + key );
-         } catch ( Simulator::ContentsError const & error ) {
-            throw InputError( file, error.what() );
-         }
+         apply( contents.tables, chip( fap ), chipType->second );
          for ( auto const & [control, value] : contents.controls ) {
             chip( fap ).controlIs( control, value );
          }

@@ -1,13 +1,10 @@
-// A run as data: what `l3sm run --json` tells, in parts that the report's page has too.
+// Parts of a run as data, which its summary and its page both have.
 #pragma once
 
-#include "inspection/KeptRows.h"
-#include "inspection/files/Scenario.h"
+#include "simulator/Row.h"
+#include "simulator/SimulatedSwitch.h"
 
 namespace Inspection {
-
-// The switch, the toggles that were read, the operations of each event by FAP and function, and the closed gates.
-Rex::Value runValue( Scenario const & scenario, Simulator::SimulatedSwitch const & sw, KeptRows const & rows );
 
 Rex::Value switchValue( Simulator::SwitchDescription const & description );
 Rex::Value togglesValue();

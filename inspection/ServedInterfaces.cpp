@@ -5,16 +5,14 @@
 #include "interface/SyncMtuSubIntfWalkSm.h"
 
 #include <algorithm>
-#include <set>
 
 namespace Inspection {
 
 namespace {
 
+using Interface::L3MtuSm;
 using Interface::SyncMtuSubIntfWalkSm;
-using Items = std::vector< Interfaces::Item >;
-
-constexpr std::size_t mostNames = 8; // before the rest is only counted
+using One = Interfaces::One;
 
 // "Ethernet2" before "Ethernet10".
 struct ByName {
@@ -24,6 +22,10 @@ struct ByName {
       return a.size() != b.size() ? a.size() < b.size() : a < b;
    }
 };
+
+std::string textOf( Netka::EthAddr const & addr ) {
+   return addr.stringValue();
+}
 
 class Reader {
  public:
@@ -42,30 +44,41 @@ class Reader {
    }
 
    Interfaces read() {
-      Interfaces all;
+      Interfaces interfaces;
       auto const slice = entity< DaceFapNi::SliceSmStateInfo >( "shared/sliceSmStateData" );
       isActive_ = slice && slice->smMode() == Hardware::Dace::smModeActive();
-      all.isActive = isActive_;
+      interfaces.isActive = isActive_;
 
-      std::set< Netka::IntfId, ByName > served;
+      std::map< Netka::IntfId, L3MtuSm const * > mtus;
+      for ( auto const * sm = L3MtuSm::newest(); sm; sm = sm->older() ) {
+         if ( sm->intfConfig() ) {
+            mtus.emplace( sm->intfConfig()->intfId(), sm );
+         }
+      }
+      std::map< Netka::IntfId, One, ByName > all;
+      for ( auto const & [intfId, why] : candidates() ) {
+         all[intfId].why = why;
+      }
       for ( auto const * walk = SyncMtuSubIntfWalkSm::newest(); walk; walk = walk->older() ) {
-         served.insert( walk->intfId() );
+         One & one = all[walk->intfId()];
+         one.isServed = true;
+         auto const mtu = mtus.find( walk->intfId() );
+         serve( one, *walk, mtu == mtus.end() ? nullptr : mtu->second );
       }
       auto const * const managed = Interface::ManagedIntfStatusDir::newest();
-      for ( auto const intfId : served ) {
-         all.served.push_back( { intfId.stringValue(), "" } );
-         if ( !managed || !managed->intfStatusHas( intfId ) ) {
-            all.unmanaged.push_back( { intfId.stringValue(), "" } );
+      for ( auto & [intfId, one] : all ) {
+         one.name = intfId.stringValue();
+         one.isManaged = managed && managed->intfStatusHas( intfId );
+         if ( auto const status = statuses_ ? statuses_->intfStatus( intfId ) : nullptr ) {
+            one.status = { status->mtu(),
+                           status->maxMtu(),
+                           textOf( status->addr() ),
+                           textOf( status->routedAddr() ),
+                           textOf( status->burnedInAddr() ) };
          }
-         auto const [isSynced, remark] = mtuOf( intfId );
-         ( isSynced ? all.synced : all.waiting ).push_back( { intfId.stringValue(), remark } );
+         interfaces.all.push_back( std::move( one ) );
       }
-      for ( auto const & [intfId, why] : candidates() ) {
-         if ( !served.contains( intfId ) ) {
-            all.unserved.push_back( { intfId.stringValue(), why } );
-         }
-      }
-      return all;
+      return interfaces;
    }
 
  private:
@@ -74,21 +87,31 @@ class Reader {
       return sw_.entity< T >( path );
    }
 
-   // Whether an interface has its MTU; which, or why not.
-   std::pair< bool, std::string > mtuOf( Netka::IntfId intfId ) const {
-      auto const config = configs_ ? configs_->intfConfig( intfId ) : nullptr;
+   // What the machines of a served interface know of it.
+   void serve( One & one, SyncMtuSubIntfWalkSm const & walk, L3MtuSm const * sm ) const {
+      auto const intfId = walk.intfId();
+      auto const * const config = sm ? sm->intfConfig() : nullptr;
+      auto const there = configs_ ? configs_->intfConfig( intfId ) : nullptr;
       auto const status = statuses_ ? statuses_->intfStatus( intfId ) : nullptr;
-      U32 const mtu = Interface::L3MtuSm::l3Mtu( config.get(), globalConfig_.get(), capability_.get() );
-      std::string const behind = config && status ? whoIsBehind( *status, mtu ) : intfId.stringValue();
-      if ( behind.empty() ) {
-         return { true, std::to_string( mtu ) };
+      auto const & asked = walk.asked();
+      one.mtu = sm ? sm->effectiveL3Mtu() : 0;
+      if ( !there ) {
+         one.note = "its configuration was removed; what it had is still followed";
+      } else if ( config && config != there.get() ) {
+         one.note = "its configuration was replaced; the one from before is still followed";
       }
-      return { false,
-               !isActive_           ? "(standby)"
-               : !config            ? "(no configuration any more)"
-               : !status            ? "(no status)"
-               : !config->enabled() ? "(not enabled)"
-                                    : "(MTU " + std::to_string( mtu ) + " hasn't reached " + behind + ")" };
+      bool const isOfThis = asked && status && asked->intfStatus == status.get();
+      std::string const behind = isOfThis ? whoIsBehind( *status, one.mtu ) : intfId.stringValue();
+      one.isSynced = asked && asked->isSynced && asked->mtu == one.mtu && behind.empty();
+      std::string const mtu = "MTU " + std::to_string( one.mtu );
+      one.why = one.isSynced                   ? ""
+                : !isActive_                   ? "standby"
+                : config && !config->enabled() ? "not enabled"
+                : !asked && !status            ? "no status"
+                : !asked                       ? "had no status when it began to be served"
+                : !isOfThis && asked->isSynced
+                   ? mtu + " went to its status from before, which " + ( status ? "was replaced" : "is gone" )
+                   : mtu + " hasn't reached " + behind;
    }
 
    // The first of an interface and its subinterfaces that has another MTU.
@@ -112,7 +135,7 @@ class Reader {
       std::map< Netka::IntfId, std::string, ByName > all;
       if ( configs_ ) {
          for ( auto const & [intfId, config] : configs_->intfConfig() ) {
-            all[intfId] = "(no port)";
+            all[intfId] = "no port";
          }
       }
       auto const ports = entity< DaceFapNi::PortStateInfo >( "shared/portStateInfo" );
@@ -121,9 +144,9 @@ class Reader {
       }
       for ( auto const & [portId, port] : ports->portState() ) {
          bool const isConfigured = configs_ && configs_->intfConfigHas( port->intfId() );
-         all[port->intfId()] = !isConfigured     ? "(not configured)"
-                               : !port->active() ? "(port not active)"
-                                                 : "(no change of its port since it was configured)";
+         all[port->intfId()] = !isConfigured     ? "not configured"
+                               : !port->active() ? "port not active"
+                                                 : "no change of its port since it was configured";
       }
       return all;
    }
@@ -140,47 +163,57 @@ class Reader {
       entity< Interface::SubIntfStatusDir >( "interface/status/subintf" );
    Corvo::Ptr< Interface::SubIntfStatusLocalDir > const subLocals_ =
       entity< Interface::SubIntfStatusLocalDir >( "interface/status/subintf/local" );
-   Corvo::Ptr< Interface::GlobalIntfConfig > const globalConfig_ =
-      entity< Interface::GlobalIntfConfig >( "interface/config/global" );
-   Corvo::Ptr< Interface::Hardware::Capability > const capability_ =
-      entity< Interface::Hardware::Capability >( "interface/hardware/capability" );
    std::map< Netka::IntfId, SubIntfs > subIntfsOf_;
 };
 
-// "  2 with MTU synced: Ethernet1 9000, Ethernet2 1500"
-void writeLine( std::ostream & out, std::string const & what, Items const & items ) {
-   out << "  " << ( items.empty() ? "none" : std::to_string( items.size() ) ) << ' ' << what;
-   for ( std::size_t i = 0; i < std::min( items.size(), mostNames ); ++i ) {
-      out << ( i == 0 ? ": " : ", " ) << items[i].name << ( items[i].remark.empty() ? "" : " " ) << items[i].remark;
+std::vector< One const * > whichAre( Interfaces const & interfaces, bool served ) {
+   std::vector< One const * > which;
+   for ( One const & one : interfaces.all ) {
+      if ( one.isServed == served ) {
+         which.push_back( &one );
+      }
    }
-   if ( items.size() > mostNames ) {
-      out << ", ... and " << items.size() - mostNames << " more";
-   }
-   out << '\n';
+   return which;
 }
 
 } // namespace
+
+std::vector< One const * > Interfaces::served() const {
+   return whichAre( *this, true );
+}
+
+std::vector< One const * > Interfaces::unserved() const {
+   return whichAre( *this, false );
+}
 
 Interfaces interfacesOf( Simulator::SimulatedSwitch const & sw ) {
    return Reader( sw ).read();
 }
 
-void writeInterfaces( std::ostream & out, Interfaces const & interfaces ) {
-   if ( interfaces.empty() ) {
-      return;
-   }
-   out << "Interfaces at the end\n";
-   writeLine( out, interfaces.isActive ? "served, active" : "served, standby", interfaces.served );
-   auto const writeSome = [&]( std::string const & what, Items const & items ) {
-      if ( !items.empty() ) {
-         writeLine( out, what, items );
+Rex::Value interfacesValue( Interfaces const & interfaces ) {
+   Rex::Value::List list;
+   for ( One const & one : interfaces.all ) {
+      Rex::Value::Object value{
+         { "name", one.name }, { "served", one.isServed }, { "managed", one.isManaged }, { "synced", one.isSynced } };
+      if ( one.isServed ) {
+         value["l3Mtu"] = one.mtu;
       }
-   };
-   writeSome( "with MTU synced", interfaces.synced );
-   writeSome( "with MTU waiting", interfaces.waiting );
-   writeSome( "served outside the managed directories", interfaces.unmanaged );
-   writeSome( "not served", interfaces.unserved );
-   out << '\n';
+      if ( !one.why.empty() ) {
+         value["why"] = one.why;
+      }
+      if ( !one.note.empty() ) {
+         value["note"] = one.note;
+      }
+      if ( one.status ) {
+         value["status"] = Rex::Value::Object{ { "mtu", one.status->mtu },
+                                               { "maxMtu", one.status->maxMtu },
+                                               { "addr", one.status->addr },
+                                               { "routedAddr", one.status->routedAddr },
+                                               { "burnedInAddr", one.status->burnedInAddr } };
+      }
+      list.emplace_back( std::move( value ) );
+   }
+   return Rex::Value::Object{ { "mode", interfaces.isActive ? "active" : "standby" }, { "interfaces", list } };
 }
 
 } // namespace Inspection

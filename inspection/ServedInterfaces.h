@@ -1,38 +1,45 @@
-// The interfaces of a switch as a run has left them: which are served, and whether they have their MTU.
+// The interfaces of a switch as a run has left them: which are served, and whether they have their MTU. It tells what
+// the machines that serve them know: a machine goes on following the configuration and the status that it began with,
+// whatever stands in the directories by now.
 //
 //    Interfaces const interfaces = interfacesOf( sw );
-//    writeInterfaces( std::cout, interfaces );
-//
-// An interface is served for as long as the agent keeps an MTU walk for it. Its MTU is synced where the interface, its
-// local status and all its subinterfaces have the L3 MTU that holds for it; else it waits, for the reason given.
+//    for ( auto const * interface : interfaces.which( &Interfaces::One::isServed ) ) { … }
 #pragma once
 
 #include "simulator/SimulatedSwitch.h"
 
-#include <ostream>
-
 namespace Inspection {
 
 struct Interfaces {
-   // An interface, and what is to be told of it: an MTU, or a reason.
-   struct Item {
+   struct One {
       std::string name;
-      std::string remark;
+      bool isServed = false;  // the agent keeps an MTU walk for it
+      bool isManaged = false; // it stands in the managed directory
+      bool isSynced = false;  // served, and the status in the directory and all subinterfaces have its MTU
+      U32 mtu = 0;            // served: the L3 MTU that its machine has for it
+      std::string why = {};   // it isn't served, or its MTU isn't synced
+      std::string note = {};  // what else is odd: another configuration in the directory than its machine follows
+      // What the status in the directory says; none: there is none.
+      struct Status {
+         U32 mtu;
+         U32 maxMtu;
+         std::string addr;
+         std::string routedAddr;
+         std::string burnedInAddr;
+      };
+      std::optional< Status > status = {};
    };
 
-   bool isActive = false;         // the slice's mode; else standby
-   std::vector< Item > served;    // no remark
-   std::vector< Item > unmanaged; // those served that aren't in the managed directory; no remark
-   std::vector< Item > synced;    // those served that have their MTU; which
-   std::vector< Item > waiting;   // those served that don't; why
-   std::vector< Item > unserved;  // others that are configured, or belong to a port; why
+   bool isActive = false;  // the slice's mode; else standby
+   std::vector< One > all; // that are served, configured, or belong to a port; by name, shorter names first
 
-   bool empty() const { return served.empty() && unserved.empty(); }
+   std::vector< One const * > served() const;
+   std::vector< One const * > unserved() const;
 };
 
-// Of a switch that has been started and not stopped. Each list goes by name, shorter names first.
+// Of a switch that has been started and not stopped.
 Interfaces interfacesOf( Simulator::SimulatedSwitch const & sw );
 
-void writeInterfaces( std::ostream & out, Interfaces const & interfaces );
+Rex::Value interfacesValue( Interfaces const & interfaces );
 
 } // namespace Inspection

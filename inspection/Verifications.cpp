@@ -99,11 +99,8 @@ void fillWith( SimulatedSwitch & sw, Scenario const & scenario, std::string cons
          throw InputError( path + ": " + place + "/chipType",
                            std::string( "in the scenario the FAP is a " ) + Hardware::chipTypeName( chipType ) );
       }
-      try {
-         apply( contents.contents.tables, *chip, contents.chipType, place + "/tables" );
-      } catch ( Simulator::ContentsError const & error ) {
-         throw InputError( path, error.what() );
-      }
+      inFile( path + ": " + place + "/tables",
+              [&] { apply( contents.contents.tables, *chip, contents.chipType ); } );
    }
 }
 

@@ -1,7 +1,10 @@
 #include "l3sm/CommandLine.h"
 
 #include "inspection/files/InputError.h"
+#include "inspection/views/Pager.h"
+#include "inspection/files/Json.h"
 #include "inspection/views/Terminal.h"
+#include "inspection/views/VersionText.h"
 #include "l3sm/verbs/Verbs.h"
 #include "rex/Nearest.h"
 
@@ -32,6 +35,7 @@ constexpr Verb verbs[] = {
    { "show", "chip contents, decoded by field", defineShow },
    { "diff", "two chip-contents files, entry by entry and field by field", defineDiff },
    { "why", "which operation wrote it, where in the source, on which cause", defineWhy },
+   { "report", "the page that shows a run in a browser, from its journal or from a scenario", defineReport },
    { "compare", "one scenario on every kind of chip, and with each toggle flipped alone", defineCompare },
    { "replay", "apply the writes of a journal to a fresh switch, and compare", defineReplay },
    { "plan", "what a start and the events of a scenario would change, without changing anything", definePlan },
@@ -61,6 +65,12 @@ bool isVerb( std::string const & word ) {
 int commandLine( int argc, char const * const * argv ) {
    CLI::App app( "l3sm: programs simulated chips with the layer-3 unicast plug-in, and shows them.", "l3sm" );
    app.require_subcommand( 1 );
+   bool json = false;
+   app.add_flag( "--json", json, "with --version: for programs" );
+   app.set_version_flag(
+      "--version",
+      [&json] { return json ? toJson( versionValue( thisVersion() ), 1 ) : versionText( thisVersion() ); },
+      "which program this is: version, build, and the plug-in's library" );
    app.footer(
       "`l3sm VERB --help` explains a verb.\nExit status: 0 fine, 1 the answer is \"no\", 2 wrong usage or input, "
       "3 nothing could be judged." );
@@ -69,6 +79,7 @@ int commandLine( int argc, char const * const * argv ) {
       auto * const sub = app.add_subcommand( verb.name, verb.does );
       VerbOptions options( *sub );
       sub->callback( [&action, does = verb.define( options )] { action = does; } );
+      sub->add_flag_callback( "--no-pager", Pager::off, "on a terminal, don't page what is longer than the screen" );
    }
    if ( argc < 2 ) {
       return failed( "say what to do; l3sm --help lists the verbs" );
@@ -78,11 +89,14 @@ int commandLine( int argc, char const * const * argv ) {
    }
    try {
       app.parse( argc, argv );
-      int const status = action();
+      int const status = [&] {
+         Pager const pager;
+         return action();
+      }();
       std::cout.flush();
       return std::cout ? status : failed( "standard output can't be written" );
-   } catch ( CLI::CallForHelp const & help ) {
-      return app.exit( help );
+   } catch ( CLI::Success const & answer ) { // --help, --version
+      return app.exit( answer );
    } catch ( CLI::ParseError const & error ) {
       std::string const verb = isVerb( argv[1] ) ? std::string( " " ) + argv[1] : "";
       return failed( std::string( error.what() ) + "; l3sm" + verb + " --help tells what there is" );

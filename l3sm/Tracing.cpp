@@ -36,20 +36,9 @@ Tracing::~Tracing() {
 }
 
 void Tracing::start() {
-   auto const known = Rex::traceFacilityNames();
-   for ( auto const & facility : facilities_ ) {
-      if ( facility.name != "*" && std::find( known.begin(), known.end(), facility.name ) == known.end() ) {
-         std::string all;
-         for ( auto const & name : known ) {
-            all += ( all.empty() ? "" : ", " ) + name;
-         }
-         auto const remedy = Rex::didYouMean( facility.name, known );
-         throw InputError( "--trace " + facility.name,
-                           "no such facility" + ( remedy.empty() ? "; there are " + all : remedy ) );
-      }
-   }
+   checkNames();
    if ( !path_.empty() ) {
-      file_.reset( std::fopen( path_.c_str(), "w" ) );
+      file_.reset( path_ == "-" ? stdout : std::fopen( path_.c_str(), "w" ) );
       if ( !file_ ) {
          throw InputError( path_, std::string( "can't be written: " ) + std::strerror( errno ) );
       }
@@ -60,6 +49,25 @@ void Tracing::start() {
    }
    for ( auto const & facility : facilities_ ) {
       Rex::traceLevelIs( facility.name, facility.level );
+   }
+}
+
+void Tracing::checkNames() const {
+   auto known = Rex::traceFacilityNames();
+   known.erase( std::unique( known.begin(), known.end() ), known.end() ); // a facility has a part in each file
+   std::string all;
+   for ( auto const & name : known ) {
+      all += ( all.empty() ? "; there are " : ", " ) + name;
+   }
+   std::vector< std::string > wrong;
+   for ( auto const & facility : facilities_ ) {
+      if ( facility.name != "*" && std::find( known.begin(), known.end(), facility.name ) == known.end() ) {
+         auto const near = Rex::didYouMean( facility.name, known );
+         wrong.push_back( "--trace " + facility.name + ": no such facility" + ( near.empty() ? all : near ) );
+      }
+   }
+   if ( !wrong.empty() ) {
+      throw InputError( wrong );
    }
 }
 

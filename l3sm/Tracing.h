@@ -14,7 +14,7 @@ namespace Cli {
 // What `--trace` asks for: "DaceFapNiL3Sm/8,DaceFapNiMplsParser/5", "*/9".
 class Tracing {
  public:
-   // `file`: where the records go, empty for standard error. InputError.
+   // `file`: where the records go, "-" for standard output, empty for standard error. InputError.
    Tracing( std::string const & wanted, std::string const & file );
    ~Tracing();
    Tracing( Tracing const & ) = delete;
@@ -32,8 +32,10 @@ class Tracing {
       int level;
    };
    struct Closer {
-      void operator()( std::FILE * file ) const { std::fclose( file ); }
+      void operator()( std::FILE * file ) const { file == stdout ? std::fflush( file ) : std::fclose( file ); }
    };
+
+   void checkNames() const;
 
    std::vector< Facility > facilities_;
    std::string path_;

@@ -6,24 +6,27 @@ namespace Cli {
 
 namespace {
 
-void typeIs( CLI::Option & option, char const * type ) {
+// What is named has a name.
+void check( CLI::Option & option, char const * type ) {
    if ( type ) {
       option.type_name( type );
    }
+   option.check( []( std::string const & text ) { return text.empty() ? "an empty name is none" : std::string(); } );
 }
 
 } // namespace
 
 void VerbOptions::text( char const * name, std::string & into, char const * help, char const * type ) {
-   typeIs( *app_.add_option( name, into, help ), type );
+   check( *app_.add_option( name, into, help ), type );
 }
 
 void VerbOptions::required( char const * name, std::string & into, char const * help ) {
-   app_.add_option( name, into, help )->required();
+   auto * const option = app_.add_option( name, into, help )->required();
+   check( *option, nullptr );
 }
 
 void VerbOptions::texts( char const * name, std::vector< std::string > & into, char const * help, char const * type ) {
-   typeIs( *app_.add_option( name, into, help ), type );
+   check( *app_.add_option( name, into, help ), type );
 }
 
 void VerbOptions::repeated( char const * name,
@@ -31,7 +34,7 @@ void VerbOptions::repeated( char const * name,
                             char const * help,
                             char const * type ) {
    auto * const option = app_.add_option( name, into, help )->take_all()->expected( 1 )->allow_extra_args( false );
-   typeIs( *option, type );
+   check( *option, type );
 }
 
 void VerbOptions::number( char const * name, std::optional< U8 > & into, char const * help ) {

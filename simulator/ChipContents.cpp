@@ -1,5 +1,7 @@
 #include "simulator/ChipContents.h"
 
+#include "rex/Nearest.h"
+#include "rex/Value.h"
 #include "simulator/TableMap.h"
 
 #include <algorithm>
@@ -19,18 +21,6 @@ EntryContents contentsOf( Chip::Entry const & entry ) {
    return contents;
 }
 
-// A key of a JSON pointer.
-std::string operator/( std::string const & place, std::string const & key ) {
-   std::string text = place + "/";
-   for ( char const letter : key ) {
-      text += letter == '~' ? "~0" : letter == '/' ? "~1" : std::string( 1, letter );
-   }
-   return text;
-}
-std::string operator/( std::string const & place, U32 key ) {
-   return place / std::to_string( key );
-}
-
 std::string range( U32 first, U32 count ) {
    return count == 1 ? "only " + std::to_string( first )
                      : std::to_string( first ) + " to " + std::to_string( first + count - 1 );
@@ -43,76 +33,97 @@ struct Fill {
    bool everyCopy;
 };
 
+[[noreturn]] void refuseKey( std::string const & text ) {
+   throw Rex::ValueError( { "", text, true } );
+}
+
 class Fitter {
  public:
    explicit Fitter( ChipType chipType ) : chip_( static_cast< U8 >( chipType ) ) {}
 
-   void table( std::string const & name, TableContents const & contents, std::string const & place ) {
-      Catalogue::Table const * const found = Catalogue::table( name );
-      if ( !found ) {
-         throw ContentsError( place, "no table has this name; `l3sm catalogue` lists them" );
+   // Throws Rex::ValueError once all of them have been looked at.
+   std::vector< Fill > const & fills( TablesContents const & tables ) {
+      for ( auto const & [name, contents] : tables ) {
+         errors_.below( name, [&] { table( name, contents ); } );
       }
-      if ( !found->hasMemory ) {
-         throw ContentsError( place, "this is a format, which has no memory of its own" );
-      }
-      if ( std::ranges::find( found->chips, chip_ ) == found->chips.end() ) {
-         throw ContentsError( place, std::string( "the " ) + Catalogue::chipName( chip_ ) + " has no such table" );
-      }
-      for ( auto const & [variantNumber, arrays] : contents ) {
-         if ( variantNumber >= found->variantCount ) {
-            throw ContentsError( place / variantNumber,
-                                 "no such variant; there is " + range( 0, found->variantCount ) );
-         }
-         variant( *found, static_cast< U8 >( variantNumber ), arrays, place / variantNumber );
-      }
+      errors_.end();
+      return fills_;
    }
-
-   std::vector< Fill > const & fills() const { return fills_; }
 
  private:
-   void
-   variant( Catalogue::Table const & table, U8 variant, VariantContents const & arrays, std::string const & place ) {
-      Catalogue::Layout const & layout = *Catalogue::layout( table, chip_, variant );
-      U32 const first = layout.arrayIndexFirst;
-      for ( auto const & [array, entries] : arrays ) {
-         if ( array < first || array - first >= layout.arrayElements ) {
-            throw ContentsError( place / array,
-                                 "no such array index; there is " + range( first, layout.arrayElements ) );
-         }
-         for ( auto const & [entry, contents] : entries ) {
-            if ( entry >= entryCount( layout ) ) {
-               throw ContentsError( place / array / entry,
-                                    "no such entry; there is " + range( 0, entryCount( layout ) ) );
-            }
-            copies( layout, array, entry, contents, place / array / entry );
-         }
+   void table( std::string const & name, TableContents const & contents ) {
+      Catalogue::Table const * const found = Catalogue::table( name );
+      if ( !found ) {
+         refuseKey( "no table has this name" + nearTable( name ) );
       }
+      if ( !found->hasMemory ) {
+         refuseKey( "this is a format, which has no memory of its own" );
+      }
+      if ( std::ranges::find( found->chips, chip_ ) == found->chips.end() ) {
+         refuseKey( std::string( "the " ) + Catalogue::chipName( chip_ ) + " has no such table" );
+      }
+      forEach( contents, [&]( U32 number, VariantContents const & arrays ) {
+         if ( number >= found->variantCount ) {
+            refuseKey( "no such variant; there is " + range( 0, found->variantCount ) );
+         }
+         variant( *Catalogue::layout( *found, chip_, static_cast< U8 >( number ) ), arrays );
+      } );
    }
 
-   void copies( Catalogue::Layout const & layout,
-                U32 array,
-                U32 entry,
-                EntryContents const & contents,
-                std::string const & place ) {
+   void variant( Catalogue::Layout const & layout, VariantContents const & arrays ) {
+      forEach( arrays, [&]( U32 array, ArrayContents const & entries ) {
+         U32 const first = layout.arrayIndexFirst;
+         if ( array < first || array - first >= layout.arrayElements ) {
+            refuseKey( "no such array index; there is " + range( first, layout.arrayElements ) );
+         }
+         forEach( entries, [&]( U32 entry, EntryContents const & contents ) {
+            if ( entry >= entryCount( layout ) ) {
+               refuseKey( "no such entry; there is " + range( 0, entryCount( layout ) ) );
+            }
+            copies( layout, array, entry, contents );
+         } );
+      } );
+   }
+
+   void copies( Catalogue::Layout const & layout, U32 array, U32 entry, EntryContents const & contents ) {
       bool const alike = contents.copies.size() == 1;
       if ( !alike && contents.copies.size() != layout.selectors.size() ) {
-         throw ContentsError( place / "instances",
-                              "the table has " + std::to_string( layout.selectors.size() ) + " instances, not " +
-                                 std::to_string( contents.copies.size() ) );
+         throw Rex::ValueError( "/instances",
+                                "the table has " + std::to_string( layout.selectors.size() ) + " instances, not " +
+                                   std::to_string( contents.copies.size() ) );
       }
       for ( U32 copy = 0; copy < contents.copies.size(); ++copy ) {
          Words const & words = contents.copies[copy];
          if ( words.size() != layout.width ) {
-            throw ContentsError( alike ? place / "words" : place / "instances" / copy,
-                                 "an entry has " + std::to_string( layout.width ) + " words, not " +
-                                    std::to_string( words.size() ) );
+            throw Rex::ValueError( alike ? "/words" : "/instances/" + std::to_string( copy ),
+                                   "an entry has " + std::to_string( layout.width ) + " words, not " +
+                                      std::to_string( words.size() ) );
          }
          fills_.push_back( Fill{ addressOf( layout, array, entry, copy ), &words, alike } );
       }
    }
 
+   template< class Parts, class Read >
+   void forEach( Parts const & parts, Read const & read ) {
+      Rex::ValueErrors errors;
+      for ( auto const & [number, part] : parts ) {
+         errors.below( std::to_string( number ), [&] { read( number, part ); } );
+      }
+      errors.end();
+   }
+
+   static std::string nearTable( std::string const & name ) {
+      std::vector< std::string > names;
+      for ( auto const & table : Catalogue::tables() ) {
+         names.emplace_back( table.name );
+      }
+      auto const near = Rex::didYouMean( name, names );
+      return near.empty() ? "; `l3sm catalogue` lists them" : near;
+   }
+
    U8 chip_;
    std::vector< Fill > fills_;
+   Rex::ValueErrors errors_;
 };
 
 } // namespace
@@ -141,12 +152,13 @@ Contents contentsOf( Chip const & chip, ChipType chipType ) {
    return contents;
 }
 
-void apply( TablesContents const & tables, Chip & chip, ChipType chipType, std::string const & place ) {
+void check( TablesContents const & tables, ChipType chipType ) {
+   Fitter( chipType ).fills( tables );
+}
+
+void apply( TablesContents const & tables, Chip & chip, ChipType chipType ) {
    Fitter fitter( chipType );
-   for ( auto const & [name, contents] : tables ) {
-      fitter.table( name, contents, place / name );
-   }
-   for ( Fill const & fill : fitter.fills() ) {
+   for ( Fill const & fill : fitter.fills( tables ) ) {
       if ( fill.everyCopy ) {
          chip.fill( fill.at, *fill.words );
       } else {
@@ -155,24 +167,28 @@ void apply( TablesContents const & tables, Chip & chip, ChipType chipType, std::
    }
 }
 
-std::vector< DecodedField > decode( Catalogue::Layout const & layout, std::span< U32 const > words ) {
+std::string fieldText( std::span< U32 const > words, Catalogue::Field const & field ) {
    constexpr char digits[] = "0123456789abcdef";
+   std::string reversed;
+   for ( unsigned from = 0; from < field.width; from += 4 ) {
+      unsigned digit = 0;
+      for ( unsigned bit = from; bit < from + 4 && bit < field.width; ++bit ) {
+         unsigned const at = field.offset + bit;
+         digit |= ( words[at / 32] >> at % 32 & 1 ) << ( bit - from );
+      }
+      reversed += digits[digit];
+   }
+   while ( reversed.size() > 1 && reversed.back() == '0' ) {
+      reversed.pop_back();
+   }
+   return "0x" + std::string( reversed.rbegin(), reversed.rend() );
+}
+
+std::vector< DecodedField > decode( Catalogue::Layout const & layout, std::span< U32 const > words ) {
    std::vector< DecodedField > fields;
    fields.reserve( layout.fields.size() );
    for ( Catalogue::Field const & field : layout.fields ) {
-      std::string reversed;
-      for ( unsigned from = 0; from < field.width; from += 4 ) {
-         unsigned digit = 0;
-         for ( unsigned bit = from; bit < from + 4 && bit < field.width; ++bit ) {
-            unsigned const at = field.offset + bit;
-            digit |= ( words[at / 32] >> at % 32 & 1 ) << ( bit - from );
-         }
-         reversed += digits[digit];
-      }
-      while ( reversed.size() > 1 && reversed.back() == '0' ) {
-         reversed.pop_back();
-      }
-      fields.push_back( { field.name, "0x" + std::string( reversed.rbegin(), reversed.rend() ) } );
+      fields.push_back( { field.name, fieldText( words, field ) } );
    }
    return fields;
 }

@@ -2,14 +2,15 @@
 //
 //    Contents const contents = contentsOf( chip, ChipType::BCM88690_B0 );
 //    contents.tables.at( "IppdFerTrapCfg" ).at( 0 ).at( 3 ).at( 0 ).copies[0]; // the words of one register
-//    apply( contents.tables, otherChip, ChipType::BCM88690_B0, "/chips/0" );
+//    apply( contents.tables, otherChip, ChipType::BCM88690_B0 );
 #pragma once
 
 #include "constants/ChipType.h"
 #include "generated/Catalogue.h"
 #include "simulator/Chip.h"
 
-#include <stdexcept>
+#include <string>
+#include <vector>
 
 namespace Simulator {
 
@@ -35,20 +36,14 @@ struct Contents {
 // What the chip holds, without the entries that never got a value.
 Contents contentsOf( Chip const & chip, Hardware::ChipType chipType );
 
-// Contents that the chip has no place for. what() is "<place>: <what is wrong>"; the place is a JSON pointer.
-class ContentsError : public std::runtime_error {
- public:
-   ContentsError( std::string place, std::string const & text )
-      : std::runtime_error( place + ": " + text ), place_( std::move( place ) ) {}
-   std::string const & place() const { return place_; }
+// Throws Rex::ValueError, its places seen from the tables, where a chip of the kind has no place for some of them.
+void check( TablesContents const & tables, Hardware::ChipType chipType );
+// Puts contents into a chip that is of the kind, beside what is there. Where something doesn't fit, it throws as check
+// does, and the chip is as it was.
+void apply( TablesContents const & tables, Chip & chip, Hardware::ChipType chipType );
 
- private:
-   std::string place_;
-};
-
-// Puts contents into a chip that is of the kind, beside what is there. Where an entry doesn't fit, ContentsError, and
-// the chip is as it was. `place` is the pointer to the tables.
-void apply( TablesContents const & tables, Chip & chip, Hardware::ChipType chipType, std::string const & place = "" );
+// The value of a field of an entry, in hexadecimal: "0x0", "0x1f".
+std::string fieldText( std::span< U32 const > words, Catalogue::Field const & field );
 
 // A field of an entry with its value in hexadecimal: "0x0", "0x1f".
 struct DecodedField {

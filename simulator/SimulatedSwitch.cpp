@@ -10,9 +10,6 @@ namespace Simulator {
 namespace {
 
 using Corvo::makePtr;
-using Hardware::Dace::FapPortId;
-using Hardware::Dace::Cell::CellStatus;
-using Hardware::Dace::Cell::FapStatus;
 
 // The state in which a slice is up: the first of the two in which plug-ins run.
 constexpr DaceFapNi::SliceState sliceUp{ 31 };
@@ -79,7 +76,7 @@ SimulatedSwitch::SimulatedSwitch( SwitchDescription description )
      context_( makePtr< Agent::MounterPlugin::MounterContext >( entityManager_, state_.shared() ) ) {
    makeChips();
    shareObjects();
-   publishCell();
+   cellStatus_ = tell( description_, state_ );
    DaceSal::schanDriverIs( &driver_ );
    using enum SwitchDescription::Journalled;
    if ( description_.journalled == kept ) {
@@ -106,50 +103,11 @@ void SimulatedSwitch::makeChips() {
 }
 
 void SimulatedSwitch::shareObjects() {
-   auto const global = makePtr< DaceFapNi::AgentGlobalState >();
-   global->sliceNameIs( description_.sliceName );
-   state_.rootIs( "shared/agentGlobalState", global );
-
-   auto const slice = makePtr< DaceFapNi::SliceSmStateInfo >();
-   if ( !description_.faps.empty() ) {
-      slice->revisionIs( description_.faps.front().revision );
-   }
-   state_.rootIs( "shared/sliceSmStateData", slice );
-
-   auto const phy = makePtr< DaceFapNi::PhySmStateInfo >();
-   phy->allEthPhyIntfConfigDirIs( makePtr< Interface::AllEthPhyIntfConfigDir >() );
-   state_.rootIs( "shared/phySmStateData", phy );
-
-   auto const phyShared = makePtr< DaceFapNi::PhySmStateSharedStatus >();
-   phyShared->allEthPhyIntfStatusDirIs( makePtr< Interface::AllEthPhyIntfStatusDir >() );
-   state_.rootIs( "shared/phySmStateSharedStatus", phyShared );
-
    static DriverOfTheProcess handle;
    auto * const sdkHandle = static_cast< DaceSal::SchanDriver * >( &handle );
    state_.rootIs( "shared/agentSdkState",
                   makePtr< DaceFapNi::AgentSdkState >( sdkHandle, makePtr< DaceSal::SalGlobalConfig >() ) );
    state_.rootIs( "shared/agentScheduler", makePtr< DaceFapNi::TaskScheduler >( scheduler_ ) );
-}
-
-U16 FapDescription::coreCount() const {
-   bool const hasTwoCopies =
-      revision.chipType() == Hardware::ChipType::BCM88690_B0 || revision.chipType() == Hardware::ChipType::BCM88850_A0;
-   return cores.value_or( hasTwoCopies ? 2 : 1 );
-}
-
-void SimulatedSwitch::publishCell() {
-   cellStatus_ = makePtr< CellStatus >();
-   for ( auto const & fap : description_.faps ) {
-      auto const status = makePtr< FapStatus >( fap.fapId );
-      status->fapNameIs( fap.name );
-      status->revisionIs( fap.revision );
-      status->coresIs( fap.coreCount() );
-      for ( auto const & [systemPort, fapPort] : fap.ports ) {
-         status->portsIs( systemPort, FapPortId{ fapPort } );
-      }
-      cellStatus_->fapStatusIs( status );
-   }
-   entity< Rex::Dir >( "hardware/dace/fap/status" )->entityIs( description_.sliceName, cellStatus_ );
 }
 
 void SimulatedSwitch::start( std::string const & pluginPath ) {

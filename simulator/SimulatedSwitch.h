@@ -26,36 +26,13 @@
 // Threading: the agent's scheduler thread.
 #pragma once
 
-#include "simulator/BootImage.h"
 #include "simulator/ChipDriver.h"
 #include "simulator/Journal.h"
-#include "simulator/StateTree.h"
-#include "toggle/Toggle.h"
+#include "simulator/SwitchDescription.h"
 
-#include <optional>
 #include <stdexcept>
 
 namespace Simulator {
-
-struct FapDescription {
-   Hardware::Dace::FapId fapId{};
-   std::string name = {};           // empty: "Fap<fapId>"
-   std::optional< U16 > cores = {}; // as reported to the plug-in; none: one for each physical copy that the chip has
-   std::map< U16, U16 > ports = {}; // system port key to FAP port number
-   Hardware::Dace::FapRevision revision{};
-
-   U16 coreCount() const;
-};
-
-struct SwitchDescription {
-   std::string sliceName = "Linecard1";
-   std::vector< FapDescription > faps = {};
-   Toggle::Settings toggles = {}; // what is not named has its default
-   // none: nothing is recorded; streamed: for the readers of the journal; kept: for journal().rows() as well.
-   enum class Journalled : U8 { none, streamed, kept };
-   Journalled journalled = Journalled::kept;
-   BootNoise bootNoise = BootNoise::plain;
-};
 
 // A library that can't be loaded. what() says which and why.
 class LibraryError : public std::runtime_error {
@@ -128,7 +105,6 @@ class SimulatedSwitch {
 
    void makeChips();
    void shareObjects();
-   void publishCell();
    void initChips();
    std::string publishedPath( Rex::Entity const & entity ) const;
    std::string causeOf( Corvo::Notification const & notification ) const;

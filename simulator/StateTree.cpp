@@ -188,7 +188,8 @@ StateRoot const & StateTree::rootOf( std::string const & path ) {
       known.push_back( candidate );
    }
    if ( !longest ) {
-      refusePath( "there is no path \"" + path + "\"" + Rex::didYouMean( path, known ) );
+      auto const near = Rex::didYouMean( path, known );
+      refusePath( "there is no path \"" + path + "\"" + ( near.empty() ? "; `l3sm paths` lists them" : near ) );
    }
    return *longest;
 }

@@ -64,12 +64,34 @@ auto numbered( Value const & value, Read const & read ) {
 
 Simulator::Contents contentsOf( Fields & fields ) {
    Simulator::Contents contents;
-   fields.with( "controls", [&]( Value const & controls ) {
-      contents.controls =
-         numbered( controls, []( Value const & part ) { return Rex::Codec< U32 >::fromValue( part ); } );
+   Rex::ValueErrors errors;
+   errors.of( [&] {
+      fields.with( "controls", [&]( Value const & controls ) {
+         contents.controls =
+            numbered( controls, []( Value const & part ) { return Rex::Codec< U32 >::fromValue( part ); } );
+      } );
    } );
-   fields.with( "tables", [&]( Value const & tables ) { contents.tables = tablesFromValue( tables ); } );
+   errors.of(
+      [&] { fields.with( "tables", [&]( Value const & tables ) { contents.tables = tablesFromValue( tables ); } ); } );
+   errors.of( [&] { fields.end(); } );
+   errors.end();
    return contents;
+}
+
+FapContents fapFromValue( Value const & value ) {
+   FapContents fap;
+   Rex::ValueErrors errors;
+   Fields fields( value );
+   bool const isKnown = errors.of( [&] {
+      auto const & chipType = fields.required( "chipType" );
+      fap.chipType = Rex::below( "chipType", [&] { return chipTypeFromValue( chipType ); } );
+   } );
+   errors.of( [&] { fap.contents = contentsOf( fields ); } );
+   if ( isKnown ) {
+      errors.below( "tables", [&] { Simulator::check( fap.contents.tables, fap.chipType ); } );
+   }
+   errors.end();
+   return fap;
 }
 
 // An object whose keys are the numbers of `all`.
@@ -183,9 +205,7 @@ Simulator::Contents contentsFromValue( Value const & value ) {
       return { .controls = {}, .tables = tablesFromValue( value ) };
    }
    Fields fields( value );
-   auto contents = contentsOf( fields );
-   fields.end();
-   return contents;
+   return contentsOf( fields );
 }
 
 Value valueOf( Simulator::Contents const & contents ) {
@@ -244,9 +264,24 @@ void writeChips( std::ostream & out, ChipsFile const & chips ) {
 }
 
 ChipsFile readChips( std::string const & path ) {
-   ChipsFile chips;
-   eachFap( path, {}, [&]( U16 fap, FapContents contents ) { chips.emplace( fap, std::move( contents ) ); } );
-   return chips;
+   JsonText text = readJsonText( path );
+   auto const value = text.take();
+   return text.reading( [&] {
+      ChipsFile chips;
+      Rex::ValueErrors errors;
+      Fields fields( value );
+      errors.of( [&] {
+         auto const & faps = fields.required( "faps" );
+         Rex::below( "faps", [&] {
+            forEachMember( faps, [&]( std::string const & key, Value const & fap ) {
+               chips.emplace( Rex::Codec< U16 >::fromKey( key ), fapFromValue( fap ) );
+            } );
+         } );
+      } );
+      errors.of( [&] { fields.end(); } );
+      errors.end();
+      return chips;
+   } );
 }
 
 } // namespace Inspection

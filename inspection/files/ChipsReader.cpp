@@ -144,20 +144,15 @@ Hardware::ChipType chipTypeFromText( std::string_view text ) {
    return chipTypeFromValue( JsonElements::valueOf( parsed( text ) ) );
 }
 
-// What a chip has no place for is found by giving it to a chip of the kind.
 void checkFits( std::string const & path, std::string const & pointer, FapContents const & fap ) {
-   Simulator::Chip scratch(
-      DaceSal::ChipId{ 0 }, Hardware::chipTypeName( fap.chipType ), Simulator::addressMap( fap.chipType ) );
-   try {
-      apply( fap.contents.tables, scratch, fap.chipType, pointer );
-   } catch ( Simulator::ContentsError const & error ) {
-      throw InputError( path, error.what() );
-   }
+   inFile( path + ": " + pointer, [&] { Simulator::check( fap.contents.tables, fap.chipType ); } );
 }
 
-void eachFap( std::string const & path,
-              ChipsFilter const & filter,
-              std::function< void( U16 fap, FapContents contents ) > const & each ) {
+namespace {
+
+void streamFaps( std::string const & path,
+                 ChipsFilter const & filter,
+                 std::function< void( U16 fap, FapContents contents ) > const & each ) {
    JsonStream json( path );
    if ( kindOf( json.ahead() ) != FileKind::chips ) {
       throw InputError( path, notA( FileKind::chips, json.ahead() ) );
@@ -192,6 +187,19 @@ void eachFap( std::string const & path,
    } );
    if ( filter.fap && !seen.contains( *filter.fap ) ) {
       throw InputError( path, "there is no FAP " + std::to_string( *filter.fap ) );
+   }
+}
+
+} // namespace
+
+void eachFap( std::string const & path,
+              ChipsFilter const & filter,
+              std::function< void( U16 fap, FapContents contents ) > const & each ) {
+   try {
+      streamFaps( path, filter, each );
+   } catch ( InputError const & ) {
+      readChips( path ); // which tells everything that is wrong with the file, each with its line
+      throw;
    }
 }
 

@@ -22,7 +22,9 @@ constexpr std::size_t chunk = 1 << 18;
 // Which lines to take apart. The program's own lines are told by what they begin with; others are taken apart first.
 class Wanted {
  public:
-   explicit Wanted( RowFilter const & filter ) : filter_( filter ), table_( "\"table\": \"" + filter.table + "\"" ) {}
+   explicit Wanted( RowFilter const & filter )
+      : filter_( filter ), table_( "\"table\": \"" + filter.table + "\"" ),
+        function_( "\"function\": \"" + filter.function + "\"" ) {}
 
    bool mayBe( std::string_view line ) const {
       constexpr std::string_view begin = "{\"op\": \"";
@@ -31,6 +33,10 @@ class Wanted {
       }
       auto const op = line.substr( begin.size() );
       bool const isRead = op.starts_with( "read\"" );
+      bool const isOperation = isRead || op.starts_with( "write\"" ) || op.starts_with( "control\"" );
+      if ( isOperation && !filter_.function.empty() && op.find( function_ ) == std::string_view::npos ) {
+         return false;
+      }
       if ( !isRead && !op.starts_with( "write\"" ) ) {
          return filter_.operationsToo || !op.starts_with( "control\"" );
       }
@@ -47,12 +53,14 @@ class Wanted {
       }
       bool const isRead = row.kind == Row::Kind::read;
       return filter_.operationsToo && ( !isRead || filter_.readsToo ) &&
+             ( filter_.function.empty() || filter_.function == row.function ) &&
              ( row.kind == Row::Kind::control || filter_.table.empty() || filter_.table == row.table );
    }
 
  private:
    RowFilter const & filter_;
    std::string table_;
+   std::string function_;
 };
 
 } // namespace

@@ -29,6 +29,7 @@ namespace Inspection {
 // Which rows to read. Events and the journal's end are always told.
 struct RowFilter {
    std::string table = {};    // reads and writes: only of this table; empty: of all
+   std::string function = {}; // operations: only of this function; empty: of all
    bool readsToo = true;      // else no reads
    bool operationsToo = true; // else gates and publications alone
 };

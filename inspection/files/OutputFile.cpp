@@ -6,6 +6,7 @@
 #include <cstring>
 #include <filesystem>
 #include <fstream>
+#include <iostream>
 #include <unistd.h>
 
 namespace Inspection {
@@ -19,7 +20,7 @@ namespace {
 } // namespace
 
 OutputFile::OutputFile( std::string path ) : path_( std::move( path ) ) {
-   if ( !isWanted() ) {
+   if ( !isWanted() || isStandard() ) {
       return;
    }
    namespace fs = std::filesystem;
@@ -37,6 +38,13 @@ void OutputFile::write( std::string const & text ) const {
    if ( !isWanted() ) {
       return;
    }
+   if ( isStandard() ) {
+      std::cout << text << std::flush;
+      if ( !std::cout ) {
+         refusePath( "standard output", errno );
+      }
+      return;
+   }
    std::ofstream out( path_, std::ios::binary );
    out << text;
    out.close();
@@ -49,14 +57,21 @@ void OutputFile::refuse( std::string const & why ) const {
    throw InputError( path_, "can't be written: " + why.substr( path_.size() + 2 ) );
 }
 
-void eachAlone( std::initializer_list< std::string > const & paths ) {
+void eachAlone( std::vector< std::string > const & written, std::vector< std::string > const & read ) {
    namespace fs = std::filesystem;
-   for ( auto one = paths.begin(); one != paths.end(); ++one ) {
-      for ( auto other = paths.begin(); other != one; ++other ) {
+   std::vector< std::string > all = read;
+   std::erase( all, "-" );
+   all.insert( all.end(), written.begin(), written.end() );
+   for ( auto one = all.begin(); one != all.end(); ++one ) {
+      for ( auto other = all.begin(); other != one; ++other ) {
          std::error_code none;
-         bool const isSame = *one == *other || fs::equivalent( *one, *other, none );
+         // A file that isn't there yet is known by its place.
+         bool const isSame = *one == *other || fs::equivalent( *one, *other, none ) ||
+                             fs::weakly_canonical( fs::absolute( *one, none ), none ) ==
+                                fs::weakly_canonical( fs::absolute( *other, none ), none );
          if ( isSame && !one->empty() && !fs::is_other( *one, none ) ) { // devices take whatever comes
-            throw InputError( *one, "is named twice; give each file a name of its own" );
+            throw InputError( *one == "-" ? "standard output" : *one,
+                              "is named twice; give each file a name of its own" );
          }
       }
    }

@@ -5,17 +5,20 @@
 //    chips.write( text );                 // once everything went well
 #pragma once
 
-#include <initializer_list>
 #include <stdexcept>
 #include <string>
+#include <vector>
 
 namespace Inspection {
 
 class OutputFile {
  public:
-   // An empty path: no file is wanted, and write() does nothing. Nothing is created yet.
+   // "-": standard output. An empty path: no file is wanted, and write() does nothing. Nothing is created yet.
    explicit OutputFile( std::string path );
    bool isWanted() const { return !path_.empty(); }
+   bool isStandard() const { return path_ == "-"; }
+   // What to open.
+   std::string path() const { return isStandard() ? "/dev/stdout" : path_; }
    // Throws InputError.
    void write( std::string const & text ) const;
    // Runs `write`, which writes the file itself and throws "<path>: <reason>" as a std::runtime_error where it can't.
@@ -33,8 +36,8 @@ class OutputFile {
    std::string path_;
 };
 
-// No two of the files may be one: what is read would be gone, or what is written be lost. Empty paths don't count.
-// InputError.
-void eachAlone( std::initializer_list< std::string > const & paths );
+// No two of the files may be one: what is read would be gone, or what is written be lost. Empty paths don't count; "-"
+// is standard input where it is read, standard output where it is written. InputError.
+void eachAlone( std::vector< std::string > const & written, std::vector< std::string > const & read = {} );
 
 } // namespace Inspection

@@ -8,9 +8,11 @@
 //       scenario.play( sw, event );
 //    }
 //
-// Reading checks everything, the events too: it plays them on a switch without a plug-in.
+// Reading checks everything, the events too: it plays them on a state without a plug-in, and tells all that is wrong in
+// one InputError. What contradicts the chips is played as a switch would, and stands in `warnings`.
 #pragma once
 
+#include "inspection/ToggleNames.h"
 #include "inspection/files/Json.h"
 #include "simulator/ChipContents.h"
 #include "simulator/SimulatedSwitch.h"
@@ -21,15 +23,26 @@ namespace Inspection {
 struct Event {
    enum class Kind : U8 { set, remove };
 
-   U32 number; // from 1
-   Kind kind;
-   std::string path;
-   std::optional< std::string > attribute;
-   std::optional< std::string > key;
-   Rex::Value value;
+   U32 number = 0; // from 1
+   Kind kind = Kind::set;
+   std::string path = {};
+   std::optional< std::string > attribute = {};
+   std::optional< std::string > key = {};
+   Rex::Value value = {};
 
    // "set evpn/status evpnDciEnabled = true"
    std::string text() const;
+   // As it is told who hears of it: "evpn/status evpnDciEnabled".
+   std::string cause() const { return attribute ? path + " " + *attribute : path; }
+   // Throws Rex::ValueError, its place seen from {"path", "attribute", "key", "value"}.
+   void change( Simulator::StateTree & state ) const;
+};
+
+// Something in a scenario that no switch would be like.
+struct Warning {
+   std::string place; // "scenario.json:7:31"
+   std::string text;
+   std::optional< U32 > event = {}; // that it stands in
 };
 
 struct Scenario {
@@ -39,10 +52,8 @@ struct Scenario {
    std::map< U16, Simulator::Contents > chips; // on top of the boot image
    Rex::Value::Object state;                   // path to attributes, null to leave the path out
    std::vector< Event > events;
-   Rex::Value document; // as it was read
+   std::vector< Warning > warnings;
 
-   // The document without its events, with the toggles that hold: what a journal begins with.
-   Rex::Value begin() const;
    // Puts chips and state in place. InputError where they don't fit.
    void prepare( Simulator::SimulatedSwitch & sw ) const;
    void fillChips( Simulator::ChipDriver & driver ) const;
@@ -51,17 +62,20 @@ struct Scenario {
    Simulator::FapDescription const & fap( U16 number ) const;
 };
 
+// From a file, or "-" for standard input.
 Scenario readScenario( std::string const & path );
+// The scenario that is played where none is named.
+Scenario builtInScenario();
 // The same from a value that stands in another file, checked likewise.
-Scenario scenarioOf( Rex::Value const & value, std::string const & file );
+Scenario scenarioOf( Rex::Value value, std::string const & file );
+
 // A scenario, or one of its events, as its file has it.
 enum class Parts : U8 { all, withoutEvents };
 Rex::Value valueOf( Scenario const & scenario, Parts parts = Parts::all );
 Rex::Value valueOf( Event const & event );
-// The scenario that is played where none is named.
-Scenario builtInScenario();
 
-// "FILE:NAME=on" or "FILE:NAME=off", into the settings. InputError.
-void toggleIs( Toggle::Settings & toggles, std::string const & text );
+// Sets what stands at a path before the start: its attributes, or null to leave the path out. Throws Rex::ValueError,
+// its place seen from the value; a wrong path is a wrong key.
+void stateIs( Simulator::StateTree & state, std::string const & path, Rex::Value const & attributes );
 
 } // namespace Inspection

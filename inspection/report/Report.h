@@ -1,14 +1,32 @@
 // The report of a run: one page of HTML that holds all it shows, and needs nothing from a network.
 //
-//    report.write( reportOf( scenario, sw ) );
+//    ReportFile report( file, valueOf( scenario, Parts::withoutEvents ) );      // of a run under way: written when it ends, also by an
+//    assertion sw.journal().readerAdd( report );
+//
+//    ReportData data( journal.scenario() );            // of a journal
+//    journal.read( data );
+//    file.write( reportOf( data, journal.remarks() ) );
 #pragma once
 
-#include "inspection/KeptRows.h"
-#include "inspection/files/Scenario.h"
+#include "inspection/files/OutputFile.h"
+#include "inspection/report/ReportData.h"
 
 namespace Inspection {
 
-// The page, once the run has ended. The switch must have kept its journal.
-std::string reportOf( Scenario const & scenario, Simulator::SimulatedSwitch const & sw, KeptRows const & rows );
+// The page, once the run has ended. `remarks`: what the reader is to know of the journal first, a line each.
+std::string reportOf( ReportData const & data, std::vector< std::string > const & remarks = {} );
+
+class ReportFile final : public ReportData {
+ public:
+   // The file outlives this.
+   ReportFile( OutputFile const & file, Rex::Value const & scenario ) : ReportData( scenario ), file_( file ) {}
+   void ends( Simulator::Ending const & ending ) override {
+      ReportData::ends( ending );
+      file_.write( reportOf( *this ) );
+   }
+
+ private:
+   OutputFile const & file_;
+};
 
 } // namespace Inspection

@@ -1,6 +1,10 @@
-// The verb `check`: plays a scenario and verifies what the plug-in can verify on the chips afterwards.
+// The verb `check`: plays a scenario and verifies what can be verified: what the plug-in can read back, that a second
+// start changes nothing, and that no entry passes through a value that it doesn't keep.
 #include "inspection/Play.h"
+#include "inspection/views/RestartText.h"
 #include "inspection/views/VerdictsText.h"
+#include "inspection/views/WindowsText.h"
+#include "l3sm/ScenarioToPlay.h"
 #include "l3sm/verbs/Verbs.h"
 
 #include <algorithm>
@@ -15,12 +19,16 @@ namespace {
 
 constexpr int foundAFault = 1;
 constexpr int judgedNothing = 3;
+constexpr std::size_t fewWindows = 20;
 
 struct Options {
    std::string scenario;
    std::string chips;
    std::string plugin;
    std::vector< std::string > toggles;
+   bool restart = false;
+   bool windows = false;
+   bool all = false;
    bool json = false;
 };
 
@@ -31,11 +39,7 @@ int statusOf( std::vector< Verdict > const & verdicts ) {
    return has( Verdict::Kind::fault ) ? foundAFault : has( Verdict::Kind::fine ) ? 0 : judgedNothing;
 }
 
-int answer( Options const & options ) {
-   Scenario scenario = options.scenario.empty() ? builtInScenario() : readScenario( options.scenario );
-   for ( auto const & toggle : options.toggles ) {
-      toggleIs( scenario.description.toggles, toggle );
-   }
+int readBack( Scenario const & scenario, Options const & options ) {
    ChipsFile const chips = options.chips.empty() ? ChipsFile() : readChips( options.chips );
    loadPlugin( options.plugin );
    Simulator::SimulatedSwitch sw( scenario.description );
@@ -51,6 +55,44 @@ int answer( Options const & options ) {
    return statusOf( verdicts );
 }
 
+int startAgain( Scenario const & scenario, Options const & options ) {
+   Restart const restart = restartAfter( scenario, options.plugin );
+   if ( options.json ) {
+      std::cout << toJson( Rex::Value::Object{ { "restart", restartValue( restart ) } }, 4 ) << '\n';
+   } else {
+      showRestart( std::cout, restart, options.all, Style::of( std::cout ) );
+   }
+   return restart.plan.isEmpty() ? 0 : foundAFault;
+}
+
+int lookForWindows( Scenario const & scenario, Options const & options ) {
+   PassingValues windows;
+   planOf( scenario, options.plugin, { &windows } );
+   if ( options.json ) {
+      std::cout << toJson( Rex::Value::Object{ { "windows", windowsValue( windows.all() ) } }, 3 ) << '\n';
+   } else if ( windows.all().empty() ) {
+      std::cout << "No field passes through a value that it doesn't keep.\n";
+   } else {
+      std::cout << counted( windows.all().size(), "field passes", "fields pass" )
+                << " through a value that the event doesn't keep:\n";
+      showWindows( std::cout, windows.all(), options.all ? 0 : fewWindows, Style::of( std::cout ) );
+   }
+   return 0;
+}
+
+int answer( Options const & options ) {
+   if ( options.restart && options.windows ) {
+      throw InputError( "--restart tells the windows of a second start, --windows those of the run; give one of them" );
+   }
+   if ( ( options.restart || options.windows ) && !options.chips.empty() ) {
+      throw InputError( "--chips is for what is read back; --restart and --windows play the scenario as it is" );
+   }
+   Scenario const scenario = scenarioToPlay( options.scenario, options.toggles, options.plugin );
+   return options.restart   ? startAgain( scenario, options )
+          : options.windows ? lookForWindows( scenario, options )
+                            : readBack( scenario, options );
+}
+
 } // namespace
 
 Action defineCheck( VerbOptions & verb ) {
@@ -58,10 +100,14 @@ Action defineCheck( VerbOptions & verb ) {
    verb.text(
       "scenario", options->scenario, "the scenario to play; without one, the built-in example", "SCENARIO.json" );
    verb.text( "--chips", options->chips, "verify with these contents on the chips", "FILE" );
+   verb.flag( "--restart", options->restart, "start the plug-in a second time, and tell what that changes" );
+   verb.flag( "--windows", options->windows, "tell the fields that pass through a value they don't keep" );
+   verb.flag( "--all", options->all, "every one of them" );
    verb.repeated( "--toggle", options->toggles, "set a toggle; may be given several times", "FILE:NAME=on|off" );
    verb.text( "--plugin", options->plugin, "the plug-in's library; the default lies beside this program", "PATH" );
    verb.flag( "--json", options->json, "for programs" );
-   verb.footer( "Exit status: 0 fine, 1 a fault was found, 3 nothing could be judged." );
+   verb.footer( "Exit status: 0 fine, 1 a fault was found (with --restart: an entry ends as another), 3 nothing could "
+                "be judged." );
    return [options] { return answer( *options ); };
 }
 

@@ -2,6 +2,7 @@
 // differs.
 #include "inspection/NamesAsTyped.h"
 #include "inspection/views/ChipComparisonText.h"
+#include "l3sm/ScenarioToPlay.h"
 #include "l3sm/verbs/Verbs.h"
 
 #include <iostream>
@@ -26,10 +27,7 @@ int answer( Options const & options ) {
          tableNamed( table );
       }
    }
-   Scenario scenario = options.scenario.empty() ? builtInScenario() : readScenario( options.scenario );
-   for ( auto const & toggle : options.settings ) {
-      toggleIs( scenario.description.toggles, toggle );
-   }
+   Scenario const scenario = scenarioToPlay( options.scenario, options.settings, options.plugin );
    ChipComparison const comparison = compareChips( scenario, options );
    if ( options.json ) {
       std::cout << toJson( comparisonValue( comparison, options.toggles ), 2 ) << '\n';

@@ -1,5 +1,6 @@
 // The verb `plan`: what a start on these chips and this state, or a scenario's events, would change, without a change.
 #include "inspection/views/PlanText.h"
+#include "l3sm/ScenarioToPlay.h"
 #include "l3sm/verbs/Verbs.h"
 
 #include <iostream>
@@ -21,10 +22,7 @@ struct Options : PlanTextOptions {
 };
 
 int answer( Options const & options ) {
-   Scenario scenario = options.scenario.empty() ? builtInScenario() : readScenario( options.scenario );
-   for ( auto const & toggle : options.toggles ) {
-      toggleIs( scenario.description.toggles, toggle );
-   }
+   Scenario const scenario = scenarioToPlay( options.scenario, options.toggles, options.plugin );
    if ( options.fap ) {
       scenario.fap( *options.fap );
    }

@@ -1,13 +1,22 @@
+#include "inspection/FailureReport.h"
+#include "inspection/Interruption.h"
 #include "inspection/Play.h"
-#include "inspection/RunValue.h"
+#include "inspection/RunSummaryValue.h"
 #include "inspection/files/ChipsFile.h"
 #include "inspection/files/JournalWriter.h"
 #include "inspection/files/OutputFile.h"
+#include "inspection/files/SavedScenario.h"
 #include "inspection/report/Report.h"
-#include "inspection/views/Summary.h"
+#include "inspection/views/InterfacesText.h"
+#include "inspection/views/Pager.h"
+#include "inspection/views/RunSummaryText.h"
+#include "l3sm/RunEvents.h"
+#include "l3sm/ScenarioToPlay.h"
 #include "l3sm/Tracing.h"
 #include "l3sm/verbs/Verbs.h"
+#include "rex/Assert.h"
 
+#include <algorithm>
 #include <iostream>
 #include <memory>
 #include <sstream>
@@ -23,62 +32,191 @@ struct Options {
    std::string chips;
    std::string journal;
    std::string state;
+   std::string save;
    std::string report;
+   std::string events;
+   std::optional< U16 > fap;
    std::string trace;
    std::string traceOut;
    std::vector< std::string > toggles;
    std::string plugin;
+   bool unchanged = false;
+   bool interfaces = false;
    bool quiet = false;
    bool json = false;
+};
+
+// What is to be done where the process fails, as long as it lives.
+class AtFailure {
+ public:
+   explicit AtFailure( std::function< void() > what ) : hook_( Rex::atFailure( std::move( what ) ) ) {}
+   AtFailure( AtFailure const & ) = delete;
+   AtFailure & operator=( AtFailure const & ) = delete;
+   ~AtFailure() { Rex::failureHookDel( hook_ ); }
+
+ private:
+   int hook_;
+};
+
+// A run with what was asked for of it.
+class Run {
+ public:
+   Run( Options const & options, Scenario scenario )
+      : options_( options ), scenario_( std::move( scenario ) ), chips_( options.chips ), state_( options.state ),
+        save_( options.save ), journal_( options.journal ), report_( options.report ),
+        summary_( wantedOf( options.events, options.fap, options.json, scenario_ ) ) {
+      bool const isFollowed = !options.quiet || journal_.isWanted() || report_.isWanted();
+      using enum Simulator::SwitchDescription::Journalled;
+      scenario_.description.journalled = isFollowed ? streamed : none;
+      isFollowed_ = isFollowed;
+   }
+
+   int play( Tracing & tracing ) {
+      // The hooks run from the last to the first: the journal's, which a switch has, before these.
+      AtFailure const lastWords( [this] { tellFailure(); } );
+      AtFailure const files( [this] { failed(); } );
+      Interruption const interruption;
+      sw_.emplace( scenario_.description );
+      auto & journal = sw_->journal();
+      std::optional< JournalWriter > writer;
+      if ( journal_.isWanted() ) {
+         writer.emplace( journal_.path(), JournalWriter::Begin{ valueOf( scenario_, Parts::withoutEvents ) } );
+         journal.readerAdd( *writer );
+      }
+      std::optional< ReportFile > page;
+      if ( report_.isWanted() ) {
+         journal.readerAdd( page.emplace( report_, valueOf( scenario_, Parts::withoutEvents ) ) );
+      }
+      summary_.whenOver( [this]( EventRows const & rows ) { eventIsOver( rows ); } );
+      journal.readerAdd( summary_ );
+
+      Onlooker onlooker{ .stops = [&] { return interruption.signal() != 0; } };
+      if ( !options_.quiet ) {
+         onlooker.before = [this]( Event const & event ) { summary_.nextReaches( reachOf( sw_->state(), event ) ); };
+      }
+      bool const isComplete = Inspection::play( scenario_, *sw_, onlooker );
+      using enum Simulator::Ending::Kind;
+      journal.ends( isComplete ? complete : interrupted );
+      tracing.flush();
+      writeFiles();
+      tell();
+      return interruption.status( 0 );
+   }
+
+ private:
+   void writeFiles() {
+      if ( chips_.isWanted() ) {
+         std::ostringstream text;
+         writeChips( text, chipsOf( *sw_ ) );
+         chips_.write( text.str() );
+      }
+      if ( state_.isWanted() ) {
+         state_.write( toJson( sw_->state().value(), 2 ) + "\n" );
+      }
+      if ( save_.isWanted() ) {
+         std::ostringstream text;
+         writeScenario( text, savedScenario( scenario_, *sw_ ) );
+         save_.write( text.str() );
+      }
+   }
+
+   bool isEvents() const { return !options_.events.empty(); }
+
+   void eventIsOver( EventRows const & rows ) {
+      if ( options_.quiet || options_.events != "all" ) {
+         return;
+      }
+      if ( options_.json ) {
+         events_.push_back( eventValue( rows ) );
+      } else {
+         Lines lines( std::cout, Lines::Long::whole );
+         writeEvent( lines, rows, { .isFull = true, .unchanged = options_.unchanged } );
+      }
+   }
+
+   void tell() {
+      if ( options_.quiet ) {
+         return;
+      }
+      if ( options_.json ) {
+         auto value = runSummaryValue( scenario_, summary_, interfacesOf( *sw_ ) );
+         if ( options_.events == "all" ) {
+            ( *value.object() )["events"] = std::move( events_ );
+         }
+         std::cout << toJson( value, 3 ) << '\n';
+         return;
+      }
+      Lines lines( std::cout, isEvents() ? Lines::Long::whole : Lines::Long::shortened );
+      if ( !isEvents() ) {
+         writeRunSummary( lines,
+                          scenario_,
+                          summary_,
+                          interfacesOf( *sw_ ),
+                          { .eachInterface = options_.interfaces, .unchanged = options_.unchanged } );
+         return;
+      }
+      for ( auto const * rows : summary_.shown() ) {
+         writeEvent( lines, *rows, { .isFull = true, .unchanged = options_.unchanged } );
+      }
+      if ( options_.interfaces ) {
+         writeEachInterface( lines, interfacesOf( *sw_ ) );
+      }
+      writeEnding( lines, summary_, scenario_.events.size() );
+   }
+
+   // What there is, once the journal is complete.
+   void failed() {
+      Pager::letThrough();
+      if ( !sw_ ) {
+         return;
+      }
+      try {
+         writeFiles();
+         tell();
+      } catch ( std::exception const & error ) {
+         std::cerr << "l3sm: " << error.what() << '\n';
+      }
+      std::cout.flush();
+   }
+
+   void tellFailure() {
+      if ( !sw_ ) {
+         return;
+      }
+      for ( auto const & line : failureReportOf( scenario_, *sw_, summary_, isFollowed_ ).lines() ) {
+         std::cerr << printable( line ) << '\n';
+      }
+      std::cerr.flush();
+   }
+
+   Options const & options_;
+   Scenario scenario_;
+   OutputFile const chips_;
+   OutputFile const state_;
+   OutputFile const save_;
+   OutputFile const journal_;
+   OutputFile const report_;
+   bool isFollowed_ = true; // operations are
+   RunSummary summary_;
+   Rex::Value::List events_;
+   std::optional< Simulator::SimulatedSwitch > sw_; // goes first: it hands over to what stands above
 };
 
 int run( Options const & options ) {
    if ( options.quiet && options.json ) {
       throw InputError( "--quiet prints nothing and --json does; give one of them" );
    }
-   Scenario scenario = options.scenario.empty() ? builtInScenario() : readScenario( options.scenario );
-   for ( auto const & toggle : options.toggles ) {
-      toggleIs( scenario.description.toggles, toggle );
+   Scenario scenario = scenarioToPlay( options.scenario, options.toggles, options.plugin );
+   std::vector const written{
+      options.chips, options.state, options.save, options.journal, options.report, options.traceOut };
+   eachAlone( written, { options.scenario } );
+   if ( !options.quiet && std::ranges::find( written, "-" ) != written.end() ) {
+      throw InputError( "standard output", "would take the summary, too; give --quiet" );
    }
-   OutputFile const chips( options.chips );
-   OutputFile const state( options.state );
-   OutputFile const journal( options.journal );
-   OutputFile const report( options.report );
-   eachAlone( { options.scenario, options.chips, options.state, options.journal, options.report, options.traceOut } );
+   Run it( options, std::move( scenario ) );
    Tracing tracing( options.trace, options.traceOut );
-   loadPlugin( options.plugin );
    tracing.start();
-
-   scenario.description.journalled = Simulator::SwitchDescription::Journalled::streamed;
-   Simulator::SimulatedSwitch sw( scenario.description );
-   std::optional< JournalWriter > writer;
-   if ( journal.isWanted() ) {
-      writer.emplace( options.journal, JournalWriter::Begin{ scenario.begin() } );
-      sw.journal().readerAdd( *writer );
-   }
-   KeptRows rows;
-   sw.journal().readerAdd( rows );
-   play( scenario, sw );
-   sw.journal().ends( Simulator::Ending::Kind::complete );
-   tracing.flush();
-
-   if ( chips.isWanted() ) {
-      std::ostringstream text;
-      writeChips( text, chipsOf( sw ) );
-      chips.write( text.str() );
-   }
-   if ( state.isWanted() ) {
-      state.write( toJson( sw.state().value(), 2 ) + "\n" );
-   }
-   if ( report.isWanted() ) {
-      report.write( reportOf( scenario, sw, rows ) );
-   }
-   if ( options.json ) {
-      std::cout << toJson( runValue( scenario, sw, rows ), 3 ) << '\n';
-   } else if ( !options.quiet ) {
-      writeSummary( std::cout, scenario, sw, rows );
-   }
-   return 0;
+   return it.play( tracing );
 }
 
 } // namespace
@@ -87,9 +225,18 @@ Action defineRun( VerbOptions & verb ) {
    auto const options = std::make_shared< Options >();
    verb.text(
       "scenario", options->scenario, "the scenario to play; without one, the built-in example", "SCENARIO.json" );
+   verb.text(
+      "--event", options->events, "what happened in these events, in full; 0 is the start", "N[,...]|all|last" );
+   verb.number( "--fap", options->fap, "what happened to this FAP only" );
+   verb.flag( "--unchanged", options->unchanged, "fields that a write left as they were, too" );
+   verb.flag( "--interfaces", options->interfaces, "every interface, with its MTU and addresses" );
    verb.text( "--chips", options->chips, "write the contents of the chips at the end", "FILE" );
-   verb.text( "--journal", options->journal, "write every driver operation, one JSON object a line", "FILE" );
+   verb.text( "--journal",
+              options->journal,
+              "write everything that happened, one JSON object a line; compressed where the name ends in .zst",
+              "FILE" );
    verb.text( "--state", options->state, "write the state tree at the end", "FILE" );
+   verb.text( "--save", options->save, "write a scenario that begins where this run ends", "FILE" );
    verb.text( "--report", options->report, "write a page that shows the run in a browser", "FILE.html" );
    verb.text(
       "--trace", options->trace, "trace facilities up to a level; `*` for every facility", "FACILITY/LEVEL[,...]" );

@@ -254,7 +254,7 @@ std::vector< std::string > showJournal( Options const & options, auto const & sh
 
 int answer( Options const & options ) {
    for ( std::string const & table : options.tables ) {
-      tableNamed( table );
+      checkPlace( tableNamed( table ), { .variant = options.variant, .array = options.array, .entry = options.entry } );
    }
    Style const style = Style::of( std::cout );
    Value::Object faps;

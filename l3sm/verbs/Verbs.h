@@ -18,6 +18,7 @@ Action defineConstants( VerbOptions & verb );
 Action defineShow( VerbOptions & verb );
 Action defineDiff( VerbOptions & verb );
 Action defineWhy( VerbOptions & verb );
+Action defineReport( VerbOptions & verb );
 Action defineCompare( VerbOptions & verb );
 Action defineReplay( VerbOptions & verb );
 Action defineCheck( VerbOptions & verb );

@@ -8,6 +8,7 @@
 #include "constants/ChipType.h"
 #include "sal/Driver.h"
 
+#include <array>
 #include <ostream>
 
 namespace Hardware::Dace {
@@ -62,5 +63,27 @@ class FapRevision {
    ChipType chipType_{};
    U32 sdkVersion_ = 0;
 };
+
+// The major revision that a kind of chip has; 0 for a number that is none. The reference platform's own numbers, but
+// for 8 and 9.
+constexpr U32 fapRevMajorOf( ChipType chipType ) {
+   switch ( chipType ) {
+   case ChipType::BCM88690_B0:
+      return 5;
+   case ChipType::BCM88800_A0:
+      return 6;
+   case ChipType::BCM88480_A0:
+   case ChipType::BCM88480_B0:
+      return 7;
+   case ChipType::BCM88850_A0:
+      return 8;
+   case ChipType::BCM88859_A2:
+      return 9;
+   }
+   return 0;
+}
+
+// The driver's versions that are known, the newest last.
+inline constexpr std::array sdkVersions{ 6u, 7u };
 
 } // namespace Hardware::Dace

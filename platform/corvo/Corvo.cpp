@@ -31,8 +31,14 @@ void Node::nodeFlagSet( NodeFlag which, bool on ) {
    flags_ = static_cast< U8 >( on ? flags_ | bit : flags_ & ~bit );
 }
 
-void Impl::nullPtrDereferenced() {
-   Rex::assertionFailed( "ptr != nullptr", std::source_location::current() );
+void Impl::nullPtrDereferenced( char const * type ) {
+   constexpr std::string_view with = "T = ";
+   std::string name = type;
+   if ( auto const at = name.find( with ); at != std::string::npos ) {
+      name = name.substr( at + with.size(), name.rfind( ']' ) - at - with.size() );
+   }
+   name = name.substr( 0, name.find( ';' ) );
+   Rex::assertionFailed( "ptr != nullptr", std::source_location::current(), "no " + name );
 }
 
 Subscriber::~Subscriber() {

@@ -1,7 +1,8 @@
 // Ptr: the only ownership there is. Each Ptr is one user of its node.
 //
-// Dereferencing a null Ptr ends the process through the assertion helper (text "ptr != nullptr"), in every build: a
-// missing object that the code relies on is a clear end, never undefined behaviour.
+// Dereferencing a null Ptr ends the process through the assertion helper (text "ptr != nullptr", then a line with the
+// type that it should have pointed at), in every build: a missing object that the code relies on is a clear end, never
+// undefined behaviour.
 #pragma once
 
 #include "corvo/Node.h"
@@ -15,7 +16,14 @@
 namespace Corvo {
 
 namespace Impl {
-[[noreturn]] void nullPtrDereferenced();
+// `type`: the compiler's text of a function that names it; see typeText.
+[[noreturn]] void nullPtrDereferenced( char const * type );
+
+// A text that the name of the type stands in; of incomplete types, too.
+template< class T >
+constexpr char const * typeText() {
+   return __PRETTY_FUNCTION__; // "... [with T = Evpn::EvpnStatus]"
+}
 }
 
 template< class T >
@@ -71,7 +79,7 @@ class Ptr {
    }
    T * checked() const {
       if ( !node_ ) [[unlikely]] {
-         Impl::nullPtrDereferenced();
+         Impl::nullPtrDereferenced( Impl::typeText< T >() );
       }
       return node_;
    }

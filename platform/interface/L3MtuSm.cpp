@@ -2,14 +2,26 @@
 
 namespace Interface {
 
+L3MtuSm * L3MtuSm::newest_ = nullptr;
+
 L3MtuSm::L3MtuSm( Corvo::Ptr< IntfConfig const > const & intfConfig,
                   Corvo::Ptr< GlobalIntfConfig const > const & globalIntfConfig,
                   Corvo::Ptr< EffectiveL3Mtu > const & effectiveL3Mtu,
                   Corvo::Ptr< Hardware::Capability const > const & intfHwCapability )
    : intfConfig_( intfConfig ), globalIntfConfig_( globalIntfConfig ), effectiveL3Mtu_( effectiveL3Mtu ),
-     intfHwCapability_( intfHwCapability ) {}
+     intfHwCapability_( intfHwCapability ), older_( newest_ ) {
+   if ( older_ ) {
+      older_->younger_ = this;
+   }
+   newest_ = this;
+}
 
-L3MtuSm::~L3MtuSm() = default;
+L3MtuSm::~L3MtuSm() {
+   ( younger_ ? younger_->older_ : newest_ ) = older_;
+   if ( older_ ) {
+      older_->younger_ = younger_;
+   }
+}
 
 Corvo::Ptr< L3MtuSm > L3MtuSm::L3MtuSmIs( Corvo::Ptr< IntfConfig const > const & intfConfig,
                                           Corvo::Ptr< GlobalIntfConfig const > const & globalIntfConfig,

@@ -39,6 +39,14 @@ class L3MtuSm : public Corvo::Node {
                    Corvo::Ptr< EffectiveL3Mtu > const & effectiveL3Mtu,
                    Corvo::Ptr< Hardware::Capability const > const & intfHwCapability ) const;
 
+   // All that are alive: one for each interface that this agent serves. The one made last, then each one's elder; null
+   // where there is none.
+   static L3MtuSm const * newest() { return newest_; }
+   L3MtuSm const * older() const { return older_; }
+   // The configuration that it follows, which may be another than the directory has by now; null if it was given none.
+   IntfConfig const * intfConfig() const { return intfConfig_.ptr().get(); }
+   U32 effectiveL3Mtu() const { return effectiveL3Mtu_->mtu(); }
+
    // Idempotent. Turning on brings the effective L3 MTU up to date.
    void hasNotificationActiveIs( bool active );
 
@@ -51,6 +59,9 @@ class L3MtuSm : public Corvo::Node {
    Corvo::Watched< GlobalIntfConfig const > globalIntfConfig_;
    Corvo::Ptr< EffectiveL3Mtu > effectiveL3Mtu_;
    Corvo::Ptr< Hardware::Capability const > intfHwCapability_;
+   L3MtuSm * older_ = nullptr;
+   L3MtuSm * younger_ = nullptr;
+   static L3MtuSm * newest_;
 };
 
 } // namespace Interface

@@ -95,6 +95,7 @@ void SyncMtuSubIntfWalkSm::syncMtu( Corvo::Ptr< SyncMtuData > const & data ) {
       return;
    }
    walk_ = Corvo::makePtr< Walk >( data );
+   asked_ = Asked{ data->intfStatus.get(), data->mtu, false };
    post();
    syncMtuResultIs( SyncMtuResult::walking );
 }
@@ -143,6 +144,7 @@ void SyncMtuSubIntfWalkSm::runSlice() {
    if ( generation() != walk->generation ) {
       finish( SyncMtuResult::restartNeeded );
    } else if ( walk->next == walk->subIntfs.size() ) {
+      asked_->isSynced = true;
       finish( SyncMtuResult::synced );
    } else {
       post();

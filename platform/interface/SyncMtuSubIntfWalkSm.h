@@ -27,6 +27,8 @@
 #include "orb/TaskScheduler.h"
 #include "state/Interfaces.h"
 
+#include <optional>
+
 namespace Interface {
 
 // How far a walk has come.
@@ -96,6 +98,15 @@ class SyncMtuSubIntfWalkSm : public Rex::Entity {
    static SyncMtuSubIntfWalkSm const * newest() { return newest_; }
    SyncMtuSubIntfWalkSm const * older() const { return older_; }
 
+   // The walk that was asked for last, also where it is over or was abandoned.
+   struct Asked {
+      IntfStatus const * intfStatus = nullptr; // whose; to be compared only: it may be gone by now
+      U32 mtu = 0;
+      bool isSynced = false; // it came to its end
+   };
+   // None: it was never asked for one.
+   std::optional< Asked > const & asked() const { return asked_; }
+
    // Starts a walk. Null: throws the null-argument exception.
    void syncMtu( Corvo::Ptr< SyncMtuData > const & data );
    // Abandons the walk.
@@ -116,6 +127,7 @@ class SyncMtuSubIntfWalkSm : public Rex::Entity {
    Corvo::Ptr< Orb::TaskScheduler > scheduler_;
    Corvo::Ptr< SubIntfIndex > subIntfs_;
    Corvo::Ptr< SubIntfStatusLocalDir const > subIntfStatusLocalDir_;
+   std::optional< Asked > asked_;
    Corvo::Ptr< Walk > walk_;  // what is under way
    Slice * posted_ = nullptr; // the task that is waiting for the scheduler, which owns it; one at most
    SyncMtuSubIntfWalkSm * older_ = nullptr;

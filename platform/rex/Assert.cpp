@@ -66,9 +66,9 @@ Failure const * failure() {
    return theFailure ? &*theFailure : nullptr;
 }
 
-void assertionFailed( char const * text, AssertionSite const & site ) {
+void assertionFailed( char const * text, AssertionSite const & site, std::string const & message ) {
    Failure & what =
-      failed( { .text = {}, .message = {}, .file = site.file, .line = site.line, .function = site.function } );
+      failed( { .text = {}, .message = message, .file = site.file, .line = site.line, .function = site.function } );
    if ( what.text.empty() ) {
       what.text = text;
    }
@@ -80,6 +80,9 @@ void assertionFailed( char const * text, AssertionSite const & site ) {
                  site.line,
                  site.function,
                  text );
+   if ( !message.empty() ) {
+      std::fprintf( stderr, "%s\n", message.c_str() );
+   }
    runFailureHooks();
    std::abort();
 }

@@ -30,9 +30,9 @@ struct AssertionSite {
       : file( at.file_name() ), line( at.line() ), function( at.function_name() ) {}
 };
 
-// Prints "<program>: <file>:<line>: <function>: Assertion `<text>' failed." on standard error, runs the hooks of
-// atFailure, and aborts. The only place in the system that aborts.
-[[noreturn]] void assertionFailed( char const * text, AssertionSite const & site );
+// Prints "<program>: <file>:<line>: <function>: Assertion `<text>' failed." on standard error, and `message` below it,
+// runs the hooks of atFailure, and aborts. The only place in the system that aborts.
+[[noreturn]] void assertionFailed( char const * text, AssertionSite const & site, std::string const & message = {} );
 
 // Ends the process with `text` unless `holds`.
 inline void sassert( bool holds, char const * text, std::source_location at = std::source_location::current() ) {
@@ -66,7 +66,7 @@ class SassertHelper {
 // What ended the process, for the hooks of atFailure.
 struct Failure {
    std::string text;     // the assertion's, or what an exception that nobody caught says
-   std::string message;  // of a SassertHelper; else empty
+   std::string message;  // what more is said of it; may be empty
    std::string file;     // empty for an exception
    unsigned line = 0;    // 0 for an exception
    std::string function; // as the compiler writes it

@@ -71,18 +71,18 @@ Value Dir::value() const {
 }
 
 void Dir::attributesIs( Value const & value ) {
+   ValueErrors errors;
    for ( auto const & [name, part] : Impl::objectOf( value ) ) {
-      auto const entity = newEntity( name );
-      if ( !entity ) {
-         throw ValueError( pointerStep( name ), "this directory takes no entries from outside" );
-      }
-      try {
+      errors.below( name, [&] {
+         auto const entity = newEntity( name );
+         if ( !entity ) {
+            throw ValueError( { "", "this directory takes no entries from outside", true } );
+         }
          entity->attributesIs( part );
-      } catch ( ValueError const & error ) {
-         throw error.below( name );
-      }
-      entityIs( name, entity );
+         entityIs( name, entity );
+      } );
    }
+   errors.end();
 }
 
 } // namespace Rex

@@ -93,15 +93,23 @@ Attribute const * TypeData::attribute( short id ) const {
    return base_ ? base_->attribute( id ) : nullptr;
 }
 
+static std::string unknownAttribute( TypeData const & type, std::string const & name ) {
+   std::vector< std::string > names;
+   std::string all;
+   for ( auto const * attribute : type.attributes() ) {
+      names.emplace_back( attribute->name );
+      all += ( all.empty() ? "" : ", " ) + names.back();
+   }
+   auto const near = didYouMean( name, names );
+   return type.name() + " has no attribute \"" + name + "\"" + near + ( near.empty() ? "; it has " : " It has " ) +
+          ( all.empty() ? "none" : all );
+}
+
 Attribute const & attributeOf( TypeData const & type, std::string const & name ) {
    if ( auto const * attribute = type.attribute( name ) ) {
       return *attribute;
    }
-   std::vector< std::string > names;
-   for ( auto const * attribute : type.attributes() ) {
-      names.emplace_back( attribute->name );
-   }
-   throw ValueError( "", type.name() + " has no attribute \"" + name + "\"" + didYouMean( name, names ) );
+   throw ValueError( "", unknownAttribute( type, name ) );
 }
 
 Value::Object const & Impl::objectOf( Value const & value ) {
@@ -112,13 +120,17 @@ Value::Object const & Impl::objectOf( Value const & value ) {
 }
 
 void Entity::attributesIs( Value const & value ) {
+   ValueErrors errors;
    for ( auto const & [name, part] : Impl::objectOf( value ) ) {
-      try {
-         attributeOf( typeData(), name ).valueIs( *this, part );
-      } catch ( ValueError const & error ) {
-         throw error.below( name );
-      }
+      errors.below( name, [&] {
+         auto const * attribute = typeData().attribute( name );
+         if ( !attribute ) {
+            throw ValueError( { "", unknownAttribute( typeData(), name ), true } );
+         }
+         attribute->valueIs( *this, part );
+      } );
    }
+   errors.end();
 }
 
 Corvo::String Entity::stepTo( Entity const & child ) const {

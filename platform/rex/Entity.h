@@ -66,8 +66,8 @@ class Entity : public Corvo::Node {
 
    // All attributes, by name, as a value of kind object.
    virtual Value value() const;
-   // Sets the attributes that `value`, an object, names. Throws ValueError for an unknown attribute or a wrong value;
-   // the attributes before it are set then.
+   // Sets the attributes that `value`, an object, names. Throws ValueError for unknown attributes and wrong values; the
+   // attributes that fit are set then.
    virtual void attributesIs( Value const & value );
 
    // Visits the entities directly below this one.

@@ -193,13 +193,12 @@ class MapAttributeData : public Attribute {
    }
    void valueIs( Entity & of, Value const & value ) const override {
       std::map< Key, Type > wanted;
+      ValueErrors errors;
       for ( auto const & [key, entry] : objectOf( value ) ) {
-         try {
-            wanted.emplace( Codec< Key >::fromKey( key ), Codec< Type >::fromValue( entry ) );
-         } catch ( ValueError const & error ) {
-            throw error.below( key );
-         }
+         errors.below( key,
+                       [&] { wanted.emplace( Codec< Key >::fromKey( key ), Codec< Type >::fromValue( entry ) ); } );
       }
+      errors.end();
       auto & self = static_cast< Self & >( of );
       auto const present = ( self.*Member ).all();
       for ( auto const & [key, entry] : present ) {
@@ -244,13 +243,11 @@ class CollectionAttributeData : public Attribute {
    }
    void valueIs( Entity & of, Value const & value ) const override {
       std::map< std::string, Corvo::Ptr< Type > > wanted;
+      ValueErrors errors;
       for ( auto const & [key, entry] : objectOf( value ) ) {
-         try {
-            wanted.emplace( key, entityFromValue< Type >( key, entry ) );
-         } catch ( ValueError const & error ) {
-            throw error.below( key );
-         }
+         errors.below( key, [&] { wanted.emplace( key, entityFromValue< Type >( key, entry ) ); } );
       }
+      errors.end();
       auto & self = static_cast< Self & >( of );
       std::vector< Key > gone;
       for ( auto const & [key, entity] : ( self.*Member ).all() ) {

@@ -27,7 +27,11 @@ std::size_t distance( std::string const & from, std::string const & to ) {
 } // namespace
 
 std::string nearest( std::string const & wanted, std::vector< std::string > const & among ) {
+   constexpr std::size_t longestName = 200; // what is longer is no name, and would take its time
    std::string best;
+   if ( wanted.size() > longestName ) {
+      return best;
+   }
    std::size_t bestDistance = wanted.size() / 3 + 1;
    for ( auto const & candidate : among ) {
       if ( auto const far = distance( wanted, candidate ); far < bestDistance ) {

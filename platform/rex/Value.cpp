@@ -90,7 +90,11 @@ std::string pointerStep( std::string const & key ) {
 }
 
 ValueError ValueError::below( std::string const & key ) const {
-   return { pointerStep( key ) + place_, what() };
+   auto seen = faults_;
+   for ( auto & fault : seen ) {
+      fault.place.insert( 0, pointerStep( key ) );
+   }
+   return ValueError( std::move( seen ) );
 }
 
 void throwWrongKind( std::string const & wanted, Value const & got ) {
@@ -125,7 +129,8 @@ std::uint64_t Impl::unsignedFromKey( std::string const & key, std::uint64_t high
    auto const [end, error] = std::from_chars( key.data(), key.data() + key.size(), number );
    bool const canonical = error == std::errc{} && end == key.data() + key.size() && std::to_string( number ) == key;
    if ( !canonical || number > highest ) {
-      throw ValueError( "", "expected a key from 0 to " + std::to_string( highest ) + ", got \"" + key + "\"" );
+      throw ValueError(
+         { "", "expected a key from 0 to " + std::to_string( highest ) + ", got \"" + key + "\"", true } );
    }
    return number;
 }

@@ -66,18 +66,31 @@ std::string kindOf( Value const & value );
 // On one line, as JSON writes it.
 std::string toText( Value const & value );
 
-// A value that doesn't fit. `place` is the JSON pointer from the value that was given to the part that is wrong,
-// empty for the value itself.
+// A value that doesn't fit, in one place or in several.
 class ValueError : public std::runtime_error {
  public:
-   ValueError( std::string place, std::string const & what )
-      : std::runtime_error( what ), place_( std::move( place ) ) {}
-   std::string const & place() const { return place_; }
+   // `place` is the JSON pointer from the value that was given to the part that is wrong, empty for the value itself.
+   // isKey: it is the last key of the pointer that is wrong, whatever stands under it.
+   struct Fault {
+      std::string place;
+      std::string text;
+      bool isKey = false;
+   };
+
+   ValueError( std::string place, std::string const & what ) : ValueError( Fault{ std::move( place ), what } ) {}
+   explicit ValueError( Fault fault ) : ValueError( std::vector{ std::move( fault ) } ) {}
+   // At least one.
+   explicit ValueError( std::vector< Fault > faults )
+      : std::runtime_error( faults.front().text ), faults_( std::move( faults ) ) {}
+
+   std::vector< Fault > const & faults() const { return faults_; }
+   // Of the first.
+   std::string const & place() const { return faults_.front().place; }
    // The same error seen from one level further up.
    ValueError below( std::string const & key ) const;
 
  private:
-   std::string place_;
+   std::vector< Fault > faults_;
 };
 
 // Runs `read` on the part under `key`: an error of it gets its place seen from here.
@@ -89,6 +102,41 @@ decltype( auto ) below( std::string const & key, Read const & read ) {
       throw error.below( key );
    }
 }
+
+// Has all parts of a value looked at before what is wrong with them is told, in one error.
+//
+//    ValueErrors errors;
+//    for ( auto const & [key, part] : object ) {
+//       errors.below( key, [&] { take( part ); } );
+//    }
+//    errors.end();                                  // throws, if something was wrong
+class ValueErrors {
+ public:
+   // False if it is wrong.
+   template< class Read >
+   bool below( std::string const & key, Read const & read ) {
+      return of( [&] { Rex::below( key, read ); } );
+   }
+   template< class Read >
+   bool of( Read const & read ) {
+      try {
+         read();
+         return true;
+      } catch ( ValueError const & error ) {
+         faults_.insert( faults_.end(), error.faults().begin(), error.faults().end() );
+         return false;
+      }
+   }
+   std::vector< ValueError::Fault > const & faults() const { return faults_; }
+   void end() const {
+      if ( !faults_.empty() ) {
+         throw ValueError( faults_ );
+      }
+   }
+
+ private:
+   std::vector< ValueError::Fault > faults_;
+};
 
 // A step of a JSON pointer, with its escapes.
 std::string pointerStep( std::string const & key );

@@ -16,7 +16,7 @@ struct Rex::Codec< Hardware::Dace::FapId > {
    }
 };
 
-// {"chipType": "BCM88690_B0", "sdkVersion": 7, "major": 5}
+// {"chipType": "BCM88690_B0", "sdkVersion": 7, "major": 5}. Left out: the newest SDK, the chip's own major revision.
 template<>
 struct Rex::Codec< Hardware::Dace::FapRevision > {
    static Value toValue( Hardware::Dace::FapRevision const & revision );

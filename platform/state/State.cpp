@@ -81,10 +81,11 @@ Rex::Value Rex::Codec< Hardware::Dace::FapRevision >::toValue( Hardware::Dace::F
 
 Hardware::Dace::FapRevision Rex::Codec< Hardware::Dace::FapRevision >::fromValue( Value const & value ) {
    Hardware::ChipType chipType{};
-   U32 sdkVersion = 0;
-   U32 major = 0;
+   U32 sdkVersion = Hardware::Dace::sdkVersions.back();
+   std::optional< U32 > major;
+   ValueErrors errors;
    for ( auto const & [name, part] : Impl::objectOf( value ) ) {
-      try {
+      errors.below( name, [&] {
          if ( name == "chipType" ) {
             chipType = chipTypeFromValue( part );
          } else if ( name == "sdkVersion" ) {
@@ -92,13 +93,15 @@ Hardware::Dace::FapRevision Rex::Codec< Hardware::Dace::FapRevision >::fromValue
          } else if ( name == "major" ) {
             major = Codec< U32 >::fromValue( part );
          } else {
-            throw ValueError( "", "a revision has chipType, sdkVersion and major, no \"" + name + "\"" );
+            throw ValueError( { "", "a revision has chipType, sdkVersion and major, no \"" + name + "\"", true } );
          }
-      } catch ( ValueError const & error ) {
-         throw error.below( name );
-      }
+      } );
    }
-   return { major, chipType, sdkVersion };
+   if ( !value.object()->contains( "chipType" ) ) {
+      errors.of( [] { throw ValueError( "", "\"chipType\" is missing" ); } );
+   }
+   errors.end();
+   return { major.value_or( Hardware::Dace::fapRevMajorOf( chipType ) ), chipType, sdkVersion };
 }
 
 Corvo::Ptr< Routing::Hardware::PrefixLensInExactMatch >

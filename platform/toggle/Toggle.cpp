@@ -16,6 +16,7 @@ struct State {
    std::mutex mutex;
    Settings settings;
    std::vector< Reading > readings;
+   std::vector< Declared > declared;
 };
 
 State & state() {
@@ -88,6 +89,15 @@ Settings readFolder( std::string const & folder ) {
 
 std::vector< Reading > const & readings() {
    return state().readings;
+}
+
+Declared::Declared( std::string toggleName, std::string toggleFile )
+   : name( std::move( toggleName ) ), file( std::move( toggleFile ) ) {
+   state().declared.push_back( *this );
+}
+
+std::vector< Declared > const & declared() {
+   return state().declared;
 }
 
 } // namespace Toggle

@@ -36,4 +36,14 @@ struct Reading {
 };
 std::vector< Reading > const & readings();
 
+// A toggle that a library tells of when it is loaded, so that those who set it can be told of a misspelt name:
+//
+//    static Toggle::Declared const mine{ "MyFeature", "Mine.json" };
+struct Declared {
+   std::string name;
+   std::string file;
+   Declared( std::string toggleName, std::string toggleFile );
+};
+std::vector< Declared > const & declared();
+
 } // namespace Toggle

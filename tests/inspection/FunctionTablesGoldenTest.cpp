@@ -13,12 +13,8 @@ namespace fs = std::filesystem;
 fs::path const source = L3SM_SOURCE_DIR;
 
 std::vector< Inspection::KeptRows > journalsOfTheExamples() {
-   std::set< fs::path > examples;
-   for ( auto const & example : fs::directory_iterator( source / "examples" ) ) {
-      examples.insert( example.path() );
-   }
    std::vector< Inspection::KeptRows > journals;
-   for ( fs::path const & example : examples ) {
+   for ( fs::path const & example : exampleScenarios() ) {
       Command const l3sm( "run '" + example.string() + "' --quiet --journal journal" );
       EXPECT_EQ( l3sm.status, 0 ) << example << l3sm.errors;
       journals.push_back( Inspection::rowsOf( ( l3sm.folder / "journal" ).string() ) );
@@ -40,6 +36,9 @@ TEST( TouchesGolden, areWhatTheExamplesShow ) {
       for ( Inspection::Touch const & touch : touchesOf( table, journals ) ) {
          rows += rowOf( touch );
       }
+   }
+   for ( Inspection::Touch const & touch : controlTouches( journals ) ) {
+      rows += rowOf( touch );
    }
    expectList( "inspection/KnownFunctionTables.cpp", "touches[] = {\n", rows );
 }

@@ -1,7 +1,7 @@
 // A scenario is a value and back without a loss, with its events or without.
 #include "inspection/files/Scenario.h"
+#include "l3sm/Command.h"
 
-#include <filesystem>
 #include <gtest/gtest.h>
 
 namespace {
@@ -54,9 +54,9 @@ TEST( ScenarioValue, theShortFormOfChipsHasTablesAlone ) {
 }
 
 TEST( ScenarioValue, everyExampleIsItsValueAgain ) {
-   for ( auto const & file : std::filesystem::directory_iterator( L3SM_SOURCE_DIR "/examples" ) ) {
-      auto const once = valueOf( readScenario( file.path() ) );
-      EXPECT_EQ( toJson( valueOf( scenarioOf( once, "again" ) ), 9 ), toJson( once, 9 ) ) << file.path();
+   for ( auto const & file : exampleScenarios() ) {
+      auto const once = valueOf( readScenario( file ) );
+      EXPECT_EQ( toJson( valueOf( scenarioOf( once, "again" ) ), 9 ), toJson( once, 9 ) ) << file;
    }
 }
 

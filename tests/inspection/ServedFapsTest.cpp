@@ -43,9 +43,9 @@ TEST( ServedFaps, areServedWithEachOfTheSettingsThatAreSaidToOpenTheGate ) {
 }
 
 TEST( ServedFaps, areServedInEveryExampleButTheOneOfTheGate ) {
-   for ( auto const & example : std::filesystem::directory_iterator( L3SM_SOURCE_DIR "/examples" ) ) {
-      auto const faps = after( "'" + example.path().string() + "' --quiet --journal j" );
-      EXPECT_EQ( faps.of( 0 ).isServed, example.path().stem() != "gate" ) << example.path();
+   for ( auto const & example : exampleScenarios() ) {
+      auto const faps = after( "'" + example.string() + "' --quiet --journal j" );
+      EXPECT_EQ( faps.of( 0 ).isServed, example.stem() != "gate" ) << example;
    }
 }
 

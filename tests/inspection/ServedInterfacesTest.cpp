@@ -33,6 +33,7 @@ std::string scenarioOf( int count, std::string const & state, std::string const 
 
 // The paragraph of the summary, without its heading; empty without one.
 std::string told( std::string const & scenario ) {
+   ::setenv( "COLUMNS", "300", 1 ); // a line each
    Command const l3sm( "run s.json", { { "s.json", scenario } } );
    EXPECT_EQ( l3sm.errors, "" );
    std::string const heading = "\nInterfaces at the end\n";
@@ -123,12 +124,54 @@ TEST( Interfaces, areServedOutsideTheManagedDirectoriesInVeloroSAIMode ) {
               "  1 served outside the managed directories: Ethernet1\n" );
 }
 
+std::string const configs = "shared/phySmStateData/allEthPhyIntfConfigDir";
+std::string const statuses = "shared/phySmStateSharedStatus/allEthPhyIntfStatusDir";
+
+std::string entry( std::string const & path, std::string const & attribute, std::string const & value ) {
+   return R"({"set": {"path": ")" + path + R"(", "attribute": ")" + attribute + R"(", "key": "Ethernet1", "value": )" +
+          value + "}}";
+}
+
+TEST( Interfaces, followTheConfigurationThatTheyWereServedWithWhereItIsReplaced ) {
+   EXPECT_EQ( told( scenarioOf( 1, "", entry( configs, "intfConfig", R"({"enabled": false, "mtu": 4000})" ) ) ),
+              "  1 served, active: Ethernet1\n"
+              "  1 with MTU synced: Ethernet1 1500\n"
+              "  1 with another configuration in the directory: "
+              "Ethernet1 (its configuration was replaced; the one from before is still followed)\n" );
+}
+
+TEST( Interfaces, goOnWithTheStatusFromBeforeWhereItWentAndCame ) {
+   std::string const gone = R"({"delete": {"path": ")" + statuses + R"(", "attribute": "intfStatus",
+                                "key": "Ethernet1"}})";
+   EXPECT_EQ( told( scenarioOf( 1, "", gone ) ),
+              "  1 served, active: Ethernet1\n"
+              "  1 with MTU waiting: Ethernet1 (MTU 1500 went to its status from before, which is gone)\n" );
+   EXPECT_EQ( told( scenarioOf( 1, "", gone + ", " + entry( statuses, "intfStatus", "{}" ) ) ),
+              "  1 served, active: Ethernet1\n"
+              "  1 with MTU waiting: Ethernet1 (MTU 1500 went to its status from before, which was replaced)\n" );
+}
+
+TEST( Interfaces, haveTheirMtuOnceAStandbySliceBecomesActive ) {
+   EXPECT_EQ( told( scenarioOf(
+                 1, R"("shared/sliceSmStateData": {"smMode": 1})", set( "shared/sliceSmStateData", "smMode", "2" ) ) ),
+              "  1 served, active: Ethernet1\n"
+              "  1 with MTU synced: Ethernet1 1500\n" );
+}
+
+TEST( Interfaces, areToldOneByOneWithTheirAddresses ) {
+   Command const l3sm( "run s.json --interfaces", { { "s.json", scenarioOf( 12, "", "" ) } } );
+   EXPECT_NE( l3sm.output.find( "  Ethernet12  served  MTU 1500 synced\n"
+                                "      status: MTU 1500, at most 9236; address 00:00:00:00:00:00, routed " ),
+              std::string::npos )
+      << l3sm.output;
+}
+
 TEST( Interfaces, areNamedInTheirOrderWhereTheyAreFewAndElseCounted ) {
    EXPECT_EQ( told( scenarioOf( 12, "", "" ) ),
               "  12 served, active: Ethernet1, Ethernet2, Ethernet3, Ethernet4, Ethernet5, Ethernet6, Ethernet7, "
-              "Ethernet8, ... and 4 more\n"
+              "Ethernet8, and 4 more\n"
               "  12 with MTU synced: Ethernet1 1500, Ethernet2 1500, Ethernet3 1500, Ethernet4 1500, Ethernet5 1500, "
-              "Ethernet6 1500, Ethernet7 1500, Ethernet8 1500, ... and 4 more\n" );
+              "Ethernet6 1500, Ethernet7 1500, Ethernet8 1500, and 4 more\n" );
 }
 
 } // namespace

@@ -53,8 +53,8 @@ TEST( TogglesGolden, areThoseOfTheSources ) {
 // What a run reads is in the list, with the default that the plug-in has asked with.
 TEST( Toggles, haveThoseThatRunsRead ) {
    std::set< std::string > read;
-   for ( auto const & example : std::filesystem::directory_iterator( L3SM_SOURCE_DIR "/examples" ) ) {
-      Command const l3sm( "run --json '" + example.path().string() + "'" );
+   for ( auto const & example : exampleScenarios() ) {
+      Command const l3sm( "run --json '" + example.string() + "'" );
       auto const run = Inspection::parseJson( l3sm.output, "run" );
       for ( auto const & reading : *run.object()->at( "toggles" ).list() ) {
          auto const & file = *reading.object()->at( "file" ).text();

@@ -9,6 +9,7 @@
 #include <filesystem>
 #include <fstream>
 #include <map>
+#include <set>
 #include <sstream>
 #include <string>
 #include <sys/wait.h>
@@ -17,6 +18,17 @@ inline std::string contentsOf( std::filesystem::path const & path ) {
    std::ostringstream text;
    text << std::ifstream( path ).rdbuf();
    return text.str();
+}
+
+// The scenarios among the examples of the tree, in the order of their names.
+inline std::set< std::filesystem::path > exampleScenarios() {
+   std::set< std::filesystem::path > all;
+   for ( auto const & example : std::filesystem::directory_iterator( L3SM_SOURCE_DIR "/examples" ) ) {
+      if ( example.path().extension() == ".json" ) {
+         all.insert( example.path() );
+      }
+   }
+   return all;
 }
 
 class Command {

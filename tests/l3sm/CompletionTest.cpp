@@ -37,12 +37,12 @@ Names const & verbs() {
 }
 
 Names optionsOf( std::string const & verb ) {
-   return matches( helpOf( verb ), "^  (?:-h,)?(--[a-z-]+)" );
+   return matches( helpOf( verb ), "^  (?:-[a-z],)?(--[a-z-]+)" );
 }
 
 // Those that take a value.
 Names valuesOf( std::string const & verb ) {
-   return matches( helpOf( verb ), "^  (--[a-z-]+) [A-Z]" );
+   return matches( helpOf( verb ), "^  (?:-[a-z],)?(--[a-z-]+) [A-Z]" );
 }
 
 // What is offered for the last of the words.
@@ -61,7 +61,7 @@ Names completions( std::string const & words, Command::Files const & files = {} 
 TEST( Completion, offersEveryVerb ) {
    Names expected = verbs();
    EXPECT_GE( expected.size(), 9u );
-   expected.insert( "--help" );
+   expected.insert( { "--help", "--version" } );
    EXPECT_EQ( completions( "l3sm ''" ), expected );
    EXPECT_EQ( completions( "l3sm ca" ), Names{ "catalogue" } );
 }
@@ -121,7 +121,7 @@ std::map< std::string, std::string > manualByVerb() {
 
 TEST( Manual, hasEveryVerbAndItsOptions ) {
    auto const said = manualByVerb();
-   Names const common{ "--help", "--json" }; // said once, of all
+   Names const common{ "--help", "--json", "--no-pager" }; // said once, of all
    for ( std::string const & verb : verbs() ) {
       ASSERT_TRUE( said.contains( verb ) ) << verb;
       Names known = matches( said.at( verb ), "(--[a-z]+(?:-[a-z]+)*)" );

@@ -5,6 +5,7 @@
 #include "inspection/files/Json.h"
 
 #include <gtest/gtest.h>
+#include <regex>
 
 namespace {
 
@@ -18,12 +19,15 @@ Value const & at( Value const & value, std::vector< std::string > const & keys )
    return *part;
 }
 
-// The rows of a journal.
-std::vector< Value > rowsOf( std::string const & journal ) {
+// The driver operations of a journal.
+std::vector< Value > operationsOf( std::string const & journal ) {
    std::vector< Value > rows;
    std::istringstream in( journal );
    for ( std::string line; std::getline( in, line ); ) {
-      rows.push_back( Inspection::parseJson( line, "journal" ) );
+      auto row = Inspection::parseJson( line, "journal" );
+      if ( row.object()->contains( "seq" ) ) {
+         rows.push_back( std::move( row ) );
+      }
    }
    return rows;
 }
@@ -41,32 +45,27 @@ TEST( Run, playsTheBuiltInExampleAndTellsWhatWasProgrammedByWhom ) {
                                          "  FAP 0  Fap3/0  BCM88690_B0, major 5, SDK 7, 2 cores  served\n"
                                          "  FAP 1  Fap3/1  BCM88850_A0, major 8, SDK 7, 2 cores  served\n" ) )
       << l3sm.output;
-   EXPECT_NE( l3sm.output.find( "  ArmOrderedSwTable (Dace.json) off\n" ), std::string::npos );
+   EXPECT_NE( l3sm.output.find( "  Toggles that were read: ArmOrderedSwTable (Dace.json) off, " ), std::string::npos );
    EXPECT_NE( l3sm.output.find( "Event 1: set routing/hardware/config urpfLooseFailForward = true\n"
-                                "  FAP 0: 1 read, 1 write, 1 of them with a change, 0 controls\n"
-                                "    L3Sm::handleUrpfFailFwdConfig  routing/hardware/config urpfLooseFailForward\n"
+                                "  2 reads, 2 writes (2 with a change)\n"
+                                "  FAPs 0-1, each\n"
+                                "    L3Sm::handleUrpfFailFwdConfig\n"
                                 "      IppdFerTrapCfg  array 3  L3SmUrpf.cpp:" ),
               std::string::npos );
    EXPECT_NE( l3sm.output.find( "        cpuStrengthN  0x5 -> 0x0\n"
-                                "        snoopStrengthN  0x0 -> 0x5\n"
-                                "        unchanged: cpuSnoopCodeN 0x123\n" ),
+                                "        snoopStrengthN  0x0 -> 0x5\n\n" ),
               std::string::npos );
 }
 
 TEST( Run, saysWhatKeepsAFapFromBeingServedAndHowToOpenTheGate ) {
    Command const l3sm( "run s.json --toggle Dace.json:ArmOrderedSwTable=on", { { "s.json", scenarioWith( "" ) } } );
    EXPECT_EQ( l3sm.status, 0 );
-   EXPECT_NE( l3sm.output.find( "NOT SERVED: FAP type 3 is not served while the toggles ArmOrderedSwTable and "
-                                "J2DaceL3Ni are on; --toggle Dace.json:ArmOrderedSwTable=off opens it, as does "
-                                "DaceToggles.json:J2DaceL3Ni=off\n" ),
+   std::string const words = std::regex_replace( l3sm.output, std::regex( "\\s+" ), " " );
+   EXPECT_NE( words.find( "NOT SERVED: FAP type 3 is not served while the toggles ArmOrderedSwTable and "
+                          "J2DaceL3Ni are on; --toggle Dace.json:ArmOrderedSwTable=off opens it, as does "
+                          "DaceToggles.json:J2DaceL3Ni=off " ),
               std::string::npos )
       << l3sm.output;
-}
-
-TEST( Run, saysWhichToggleNothingHasRead ) {
-   Command const l3sm( "run --toggle Dace.json:NoSuchToggle=off" );
-   EXPECT_EQ( l3sm.status, 0 );
-   EXPECT_NE( l3sm.output.find( "  NoSuchToggle (Dace.json) off, but nothing has read it\n" ), std::string::npos );
 }
 
 TEST( Run, quietPrintsNothing ) {
@@ -124,14 +123,14 @@ TEST( Run, putsContentsOfTheScenarioOnTopOfTheBootImageInAllCopiesOrInEach ) {
 }
 
 TEST( Run, tellsAFieldThatIsRepeatedOnce ) {
-   Command const l3sm( "run" );
+   Command const l3sm( "run --event 0" );
    EXPECT_NE( l3sm.output.find( "        csProfile1-127  various -> 0x0\n" ), std::string::npos );
    EXPECT_EQ( l3sm.output.find( "        csProfile2  " ), std::string::npos );
 }
 
 TEST( Run, journalsEveryOperationWithItsOriginAndCause ) {
    Command const l3sm( "run --quiet --journal journal.jsonl" );
-   auto const rows = rowsOf( l3sm.file( "journal.jsonl" ) );
+   auto const rows = operationsOf( l3sm.file( "journal.jsonl" ) );
    ASSERT_GT( rows.size(), 50u );
    for ( std::size_t index = 0; index < rows.size(); ++index ) {
       EXPECT_EQ( rows[index].object()->at( "seq" ), Value( index + 1 ) );
@@ -157,19 +156,6 @@ TEST( Run, journalsEveryOperationWithItsOriginAndCause ) {
    EXPECT_EQ( text( last, "function" ), "L3Sm::handleUrpfFailFwdConfig" );
    EXPECT_TRUE( text( last, "source" ).starts_with( "L3SmUrpf.cpp:" ) );
    EXPECT_EQ( text( last, "cause" ), "routing/hardware/config urpfLooseFailForward" );
-}
-
-TEST( Run, completesTheJournalAlsoWhenThePluginFails ) {
-   Command const l3sm( "run s.json --journal journal.jsonl --chips chips.json",
-                       { { "s.json", scenarioWith( R"(, "state": {"shared/sliceSmStateData": {"smMode": 0}})" ) } } );
-   EXPECT_EQ( l3sm.status, 128 + SIGABRT );
-   EXPECT_NE( l3sm.errors.find( "Assertion `sliceSmState()->smMode() != Hardware::Dace::smModeNull()' failed.\n" ),
-              std::string::npos )
-      << l3sm.errors;
-   auto const rows = rowsOf( l3sm.file( "journal.jsonl" ) );
-   ASSERT_FALSE( rows.empty() );
-   EXPECT_EQ( text( rows.back(), "cause" ), "chip-init" );
-   EXPECT_FALSE( l3sm.wrote( "chips.json" ) );
 }
 
 TEST( Run, writesTheStateAtTheEnd ) {
@@ -212,9 +198,9 @@ TEST( Run, isTheSameAtEveryTime ) {
 }
 
 TEST( Run, playsEveryExampleOfTheTree ) {
-   for ( auto const & entry : std::filesystem::directory_iterator( L3SM_SOURCE_DIR "/examples" ) ) {
-      Command const l3sm( "run --quiet '" + entry.path().string() + "'" );
-      EXPECT_EQ( l3sm.status, 0 ) << entry.path() << l3sm.errors;
+   for ( auto const & example : exampleScenarios() ) {
+      Command const l3sm( "run --quiet '" + example.string() + "'" );
+      EXPECT_EQ( l3sm.status, 0 ) << example << l3sm.errors;
    }
 }
 

@@ -47,8 +47,8 @@ class Session {
  public:
    Session() : folder_( fs::temp_directory_path() / ( "l3sm-transcript-" + std::to_string( ::getpid() ) ) ) {
       fs::create_directories( folder_ );
-      for ( auto const & example : fs::directory_iterator( source / "examples" ) ) {
-         fs::copy_file( example.path(), folder_ / example.path().filename() );
+      for ( auto const & example : exampleScenarios() ) {
+         fs::copy_file( example, folder_ / example.filename() );
       }
    }
    ~Session() { fs::remove_all( folder_ ); }

@@ -60,17 +60,33 @@ TEST( Entity, ValueRoundTrip ) {
    EXPECT_EQ( from->value(), value );
 }
 
-TEST( Entity, WrongAttributeIsRefusedWithItsPlaceAndANearName ) {
+TEST( Entity, WhatIsWrongIsToldTogetherWithItsPlaces ) {
    auto const dir = Corvo::makePtr< Interface::AllEthPhyIntfConfigDir >();
    Rex::Value const value = Rex::Value::Object{
-      { "intfConfig", Rex::Value::Object{ { "Ethernet1", Rex::Value::Object{ { "enabld", true } } } } } };
+      { "intfConfig",
+        Rex::Value::Object{ { "Ethernet1", Rex::Value::Object{ { "enabld", true }, { "mtu", "big" }, { "speed", 1 } } },
+                            { "Ethernet2", true } } },
+      { "more", 1 } };
    try {
       dir->attributesIs( value );
       FAIL();
    } catch ( Rex::ValueError const & error ) {
-      EXPECT_EQ( error.place(), "/intfConfig/Ethernet1/enabld" );
-      EXPECT_STREQ( error.what(),
-                    "Interface::EthPhyIntfConfig has no attribute \"enabld\"; did you mean \"enabled\"?" );
+      std::string all;
+      for ( auto const & fault : error.faults() ) {
+         all += fault.place + ( fault.isKey ? " (the key): " : ": " ) + fault.text + "\n";
+      }
+      std::string const has = "t has enabled, mtu, addr\n";
+      EXPECT_EQ(
+         all,
+         "/intfConfig/Ethernet1/enabld (the key): Interface::EthPhyIntfConfig has no attribute \"enabld\"; did "
+         "you mean \"enabled\"? I" +
+            has +
+            "/intfConfig/Ethernet1/mtu: expected a number from 0 to 4294967295, got \"big\"\n"
+            "/intfConfig/Ethernet1/speed (the key): Interface::EthPhyIntfConfig has no attribute \"speed\"; i" +
+            has +
+            "/intfConfig/Ethernet2: expected an object, got true\n"
+            "/more (the key): Interface::AllEthPhyIntfConfigDir has no attribute \"more\"; it has intfConfig\n" );
+      EXPECT_STREQ( error.what(), error.faults().front().text.c_str() );
    }
    EXPECT_TRUE( dir->intfConfig().empty() );
 }

@@ -1,4 +1,5 @@
 #include "constants/FapRevision.h"
+#include "state/CellStatus.h"
 
 #include <gtest/gtest.h>
 #include <map>
@@ -53,6 +54,28 @@ TEST( FapRevision, holdsMajorChipAndSdk ) {
    EXPECT_EQ( revision.sdkVersion(), 6u );
    EXPECT_EQ( revision, ( FapRevision{ 9, ChipType::BCM88859_A2, 6 } ) );
    EXPECT_NE( revision, ( FapRevision{ 8, ChipType::BCM88859_A2, 6 } ) );
+}
+
+TEST( FapRevision, isReadWithTheChipsOwnMajorAndTheNewestSdkWhereTheyAreLeftOut ) {
+   using Codec = Rex::Codec< FapRevision >;
+   for ( auto const chipType : Hardware::allChipTypes ) {
+      Rex::Value::Object value{ { "chipType", Hardware::chipTypeName( chipType ) } };
+      EXPECT_EQ( Codec::fromValue( value ), FapRevision( fapRevMajorOf( chipType ), chipType, 7 ) );
+      value["major"] = 3;
+      value["sdkVersion"] = 6;
+      EXPECT_EQ( Codec::fromValue( value ), FapRevision( 3, chipType, 6 ) );
+   }
+   EXPECT_THROW( Codec::fromValue( Rex::Value::Object{ { "major", 5 } } ), Rex::ValueError );
+}
+
+// Which chips have a second element of the in-LIF flags is told by the number alone.
+TEST( FapRevision, isEightOrNineOnTheChipsWithTwoElements ) {
+   for ( auto const chipType : Hardware::allChipTypes ) {
+      auto const major = fapRevMajorOf( chipType );
+      bool const hasTwo = chipType == ChipType::BCM88850_A0 || chipType == ChipType::BCM88859_A2;
+      EXPECT_EQ( major == 8 || major == 9, hasTwo ) << chipType;
+   }
+   EXPECT_EQ( fapRevMajorOf( ChipType{ 13 } ), 0u );
 }
 
 } // namespace

@@ -1,3 +1,4 @@
+#include "rex/Value.h"
 #include "simulator/ChipContents.h"
 #include "simulator/BootImage.h"
 #include "simulator/TableMap.h"
@@ -16,10 +17,13 @@ struct ChipContentsTest : testing::Test {
    // What is said of contents that don't fit.
    std::string refusal( TablesContents const & tables ) {
       try {
-         apply( tables, chip, chipType, "/chips/0" );
-      } catch ( ContentsError const & error ) {
-         EXPECT_EQ( std::string( error.what() ).find( error.place() ), 0u );
-         return error.what();
+         apply( tables, chip, chipType );
+      } catch ( Rex::ValueError const & error ) {
+         std::string all;
+         for ( auto const & fault : error.faults() ) {
+            all += ( all.empty() ? "" : "\n" ) + fault.place + ( fault.isKey ? "#: " : ": " ) + fault.text;
+         }
+         return all;
       }
       return "none";
    }
@@ -77,29 +81,40 @@ TEST_F( ChipContentsTest, areKeyedByTheIndicesThatCallersUse ) {
 
 TEST_F( ChipContentsTest, thatDoNotFitAreRefusedWithTheirPlace ) {
    EXPECT_EQ( refusal( one( "IppdFerTrap", 0, 3, 0, { { { 1 } } } ) ),
-              "/chips/0/IppdFerTrap: no table has this name; `l3sm catalogue` lists them" );
+              "/IppdFerTrap#: no table has this name; did you mean \"IppdFerTrapCfg\"?" );
    EXPECT_EQ( refusal( one( "a/b~", 0, 3, 0, { { { 1 } } } ) ),
-              "/chips/0/a~1b~0: no table has this name; `l3sm catalogue` lists them" );
+              "/a~1b~0#: no table has this name; `l3sm catalogue` lists them" );
    EXPECT_EQ( refusal( one( "FfcInstruction", 0, 0, 0, { { { 1 } } } ) ),
-              "/chips/0/FfcInstruction: this is a format, which has no memory of its own" );
+              "/FfcInstruction#: this is a format, which has no memory of its own" );
    EXPECT_EQ( refusal( one( "IppdInLifProfileMap", 0, 0, 0, { { { 1 } } } ) ),
-              "/chips/0/IppdInLifProfileMap: the BCM88690_B0 has no such table" );
+              "/IppdInLifProfileMap#: the BCM88690_B0 has no such table" );
    EXPECT_EQ( refusal( one( "IppdFerTrapCfg", 1, 3, 0, { { { 1 } } } ) ),
-              "/chips/0/IppdFerTrapCfg/1: no such variant; there is only 0" );
+              "/IppdFerTrapCfg/1#: no such variant; there is only 0" );
    EXPECT_EQ( refusal( one( "IppdFerTrapCfg", 0, 8, 0, { { { 1 } } } ) ),
-              "/chips/0/IppdFerTrapCfg/0/8: no such array index; there is 0 to 7" );
+              "/IppdFerTrapCfg/0/8#: no such array index; there is 0 to 7" );
    EXPECT_EQ( refusal( one( "EnablersVectors", 1, 2, 0, { { { 1, 0 } } } ) ),
-              "/chips/0/EnablersVectors/1/2: no such array index; there is 3 to 4" );
+              "/EnablersVectors/1/2#: no such array index; there is 3 to 4" );
    EXPECT_EQ( refusal( one( "IppdFerTrapCfg", 0, 3, 1, { { { 1 } } } ) ),
-              "/chips/0/IppdFerTrapCfg/0/3/1: no such entry; there is only 0" );
+              "/IppdFerTrapCfg/0/3/1#: no such entry; there is only 0" );
    EXPECT_EQ( refusal( one( "EnablersVectors", 1, 3, 32, { { { 1, 0 } } } ) ),
-              "/chips/0/EnablersVectors/1/3/32: no such entry; there is 0 to 31" );
+              "/EnablersVectors/1/3/32#: no such entry; there is 0 to 31" );
    EXPECT_EQ( refusal( one( "EnablersVectors", 1, 3, 31, { { { 1 } } } ) ),
-              "/chips/0/EnablersVectors/1/3/31/words: an entry has 2 words, not 1" );
+              "/EnablersVectors/1/3/31/words: an entry has 2 words, not 1" );
    EXPECT_EQ( refusal( one( "EnablersVectors", 1, 3, 31, { { { 1, 2 }, { 1 } } } ) ),
-              "/chips/0/EnablersVectors/1/3/31/instances/1: an entry has 2 words, not 1" );
+              "/EnablersVectors/1/3/31/instances/1: an entry has 2 words, not 1" );
    EXPECT_EQ( refusal( one( "EnablersVectors", 1, 3, 31, { { { 1, 2 }, { 1, 2 }, { 1, 2 } } } ) ),
-              "/chips/0/EnablersVectors/1/3/31/instances: the table has 2 instances, not 3" );
+              "/EnablersVectors/1/3/31/instances: the table has 2 instances, not 3" );
+}
+
+TEST_F( ChipContentsTest, thatDoNotFitInSeveralPlacesAreToldTogether ) {
+   auto tables = one( "EnablersVectors", 1, 3, 32, { { { 1, 0 } } } );
+   tables["EnablersVectors"][1][2][0] = { { { 1, 0 } } };
+   tables["EnablersVectors"][1][3][0] = { { { 1, 0 } } };
+   tables.merge( one( "Nothing", 0, 0, 0, { { { 1 } } } ) );
+   EXPECT_EQ( refusal( tables ),
+              "/EnablersVectors/1/2#: no such array index; there is 3 to 4\n"
+              "/EnablersVectors/1/3/32#: no such entry; there is 0 to 31\n"
+              "/Nothing#: no table has this name; `l3sm catalogue` lists them" );
 }
 
 TEST_F( ChipContentsTest, thatDoNotFitLeaveTheChipAsItWas ) {

@@ -123,11 +123,13 @@ TEST( StateTree, saysWhatIsWrongWithAPath ) {
 TEST( StateTree, saysWhatIsWrongWithAnAttribute ) {
    StateTree tree;
    EXPECT_EQ( errorOf( [&] { tree.attributeIs( "evpn/status", "vxlanEnabeld", true ); } ),
-              "/attribute: Evpn::EvpnStatus has no attribute \"vxlanEnabeld\"; did you mean \"vxlanEnabled\"?" );
-   EXPECT_EQ( errorOf( [&] {
-                 tree.attributesIs( "evpn/status", Object{ { "speed", true } } );
-              } ),
-              "/value/speed: Evpn::EvpnStatus has no attribute \"speed\"" );
+              "/attribute: Evpn::EvpnStatus has no attribute \"vxlanEnabeld\"; did you mean \"vxlanEnabled\"? It "
+              "has vxlanEnabled, mplsEnabled, evpnDciEnabled" );
+   EXPECT_EQ(
+      errorOf( [&] {
+         tree.attributesIs( "evpn/status", Object{ { "speed", true } } );
+      } ),
+      "/value/speed: Evpn::EvpnStatus has no attribute \"speed\"; it has vxlanEnabled, mplsEnabled, evpnDciEnabled" );
 }
 
 TEST( StateTree, saysWhatIsWrongWithAKeyOrAValue ) {

@@ -1,0 +1,97 @@
+// The answer of a journal: what it can't know is refused.
+#include "inspection/FunctionTables.h"
+#include "inspection/Why.h"
+#include "rex/Nearest.h"
+
+#include <algorithm>
+
+namespace Inspection {
+
+namespace {
+
+using Kind = WhySubject::Kind;
+
+std::string listed( std::vector< std::string > const & names ) {
+   constexpr std::size_t most = 12;
+   std::string text;
+   for ( std::size_t name = 0; name < std::min( most, names.size() ); ++name ) {
+      text += ( name == 0 ? "" : ", " ) + names[name];
+   }
+   return text + ( names.size() > most ? " and " + std::to_string( names.size() - most ) + " more" : "" );
+}
+
+std::vector< std::string > knownControls() {
+   std::vector< std::string > all;
+   for ( Touch const & touch : knownTouches() ) {
+      constexpr std::string_view prefix = "control.";
+      if ( touch.table.starts_with( prefix ) ) {
+         if ( auto const number = touch.table.substr( prefix.size() ); all.empty() || all.back() != number ) {
+            all.push_back( number );
+         }
+      }
+   }
+   return all;
+}
+
+void checkFap( JournalReader const & journal, WhyReader const & reader, U16 fap ) {
+   auto const & chips = journal.chipTypes();
+   if ( chips.empty() ? reader.hasHeardOf( fap ) : chips.contains( fap ) ) {
+      return;
+   }
+   std::vector< std::string > faps;
+   for ( auto const & chip : chips ) {
+      faps.push_back( std::to_string( chip.first ) );
+   }
+   throw InputError( journal.path(),
+                     "it tells nothing of a FAP " + std::to_string( fap ) +
+                        ( faps.empty() ? "" : "; there is " + listed( faps ) ) );
+}
+
+void checkSubject( JournalReader const & journal,
+                   WhyAnswer const & answer,
+                   std::vector< std::string > const & interfaces ) {
+   WhySubject const & subject = answer.subject;
+   if ( subject.kind == Kind::interface && !( answer.interface && answer.interface->isKnown ) ) {
+      throw InputError( journal.path(),
+                        "it tells nothing of an interface " + subject.name +
+                           ( interfaces.empty() ? "; it tells of none" : "; it tells of " + listed( interfaces ) ) );
+   }
+   if ( answer.isReached ) {
+      return;
+   }
+   if ( subject.kind == Kind::control ) {
+      auto const controls = knownControls();
+      if ( std::ranges::find( controls, std::to_string( subject.control ) ) == controls.end() ) {
+         throw InputError( "nothing is known to set a control " + std::to_string( subject.control ) + "; there is " +
+                           listed( controls ) );
+      }
+   } else if ( subject.kind == Kind::function ) {
+      auto const functions = knownFunctions();
+      if ( std::ranges::find( functions, subject.name ) == functions.end() ) {
+         throw InputError( "no function " + subject.name + " is known, and " + journal.path() + " tells of none" +
+                           Rex::didYouMean( subject.name, functions ) );
+      }
+   }
+}
+
+} // namespace
+
+WhyAnswer whyOf( JournalReader & journal, WhyReader & reader ) {
+   reader.beginsWith( journal.scenario() );
+   Simulator::Ending const ending = journal.read( reader, reader.rows() );
+   if ( reader.filter().fap ) {
+      checkFap( journal, reader, *reader.filter().fap );
+   }
+   if ( auto const event = reader.filter().event; event && *event > ending.events ) {
+      throw InputError( journal.path(),
+                        "there is no event " + std::to_string( *event ) + "; the last is " +
+                           std::to_string( ending.events ) );
+   }
+   auto const interfaces = reader.interfaces();
+   WhyAnswer answer = reader.take();
+   answer.remarks = journal.remarks();
+   checkSubject( journal, answer, interfaces );
+   return answer;
+}
+
+} // namespace Inspection

@@ -1,0 +1,240 @@
+#include "inspection/WhySubject.h"
+
+#include "inspection/FunctionTables.h"
+#include "inspection/GateReach.h"
+#include "inspection/Toggles.h"
+#include "inspection/files/InputError.h"
+#include "rex/Entity.h"
+#include "rex/Nearest.h"
+#include "simulator/StateTree.h"
+
+#include <algorithm>
+#include <cctype>
+#include <set>
+#include <sstream>
+
+namespace Inspection {
+
+namespace {
+
+constexpr std::string_view managedPaths[] = { "managed/intfStatusDir", "managed/intfStatusLocalDir" };
+
+bool isLetter( char letter ) {
+   return std::isalpha( static_cast< unsigned char >( letter ) );
+}
+bool isDigit( char letter ) {
+   return std::isdigit( static_cast< unsigned char >( letter ) );
+}
+
+// "Ethernet1", "Ethernet3/1/2", "Ethernet1.1", "Port-Channel7"
+bool isInterfaceName( std::string_view name ) {
+   auto const digit = std::ranges::find_if( name, isDigit );
+   bool const hasWord = !name.empty() && std::isupper( static_cast< unsigned char >( name.front() ) ) &&
+                        std::all_of( name.begin(), digit, []( char it ) { return isLetter( it ) || it == '-'; } );
+   return hasWord && digit != name.end() && isDigit( name.back() ) &&
+          std::all_of( digit, name.end(), []( char it ) { return isDigit( it ) || it == '/' || it == '.'; } );
+}
+
+bool isBelow( std::string_view path, std::string_view root ) {
+   return path.starts_with( root ) && ( path.size() == root.size() || path[root.size()] == '/' );
+}
+
+std::string lastPart( std::string const & name ) {
+   auto const at = name.rfind( "::" );
+   return at == std::string::npos ? name : name.substr( at + 2 );
+}
+
+// Splits "PATH.ATTRIBUTE[KEY]" or "PATH ATTRIBUTE[KEY]"; an attribute begins with a small letter, so that the dot of
+// "…/Ethernet1.1" is one of the path.
+WhySubject stateAsTyped( std::string typed ) {
+   WhySubject subject{ .kind = WhySubject::Kind::state };
+   if ( auto const bracket = typed.rfind( '[' ); bracket != std::string::npos && typed.back() == ']' ) {
+      subject.key = typed.substr( bracket + 1, typed.size() - bracket - 2 );
+      typed.resize( bracket );
+   }
+   auto const at = typed.find_last_of( ". " );
+   bool const isAttribute = at != std::string::npos && at + 1 < typed.size() && at > typed.rfind( '/' ) &&
+                            std::islower( static_cast< unsigned char >( typed[at + 1] ) );
+   subject.path = typed.substr( 0, isAttribute ? at : std::string::npos );
+   subject.attribute = isAttribute ? typed.substr( at + 1 ) : "";
+   while ( subject.path.ends_with( '/' ) ) {
+      subject.path.pop_back();
+   }
+   return subject;
+}
+
+// Throws unless the path can be, and its type has the attribute.
+void checkState( WhySubject const & subject ) {
+   if ( std::ranges::any_of( managedPaths, [&]( auto root ) { return isBelow( subject.path, root ); } ) ) {
+      return;
+   }
+   std::string root;
+   std::vector< std::string > roots{ std::begin( managedPaths ), std::end( managedPaths ) };
+   for ( auto const & it : Simulator::stateRoots() ) {
+      roots.push_back( it.path() );
+      if ( isBelow( subject.path, it.path() ) && it.path().size() > root.size() ) {
+         root = it.path();
+      }
+   }
+   bool const isAbove = std::ranges::any_of( roots, [&]( auto const & it ) { return isBelow( it, subject.path ); } );
+   if ( root.empty() && isAbove && subject.attribute.empty() ) {
+      return;
+   }
+   if ( root.empty() ) {
+      throw InputError( "the state has no path \"" + subject.path + "\"" + Rex::didYouMean( subject.path, roots ) );
+   }
+   try {
+      // The entities on the way are made: the path needs only be one that can be.
+      Simulator::StateTree tree;
+      auto const there = [&]( std::string const & path ) -> Corvo::Ptr< Rex::Entity > {
+         try {
+            return tree.entity( path );
+         } catch ( Rex::ValueError const & ) {
+            return {};
+         }
+      };
+      std::string path = root;
+      std::istringstream steps( subject.path.size() > root.size() ? subject.path.substr( root.size() + 1 ) : "" );
+      for ( std::string step, key; std::getline( steps, step, '/' ); ) {
+         auto const entity = there( path );
+         if ( !there( path + "/" + step ) && entity && entity->typeData().attribute( step ) ) {
+            tree.attributeIs( path, step, Rex::Value::Object() );
+         }
+         if ( there( path + "/" + step ) ) {
+            path += "/" + step;
+         } else if ( std::getline( steps, key, '/' ) ) {
+            tree.entryIs( path, step, key, Rex::Value::Object() );
+            path += "/" + step + "/" + key;
+         } else if ( entity ) {
+            Rex::attributeOf( entity->typeData(), step ); // a collection, named without an entry
+            return;
+         }
+      }
+      auto const entity = there( path );
+      if ( entity && !subject.attribute.empty() ) {
+         Rex::attributeOf( entity->typeData(), subject.attribute );
+      }
+   } catch ( Rex::ValueError const & error ) {
+      throw InputError( "\"" + subject.text() + "\": " + error.what() );
+   }
+}
+
+WhySubject functionAsTyped( std::string const & typed ) {
+   return { .kind = WhySubject::Kind::function, .name = typed };
+}
+
+} // namespace
+
+std::vector< std::string > knownFunctions() {
+   std::set< std::string > all;
+   for ( Touch const & touch : knownTouches() ) {
+      all.insert( touch.function );
+   }
+   for ( GateReach const & gate : knownGateReach() ) {
+      for ( std::string_view const function : behindGatesOf( gate.function ) ) {
+         all.emplace( function );
+      }
+   }
+   for ( KnownToggle const & toggle : knownToggles() ) {
+      std::istringstream readers{ std::string( toggle.readers ) };
+      for ( std::string name; readers >> name; ) {
+         all.insert( name );
+      }
+   }
+   return { all.begin(), all.end() };
+}
+
+std::string WhySubject::text() const {
+   switch ( kind ) {
+   case Kind::part:
+      return part.text();
+   case Kind::control:
+      return "control." + std::to_string( control );
+   case Kind::state:
+      return path + ( attribute.empty() ? "" : "." + attribute ) + ( key ? "[" + *key + "]" : "" );
+   case Kind::function:
+   case Kind::interface:
+      break;
+   }
+   return name;
+}
+
+bool WhySubject::isState( std::string_view ofPath,
+                          std::string_view ofAttribute,
+                          std::optional< std::string_view > ofKey ) const {
+   if ( attribute.empty() ) {
+      // A change of a collection tells of its entries, which have paths of their own.
+      std::string const whole =
+         std::string( ofPath ) + "/" + std::string( ofAttribute ) + ( ofKey ? "/" + std::string( *ofKey ) : "" );
+      return isBelow( ofPath, path ) || isBelow( whole, path );
+   }
+   return ofPath == path && ofAttribute == attribute && ( !key || !ofKey || *key == *ofKey );
+}
+
+std::optional< Rex::Value > WhySubject::valueAtStart( Rex::Value const & scenario ) const {
+   auto const member = []( Rex::Value const * of, std::string const & step ) -> Rex::Value const * {
+      auto const * const object = of ? of->object() : nullptr;
+      auto const found = object ? object->find( step ) : Rex::Value::Object::const_iterator();
+      return object && found != object->end() ? &found->second : nullptr;
+   };
+   if ( auto const * const told = member( member( member( &scenario, "state" ), path ), attribute ) ) {
+      return *told;
+   }
+   try {
+      auto const entity = Simulator::StateTree().entity( path );
+      Rex::Value const all = entity ? entity->value() : Rex::Value();
+      auto const * const value = member( &all, attribute );
+      return value ? std::optional( *value ) : std::nullopt;
+   } catch ( Rex::ValueError const & ) {
+      return std::nullopt; // what stands there is made by the run
+   }
+}
+
+WhySubject whySubjectOf( std::string const & typed ) {
+   constexpr std::string_view controlPrefix = "control.";
+   if ( typed.starts_with( controlPrefix ) ) {
+      try {
+         return { .kind = WhySubject::Kind::control,
+                  .control = Rex::Codec< U32 >::fromKey( typed.substr( controlPrefix.size() ) ) };
+      } catch ( Rex::ValueError const & ) {
+         throw InputError( "\"" + typed + "\" is no control; say it as in control.64" );
+      }
+   }
+   std::string const head = typed.substr( 0, typed.find_first_of( ".:" ) );
+   bool const isPart = Catalogue::table( head ) || !tablesWithField( head ).empty();
+   if ( !isPart && isInterfaceName( typed ) ) {
+      return { .kind = WhySubject::Kind::interface, .name = typed };
+   }
+   if ( typed.find_first_of( "/ " ) != std::string::npos ) {
+      auto subject = stateAsTyped( typed );
+      checkState( subject );
+      return subject;
+   }
+   auto const functions = knownFunctions();
+   if ( typed.find( "::" ) != std::string::npos ) {
+      return functionAsTyped( typed );
+   }
+   std::vector< std::string > alike;
+   std::ranges::copy_if(
+      functions, std::back_inserter( alike ), [&]( auto const & it ) { return lastPart( it ) == typed; } );
+   if ( !isPart && alike.size() == 1 ) {
+      return functionAsTyped( alike.front() );
+   }
+   if ( !isPart && alike.size() > 1 ) {
+      throw InputError( "\"" + typed + "\" is a function of several classes; say which, as in " + alike.front() );
+   }
+   if ( !isPart && typed.find( '.' ) == std::string::npos ) {
+      std::vector< std::string > names;
+      for ( auto const & table : Catalogue::tables() ) {
+         names.emplace_back( table.name );
+      }
+      std::ranges::transform( functions, std::back_inserter( names ), lastPart );
+      if ( std::string const near = Rex::nearest( head, names ); near.empty() || !Catalogue::table( near ) ) {
+         throw InputError( "\"" + typed + "\" is no table, field, control.N, path of the state, function or interface" +
+                           Rex::didYouMean( head, names ) );
+      }
+   }
+   return { .part = partNamed( typed ) };
+}
+
+} // namespace Inspection

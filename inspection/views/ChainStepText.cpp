@@ -1,0 +1,191 @@
+#include "inspection/views/ChainStepText.h"
+
+#include "inspection/FoldedWrites.h"
+#include "inspection/NamesAsTyped.h"
+#include "inspection/files/Json.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace Inspection {
+
+namespace {
+
+using Simulator::Row;
+
+constexpr std::size_t mostFields = 4; // of one write
+constexpr std::size_t mostPlaces = 2; // likewise
+constexpr U32 wide = 32;              // a field of more bits tells which of them differ
+
+// The places of one FAP: "[3] 0-31, [4] 7"; arrays with the same entries stand together.
+std::string arraysText( ChainStep const & step, ChainStep::Arrays const & arrays ) {
+   std::vector< std::pair< ChainStep::Entries, std::vector< U32 > > > byEntries;
+   for ( auto const & [array, entries] : arrays ) {
+      auto found = std::ranges::find( byEntries, entries, []( auto const & it ) { return it.first; } );
+      if ( found == byEntries.end() ) {
+         found = byEntries.insert( found, { entries, {} } );
+      }
+      found->second.push_back( array );
+   }
+   std::string text;
+   for ( auto const & [entries, numbers] : byEntries ) {
+      std::string one = step.isArrayed ? "[" + ranges( numbers ) + "]" : "";
+      if ( step.isMemory ) {
+         one += ( one.empty() ? "" : " " ) + ranges( { entries.begin(), entries.end() } );
+      }
+      text += ( text.empty() || one.empty() ? "" : ", " ) + one;
+   }
+   return text;
+}
+
+// FAPs with the same places stand together.
+std::vector< std::string > placeLines( ChainStep const & step, Style const & style ) {
+   std::vector< std::pair< std::string, std::set< U16 > > > byPlaces;
+   for ( auto const & [fap, arrays] : step.places ) {
+      std::string const text = arraysText( step, arrays );
+      auto found = std::ranges::find( byPlaces, text, []( auto const & it ) { return it.first; } );
+      if ( found == byPlaces.end() ) {
+         found = byPlaces.insert( found, { text, {} } );
+      }
+      found->second.insert( fap );
+   }
+   std::string const variant =
+      step.table && hasVariants( *step.table ) ? "  variant " + std::to_string( step.variant ) : "";
+   std::vector< std::string > lines;
+   for ( auto const & [places, faps] : byPlaces ) {
+      std::string const where = fitting( places, lineWidth() / 3 );
+      lines.push_back( fapsText( faps ) + variant + ( where.empty() ? "" : "  " + style.place( where ) ) +
+                       ( step.core ? "  core " + std::to_string( *step.core ) : "" ) );
+   }
+   return lines;
+}
+
+// "bits 3 17-20 set, 5 cleared"
+std::string bitsThatDiffer( std::string const & before, std::string const & after, U32 width ) {
+   std::vector< U32 > set;
+   std::vector< U32 > cleared;
+   for ( U32 bit = 0; bit < width; ++bit ) {
+      if ( isBitSet( before, bit ) != isBitSet( after, bit ) ) {
+         ( isBitSet( after, bit ) ? set : cleared ).push_back( bit );
+      }
+   }
+   std::string const first = set.empty() ? "" : ranges( set ) + " set";
+   std::string const second = cleared.empty() ? "" : ranges( cleared ) + " cleared";
+   return ( set.size() + cleared.size() == 1 ? "bit " : "bits " ) + first +
+          ( set.empty() || cleared.empty() ? "" : ", " ) + second;
+}
+
+std::string numberText( std::string const & value ) {
+   return value.starts_with( "0x" ) ? readable( value ) : value;
+}
+
+std::string changeText( ChainStep::Change const & change, Style const & style ) {
+   std::string before;
+   for ( std::string const & one : change.befores ) {
+      before += ( before.empty() ? "" : " or " ) + numberText( one );
+   }
+   before = change.hasMoreBefores ? "various" : before.empty() ? "?" : before;
+   std::string const after = numberText( change.after );
+   std::string const bits = change.width > wide && change.befores.size() == 1 && !change.hasMoreBefores
+                               ? bitsThatDiffer( change.befores.front(), change.after, change.width )
+                               : "";
+   std::string const name = change.name.empty() ? "" : change.name + "  ";
+   if ( bits.empty() || name.size() + before.size() + after.size() + bits.size() < lineWidth() / 2 ) {
+      return name + style.before( fitting( before, lineWidth() / 4 ) ) + style.faint( " → " ) +
+             style.after( fitting( after, lineWidth() / 3 ) ) + ( bits.empty() ? "" : style.faint( "  " + bits ) );
+   }
+   return name + style.differs( fitting( bits, lineWidth() / 2 ) );
+}
+
+std::string valueText( Rex::Value const & value ) {
+   return value.isNull() ? "nothing" : toJson( value, 0 );
+}
+
+} // namespace
+
+// Cuts a text that doesn't fit.
+std::string fitting( std::string const & text, std::size_t width ) {
+   if ( text.size() <= width ) {
+      return text;
+   }
+   std::size_t end = width > 3 ? width - 3 : 0;
+   while ( end > 0 && ( static_cast< unsigned char >( text[end] ) & 0xc0 ) == 0x80 ) {
+      --end; // not within a character
+   }
+   return text.substr( 0, end ) + "...";
+}
+
+void ChainStepText::write( ChainStep const & step, std::string & function ) {
+   if ( step.kind == Row::Kind::publish ) {
+      writePublication( step );
+      function.clear();
+      return;
+   }
+   if ( std::string const now = step.function + step.source; now != function ) {
+      out_ << "  " << step.function << "  " << style_.faint( step.source ) << '\n';
+      function = now;
+   }
+   if ( step.kind == Row::Kind::gate ) {
+      std::string const faps = fapsText( step.faps );
+      std::string const text = "stopped: " + step.reason + ( faps.empty() ? "" : "  " + faps );
+      out_ << "    " << style_.differs( fitting( text, lineWidth() - 4 ) ) << '\n';
+      return;
+   }
+   auto const places = placeLines( step, style_ );
+   if ( bounded_ && places.size() > mostPlaces ) {
+      writeChanges( step, places.front() + "  and on " + counted( step.places.size() - 1, "other FAP", "other FAPs" ) );
+      return;
+   }
+   for ( std::string const & place : places ) {
+      writeChanges( step, place );
+   }
+}
+
+void ChainStepText::writeChanges( ChainStep const & step, std::string const & place ) {
+   std::string head = step.kind == Row::Kind::read ? "reads " : "";
+   if ( step.kind == Row::Kind::control ) {
+      head += "control " + std::to_string( step.control ) + "  ";
+   } else if ( !isOfTable_ ) {
+      head += std::string( step.table->name ) + "  ";
+   }
+   head += place;
+   Columns columns;
+   if ( step.changes.empty() ) {
+      columns.row( { head, step.kind == Row::Kind::write ? "no change" : "" } );
+   }
+   std::size_t fields = 0;
+   for ( ChainStep::Change const & change : step.changes ) {
+      if ( bounded_ && fields == mostFields && step.changes.size() > mostFields + 1 ) {
+         columns.row(
+            { "", style_.faint( "and " + std::to_string( step.changes.size() - fields ) + " more fields" ) } );
+         break;
+      }
+      ++fields;
+      columns.row( { std::exchange( head, {} ), changeText( change, style_ ) } );
+   }
+   columns.print( out_, 4 );
+}
+
+void ChainStepText::writePublication( ChainStep const & step ) {
+   std::string names;
+   for ( std::string const & name : step.names ) {
+      names += ( names.empty() ? "" : " " ) + name;
+   }
+   if ( step.times > step.names.size() ) {
+      names += " and " + std::to_string( step.times - step.names.size() ) + " more";
+   }
+   bool const isWhole = step.before.object() || step.after.object();
+   std::string const change = isWhole ? ( step.after.isNull()    ? "removed"
+                                          : step.before.isNull() ? "added"
+                                                                 : "replaced" )
+                                      : valueText( step.before ) + " → " + valueText( step.after );
+   std::string const text = "publishes " + step.attribute + "  " + fitting( change, lineWidth() / 2 ) + "  ";
+   std::size_t const rest = lineWidth() - std::min( lineWidth() - 3, widthOf( text ) + 2 );
+   names = fitting( names, rest );
+   out_ << "  publishes " << step.attribute << "  " << style_.after( fitting( change, lineWidth() / 2 ) ) << "  "
+        << names
+        << style_.faint( rest > names.size() + 12 ? "  in " + fitting( step.path, rest - names.size() - 5 ) : "" )
+        << '\n';
+}
+
+} // namespace Inspection

@@ -1,0 +1,47 @@
+#include "inspection/views/RestartText.h"
+
+#include "inspection/views/PlanText.h"
+#include "inspection/views/WindowsText.h"
+
+namespace Inspection {
+
+namespace {
+constexpr std::size_t fewWindows = 8;
+}
+
+void showRestart( std::ostream & out, Restart const & restart, bool all, Style const & style ) {
+   PlannedEvent const & start = restart.start();
+   out << style.strong( "A second start" )
+       << " on what the run has left: " << counted( start.operations, "operation", "operations" ) << ", "
+       << counted( start.writes, "write", "writes" ) << ", " << start.changingWrites << " with a change.\n";
+   if ( restart.plan.isEmpty() ) {
+      out << style.after( "Every entry ends as it stood" ) << ": staged, the start would write nothing.\n";
+   } else {
+      out << style.before( counted( start.entries(), "entry ends", "entries end" ) + " as another" )
+          << ( start.controls() ? ", and " + counted( start.controls(), "control", "controls" ) : "" )
+          << ": the chips remember what the state doesn't hold, or the plug-in restores what it doesn't.\n\n";
+      showPlan( out, restart.plan, { .all = all }, style );
+   }
+   if ( restart.windows.empty() ) {
+      out << "No entry is wrong in between.\n";
+      return;
+   }
+   out << '\n'
+       << style.differs( counted( restart.entriesWithWindows(), "entry is", "entries are" ) + " wrong in between" )
+       << ", for as long as the start goes on:\n";
+   showWindows( out, restart.windows, all ? 0 : fewWindows, style );
+}
+
+Rex::Value restartValue( Restart const & restart ) {
+   PlannedEvent const & start = restart.start();
+   return Rex::Value::Object{ { "operations", start.operations },
+                              { "writes", start.writes },
+                              { "changingWrites", start.changingWrites },
+                              { "entriesThatDiffer", start.entries() },
+                              { "controlsThatDiffer", start.controls() },
+                              { "differences", planValue( restart.plan, std::nullopt ) },
+                              { "entriesWrongInBetween", restart.entriesWithWindows() },
+                              { "windows", windowsValue( restart.windows ) } };
+}
+
+} // namespace Inspection

@@ -1,0 +1,247 @@
+#include "inspection/views/WhyText.h"
+
+#include "inspection/ServedFaps.h"
+#include "inspection/files/Json.h"
+#include "inspection/views/ChainStepText.h"
+
+#include <algorithm>
+
+namespace Inspection {
+
+namespace {
+
+using Kind = WhySubject::Kind;
+using Simulator::Ending;
+using Simulator::Row;
+
+constexpr std::size_t mostSteps = 8; // of one event
+constexpr std::size_t mostGates = 4;
+
+class Writer {
+ public:
+   Writer( std::ostream & out, WhyAnswer const & answer, WhyShown shown, Style const & style )
+      : out_( out ), answer_( answer ), bounded_( !shown.everything ), areGatesShown_( shown.otherGates ),
+        style_( style ), stepText_( out, bounded_, answer.subject.kind == Kind::part, style ) {}
+
+   void write() {
+      out_ << style_.title( answer_.subject.text() ) << '\n';
+      if ( std::string const ending = endingText( answer_ ); !ending.empty() ) {
+         out_ << style_.differs( ending ) << '\n';
+      }
+      for ( std::string const & remark : answer_.remarks ) {
+         out_ << style_.differs( printable( remark ) ) << '\n';
+      }
+      if ( answer_.interface ) {
+         writeInterface( *answer_.interface );
+      }
+      if ( answer_.atStart ) {
+         line( "at the start: " + toJson( *answer_.atStart, 0 ), 0 );
+      }
+      writeChain();
+      writeStopped();
+      writeHabits( "Wrote what was there", answer_.unchanged );
+      writeHabits( "Looked at by", answer_.looks );
+      writeIdle();
+      writeOthers();
+   }
+
+ private:
+   void line( std::string const & text, std::size_t indent ) {
+      out_ << std::string( indent, ' ' ) << fitting( text, lineWidth() - indent ) << '\n';
+   }
+   void
+   counted( std::size_t number, char const * one, char const * many, std::string const & remedy, std::size_t indent ) {
+      out_ << std::string( indent, ' ' ) << style_.faint( Inspection::counted( number, one, many ) + "; " + remedy )
+           << '\n';
+   }
+
+   void writeInterface( InterfaceStory const & story ) {
+      std::string const own = story.configuredMtu ? "configured: MTU " + std::to_string( story.configuredMtu )
+                              : story.isConfigured
+                                 ? "configured: no MTU of its own, so the global " + std::to_string( story.globalMtu )
+                                 : "not configured";
+      line( own + ( story.isServed ? "; served" : "; not served" ) + ( story.isActive ? ", active" : ", standby" ) +
+               "; its status has " + ( story.statusMtu ? "the MTU " + std::to_string( *story.statusMtu ) : "no MTU" ),
+            0 );
+      if ( story.hasItsMtu ) {
+         line( "it has the MTU that is configured", 0 );
+      }
+      for ( std::size_t reason = 0; reason < story.reasons.size(); ++reason ) {
+         out_ << style_.differs( fitting( ( reason == 0 ? "its MTU is not synced: " : "and: " ) + story.reasons[reason],
+                                          lineWidth() ) )
+              << '\n';
+      }
+   }
+
+   void writeChain() {
+      if ( answer_.chain.empty() ) {
+         bool const isState = answer_.subject.kind == Kind::state;
+         out_ << '\n'
+              << ( isState                                   ? "No event changed it, and nothing was published there"
+                   : answer_.subject.kind == Kind::function  ? "It did nothing in this run"
+                   : answer_.subject.kind == Kind::interface ? "Nothing was published for it"
+                                                             : "Nothing changed it in this run" )
+              << '\n';
+         return;
+      }
+      for ( ChainEvent const & event : answer_.chain ) {
+         writeEvent( event );
+      }
+      if ( answer_.earlier > 0 ) {
+         out_ << '\n';
+         counted( answer_.earlier, "earlier event", "earlier events", "--last N or --all shows them", 0 );
+      }
+   }
+
+   void writeEvent( ChainEvent const & event ) {
+      std::string const head = "event " + std::to_string( event.event ) + "  ";
+      out_ << '\n'
+           << style_.strong( head ) << fitting( printable( event.input.text() ), lineWidth() - head.size() ) << '\n';
+      if ( event.steps.empty() ) {
+         line( "nothing followed: no write, no publication, no gate", 2 );
+      }
+      std::string cause = event.input.cause();
+      std::string function;
+      std::size_t shown = 0;
+      for ( ChainStep const & step : event.steps ) {
+         if ( bounded_ && shown == mostSteps && event.steps.size() > mostSteps + 1 ) {
+            counted( event.steps.size() - shown,
+                     "more step",
+                     "more steps",
+                     "--event " + std::to_string( event.event ) + " shows all",
+                     4 );
+            break;
+         }
+         ++shown;
+         if ( step.cause != cause ) {
+            line( "on " + step.cause, 2 );
+            cause = step.cause;
+            function.clear();
+         }
+         stepText_.write( step, function );
+      }
+   }
+
+   void writeStopped() {
+      if ( answer_.stopped.empty() ) {
+         return;
+      }
+      out_ << '\n' << style_.strong( "Kept from running" ) << '\n';
+      std::size_t shown = 0;
+      for ( StoppedStep const & gate : answer_.stopped ) {
+         if ( bounded_ && shown == mostGates && answer_.stopped.size() > mostGates + 1 ) {
+            counted( answer_.stopped.size() - shown, "more gate", "more gates", "--all shows them", 2 );
+            break;
+         }
+         ++shown;
+         writeGate( gate );
+      }
+   }
+
+   void writeGate( StoppedStep const & gate ) {
+      bool const isOwnCause = gate.lastInput.find( gate.lastCause ) != std::string::npos;
+      line( "event " + std::to_string( gate.lastEvent ) + "  " + printable( gate.lastInput ) +
+               ( isOwnCause ? "" : ", on " + gate.lastCause ) +
+               ( gate.times > 1 ? "  (" + std::to_string( gate.times ) + " times in all)" : "" ),
+            2 );
+      out_ << "    " << gate.function << "  " << style_.faint( gate.source ) << '\n';
+      std::string const faps = fapsText( gate.faps );
+      out_ << "      " << style_.differs( fitting( "stopped: " + gate.reason, lineWidth() - 6 ) )
+           << ( faps.empty() ? "" : "  " + faps ) << '\n';
+      std::vector< std::string > others;
+      std::ranges::copy_if(
+         gate.kept, std::back_inserter( others ), [&]( auto const & it ) { return it != gate.function; } );
+      std::string names;
+      for ( std::string const & name : others ) {
+         names += ( names.empty() ? "" : ", " ) + name;
+      }
+      if ( !names.empty() ) {
+         line( "so this did not run: " + names, 6 );
+      }
+      auto const openers = openersOf( gate.reason );
+      std::string remedy;
+      for ( auto const & opener : openers ) {
+         remedy +=
+            ( remedy.empty() ? "--toggle " : ", as does " ) + opener.setting() + ( remedy.empty() ? " opens it" : "" );
+      }
+      if ( !remedy.empty() ) {
+         line( remedy, 6 );
+      }
+   }
+
+   void writeHabits( char const * title, std::vector< Habit > const & habits ) {
+      if ( habits.empty() ) {
+         return;
+      }
+      out_ << '\n' << style_.strong( title ) << '\n';
+      Columns columns;
+      for ( Habit const & habit : habits ) {
+         columns.row( { habit.function,
+                        style_.faint( habit.source ),
+                        Inspection::counted( habit.times, "time", "times" ),
+                        "last in event " + std::to_string( habit.lastEvent ) } );
+      }
+      columns.print( out_, 2 );
+   }
+
+   void writeIdle() {
+      if ( answer_.idle.empty() ) {
+         return;
+      }
+      out_ << '\n' << style_.strong( "Known to touch it, but did not run here" ) << '\n';
+      for ( std::string const & function : answer_.idle ) {
+         line( function, 2 );
+      }
+   }
+
+   void writeOthers() {
+      if ( answer_.others.empty() ) {
+         return;
+      }
+      out_ << '\n';
+      if ( !areGatesShown_ ) {
+         counted( answer_.others.size(),
+                  "closed gate is not known to have to do with it",
+                  "closed gates are not known to have to do with it",
+                  "--gates shows them",
+                  0 );
+         return;
+      }
+      out_ << style_.strong( "Closed gates that are not known to have to do with it" ) << '\n';
+      for ( StoppedStep const & gate : answer_.others ) {
+         writeGate( gate );
+      }
+   }
+
+   std::ostream & out_;
+   WhyAnswer const & answer_;
+   bool bounded_;
+   bool areGatesShown_;
+   Style const & style_;
+   ChainStepText stepText_;
+};
+
+} // namespace
+
+std::string endingText( WhyAnswer const & answer ) {
+   Ending const & ending = answer.ending;
+   if ( ending.kind == Ending::Kind::complete || answer.isReached ) {
+      return {}; // a remark tells of the journal itself
+   }
+   std::string const event = "event " + std::to_string( ending.events );
+   std::string const there = "The run did not get there: ";
+   switch ( ending.kind ) {
+   case Ending::Kind::interrupted:
+      return there + "it was interrupted after " + event;
+   case Ending::Kind::assertion:
+      return there + "it ended in " + event + " by an assertion in " + ending.function;
+   default:
+      return there + "the journal is cut in " + event;
+   }
+}
+
+void writeWhy( std::ostream & out, WhyAnswer const & answer, WhyShown shown, Style const & style ) {
+   Writer( out, answer, shown, style ).write();
+}
+
+} // namespace Inspection
