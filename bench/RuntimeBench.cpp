@@ -1,8 +1,8 @@
 // What the reactor runtime costs: announcing a change against calling raw function pointers with the same arguments,
 // and against a signal library; a use of a node against a plain count and a shared pointer.
+#include "assert/Assert.h"
 #include "corvo/Ptr.h"
 #include "corvo/Publisher.h"
-#include "rex/Assert.h"
 #include "rex/Type.h"
 
 #include "Ratio.h"

@@ -8,7 +8,7 @@
 //    checkPlace( table, { .array = 3 } );                                     // InputError where no chip has it
 #pragma once
 
-#include "constants/ChipType.h"
+#include "chip/ChipType.h"
 #include "generated/Catalogue.h"
 
 #include <optional>

@@ -1,7 +1,7 @@
 #include "l3sm/Tracing.h"
 
+#include "assert/Assert.h"
 #include "inspection/files/InputError.h"
-#include "rex/Assert.h"
 #include "rex/Nearest.h"
 
 #include <algorithm>

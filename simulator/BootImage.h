@@ -11,7 +11,7 @@
 // The contents are the reference platform's own; the true image belongs to the chip's maker.
 #pragma once
 
-#include "constants/ChipType.h"
+#include "chip/ChipType.h"
 #include "simulator/Chip.h"
 
 namespace Simulator {

@@ -1,6 +1,6 @@
 #include "simulator/Chip.h"
 
-#include "rex/Assert.h"
+#include "assert/Assert.h"
 
 #include <algorithm>
 #include <new>

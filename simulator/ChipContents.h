@@ -5,7 +5,7 @@
 //    apply( contents.tables, otherChip, ChipType::BCM88690_B0 );
 #pragma once
 
-#include "constants/ChipType.h"
+#include "chip/ChipType.h"
 #include "generated/Catalogue.h"
 #include "simulator/Chip.h"
 

@@ -1,6 +1,6 @@
 #include "simulator/ChipDriver.h"
 
-#include "rex/Assert.h"
+#include "assert/Assert.h"
 
 namespace Simulator {
 

@@ -1,6 +1,6 @@
 #include "simulator/Journal.h"
 
-#include "rex/Assert.h"
+#include "assert/Assert.h"
 #include "rex/Entity.h"
 #include "simulator/FunctionName.h"
 

@@ -20,7 +20,7 @@
 // Threading: the agent's scheduler thread.
 #pragma once
 
-#include "constants/ChipType.h"
+#include "chip/ChipType.h"
 #include "rex/Gate.h"
 #include "rex/WriteListener.h"
 #include "simulator/Row.h"

@@ -1,7 +1,7 @@
 // Numbers that look like chance and are the same at every run, and the row of a boot image that is made of them.
 #pragma once
 
-#include "constants/ChipType.h"
+#include "chip/ChipType.h"
 #include "generated/Catalogue.h"
 
 #include <initializer_list>

@@ -6,7 +6,7 @@
 //    }
 #pragma once
 
-#include "constants/ChipType.h"
+#include "chip/ChipType.h"
 #include "generated/Catalogue.h"
 #include "simulator/AddressMap.h"
 

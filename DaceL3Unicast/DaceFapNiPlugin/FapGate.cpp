@@ -1,7 +1,7 @@
 #include "FapGate.h"
 
 #include "Toggles.h"
-#include "rex/Assert.h"
+#include "assert/Assert.h"
 #include "rex/Gate.h"
 
 namespace DaceFapNi {

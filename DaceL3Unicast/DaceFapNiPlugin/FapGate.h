@@ -1,7 +1,7 @@
 // Which FAPs the plug-in serves.
 #pragma once
 
-#include "constants/FapRevision.h"
+#include "chip/FapRevision.h"
 
 #include <optional>
 #include <source_location>

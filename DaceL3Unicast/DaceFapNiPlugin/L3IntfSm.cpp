@@ -1,6 +1,7 @@
 #include "L3IntfSm.h"
 
 #include "RexIpIntfConfigFilter.h"
+#include "corvo/NodeType.h"
 #include "rex/Trace.h"
 
 namespace DaceFapNi {
@@ -71,8 +72,8 @@ Corvo::Ptr< L3IntfSm > l3IntfSmFactory( L3IntfSmArguments const & arguments ) {
    return L3IntfSm::L3IntfSmIs( arguments );
 }
 
-Rex::TypeData const & L3IntfSm::typeData() const {
-   static Rex::TypeData const type{ "DaceFapNi::L3IntfSm", nullptr };
+Corvo::NodeType const & L3IntfSm::typeData() const {
+   static Corvo::NodeType const type{ "DaceFapNi::L3IntfSm" };
    return type;
 }
 

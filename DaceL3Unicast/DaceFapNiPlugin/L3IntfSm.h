@@ -61,7 +61,7 @@ class L3IntfSm : public Corvo::Node {
    // Makes an L3IntfSm and activates it.
    static Corvo::Ptr< L3IntfSm > L3IntfSmIs( L3IntfSmArguments const & arguments );
 
-   Rex::TypeData const & typeData() const override;
+   Corvo::NodeType const & typeData() const override;
    // Idempotent. Passes the value to the ports' reactors and to the filters.
    virtual void rexDoZombieReactors( bool zombie );
    // Idempotent. Subscribes to or unsubscribes from the inputs, and passes the value to every reactor and filter.

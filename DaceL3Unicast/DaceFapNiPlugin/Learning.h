@@ -1,8 +1,8 @@
 // Learning of forwarding contexts.
 #pragma once
 
+#include "chip/FapRevision.h"
 #include "constants/Contexts.h"
-#include "constants/FapRevision.h"
 
 #include <source_location>
 #include <vector>

@@ -1,6 +1,6 @@
 #include "MplsParserSm.h"
 
-#include "rex/Assert.h"
+#include "assert/Assert.h"
 #include "rex/Trace.h"
 
 #include <array>

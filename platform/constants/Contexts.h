@@ -13,7 +13,7 @@
 // context number 36.
 #pragma once
 
-#include "constants/ChipType.h"
+#include "chip/ChipType.h"
 
 #include <array>
 #include <span>

@@ -1,6 +1,6 @@
 #include "constants/DestinationId.h"
 
-#include "rex/Assert.h"
+#include "assert/Assert.h"
 
 namespace Hardware::Dace {
 

@@ -8,7 +8,7 @@
 // The encoding is the reference platform's own; the true one belongs to a closed library.
 #pragma once
 
-#include "constants/FapRevision.h"
+#include "chip/FapRevision.h"
 
 #include <ostream>
 

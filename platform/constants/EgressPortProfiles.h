@@ -9,7 +9,7 @@
 // The values are the reference platform's own; the true ones belong to a closed library.
 #pragma once
 
-#include "constants/FapRevision.h"
+#include "chip/FapRevision.h"
 
 #include <array>
 #include <span>

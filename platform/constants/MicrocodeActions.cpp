@@ -1,7 +1,7 @@
 #include "constants/MicrocodeActions.h"
 
+#include "assert/Assert.h"
 #include "constants/Contexts.h"
-#include "rex/Assert.h"
 
 #include <algorithm>
 

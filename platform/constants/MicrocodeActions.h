@@ -10,7 +10,7 @@
 // The words are the reference platform's own; the true ones belong to a closed library.
 #pragma once
 
-#include "constants/ChipType.h"
+#include "chip/ChipType.h"
 
 namespace Hardware::Dace {
 

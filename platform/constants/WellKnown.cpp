@@ -1,6 +1,6 @@
 #include "constants/WellKnown.h"
 
-#include "rex/Assert.h"
+#include "assert/Assert.h"
 
 #include <algorithm>
 

@@ -1,7 +1,7 @@
+#include "assert/Assert.h"
+#include "corvo/NodeType.h"
 #include "corvo/Ptr.h"
 #include "corvo/Publisher.h"
-#include "rex/Assert.h"
-#include "rex/Type.h"
 
 namespace Corvo {
 
@@ -21,8 +21,8 @@ Publisher * Node::publisher() const {
    return nullptr;
 }
 
-Rex::TypeData const & Node::typeData() const {
-   static Rex::TypeData const type{ "Corvo::Node", nullptr };
+NodeType const & Node::typeData() const {
+   static NodeType const type{ "Corvo::Node" };
    return type;
 }
 
@@ -97,9 +97,9 @@ void Publisher::subscriberAdd( Subscriber & subscriber, bool replay ) {
       // The slot stays next for as long as it is subscribed.
       Cursor cursor{ { this, 0, nullptr, top_ }, &subscriber, &subscriber };
       Announcement const announcement( cursor );
-      for ( auto const * attribute : node_->typeData().attributes() ) {
-         cursor.attribute = attribute->id;
-         subscriber.dispatch_( this, &subscriber, attribute->id, nullptr, nullptr );
+      for ( short const attribute : node_->typeData().attributeIds() ) {
+         cursor.attribute = attribute;
+         subscriber.dispatch_( this, &subscriber, attribute, nullptr, nullptr );
          if ( !cursor.next ) {
             return;
          }

@@ -19,12 +19,9 @@
 
 #include <atomic>
 
-namespace Rex {
-class TypeData;
-}
-
 namespace Corvo {
 
+class NodeType;
 class Publisher;
 
 // Says whether more than one thread of the process uses nodes. Set it before the second thread starts.
@@ -49,8 +46,8 @@ class Node {
    virtual void lastUserGone() const;
    // Where changes of this node's attributes are announced, or null for a node without attributes.
    virtual Publisher * publisher() const;
-   // The attributes of the node's type.
-   virtual Rex::TypeData const & typeData() const;
+   // The node's type; an entity's says more (Rex::TypeData).
+   virtual NodeType const & typeData() const;
 
    void userAdd() const { count( users_, 1 ); }
    void userDel() const {

@@ -1,6 +1,6 @@
 #include "orb/TaskScheduler.h"
 
-#include "rex/Assert.h"
+#include "assert/Assert.h"
 
 namespace Orb {
 

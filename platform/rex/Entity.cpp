@@ -75,6 +75,14 @@ std::vector< Attribute const * > TypeData::attributes() const {
    return all;
 }
 
+std::vector< short > TypeData::attributeIds() const {
+   std::vector< short > ids;
+   for ( auto const * attribute : attributes() ) {
+      ids.push_back( attribute->id );
+   }
+   return ids;
+}
+
 Attribute const * TypeData::attribute( std::string_view name ) const {
    for ( auto const & attribute : own_ ) {
       if ( attribute->name == name ) {

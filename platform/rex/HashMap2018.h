@@ -14,8 +14,8 @@
 // Threading: the agent's scheduler thread.
 #pragma once
 
+#include "assert/Assert.h"
 #include "corvo/Types.h"
-#include "rex/Assert.h"
 
 #include <algorithm>
 #include <functional>

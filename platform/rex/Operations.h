@@ -16,7 +16,7 @@
 // Threading: the agent's scheduler thread.
 #pragma once
 
-#include "rex/Assert.h"
+#include "assert/Assert.h"
 #include "rex/Entity.h"
 
 #include <functional>

@@ -4,6 +4,7 @@
 // Threading: a type is built at its first use, on the agent's scheduler thread.
 #pragma once
 
+#include "corvo/NodeType.h"
 #include "corvo/Ptr.h"
 #include "rex/Value.h"
 
@@ -15,6 +16,7 @@
 namespace Rex {
 
 class Entity;
+class TypeData;
 
 // One attribute of a type. All operations take an entity of that type.
 class Attribute {
@@ -50,16 +52,14 @@ class Attribute {
    virtual std::string keyText( void const * key ) const;
 };
 
-class TypeData {
+class TypeData : public Corvo::NodeType {
  public:
-   TypeData( std::string name, TypeData const * base ) : name_( std::move( name ) ), base_( base ) {}
-   TypeData( TypeData const & ) = delete;
-   TypeData & operator=( TypeData const & ) = delete;
+   TypeData( std::string name, TypeData const * base ) : NodeType( std::move( name ) ), base_( base ) {}
 
-   std::string const & name() const { return name_; }
    TypeData const * base() const { return base_; }
    // Those of the bases first, each in declaration order.
    std::vector< Attribute const * > attributes() const;
+   std::vector< short > attributeIds() const override;
    // Null if the type has none of this name or number.
    Attribute const * attribute( std::string_view name ) const;
    Attribute const * attribute( short id ) const;
@@ -67,7 +67,6 @@ class TypeData {
    void attributeAdd( std::unique_ptr< Attribute > attribute ) { own_.push_back( std::move( attribute ) ); }
 
  private:
-   std::string name_;
    TypeData const * base_;
    std::vector< std::unique_ptr< Attribute > > own_;
 };

@@ -7,8 +7,8 @@
 // Threading: an accessor belongs to its caller for the length of one operation.
 #pragma once
 
+#include "assert/Assert.h"
 #include "corvo/Types.h"
-#include "rex/Assert.h"
 #include "sal/MetaInfo.h"
 
 #include <algorithm>

@@ -1,6 +1,6 @@
 #include "sal/BitCopy.h"
 
-#include "rex/Assert.h"
+#include "assert/Assert.h"
 
 #include <algorithm>
 

@@ -7,21 +7,11 @@
 // Threading: the agent's scheduler thread.
 #pragma once
 
-#include "corvo/Types.h"
+#include "chip/ChipId.h"
 
 #include <optional>
 #include <source_location>
 #include <span>
-
-namespace Hardware::Dace {
-
-// A chip of the cell, as the driver counts them.
-struct ChipId {
-   U16 value = 0;
-   friend constexpr auto operator<=>( ChipId, ChipId ) = default;
-};
-
-} // namespace Hardware::Dace
 
 namespace DaceSal {
 

@@ -10,9 +10,9 @@
 // Threading: constant data.
 #pragma once
 
-#include "constants/ChipType.h"
+#include "assert/Assert.h"
+#include "chip/ChipType.h"
 #include "corvo/Types.h"
-#include "rex/Assert.h"
 #include "rex/Trace.h"
 #include "sal/BitCopy.h"
 #include "sal/Raw.h"

@@ -1,8 +1,8 @@
 // Raw128 to Raw1024: fixed bit containers, plain arrays of 32-bit words, word 0 the least significant.
 #pragma once
 
+#include "assert/Assert.h"
 #include "corvo/Types.h"
-#include "rex/Assert.h"
 
 #include <array>
 #include <cstddef>

@@ -1,6 +1,6 @@
 #include "sal/SwitchControlSal.h"
 
-#include "rex/Assert.h"
+#include "assert/Assert.h"
 
 namespace DaceSal {
 

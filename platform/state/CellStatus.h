@@ -1,7 +1,7 @@
 // The cell and its FAPs (forwarding chips), as the hardware status publishes them.
 #pragma once
 
-#include "constants/FapRevision.h"
+#include "chip/FapRevision.h"
 #include "rex/Entity.h"
 
 template<>

@@ -5,7 +5,7 @@
 // once.
 #pragma once
 
-#include "constants/ChipType.h"
+#include "chip/ChipType.h"
 #include "corvo/Types.h"
 #include "sal/AsicTable.h"
 

@@ -1,4 +1,4 @@
-#include "constants/FapRevision.h"
+#include "chip/FapRevision.h"
 #include "state/CellStatus.h"
 
 #include <gtest/gtest.h>

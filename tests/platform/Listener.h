@@ -21,7 +21,7 @@ struct Listener {
    }
    static void
    dispatch( Corvo::Publisher * publisher, Corvo::Subscriber * slot, short id, void const * key, void const * ) {
-      auto const * attribute = publisher->node().typeData().attribute( id );
+      auto const * attribute = static_cast< Rex::Entity const & >( publisher->node() ).typeData().attribute( id );
       std::string text = attribute ? attribute->name : "?";
       if ( key && attribute ) {
          text += " " + attribute->keyText( key );

@@ -1,5 +1,5 @@
 // What every part leans on: assertions, traces, log records, toggles.
-#include "rex/Assert.h"
+#include "assert/Assert.h"
 #include "rex/Log.h"
 #include "rex/Trace.h"
 #include "toggle/Toggle.h"

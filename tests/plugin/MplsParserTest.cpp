@@ -1,6 +1,6 @@
 #include "ChipView.h"
 #include "DaceL3Unicast/DaceFapNiPlugin/MplsParserSm.h"
-#include "rex/Assert.h"
+#include "assert/Assert.h"
 
 #include <gtest/gtest.h>
 

@@ -1,7 +1,7 @@
 #include "simulator/Journal.h"
 
+#include "assert/Assert.h"
 #include "generated/Catalogue.h"
-#include "rex/Assert.h"
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-#include "rex/Assert.h"
+#include "assert/Assert.h"
 
 #include <cstdio>
 #include <cstdlib>

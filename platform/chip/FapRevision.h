@@ -5,8 +5,8 @@
 //    driver.read( fapId, at, words ); // a FapId is the chip id of the driver
 #pragma once
 
-#include "constants/ChipType.h"
-#include "sal/Driver.h"
+#include "chip/ChipId.h"
+#include "chip/ChipType.h"
 
 #include <array>
 #include <ostream>
