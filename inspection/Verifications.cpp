@@ -1,8 +1,8 @@
 #include "inspection/Verifications.h"
 
+#include "assert/Assert.h"
 #include "inspection/Play.h"
 #include "inspection/views/Progress.h"
-#include "rex/Assert.h"
 #include "rex/Operations.h"
 
 #include <algorithm>

@@ -3,7 +3,7 @@
 // Threading: one thread for each parser.
 #pragma once
 
-#include "constants/ChipType.h"
+#include "chip/ChipType.h"
 #include "simulator/Row.h"
 
 #include <deque>

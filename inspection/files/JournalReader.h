@@ -14,7 +14,7 @@
 // Threading: one thread.
 #pragma once
 
-#include "constants/ChipType.h"
+#include "chip/ChipType.h"
 #include "inspection/files/ByteStreams.h"
 #include "inspection/files/InputError.h"
 #include "simulator/Row.h"
