@@ -4,6 +4,9 @@
 //    Child< MplsParserCfgSm, Corvo::Ptr< Mpls::Config const >, ... > mplsParserCfgSm_;
 //    mplsParserCfgSm_.is( MplsParserCfgSm::MplsParserCfgSmIs, mplsConfig, ... );
 //
+// What it was built from is kept here, beside the child, so that a comparison sees every argument; a child that holds
+// all of them itself, and shows them as arguments(), is asked instead.
+//
 // Threading: the agent's scheduler thread.
 #pragma once
 
@@ -23,14 +26,15 @@ class Child {
    // `build` makes a child from the arguments; `stored` runs when a new one has been stored, before it is activated.
    template< class Build, class Stored >
    Corvo::Ptr< T > is( Build build, Stored stored, Args const &... args ) {
-      std::tuple< Args... > wanted{ args... };
-      if ( child_ && builtFrom_ == wanted ) {
+      if ( child_ && isBuiltFrom( args... ) ) {
          return child_;
       }
       child_ = nullptr;
       builtFrom_.reset();
       child_ = build( args... );
-      builtFrom_ = std::move( wanted );
+      if constexpr ( !tells ) {
+         builtFrom_.emplace( args... );
+      }
       stored();
       child_->hasNotificationActiveIs( true );
       return child_;
@@ -63,6 +67,16 @@ class Child {
    }
 
  private:
+   static constexpr bool tells = requires( T const & child ) { child.arguments(); };
+
+   bool isBuiltFrom( Args const &... args ) const {
+      if constexpr ( tells ) {
+         return child_->arguments() == std::get< 0 >( std::tie( args... ) );
+      } else {
+         return builtFrom_ == std::tuple< Args... >{ args... };
+      }
+   }
+
    Corvo::Ptr< T > child_;
    std::optional< std::tuple< Args... > > builtFrom_;
 };

@@ -42,12 +42,22 @@ GueNexthopGroupSm::~GueNexthopGroupSm() {
    udpDestPortConfig_.unsubscribe();
 }
 
+Corvo::Ptr< GueNexthopGroupSm > GueNexthopGroupSm::GueNexthopGroupSmIs(
+   CellStatusPtr const & cellStatus,
+   Corvo::Ptr< Tunnel::Decap::Config const > const & dgConfig,
+   Corvo::Ptr< L3::Tunnel::UdpDestinationPortConfig const > const & udpDestPortConfig,
+   Corvo::Ptr< DaceSal::SwitchControlSal > const & sal ) {
+   auto const sm = Corvo::makePtr< GueNexthopGroupSm >( cellStatus, dgConfig, udpDestPortConfig, sal );
+   sm->hasNotificationActiveIs( true );
+   return sm;
+}
+
 Corvo::Ptr< GueNexthopGroupSm >
 gueNexthopGroupSmFactory( CellStatusPtr const & cellStatus,
                           Corvo::Ptr< Tunnel::Decap::Config const > const & dgConfig,
                           Corvo::Ptr< L3::Tunnel::UdpDestinationPortConfig const > const & udpDestPortConfig,
                           Corvo::Ptr< DaceSal::SwitchControlSal > const & sal ) {
-   return Corvo::makePtr< GueNexthopGroupSm >( cellStatus, dgConfig, udpDestPortConfig, sal );
+   return GueNexthopGroupSm::GueNexthopGroupSmIs( cellStatus, dgConfig, udpDestPortConfig, sal );
 }
 
 void GueNexthopGroupSm::hasNotificationActiveIs( bool active ) {

@@ -22,6 +22,12 @@ class GueNexthopGroupSm : public Corvo::Node {
                       Corvo::Ptr< L3::Tunnel::UdpDestinationPortConfig const > const & udpDestPortConfig,
                       Corvo::Ptr< DaceSal::SwitchControlSal > const & sal );
    ~GueNexthopGroupSm() override;
+   // Makes a GueNexthopGroupSm and activates it.
+   static Corvo::Ptr< GueNexthopGroupSm >
+   GueNexthopGroupSmIs( CellStatusPtr const & cellStatus,
+                        Corvo::Ptr< Tunnel::Decap::Config const > const & dgConfig,
+                        Corvo::Ptr< L3::Tunnel::UdpDestinationPortConfig const > const & udpDestPortConfig,
+                        Corvo::Ptr< DaceSal::SwitchControlSal > const & sal );
 
    // Idempotent.
    void hasNotificationActiveIs( bool active );
@@ -66,6 +72,7 @@ class GueNexthopGroupSm : public Corvo::Node {
    U16 gueIPv6EncapUdpDestPort_ = 0;
 };
 
+// Makes a GueNexthopGroupSm and activates it.
 Corvo::Ptr< GueNexthopGroupSm >
 gueNexthopGroupSmFactory( CellStatusPtr const & cellStatus,
                           Corvo::Ptr< Tunnel::Decap::Config const > const & dgConfig,

@@ -19,15 +19,10 @@ constexpr short portStatePortGenId = 0x8f;
    Rex::throwMutatorArgNullPointerException( "DaceFapNi::L3IntfSm", attribute );
 }
 
-// Whether two entries, each null where there is none, hold the same entity.
-bool same( auto const * left, auto const * right ) {
-   return left && right ? *left == *right : !left && !right;
-}
-
 } // namespace
 
 L3IntfSm::L3IntfSm( L3IntfSmArguments const & arguments )
-   : in_( arguments ), sliceSmState_( arguments.sliceSmState ), portStateInfo_( arguments.portStateInfo ) {
+   : in_( arguments ), sliceSmState_( in_.sliceSmState ), portStateInfo_( in_.portStateInfo ) {
    sliceSmState_.subscribe( sliceSmStateDispatch, this );
    portStateInfo_.subscribe( portStateInfoDispatch, this );
    if ( portStateInfo_ ) {
@@ -141,21 +136,10 @@ void L3IntfSm::handlePortState( PortStatePtr const & portState ) {
       return;
    }
    trace( 5, "handlePortState", " ", intfId, " active ", portState->active() );
-   if ( !isServedBy( intfId, config->get() ) ) {
-      ethConfigIs( EthConfigPtr( *config ) ); // a copy: what serving announces may change the directory
-   }
-   if ( in_.ethIntfVrfSmHelper ) {
+   ethConfigIs( EthConfigPtr( *config ) ); // a copy: what serving announces may change the directory
+   if ( in_.ethIntfVrfSmHelper && ethConfig_.has( intfId ) ) { // not where its filter's first writes took it out again
       doUpdateManagedIntfStatusDirs( intfId, true );
    }
-}
-
-// Whether ethConfigIs would find all as it is. At start-up each port comes by twice; looking whether anything is to be
-// done, without touching what isn't, keeps the second time from costing more the more interfaces there are.
-bool L3IntfSm::isServedBy( Netka::IntfId intfId, Interface::EthPhyIntfConfig const * config ) const {
-   auto const * const served = ethConfig_.find( intfId );
-   auto const * const filter = rexIpIntfConfigFilter_.find( intfId );
-   return served && served->get() == config && filter && ( *filter )->notifierEntity().get() == config &&
-          ( *filter )->isZombie() == isZombie();
 }
 
 void L3IntfSm::handlePortStateDelete( PortStatePtr const & portState ) {
@@ -183,17 +167,12 @@ void L3IntfSm::doUpdateManagedIntfStatusDirs( Netka::IntfId intfId, bool addOrUp
    if ( !in_.ethConfigDir->intfConfigHas( intfId ) ) {
       Rex::SassertHelper( "ethConfigDir()->intfConfigHas( intfId )" ) << "No intfConfig for " << intfId;
    }
-   auto const * const status = in_.ethStatusDir->intfStatus().find( intfId );
-   if ( !same( managedIntfStatusDir_->intfStatus().find( intfId ), status ) ) {
-      managedIntfStatusDir_->intfStatusIs( in_.ethStatusDir->intfStatus( intfId ) ); // null: the directory decides
-   }
-   auto const * const episl = in_.ethPhyIntfStatusLocalDir->intfStatusLocal().find( intfId );
+   managedIntfStatusDir_->intfStatusIs( in_.ethStatusDir->intfStatus( intfId ) ); // null: the directory decides
+   auto const episl = in_.ethPhyIntfStatusLocalDir->intfStatusLocal( intfId );
    if ( !episl ) {
       Rex::SassertHelper( "episl" ) << "No intfStatusLocal for " << intfId;
    }
-   if ( !same( managedIntfStatusLocalDir_->intfStatusLocal().find( intfId ), episl ) ) {
-      managedIntfStatusLocalDir_->intfStatusLocalIs( in_.ethPhyIntfStatusLocalDir->intfStatusLocal( intfId ) );
-   }
+   managedIntfStatusLocalDir_->intfStatusLocalIs( episl );
 }
 
 void L3IntfSm::portStateIs( PortStatePtr const & portState ) {
@@ -203,13 +182,27 @@ void L3IntfSm::portStateIs( PortStatePtr const & portState ) {
    auto const port = portState->systemPhyPortId();
    auto reactor = portState_.get( port );
    if ( !reactor ) {
+      bool const wasListed = isListed( *portState );
       reactor = Corvo::makePtr< NestedSm_PortState >( portState, this );
       reactor->hasNotificationActiveIs( true );
-      portState_.set( port, reactor );
+      if ( portState_.has( port ) ) { // what serving the port set off has brought another reactor for it
+         reactor->parentIs( nullptr );
+      } else if ( !wasListed || isListed( *portState ) ) {
+         portState_.set( port, reactor );
+      }
+      if ( portState_.get( port ) != reactor ) { // or has taken the port away
+         reactor->rexDoZombieReactors( true );
+         reactor->hasNotificationActiveIs( false );
+         return;
+      }
    } else if ( reactor->notifier() != portState ) {
       reactor->notifierIs( portState );
    }
    reactor->rexDoZombieReactors( isZombie() );
+}
+
+bool L3IntfSm::isListed( PortState const & portState ) const {
+   return portStateInfo_ && portStateInfo_->portState( portState.systemPhyPortId() ).get() == &portState;
 }
 
 Corvo::Ptr< L3IntfSm::NestedSm_PortState > L3IntfSm::portStateDel( Hardware::Dace::SystemPhyPortId port ) {
@@ -235,7 +228,10 @@ void L3IntfSm::ethConfigIs( EthConfigPtr const & config ) {
    if ( !config ) {
       throwNullArgument( "ethConfig" );
    }
-   ethConfig_.set( config->intfId(), config );
+   auto const * const served = ethConfig_.find( config->intfId() );
+   if ( !served || *served != config ) {
+      ethConfig_.set( config->intfId(), config );
+   }
    ipIntfConfigFilterIs( config );
 }
 
@@ -264,8 +260,16 @@ void L3IntfSm::ipIntfConfigFilterIs( EthConfigPtr const & config ) {
    Netka::IntfId const intfId = config->intfId();
    auto filter = rexIpIntfConfigFilter_.get( intfId );
    if ( !filter ) {
+      bool const wasServed = ethConfig_.has( intfId );
       filter = Corvo::makePtr< RexIpIntfConfigFilter >( config, this );
       filter->hasNotificationActiveIs( true );
+      // Whoever heard of its first writes may have taken the interface out of service, and into it again.
+      if ( rexIpIntfConfigFilter_.has( intfId ) || ( wasServed && !ethConfig_.has( intfId ) ) ) {
+         filter->parentIs( nullptr );
+         filter->rexDoZombieReactors( true );
+         filter->hasNotificationActiveIs( false );
+         return;
+      }
       rexIpIntfConfigFilter_.set( intfId, filter );
    } else if ( filter->notifier() != config ) {
       filter->notifierIs( config );

@@ -111,13 +111,13 @@ class L3IntfSm : public Corvo::Node {
    void doUpdateManagedIntfStatusDirs( Netka::IntfId intfId, bool addOrUpdate );
 
  private:
-   bool isServedBy( Netka::IntfId intfId, Interface::EthPhyIntfConfig const * config ) const;
+   bool isListed( PortState const & portState ) const;
    static void sliceSmStateDispatch( Corvo::Publisher *, Corvo::Subscriber *, short, void const *, void const * );
    static void portStateInfoDispatch( Corvo::Publisher *, Corvo::Subscriber *, short, void const *, void const * );
 
    L3IntfSmArguments const in_;
-   Corvo::Watched< SliceSmStateInfo const > sliceSmState_;
-   Corvo::Watched< PortStateInfo const > portStateInfo_;
+   Corvo::WatchedIn< SliceSmStateInfo const > sliceSmState_;
+   Corvo::WatchedIn< PortStateInfo const > portStateInfo_;
    Rex::HashMap2018< Hardware::Dace::SystemPhyPortId, Corvo::Ptr< NestedSm_PortState > > portState_;
    Rex::HashMap2018< Netka::IntfId, EthConfigPtr > ethConfig_;
    Rex::HashMap2018< Netka::IntfId, Corvo::Ptr< RexIpIntfConfigFilter > > rexIpIntfConfigFilter_; // keys of ethConfig
@@ -143,6 +143,7 @@ class L3IntfSm::NestedSm_PortState : public Rex::NotifieeConst {
    void rexDoZombieReactors( bool zombie ) override;
    // Null: the state machine is going, and is not called back.
    void parentIs( L3IntfSm * parent ) { parent_ = parent; }
+   L3IntfSm * parent() const { return parent_; }
 
  private:
    void rex_handlePortState_portGenId();

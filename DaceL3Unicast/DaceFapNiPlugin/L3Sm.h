@@ -197,15 +197,15 @@ class L3Sm : public Corvo::Node {
 
    L3SmArguments const in_;
    // The subscribed inputs, in the order of their attributes.
-   Corvo::Watched< PhySmStateSharedStatus > phySmStateSharedStatus_;
-   Corvo::Watched< PhySmStateInfo const > phySmState_;
-   Corvo::Watched< Mpls::RoutingInfo const > mplsRoutingInfo_;
-   Corvo::Watched< Vxlan::VtiStatusDir > vtiStatusDir_;
-   Corvo::Watched< Evpn::EvpnStatus const > evpnStatus_;
-   Corvo::Watched< Hardware::DaceLag::Status const > daceLagStatus_;
-   Corvo::Watched< Routing::Hardware::PrefixLensInExactMatch const > mergedPrefixLensInExactMatchV4_;
-   Corvo::Watched< Routing::Hardware::Config const > routingHwConfig_;
-   Corvo::Watched< DriverSetupSmStateInfo const > driverSetupSmStateInfo_;
+   Corvo::WatchedIn< PhySmStateSharedStatus > phySmStateSharedStatus_;
+   Corvo::WatchedIn< PhySmStateInfo const > phySmState_;
+   Corvo::WatchedIn< Mpls::RoutingInfo const > mplsRoutingInfo_;
+   Corvo::WatchedIn< Vxlan::VtiStatusDir > vtiStatusDir_;
+   Corvo::WatchedIn< Evpn::EvpnStatus const > evpnStatus_;
+   Corvo::WatchedIn< Hardware::DaceLag::Status const > daceLagStatus_;
+   Corvo::WatchedIn< Routing::Hardware::PrefixLensInExactMatch const > mergedPrefixLensInExactMatchV4_;
+   Corvo::WatchedIn< Routing::Hardware::Config const > routingHwConfig_;
+   Corvo::WatchedIn< DriverSetupSmStateInfo const > driverSetupSmStateInfo_;
    // The children, in the order of their attributes.
    // clang-format off
    Child< EthIntf::EthIntfVrfSmHelper, Corvo::Ptr< Stordb::EntityManager > > ethIntfVrfSmHelper_;

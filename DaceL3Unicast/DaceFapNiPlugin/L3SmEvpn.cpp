@@ -3,8 +3,8 @@
 //
 // An in-LIF profile has four flag bits, by which the VTT stages choose their context, and an orientation. The handlers
 // change single bits and entries of what the static programming wrote.
-#include "ContextSelection.h"
 #include "L3Sm.h"
+#include "SharedFunctions.h"
 #include "rex/Gate.h"
 #include "rex/Trace.h"
 

@@ -1,8 +1,8 @@
 // Prefix lengths in exact match: lookup strengths and learning of the forwarding contexts follow the IPv4 prefix
 // lengths that the exact-match engine (LEM) holds. Every run writes every place in both senses; nothing is remembered.
 #include "L3Sm.h"
-#include "Learning.h"
 #include "Programming.h"
+#include "SharedFunctions.h"
 #include "Toggles.h"
 #include "rex/Gate.h"
 #include "rex/Trace.h"

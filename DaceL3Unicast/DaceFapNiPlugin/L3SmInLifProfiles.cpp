@@ -1,6 +1,6 @@
 // In-LIF profiles: the RPF mode of a packet and the choice of context, by the profile of the interface it came in on.
-#include "ContextSelection.h"
 #include "L3Sm.h"
+#include "SharedFunctions.h"
 #include "Toggles.h"
 #include "rex/Gate.h"
 #include "rex/Trace.h"

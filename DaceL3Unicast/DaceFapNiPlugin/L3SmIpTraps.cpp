@@ -11,6 +11,7 @@ namespace {
 
 constexpr U8 headerErrorStrength = 7;
 constexpr U8 checksumErrorStrength = 3;
+constexpr U8 nextHeaderNullFwdStrength = 3; // in the forward stage; in the VTT stages it is a header error
 constexpr U8 optionsStrength = 4;
 
 constexpr int looseUrpfTrap = 3;
@@ -48,7 +49,7 @@ void L3Sm::initIpTrapsFwd( FapStatusPtr const & fapStatus ) {
    } );
 
    modify< Hardware::IppbIpv6ActionProfiles0Cfg >( fap, {}, []( auto & ipv6 ) {
-      ipv6.actionProfileIpv6NextHeaderNullFwdIs( checksumErrorStrength ); // weaker than in the VTT stages
+      ipv6.actionProfileIpv6NextHeaderNullFwdIs( nextHeaderNullFwdStrength );
       ipv6.actionProfileIpv6VersionErrorFwdIs( headerErrorStrength );
       ipv6.actionProfileIpv6UnspecifiedDestinationFwdIs( headerErrorStrength );
       ipv6.actionProfileIpv6MulticastSourceFwdIs( headerErrorStrength );

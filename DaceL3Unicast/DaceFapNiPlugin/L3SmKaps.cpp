@@ -1,8 +1,7 @@
 // VRF fallback, and what KAPS (the longest-prefix lookup) gives when it has nothing better: its default interface and
 // the strengths of its results.
-#include "ContextSelection.h"
-#include "KapsStrength.h"
 #include "L3Sm.h"
+#include "SharedFunctions.h"
 #include "constants/WellKnown.h"
 #include "rex/Trace.h"
 
@@ -26,9 +25,9 @@ struct VrfFallbackRow {
 };
 constexpr VrfFallbackRow vrfFallback[] = {
    // clang-format off
-   { unrouted,           1, 4 },
-   { unroutedCore,       2, 4 },
-   { unroutedCoreTunnel, 2, 2 },
+   { profile8,  1, 4 },
+   { profile17, 2, 4 },
+   { profile18, 2, 2 },
    // clang-format on
 };
 

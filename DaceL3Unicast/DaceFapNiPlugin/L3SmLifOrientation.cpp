@@ -1,8 +1,8 @@
 // LIF orientation: split horizon is decided in the egress from the orientations of the interfaces in and out, and from
 // a filter for packets that would leave by the interface they came in on.
 #include "L3Sm.h"
-#include "LifOrientation.h"
 #include "Programming.h"
+#include "SharedFunctions.h"
 #include "Toggles.h"
 
 #include <map>

@@ -24,12 +24,12 @@ L3SmMounter::L3SmMounter() : MounterBase( "l3SmMounter" ) {}
 L3SmMounter::~L3SmMounter() {
    nodeFlagSet( Corvo::NodeFlag::notificationsActive, false ); // nothing dispatches here from now on
    udpDestPortConfigLocalDel();
-   childDel( nexthopGroupCliDynamicUdpDestPortMergeSm, nexthopGroupCliDynamicUdpDestPortMergeSm_ );
+   nexthopGroupCliDynamicUdpDestPortMergeSmDel();
    dgConfigDel();
-   childDel( dgConfigMergeSm, dgConfigMergeSm_ );
-   childDel( prefixLensInExactMatchMergerSmV4, prefixLensInExactMatchMergerSmV4_ );
-   childDel( l3Sm, l3Sm_ );
-   childDel( pluginRunnabilitySm, pluginRunnabilitySm_ );
+   dgConfigMergeSmDel();
+   prefixLensInExactMatchMergerSmV4Del();
+   l3SmDel();
+   pluginRunnabilitySmDel();
 }
 
 void L3SmMounter::createPluginStatePhase2() {
@@ -53,7 +53,7 @@ void L3SmMounter::startPluginRunnabilitySm() {
    trace( 8, "L3SmMounter::", "startPluginRunnabilitySm" );
    auto const shared = localSharedState()->readOnly< SliceSmStateInfo >( "sliceSmStateData" );
    Rex::sassert( shared != nullptr, "sliceSmState" );
-   attributeIs( sliceSmState, sliceSmState_, shared );
+   sliceSmStateIs( shared );
    auto const runnability = pluginRunnabilitySmIs( sliceSmState_, this );
    for ( auto const state : runnableSliceStates ) {
       runnability->runnableStatesIs( state );
@@ -67,11 +67,11 @@ void L3SmMounter::doMounts() {
    }
    auto const agentState = localSharedState()->readOnly< AgentGlobalState >( "agentGlobalState" );
    Rex::sassert( agentState != nullptr, "agentState" );
-   attributeIs( agentGlobalState, agentGlobalState_, agentState );
+   agentGlobalStateIs( agentState );
 
    auto const group = entityManager()->getMountGroup( this );
    for ( auto const & row : mountPlan ) {
-      auto const path = row.isCell ? Cell::path( row.path, 0 ) : Corvo::String( row.path );
+      auto const path = pathOf( row );
       trace( 8, "Mounting ", path );
       Stordb::Mount mount( path, row.type );
       mount.flags().valIs( 0 );
@@ -89,77 +89,67 @@ void L3SmMounter::doMountsComplete( Stordb::MountStatus mountStatus,
    Rex::sassert( mountStatus == Stordb::mountSuccess(), "mountStatus == Stordb::mountSuccess()" );
 
    auto const shared = localSharedState();
-   auto const fetch = [&]< class T >( char const * path, Corvo::Ptr< T > & into ) {
-      into = Corvo::ptrCast< T >( entityManager->getEntity( path ) );
+   auto const fetch = [&]< class T >( Mounted mounted, Corvo::Ptr< T > & into ) {
+      into = Corvo::ptrCast< T >( entityManager->getEntity( pathOf( mountPlan[static_cast< unsigned >( mounted )] ) ) );
    };
-   auto const fetchCell = [&]< class T >( char const * path, Corvo::Ptr< T > & into ) {
-      into = Corvo::ptrCast< T >( entityManager->getEntity( Cell::path( path, 0 ) ) );
-   };
-   auto const fetchAttribute = [&]< class T >( Attribute id, Corvo::Ptr< T > & attribute, char const * path ) {
-      attributeIs( id, attribute, Corvo::ptrCast< T >( entityManager->getEntity( path ) ) );
+   // Fetched straight into an attribute, by its setter.
+   auto const fetchAttribute = [&]< class T >( Mounted mounted,
+                                               void ( L3SmMounter::*setter )( Corvo::Ptr< T > const & ) ) {
+      Corvo::Ptr< T > fetched;
+      fetch( mounted, fetched );
+      ( this->*setter )( fetched );
    };
 
    L3SmArguments sm;
    sm.sliceName = agentGlobalState_ ? agentGlobalState_->sliceName() : Corvo::String();
    Corvo::Ptr< Rex::Dir const > fapStatusDir;
-   fetch( "hardware/dace/fap/status", fapStatusDir );
+   fetch( Mounted::fapStatusDir, fapStatusDir );
    auto const cellStatus = Corvo::ptrCast< Hardware::Dace::Cell::CellStatus const >(
       fapStatusDir ? fapStatusDir->entityPtr( sm.sliceName ) : nullptr );
    Rex::sassert( cellStatus != nullptr, "cellStatus" );
    sm.cellStatus = cellStatus;
 
-   fetchAttribute( bridgingConfig, bridgingConfig_, "bridging/config" );
-   fetchAttribute( hwCapabilities, hwCapabilities_, "bridging/hwcapabilities" );
-   fetchAttribute( routerMacHwCapability, routerMacHwCapability_, "routerMac/hwCapability" );
+   fetchAttribute( Mounted::bridgingConfig, &L3SmMounter::bridgingConfigIs );
+   fetchAttribute( Mounted::hwCapabilities, &L3SmMounter::hwCapabilitiesIs );
+   fetchAttribute( Mounted::routerMacHwCapability, &L3SmMounter::routerMacHwCapabilityIs );
 
    sm.phySmStateSharedStatus = shared->writeAllowed< PhySmStateSharedStatus >( "phySmStateSharedStatus" );
    Rex::sassert( sm.phySmStateSharedStatus != nullptr, "phySmStateSharedStatus" );
    sm.phySmState = shared->readOnly< PhySmStateInfo >( "phySmStateData" );
    Rex::sassert( sm.phySmState != nullptr, "phySmState" );
 
-   fetchCell( "interface/status/eth/phy/local", sm.ethPhyIntfStatusLocalDir );
-   attributeIs( episLocalDir, episLocalDir_, sm.ethPhyIntfStatusLocalDir );
-   fetch( "interface/status/subintf", sm.subIntfStatusDir );
-   fetchCell( "interface/status/subintf/local", sm.subIntfStatusLocalDir );
+   fetch( Mounted::episLocalDir, sm.ethPhyIntfStatusLocalDir );
+   episLocalDirIs( sm.ethPhyIntfStatusLocalDir );
+   fetch( Mounted::subIntfStatusDir, sm.subIntfStatusDir );
+   fetch( Mounted::subIntfStatusLocalDir, sm.subIntfStatusLocalDir );
    sm.driverSetupSmStateInfo = shared->readOnly< DriverSetupSmStateInfo >( "driverSetupSmStateInfo" );
 
-   fetchAttribute( mplsRoutingInfo, mplsRoutingInfo_, "routing/mpls/routingInfo/status" );
-   fetchAttribute( mplsConfig, mplsConfig_, "routing/mpls/config" );
-   fetchAttribute( vtiStatusDir, vtiStatusDir_, "interface/status/eth/vxlan" );
-   fetchAttribute( vxlanEcnConfig, vxlanEcnConfig_, "vxlan/ecnConfig" );
-   fetchAttribute( evpnStatus, evpnStatus_, "evpn/status" );
-   fetchAttribute( routingHwConfig, routingHwConfig_, "routing/hardware/config" );
+   fetchAttribute( Mounted::mplsRoutingInfo, &L3SmMounter::mplsRoutingInfoIs );
+   fetchAttribute( Mounted::mplsConfig, &L3SmMounter::mplsConfigIs );
+   fetchAttribute( Mounted::vtiStatusDir, &L3SmMounter::vtiStatusDirIs );
+   fetchAttribute( Mounted::vxlanEcnConfig, &L3SmMounter::vxlanEcnConfigIs );
+   fetchAttribute( Mounted::evpnStatus, &L3SmMounter::evpnStatusIs );
+   fetchAttribute( Mounted::routingHwConfig, &L3SmMounter::routingHwConfigIs );
 
-   fetch( "interface/config/global", sm.globalIntfConfig );
-   fetch( "interface/hardware/capability", sm.intfHwCapability );
-   fetch( "routing/hardware/mpls/capability", sm.mplsHwCapability );
+   fetch( Mounted::globalIntfConfig, sm.globalIntfConfig );
+   fetch( Mounted::intfHwCapability, sm.intfHwCapability );
+   fetch( Mounted::mplsHwCapability, sm.mplsHwCapability );
    sm.portStateInfo = shared->readOnly< PortStateInfo >( "portStateInfo" );
    Rex::sassert( sm.portStateInfo != nullptr, "portStateInfo" );
-   fetchAttribute( daceLagStatus, daceLagStatus_, "hardware/dace/lag/daceLagStatus" );
+   fetchAttribute( Mounted::daceLagStatus, &L3SmMounter::daceLagStatusIs );
 
    udpDestPortConfigLocalIs( "udpDestPort" );
-   fetchAttribute( udpDestPortConfig, udpDestPortConfig_, "l3/tunnel/udpDestinationPortConfig" );
-   fetchAttribute( nexthopGroupConfigInput, nexthopGroupConfigInput_, "routing/nexthopgroup/input/config" );
-   nexthopGroupCliDynamicUdpDestPortMergeSm_.is(
-      NexthopGroupMergeSm::NexthopGroupCliDynamicConfigUdpDestPortMergeSmIs,
-      [this] { publisher()->publish( nexthopGroupCliDynamicUdpDestPortMergeSm ); },
-      udpDestPortConfigLocal_,
-      udpDestPortConfig_,
-      nexthopGroupConfigInput_,
-      Oxa::SmControl{} );
+   fetchAttribute( Mounted::udpDestPortConfig, &L3SmMounter::udpDestPortConfigIs );
+   fetchAttribute( Mounted::nexthopGroupConfigInput, &L3SmMounter::nexthopGroupConfigInputIs );
+   nexthopGroupCliDynamicUdpDestPortMergeSmIs(
+      udpDestPortConfigLocal_, udpDestPortConfig_, nexthopGroupConfigInput_, Oxa::SmControl{} );
 
    dgConfigIs();
    Corvo::Ptr< Rex::Dir const > decapDynamic;
-   fetch( "routing/tunneldecap/input/dynamic", decapDynamic );
+   fetch( Mounted::decapInputDynamic, decapDynamic );
    Corvo::Ptr< Tunnel::Decap::ConfigInput const > decapCli;
-   fetch( "routing/tunneldecap/input/cli", decapCli );
-   dgConfigMergeSm_.is(
-      Tunnel::Decap::DecapGroupConfigMergeSm::DecapGroupConfigMergeSmIs,
-      [this] { publisher()->publish( dgConfigMergeSm ); },
-      dgConfig_,
-      decapCli,
-      decapDynamic,
-      entityManager );
+   fetch( Mounted::decapInputCli, decapCli );
+   dgConfigMergeSmIs( dgConfig_, decapCli, decapDynamic, entityManager );
 
    auto const sdk = shared->readOnly< AgentSdkState >( "agentSdkState" );
    sm.switchControlSal = DaceSal::switchControlSalFactory( sdk->sdkHandle(), sdk->salGlobalConfig() );
@@ -168,13 +158,8 @@ void L3SmMounter::doMountsComplete( Stordb::MountStatus mountStatus,
 
    auto const mergedPrefixLens = Routing::Hardware::prefixLensInExactMatchFactory( "" );
    Corvo::Ptr< Routing::Hardware::RouteStatus const > routeStatus;
-   fetch( "routing/hardware/route/status", routeStatus );
-   prefixLensInExactMatchMergerSmV4_.is(
-      Routing::Hardware::PrefixLensInExactMatchMergerSm::PrefixLensInExactMatchMergerSmIs,
-      [this] { publisher()->publish( prefixLensInExactMatchMergerSmV4 ); },
-      routeStatus,
-      mergedPrefixLens,
-      Oxa::SmControl{} );
+   fetch( Mounted::routeStatus, routeStatus );
+   prefixLensInExactMatchMergerSmV4Is( routeStatus, mergedPrefixLens, Oxa::SmControl{} );
 
    sm.scheduler = shared->writeAllowed< TaskScheduler >( "agentScheduler" )->taskScheduler();
    sm.bridgingConfig = bridgingConfig_;
@@ -201,56 +186,114 @@ void L3SmMounter::doMountsComplete( Stordb::MountStatus mountStatus,
    trace( 0, "L3SmMounter::", "doMountsComplete", " done" );
 }
 
-Corvo::Ptr< MounterRunnabilitySm >
-L3SmMounter::pluginRunnabilitySmIs( Corvo::Ptr< SliceSmStateInfo const > const & sliceSm, MounterBase * mounter ) {
-   return pluginRunnabilitySm_.is(
-      MounterRunnabilitySm::MounterRunnabilitySmIs,
-      [this] { publisher()->publish( pluginRunnabilitySm ); },
-      sliceSm,
-      mounter );
+Corvo::Ptr< L3SmMounter::NexthopGroupMergeSm >
+L3SmMounter::nexthopGroupCliDynamicUdpDestPortMergeSmIs( Corvo::Ptr< UdpDestPortConfig > const & output,
+                                                         Corvo::Ptr< UdpDestPortConfig const > const & config,
+                                                         Corvo::Ptr< Rex::Dir const > const & inputs,
+                                                         Oxa::SmControl const & control ) {
+   return childIs( Attribute::nexthopGroupCliDynamicUdpDestPortMergeSm,
+                   nexthopGroupCliDynamicUdpDestPortMergeSm_,
+                   NexthopGroupMergeSm::NexthopGroupCliDynamicConfigUdpDestPortMergeSmIs,
+                   output,
+                   config,
+                   inputs,
+                   control );
+}
+
+Corvo::Ptr< L3SmMounter::NexthopGroupMergeSm > L3SmMounter::nexthopGroupCliDynamicUdpDestPortMergeSmDel() {
+   return childDel( Attribute::nexthopGroupCliDynamicUdpDestPortMergeSm, nexthopGroupCliDynamicUdpDestPortMergeSm_ );
+}
+
+Corvo::Ptr< Tunnel::Decap::DecapGroupConfigMergeSm >
+L3SmMounter::dgConfigMergeSmIs( Corvo::Ptr< Tunnel::Decap::Config > const & output,
+                                Corvo::Ptr< Tunnel::Decap::ConfigInput const > const & cli,
+                                Corvo::Ptr< Rex::Dir const > const & dynamic,
+                                Corvo::Ptr< Stordb::EntityManager > const & entityManager ) {
+   return childIs( Attribute::dgConfigMergeSm,
+                   dgConfigMergeSm_,
+                   Tunnel::Decap::DecapGroupConfigMergeSm::DecapGroupConfigMergeSmIs,
+                   output,
+                   cli,
+                   dynamic,
+                   entityManager );
+}
+
+Corvo::Ptr< Tunnel::Decap::DecapGroupConfigMergeSm > L3SmMounter::dgConfigMergeSmDel() {
+   return childDel( Attribute::dgConfigMergeSm, dgConfigMergeSm_ );
+}
+
+Corvo::Ptr< L3SmMounter::PrefixLensMergerSm > L3SmMounter::prefixLensInExactMatchMergerSmV4Is(
+   Corvo::Ptr< Routing::Hardware::RouteStatusGen const > const & routeStatus,
+   Corvo::Ptr< Routing::Hardware::PrefixLensInExactMatch > const & output,
+   Oxa::SmControl const & control ) {
+   return childIs( Attribute::prefixLensInExactMatchMergerSmV4,
+                   prefixLensInExactMatchMergerSmV4_,
+                   PrefixLensMergerSm::PrefixLensInExactMatchMergerSmIs,
+                   routeStatus,
+                   output,
+                   control );
+}
+
+Corvo::Ptr< L3SmMounter::PrefixLensMergerSm > L3SmMounter::prefixLensInExactMatchMergerSmV4Del() {
+   return childDel( Attribute::prefixLensInExactMatchMergerSmV4, prefixLensInExactMatchMergerSmV4_ );
 }
 
 Corvo::Ptr< L3Sm > L3SmMounter::l3SmIs( L3SmArguments const & arguments ) {
-   return l3Sm_.is(
-      L3Sm::L3SmIs, [this] { publisher()->publish( l3Sm ); }, arguments );
+   return childIs( Attribute::l3Sm, l3Sm_, l3SmFactory, arguments );
 }
 
-void L3SmMounter::remFfcModifierSmIs( Corvo::Ptr< RemFfcModifierSm const > const & sm ) {
-   attributeIs( remFfcModifierSm, remFfcModifierSm_, sm );
+Corvo::Ptr< L3Sm > L3SmMounter::l3SmDel() {
+   return childDel( Attribute::l3Sm, l3Sm_ );
 }
 
-Corvo::Ptr< L3::Tunnel::UdpDestinationPortConfig > const &
+Corvo::Ptr< MounterRunnabilitySm >
+L3SmMounter::pluginRunnabilitySmIs( Corvo::Ptr< SliceSmStateInfo const > const & sliceSm, MounterBase * mounter ) {
+   return childIs( Attribute::pluginRunnabilitySm,
+                   pluginRunnabilitySm_,
+                   MounterRunnabilitySm::MounterRunnabilitySmIs,
+                   sliceSm,
+                   mounter );
+}
+
+Corvo::Ptr< MounterRunnabilitySm > L3SmMounter::pluginRunnabilitySmDel() {
+   return childDel( Attribute::pluginRunnabilitySm, pluginRunnabilitySm_ );
+}
+
+Corvo::Ptr< L3SmMounter::UdpDestPortConfig > const &
 L3SmMounter::udpDestPortConfigLocalIs( Corvo::String const & name ) {
    if ( !udpDestPortConfigLocal_ || udpDestPortConfigLocal_->name() != name ) {
       if ( udpDestPortConfigLocal_ ) {
          udpDestPortConfigLocal_->parentIs( nullptr );
       }
-      auto const made = Corvo::makePtr< UdpDestPortConfig >( name );
-      made->parentIs( this );
-      attributeIs( udpDestPortConfigLocal, udpDestPortConfigLocal_, made );
+      udpDestPortConfigLocal_ = Corvo::makePtr< UdpDestPortConfig >( name );
+      udpDestPortConfigLocal_->parentIs( this );
+      announce( Attribute::udpDestPortConfigLocal );
    }
    return udpDestPortConfigLocal_;
 }
 
-Corvo::Ptr< L3::Tunnel::UdpDestinationPortConfig > L3SmMounter::udpDestPortConfigLocalDel() {
-   auto const old = udpDestPortConfigLocal_;
+Corvo::Ptr< L3SmMounter::UdpDestPortConfig > L3SmMounter::udpDestPortConfigLocalDel() {
+   auto const old = std::exchange( udpDestPortConfigLocal_, nullptr );
    if ( old ) {
       old->parentIs( nullptr );
-      attributeIs( udpDestPortConfigLocal, udpDestPortConfigLocal_, {} );
+      announce( Attribute::udpDestPortConfigLocal );
    }
    return old;
 }
 
 Corvo::Ptr< Tunnel::Decap::Config > const & L3SmMounter::dgConfigIs() {
    if ( !dgConfig_ ) {
-      attributeIs( dgConfig, dgConfig_, Corvo::makePtr< Tunnel::Decap::Config >() );
+      dgConfig_ = Corvo::makePtr< Tunnel::Decap::Config >();
+      announce( Attribute::dgConfig );
    }
    return dgConfig_;
 }
 
 Corvo::Ptr< Tunnel::Decap::Config > L3SmMounter::dgConfigDel() {
-   auto const old = dgConfig_;
-   attributeIs( dgConfig, dgConfig_, {} );
+   auto const old = std::exchange( dgConfig_, nullptr );
+   if ( old ) {
+      announce( Attribute::dgConfig );
+   }
    return old;
 }
 

@@ -4,11 +4,11 @@
 // for the microcode's own words that lead to a context of one-label lookups, and lead them to another one. They start
 // from the microcode's list and never from the chip, so turning a setting off restores the list exactly.
 #include "L3Sm.h"
-#include "MplsLog.h"
 #include "Programming.h"
 #include "constants/Contexts.h"
 #include "constants/MicrocodeActions.h"
 #include "rex/Gate.h"
+#include "rex/Log.h"
 #include "rex/Trace.h"
 
 namespace DaceFapNi {
@@ -27,11 +27,23 @@ U16 withTarget( U16 word, U32 context ) {
    return static_cast< U16 >( ( word & ~targetMask ) | context );
 }
 
+// The plug-in's one message to the operator.
+REX_LOG_SECTION constexpr Rex::LogMessage multiLabelLookupWithFallbackIp{
+   "DACE_MULTI_LABEL_LOOKUP_COUNT_MPLS_FALLBACK_IP_NOT_SUPPORTED",
+   "Configurations 'mpls lookup label count 2' and 'mpls lookup fallback ip' cannot co-exist.",
+   "Configuration 'mpls lookup fallback ip' doesn't support 2 MPLS label lookup.",
+   "Please unconfigure either of the two.",
+   Rex::LogMessage::error,
+   0 };
+
+// Every conflict is told.
+Rex::LogHandle const multiLabelLookupWithFallbackIpLog{ multiLabelLookupWithFallbackIp, Rex::Seconds{ 0 }, 1.0, 0, 0 };
+
 // The two settings exclude each other. Says so in the log if both are on.
 bool isConflict( Mpls::RoutingInfo const & info ) {
    bool const conflict = info.mplsLookupLabelCount() == 2 && info.mplsLookupFallbackIp();
    if ( conflict ) {
-      logMultiLabelLookupWithFallbackIp();
+      Rex::log( multiLabelLookupWithFallbackIpLog );
    }
    return conflict;
 }

@@ -3,8 +3,8 @@
 // VsiProfileEnablers turns a VSI profile into a routing profile, four profiles to an entry; EnablersVectors turns a
 // routing profile into the vector of what it routes. An array index stands for the same place in the pipeline in both.
 #include "L3Sm.h"
-#include "Learning.h"
 #include "Programming.h"
+#include "SharedFunctions.h"
 #include "Toggles.h"
 #include "constants/WellKnown.h"
 
@@ -103,10 +103,10 @@ void routingProfileIs( Fap const & fap,
 
 // In this order. Their routing profile is the one whose vector is 0 in arrays 2 and 3.
 constexpr Jericho2LifProfiles unroutedVsiProfiles[] = {
-   Jericho2LifProfiles::unrouted,
-   Jericho2LifProfiles::unroutedTunnel,
-   Jericho2LifProfiles::unroutedCore,
-   Jericho2LifProfiles::unroutedCoreTunnel,
+   Jericho2LifProfiles::profile8,
+   Jericho2LifProfiles::profile9,
+   Jericho2LifProfiles::profile17,
+   Jericho2LifProfiles::profile18,
 };
 
 // Overrides in variant 1, in this order.

@@ -20,6 +20,7 @@ class L3Sm::NestedSm_SlotLoadBalance : public Rex::NotifieeConst {
    // Follows another configuration of the slot, and acts on it. The one that it follows already changes nothing.
    void notifierIs( Config const & config );
    void parentIs( L3Sm * parent ) { parent_ = parent; }
+   L3Sm * parent() const { return parent_; }
 
    void onAttribute( Rex::AttributeId attribute, void const * key ) override;
    // Programs the GUE termination if this is the own slot. Idle until the parent is initialized.

@@ -1,7 +1,7 @@
 // uRPF: what the forwarding stage does with a packet whose source check fails, and whether a context learns.
 #include "L3Sm.h"
-#include "Learning.h"
 #include "Programming.h"
+#include "SharedFunctions.h"
 #include "rex/Gate.h"
 #include "rex/Trace.h"
 

@@ -49,7 +49,7 @@ MplsParserCfgSm::MplsParserCfgSm( ConfigPtr const & mplsConfig,
 
 MplsParserCfgSm::~MplsParserCfgSm() {
    hasNotificationActiveIs( false );
-   markAndSweepFlagSet( true );
+   rexDoZombieReactors( true );
    mplsConfig_.unsubscribe();
 }
 
@@ -74,6 +74,10 @@ void MplsParserCfgSm::hasNotificationActiveIs( bool active ) {
       nodeFlagSet( Corvo::NodeFlag::notificationsActive, active );
       mplsConfig_.activeIs( active, mplsConfigDispatch, this );
    }
+}
+
+void MplsParserCfgSm::rexDoZombieReactors( bool zombie ) {
+   markAndSweepFlagSet( zombie );
 }
 
 void MplsParserCfgSm::mplsConfigDispatch(

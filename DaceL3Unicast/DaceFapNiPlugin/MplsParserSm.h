@@ -34,6 +34,7 @@ class MplsParserCfgSm : public Corvo::Node {
 
    // Idempotent. Subscribes to or unsubscribes from the configuration.
    void hasNotificationActiveIs( bool active );
+   virtual void rexDoZombieReactors( bool zombie );
 
    // Writes all five controls of every FAP. A setting that has neither a value nor a default throws the
    // bad-optional-access exception: before any write, except that a default that is looked at only when it is written

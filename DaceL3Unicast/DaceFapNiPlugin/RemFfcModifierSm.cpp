@@ -22,26 +22,14 @@ constexpr short prefixLenAttribute = 0x102;
 constexpr U8 literally = 2;
 constexpr U8 relativeHeader = 3;
 
-// The end of the IPv4 destination address in the headers, less the address: where a copy of all of it begins.
+// Where an instruction that copies all 32 bits of the IPv4 destination begins. A copy of the leading N bits begins
+// 32 - N further on.
 constexpr U16 destinationOffset = 992;
 
 // The key of the exact-match lookup, of those that the context builds.
 constexpr int exactMatchKey = 6;
 
 constexpr U8 urpfVrfFieldSize = 12; // as the field has it: bits less one
-
-// The width of a VRF in the keys of hosts and reduced prefixes, in bits.
-U8 chipTypeToFapRevMajor( Hardware::ChipType chipType ) {
-   U8 const number = static_cast< U8 >( chipType );
-   if ( number == 15 || number == 16 ) {
-      return 4;
-   }
-   if ( number == 20 ) {
-      toggleJ3AiBringupEnabled(); // the chip has the same width in both states
-   }
-   Rex::sassert( ( number >= 1 && number <= 20 ) || number == 24 || number == 25, "0 && \"Invalid chipType\"" );
-   return 5;
-}
 
 // An instruction word over a buffer of its own, to be read or to be put together.
 class Instruction {
@@ -92,6 +80,18 @@ U64 valueOf( std::map< Hardware::Dace::FfcInfoKey, U64 > const & map, Hardware::
 
 } // namespace
 
+U8 chipTypeToFapRevMajor( Hardware::ChipType chipType ) {
+   U8 const number = static_cast< U8 >( chipType );
+   if ( number == 15 || number == 16 ) {
+      return 4;
+   }
+   if ( number == 20 ) {
+      toggleJ3AiBringupEnabled(); // the chip has the same width in both states
+   }
+   Rex::sassert( ( number >= 1 && number <= 20 ) || number == 24 || number == 25, "0 && \"Invalid chipType\"" );
+   return 5;
+}
+
 RemFfcModifierSm::RemFfcModifierSm( CellStatusPtr const & cellStatus,
                                     PrefixLensPtr const & mergedPrefixLensInExactMatchV4 )
    : FfcModifierSm( cellStatus, Hardware::Dace::IngressStage::fwd2 ),
@@ -102,7 +102,7 @@ RemFfcModifierSm::RemFfcModifierSm( CellStatusPtr const & cellStatus,
 
 RemFfcModifierSm::~RemFfcModifierSm() {
    hasNotificationActiveIs( false );
-   markAndSweepFlagSet( true );
+   rexDoZombieReactors( true );
    mergedPrefixLensInExactMatchV4_.unsubscribe();
 }
 
@@ -112,6 +112,16 @@ RemFfcModifierSm::RemFfcModifierSmIs( CellStatusPtr const & cellStatus,
    auto const sm = Corvo::makePtr< RemFfcModifierSm >( cellStatus, mergedPrefixLensInExactMatchV4 );
    sm->hasNotificationActiveIs( true );
    return sm;
+}
+
+Corvo::Ptr< RemFfcModifierSm >
+remFfcModifierSmFactory( CellStatusPtr const & cellStatus,
+                         RemFfcModifierSm::PrefixLensPtr const & mergedPrefixLensInExactMatchV4 ) {
+   return RemFfcModifierSm::RemFfcModifierSmIs( cellStatus, mergedPrefixLensInExactMatchV4 );
+}
+
+void RemFfcModifierSm::rexDoZombieReactors( bool zombie ) {
+   markAndSweepFlagSet( zombie );
 }
 
 void RemFfcModifierSm::hasNotificationActiveIs( bool active ) {

@@ -43,6 +43,7 @@ class RemFfcModifierSm final : public Hardware::Dace::FfcModifierSm {
                                                              PrefixLensPtr const & mergedPrefixLensInExactMatchV4 );
    // Idempotent. Subscribes to or unsubscribes from the prefix lengths.
    void hasNotificationActiveIs( bool active );
+   void rexDoZombieReactors( bool zombie );
 
    U64 getFfcInstruction( ChipType chipType,
                           FfcInstructionHwLocation const & location,
@@ -77,5 +78,14 @@ class RemFfcModifierSm final : public Hardware::Dace::FfcModifierSm {
 
    Corvo::Watched< Routing::Hardware::PrefixLensInExactMatch const > mergedPrefixLensInExactMatchV4_;
 };
+
+// Makes a RemFfcModifierSm and activates it.
+Corvo::Ptr< RemFfcModifierSm >
+remFfcModifierSmFactory( RemFfcModifierSm::CellStatusPtr const & cellStatus,
+                         RemFfcModifierSm::PrefixLensPtr const & mergedPrefixLensInExactMatchV4 );
+
+// The width of a VRF in the keys of hosts and reduced prefixes, in bits. A chip type that has none ends the process:
+// "0 && \"Invalid chipType\"".
+U8 chipTypeToFapRevMajor( Hardware::ChipType chipType );
 
 } // namespace DaceFapNi

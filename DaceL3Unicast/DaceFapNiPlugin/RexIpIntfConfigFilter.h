@@ -46,6 +46,7 @@ class L3IntfSm::RexIpIntfConfigFilter : public Rex::NotifieeConst {
    Netka::IntfId intfId() const { return notifier()->intfId(); }
    // Null: the state machine is going, and is not called back.
    void parentIs( L3IntfSm * parent ) { parent_ = parent; }
+   L3IntfSm * parent() const { return parent_; }
    bool initialized() const { return initialized_; }
 
    // Idempotent. Passes the value to everything nested.
@@ -133,6 +134,7 @@ class L3IntfSm::RexIpIntfConfigFilter::Nested : public Rex::NotifieeConst {
    }
    void rexDoZombieReactors( bool zombie ) override;
    void parentIs( RexIpIntfConfigFilter * parent ) { parent_ = parent; }
+   RexIpIntfConfigFilter * parent() const { return parent_; }
 
  protected:
    // Runs a handler of the filter, which is kept alive meanwhile.

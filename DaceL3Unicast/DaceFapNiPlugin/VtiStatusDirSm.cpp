@@ -3,6 +3,7 @@
 #include "FapGate.h"
 #include "Toggles.h"
 #include "constants/DestinationId.h"
+#include "corvo/NodeType.h"
 #include "rex/Gate.h"
 #include "rex/Trace.h"
 
@@ -73,14 +74,39 @@ DaceL3UnicastVtiStatusDirSm::~DaceL3UnicastVtiStatusDirSm() {
    rexDoZombieReactors( true );
 }
 
+Corvo::Ptr< DaceL3UnicastVtiStatusDirSm > DaceL3UnicastVtiStatusDirSm::DaceL3UnicastVtiStatusDirSmIs(
+   Corvo::String const & name,
+   Corvo::Ptr< Vxlan::VtiStatusDir const > const & vtiStatusDir,
+   Corvo::Ptr< Bridging::HwCapabilities const > const & hwCapabilities,
+   CellStatusPtr const & cellStatus,
+   Corvo::Ptr< DaceSal::SwitchControlSal > const & switchControlSal ) {
+   auto const sm =
+      Corvo::makePtr< DaceL3UnicastVtiStatusDirSm >( name, vtiStatusDir, hwCapabilities, cellStatus, switchControlSal );
+   sm->hasNotificationActiveIs( true );
+   return sm;
+}
+
 Corvo::Ptr< DaceL3UnicastVtiStatusDirSm >
 daceL3UnicastVtiStatusDirSmFactory( Corvo::String const & name,
                                     Corvo::Ptr< Vxlan::VtiStatusDir const > const & vtiStatusDir,
                                     Corvo::Ptr< Bridging::HwCapabilities const > const & hwCapabilities,
                                     CellStatusPtr const & cellStatus,
                                     Corvo::Ptr< DaceSal::SwitchControlSal > const & switchControlSal ) {
-   return Corvo::makePtr< DaceL3UnicastVtiStatusDirSm >(
+   return DaceL3UnicastVtiStatusDirSm::DaceL3UnicastVtiStatusDirSmIs(
       name, vtiStatusDir, hwCapabilities, cellStatus, switchControlSal );
+}
+
+Corvo::NodeType const & DaceL3UnicastVtiStatusDirSm::typeData() const {
+   static Corvo::NodeType const type{ "DaceFapNi::DaceL3UnicastVtiStatusDirSm" };
+   return type;
+}
+
+void DaceL3UnicastVtiStatusDirSm::rexDoZombieReactors( bool zombie ) {
+   VtiStatusDirSm::rexDoZombieReactors( zombie );
+   if ( zombie ) {
+      cellStatus_ = nullptr;
+      switchControlSal_ = nullptr;
+   }
 }
 
 void DaceL3UnicastVtiStatusDirSm::doSetupVxlanDestUdpPort( Netka::IntfId, Netka::UdpPort port ) {

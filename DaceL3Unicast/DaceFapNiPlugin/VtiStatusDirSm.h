@@ -18,6 +18,17 @@ class DaceL3UnicastVtiStatusDirSm : public Ale::VXLAN::VtiStatusDirSm {
                                 CellStatusPtr const & cellStatus,
                                 Corvo::Ptr< DaceSal::SwitchControlSal > const & switchControlSal );
    ~DaceL3UnicastVtiStatusDirSm() override;
+   // Makes a DaceL3UnicastVtiStatusDirSm and activates it.
+   static Corvo::Ptr< DaceL3UnicastVtiStatusDirSm >
+   DaceL3UnicastVtiStatusDirSmIs( Corvo::String const & name,
+                                  Corvo::Ptr< Vxlan::VtiStatusDir const > const & vtiStatusDir,
+                                  Corvo::Ptr< Bridging::HwCapabilities const > const & hwCapabilities,
+                                  CellStatusPtr const & cellStatus,
+                                  Corvo::Ptr< DaceSal::SwitchControlSal > const & switchControlSal );
+
+   Corvo::NodeType const & typeData() const override;
+   // A zombie lets the chips go, and does not get them back.
+   void rexDoZombieReactors( bool zombie ) override;
 
    // The chips have one VXLAN port of each kind, whichever VTI asks for it. A port of 0 turns it off.
    void doSetupVxlanDestUdpPort( Netka::IntfId intfId, Netka::UdpPort port ) override;
@@ -33,10 +44,11 @@ class DaceL3UnicastVtiStatusDirSm : public Ale::VXLAN::VtiStatusDirSm {
  private:
    bool anyVtiFloodsToRemote() const;
 
-   CellStatusPtr const cellStatus_;
-   Corvo::Ptr< DaceSal::SwitchControlSal > const switchControlSal_;
+   CellStatusPtr cellStatus_;
+   Corvo::Ptr< DaceSal::SwitchControlSal > switchControlSal_;
 };
 
+// Makes a DaceL3UnicastVtiStatusDirSm and activates it.
 Corvo::Ptr< DaceL3UnicastVtiStatusDirSm >
 daceL3UnicastVtiStatusDirSmFactory( Corvo::String const & name,
                                     Corvo::Ptr< Vxlan::VtiStatusDir const > const & vtiStatusDir,

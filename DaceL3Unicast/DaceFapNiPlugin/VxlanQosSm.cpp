@@ -34,9 +34,16 @@ VxlanQosSm::~VxlanQosSm() {
    vxlanEcnConfig_.unsubscribe();
 }
 
+Corvo::Ptr< VxlanQosSm > VxlanQosSm::VxlanQosSmIs( Corvo::Ptr< Vxlan::EcnConfig const > const & vxlanEcnConfig,
+                                                   CellStatusPtr const & cellStatus ) {
+   auto const sm = Corvo::makePtr< VxlanQosSm >( vxlanEcnConfig, cellStatus );
+   sm->hasNotificationActiveIs( true );
+   return sm;
+}
+
 Corvo::Ptr< VxlanQosSm > vxlanQosSmFactory( Corvo::Ptr< Vxlan::EcnConfig const > const & vxlanEcnConfig,
                                             CellStatusPtr const & cellStatus ) {
-   return Corvo::makePtr< VxlanQosSm >( vxlanEcnConfig, cellStatus );
+   return VxlanQosSm::VxlanQosSmIs( vxlanEcnConfig, cellStatus );
 }
 
 void VxlanQosSm::hasNotificationActiveIs( bool active ) {

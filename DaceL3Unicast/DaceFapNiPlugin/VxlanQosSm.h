@@ -18,6 +18,9 @@ class VxlanQosSm : public Corvo::Node {
    // Subscribes to the configuration. Programs nothing: the table stays as it is until the first change.
    VxlanQosSm( Corvo::Ptr< Vxlan::EcnConfig const > const & vxlanEcnConfig, CellStatusPtr const & cellStatus );
    ~VxlanQosSm() override;
+   // Makes a VxlanQosSm and activates it.
+   static Corvo::Ptr< VxlanQosSm > VxlanQosSmIs( Corvo::Ptr< Vxlan::EcnConfig const > const & vxlanEcnConfig,
+                                                 CellStatusPtr const & cellStatus );
 
    // Idempotent.
    void hasNotificationActiveIs( bool active );
@@ -38,6 +41,7 @@ class VxlanQosSm : public Corvo::Node {
    CellStatusPtr const cellStatus_;
 };
 
+// Makes a VxlanQosSm and activates it.
 Corvo::Ptr< VxlanQosSm > vxlanQosSmFactory( Corvo::Ptr< Vxlan::EcnConfig const > const & vxlanEcnConfig,
                                             CellStatusPtr const & cellStatus );
 

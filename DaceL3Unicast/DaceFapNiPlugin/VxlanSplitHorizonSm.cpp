@@ -152,10 +152,19 @@ VxlanSplitHorizonCfgSm::~VxlanSplitHorizonCfgSm() {
 }
 
 Corvo::Ptr< VxlanSplitHorizonCfgSm >
+VxlanSplitHorizonCfgSm::VxlanSplitHorizonCfgSmIs( Corvo::Ptr< Vxlan::VtiStatusDir const > const & vtiStatusDir,
+                                                  Corvo::Ptr< Evpn::EvpnStatus const > const & evpnStatus,
+                                                  CellStatusPtr const & cellStatus ) {
+   auto const sm = Corvo::makePtr< VxlanSplitHorizonCfgSm >( vtiStatusDir, evpnStatus, cellStatus );
+   sm->hasNotificationActiveIs( true );
+   return sm;
+}
+
+Corvo::Ptr< VxlanSplitHorizonCfgSm >
 vxlanSplitHorizonCfgSmFactory( Corvo::Ptr< Vxlan::VtiStatusDir const > const & vtiStatusDir,
                                Corvo::Ptr< Evpn::EvpnStatus const > const & evpnStatus,
                                CellStatusPtr const & cellStatus ) {
-   return Corvo::makePtr< VxlanSplitHorizonCfgSm >( vtiStatusDir, evpnStatus, cellStatus );
+   return VxlanSplitHorizonCfgSm::VxlanSplitHorizonCfgSmIs( vtiStatusDir, evpnStatus, cellStatus );
 }
 
 void VxlanSplitHorizonCfgSm::hasNotificationActiveIs( bool active ) {

@@ -25,6 +25,11 @@ class VxlanSplitHorizonCfgSm : public Corvo::Node {
                            CellStatusPtr const & cellStatus );
    // Writes nothing: the registers keep their last values.
    ~VxlanSplitHorizonCfgSm() override;
+   // Makes a VxlanSplitHorizonCfgSm and activates it.
+   static Corvo::Ptr< VxlanSplitHorizonCfgSm >
+   VxlanSplitHorizonCfgSmIs( Corvo::Ptr< Vxlan::VtiStatusDir const > const & vtiStatusDir,
+                             Corvo::Ptr< Evpn::EvpnStatus const > const & evpnStatus,
+                             CellStatusPtr const & cellStatus );
 
    // Idempotent. Turning on catches up with the VTIs that came and went meanwhile.
    void hasNotificationActiveIs( bool active );
@@ -70,6 +75,7 @@ class VxlanSplitHorizonCfgSm::VtiStatusSm : public Rex::NotifieeConst {
    VxlanSplitHorizonCfgSm * parent_;
 };
 
+// Makes a VxlanSplitHorizonCfgSm and activates it.
 Corvo::Ptr< VxlanSplitHorizonCfgSm >
 vxlanSplitHorizonCfgSmFactory( Corvo::Ptr< Vxlan::VtiStatusDir const > const & vtiStatusDir,
                                Corvo::Ptr< Evpn::EvpnStatus const > const & evpnStatus,

@@ -44,8 +44,8 @@ class ChipInitConfigDir : public Rex::Entity {
    REX_COLLECTION( ChipInitConfig, chipInitConfig, 0x102 );
 
  public:
-   // A new entry; it takes the place of one of the same name.
-   Corvo::Ptr< ChipInitConfig > addChipInitConfig( Corvo::String const & name );
+   // A new entry; it takes the place of one of the same name. Null from a directory that takes none.
+   virtual Corvo::Ptr< ChipInitConfig > addChipInitConfig( Corvo::String const & name );
    // Runs the callback of every entry that is ready, for one chip, in the order in which the entries were added.
    void initChip( Corvo::Ptr< Hardware::Dace::Cell::FapStatus const > const & fapStatus ) const;
 };

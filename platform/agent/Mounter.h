@@ -122,6 +122,8 @@ class MounterRunnabilitySmBase : public Corvo::Node {
  public:
    // Adds a slice state in which the plug-in may run.
    void runnableStatesIs( SliceState state );
+   // In the order in which they were added.
+   std::vector< SliceState > const & runnableStates() const { return runnableStates_; }
 
  protected:
    virtual void handleSliceState() = 0;

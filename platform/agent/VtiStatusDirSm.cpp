@@ -75,7 +75,7 @@ VtiStatusDirSm::VtiStatusDirSm( Corvo::String const & name,
 }
 
 VtiStatusDirSm::~VtiStatusDirSm() {
-   VtiStatusDirSm::hasNotificationActiveIs( false );
+   hasNotificationActiveIs( false );
    VtiStatusDirSm::rexDoZombieReactors( true );
    vtiStatusDir_.unsubscribe();
    for ( auto const & [intfId, vti] : vtiStatus_ ) {

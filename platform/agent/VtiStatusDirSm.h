@@ -49,7 +49,7 @@ class VtiStatusDirSm : public Corvo::Node {
    void initializedIs( bool initialized );
 
    // Idempotent. Turning on catches up with the VTIs that came and went meanwhile.
-   virtual void hasNotificationActiveIs( bool active );
+   void hasNotificationActiveIs( bool active );
    // Idempotent. Passes the value to the reactors of the VTIs; a zombie's set-ups stay silent.
    virtual void rexDoZombieReactors( bool zombie );
 

@@ -42,12 +42,8 @@ struct EtpsArpAcResultType {
    static U8 hwValue() { return 37; }
 };
 
-// LIF and VSI profiles with a meaning of their own. The numbers are fixed; their names were chosen here.
-enum class Jericho2LifProfiles : U8 {
-   unrouted = 8,
-   unroutedTunnel = 9,
-   unroutedCore = 17,
-   unroutedCoreTunnel = 18,
-};
+// Profiles with a meaning of their own, as LIF profiles another one than as VSI profiles: so they are called by their
+// numbers.
+enum class Jericho2LifProfiles : U8 { profile8 = 8, profile9 = 9, profile17 = 17, profile18 = 18 };
 
 } // namespace Hardware::Dace

@@ -47,7 +47,7 @@ Subscriber::~Subscriber() {
    }
 }
 
-Notification const * Publisher::top_ = nullptr;
+Notification * Publisher::top_ = nullptr;
 
 namespace {
 

@@ -60,7 +60,7 @@ struct Notification {
    Publisher const * publisher; // null once it has been destroyed by a callback
    short attribute;
    void const * key;
-   Notification const * outer; // the announcement during which this one began, or null
+   Notification * outer; // the announcement during which this one began, or null
 };
 
 class Publisher {
@@ -85,7 +85,7 @@ class Publisher {
       if ( first_ != last_ ) {
          announceToMany( attribute, key, value );
       } else if ( Subscriber * const only = first_ ) { // the most frequent case: no walk
-         Cursor const cursor{ { this, attribute, key, top_ }, nullptr, nullptr };
+         Cursor cursor{ { this, attribute, key, top_ }, nullptr, nullptr };
          Announcement const announcement( cursor );
          only->dispatch_( this, only, attribute, key, value );
       }
@@ -116,21 +116,21 @@ class Publisher {
       Subscriber * last; // who subscribes from here on hears the next change
 
       void subscriberGone( Subscriber const & subscriber );
-      static Cursor * innermost() { return static_cast< Cursor * >( const_cast< Notification * >( top_ ) ); }
-      Cursor * outerCursor() const { return static_cast< Cursor * >( const_cast< Notification * >( outer ) ); }
+      static Cursor * innermost() { return static_cast< Cursor * >( top_ ); }
+      Cursor * outerCursor() const { return static_cast< Cursor * >( outer ); }
    };
 
    // Makes a cursor the innermost one. The one before is kept here, out of the callbacks' reach and so in a register:
    // read back from the cursor, it would make one announcement wait for the memory of the one before.
    class Announcement {
     public:
-      explicit Announcement( Cursor const & cursor ) : outer_( top_ ) { top_ = &cursor; }
+      explicit Announcement( Cursor & cursor ) : outer_( top_ ) { top_ = &cursor; }
       Announcement( Announcement const & ) = delete;
       Announcement & operator=( Announcement const & ) = delete;
       ~Announcement() { top_ = outer_; }
 
     private:
-      Notification const * const outer_;
+      Notification * const outer_;
    };
 
    void announceToMany( short attribute, void const * key, void const * value );
@@ -139,7 +139,7 @@ class Publisher {
    Node const * node_;
    Subscriber * first_ = nullptr;
    Subscriber * last_ = nullptr;
-   static Notification const * top_; // the innermost announcement
+   static Notification * top_; // the innermost announcement
 };
 
 } // namespace Corvo

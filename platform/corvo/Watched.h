@@ -3,7 +3,14 @@
 //    Corvo::Watched< Evpn::EvpnStatus const > evpnStatus_;
 //    evpnStatus_.subscribe( evpnStatusDispatch, this );
 //
+// WatchedIn is the same on a pointer that the machine holds already, among its arguments: an input has one owner there.
+//
+//    L3SmArguments const in_;
+//    Corvo::WatchedIn< Evpn::EvpnStatus const > evpnStatus_{ in_.evpnStatus };
+//
 // A null input stays silent: subscribing to it does nothing.
+//
+// Threading: the agent's scheduler thread.
 #pragma once
 
 #include "corvo/Ptr.h"
@@ -11,10 +18,12 @@
 
 namespace Corvo {
 
-template< class T >
+namespace Impl {
+
+template< class T, class Pointer >
 class Watched {
  public:
-   explicit Watched( Ptr< T > node ) : node_( std::move( node ) ) {}
+   explicit Watched( Ptr< T > const & node ) : node_( node ) {}
 
    Ptr< T > const & ptr() const { return node_; }
    T * operator->() const { return node_.operator->(); }
@@ -42,8 +51,15 @@ class Watched {
    }
 
  private:
-   Ptr< T > node_; // declared before the slot: the slot leaves first
+   Pointer node_; // declared before the slot: the slot leaves first
    Subscriber slot_;
 };
+
+} // namespace Impl
+
+template< class T >
+using Watched = Impl::Watched< T, Ptr< T > >;
+template< class T >
+using WatchedIn = Impl::Watched< T, Ptr< T > const & >;
 
 } // namespace Corvo

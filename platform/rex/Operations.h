@@ -10,8 +10,15 @@
 //       ( *verify )( fapStatus );
 //    }
 //
-// An operation takes one entity and gives nothing back; one that has a reason to complain ends the process by
-// assertion. An entity of another type than the operation takes: assertion text "argument".
+// An operation takes one entity, and some of them a handle beside it, such as that of a driver:
+//
+//    if ( auto const * init = Rex::Operations::find( "DaceFapNi::L3Sm", "initMtuRecycleLog" ) ) {
+//       ( *init )( fapStatus, switchControlSal );
+//    }
+//
+// It gives nothing back; one that has a reason to complain ends the process by assertion. An entity of another type
+// than the operation takes: assertion text "argument". A handle that is missing or of another type: "handle". One that
+// takes none leaves it alone.
 //
 // Threading: the agent's scheduler thread.
 #pragma once
@@ -32,18 +39,35 @@ class Operation {
    template< class Argument >
    Operation( char const * name,
               void ( *run )( Corvo::Ptr< Argument > const & ) ) // NOLINT(google-explicit-constructor)
-      : name_( name ), run_( [run]( Corvo::Ptr< Entity const > const & entity ) {
-           auto const argument = Corvo::ptrCast< Argument >( entity );
-           sassert( argument != nullptr, "argument" );
-           run( argument );
+      : name_( name ), run_( [run]( auto const & entity, auto const & ) { run( given< Argument >( entity ) ); } ) {}
+   template< class Argument, class Handle >
+   Operation( char const * name,
+              void ( *run )( Corvo::Ptr< Argument > const &, // NOLINT(google-explicit-constructor)
+                             Corvo::Ptr< Handle > const & ) )
+      : name_( name ), takesHandle_( true ), run_( [run]( auto const & entity, auto const & node ) {
+           auto const handle = Corvo::ptrCast< Handle >( node );
+           sassert( handle != nullptr, "handle" );
+           run( given< Argument >( entity ), handle );
         } ) {}
 
    std::string const & name() const { return name_; }
-   void operator()( Corvo::Ptr< Entity const > const & argument ) const { run_( argument ); }
+   bool takesHandle() const { return takesHandle_; }
+   void operator()( Corvo::Ptr< Entity const > const & argument,
+                    Corvo::Ptr< Corvo::Node > const & handle = nullptr ) const {
+      run_( argument, handle );
+   }
 
  private:
+   template< class Argument >
+   static Corvo::Ptr< Argument > given( Corvo::Ptr< Entity const > const & entity ) {
+      auto argument = Corvo::ptrCast< Argument >( entity );
+      sassert( argument != nullptr, "argument" );
+      return argument;
+   }
+
    std::string name_;
-   std::function< void( Corvo::Ptr< Entity const > const & ) > run_;
+   bool takesHandle_ = false;
+   std::function< void( Corvo::Ptr< Entity const > const &, Corvo::Ptr< Corvo::Node > const & ) > run_;
 };
 
 // What one library offers of one type, as long as the object lives.

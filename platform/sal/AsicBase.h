@@ -35,7 +35,7 @@ class AsicBase {
    virtual U32 maxIdentifier() const { fail( "false && \"maxIdentifier invalid for this class\"" ); }
    virtual U16 fieldCount() const = 0;
    virtual bool isTable() const = 0;
-   // allFieldsMask stands here; its type is the class's own, so each class introduces it.
+   // allFieldsMask has no slot among these: its type is the class's own, so each class introduces it behind them.
    virtual S32 sdkDefinedId() const = 0;
    virtual U32 instanceCount() const = 0;
    virtual bool hasInstance( U32 ) const { fail( "false" ); }

@@ -36,9 +36,10 @@ void MountGroup::doMount( Mount const & mount ) {
    entityManager_->requests_.push_back( mount );
 }
 
-void MountGroup::doClose( bool, Corvo::String const &, Rex::Seconds ) {
+void MountGroup::doClose( bool blocking, Corvo::String const & label, Rex::Seconds timeout ) {
    Rex::sassert( isOpen_, "isOpen" );
    isOpen_ = false;
+   entityManager_->closings_.push_back( { blocking, label, timeout } );
    auto const self = Corvo::Ptr< MountGroup >( this );
    entityManager_->scheduler_->post( [self] {
       MountStatus status;

@@ -64,6 +64,14 @@ class Mount {
    AllMountFlags flags_;
 };
 
+// How a group was closed.
+struct MountClosing {
+   bool blocking = false;
+   Corvo::String label;
+   Rex::Seconds timeout = 0;
+   friend bool operator==( MountClosing const &, MountClosing const & ) = default;
+};
+
 // How a group went.
 struct MountStatus {
    enum class Code : U8 { success, noSuchPath, wrongType };
@@ -134,8 +142,9 @@ class EntityManager : public Corvo::Node {
    // The mounted entity at a path, or null. One that was mounted without "w" refuses to be written.
    Corvo::Ptr< Rex::Entity > getEntity( Corvo::String const & path ) const;
 
-   // All requests of all groups, in order.
+   // All requests of all groups, in order, and how the groups were closed.
    std::vector< Mount > const & requests() const { return requests_; }
+   std::vector< MountClosing > const & closings() const { return closings_; }
 
    Corvo::Ptr< Database > const & database() const { return database_; }
 
@@ -147,6 +156,7 @@ class EntityManager : public Corvo::Node {
    Corvo::Ptr< Orb::TaskScheduler > scheduler_;
    std::map< Corvo::String, Corvo::Ptr< Rex::Entity > > mounted_;
    std::vector< Mount > requests_;
+   std::vector< MountClosing > closings_;
 };
 
 // Who mounts. It hears once of each group.

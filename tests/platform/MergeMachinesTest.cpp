@@ -40,6 +40,14 @@ struct DecapGroups : testing::Test {
 };
 using Groups = std::map< U16, int >;
 
+TEST( SmControl, SaysNothingByDefault ) {
+   Oxa::SmControl const control;
+   EXPECT_EQ( control.control, nullptr );
+   EXPECT_EQ( control.word, 0U );
+   EXPECT_EQ( control.name, "" );
+   EXPECT_EQ( control.mode, 3U );
+}
+
 TEST_F( DecapGroups, NothingIsMergedBeforeNotificationsAreActive ) {
    cli->decapGroupIs( group( 6635, 1 ) );
    EXPECT_EQ( groups(), Groups{} );

@@ -27,6 +27,26 @@ TEST( OperationsTest, areFoundByTypeAndNameAndRunOnAnEntity ) {
    EXPECT_EQ( Rex::Operations::find( "Test::Other", "visit" ), nullptr );
 }
 
+class Handle : public Corvo::Node {};
+class OtherHandle : public Corvo::Node {};
+
+void visitBy( Corvo::Ptr< FapStatus const > const & fapStatus, Corvo::Ptr< Handle > const & handle ) {
+   visited.push_back( fapStatus->fapId().value() + ( handle ? 100 : 0 ) );
+}
+
+TEST( OperationsTest, takeAHandleBesideTheEntityWhereTheyNeedOne ) {
+   Rex::Operations const operations{ "Test::Sm", { { "visit", visit }, { "visitBy", visitBy } } };
+   auto const & plain = *Rex::Operations::find( "Test::Sm", "visit" );
+   auto const & byHandle = *Rex::Operations::find( "Test::Sm", "visitBy" );
+   EXPECT_FALSE( plain.takesHandle() );
+   EXPECT_TRUE( byHandle.takesHandle() );
+   auto const fap = Corvo::makePtr< FapStatus >( FapId( 7 ) );
+   auto const handle = Corvo::makePtr< Handle >();
+   plain( fap, handle );
+   byHandle( fap, handle );
+   EXPECT_EQ( visited, ( std::vector{ 7, 107 } ) );
+}
+
 TEST( OperationsTest, areNamedInTheOrderInWhichTheyWereOffered ) {
    Rex::Operations const first{ "Test::Sm", { { "visit", visit }, { "ignore", ignore } } };
    Rex::Operations const other{ "Test::Other", { { "visit", visit } } };
@@ -43,6 +63,14 @@ TEST( OperationsTest, areGoneWithTheirLibrary ) {
 TEST( OperationsDeathTest, refuseAnEntityOfAnotherType ) {
    Rex::Operations const operations{ "Test::Sm", { { "visit", visit } } };
    EXPECT_DEATH( ( *Rex::Operations::find( "Test::Sm", "visit" ) )( Corvo::makePtr< CellStatus >() ), "`argument'" );
+}
+
+TEST( OperationsDeathTest, refuseAHandleThatIsMissingOrOfAnotherType ) {
+   Rex::Operations const operations{ "Test::Sm", { { "visitBy", visitBy } } };
+   auto const & operation = *Rex::Operations::find( "Test::Sm", "visitBy" );
+   auto const fap = Corvo::makePtr< FapStatus >( FapId( 7 ) );
+   EXPECT_DEATH( operation( fap ), "`handle'" );
+   EXPECT_DEATH( operation( fap, Corvo::makePtr< OtherHandle >() ), "`handle'" );
 }
 
 } // namespace

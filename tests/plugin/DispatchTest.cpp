@@ -96,11 +96,11 @@ class DispatchTest : public testing::Test {
       return [this, path, attribute, key, value] { sw.setEntry( path, attribute, key, value ); };
    }
    L3IntfSm::RexIpIntfConfigFilter & filter() const {
-      return *agent.mounter->l3SmPtr()->l3IntfSm()->rexIpIntfConfigFilter( Netka::IntfId( "Ethernet1" ) );
+      return *agent.mounter->l3Sm()->l3IntfSm()->rexIpIntfConfigFilter( Netka::IntfId( "Ethernet1" ) );
    }
    // An input by its path, or by its name where it has none.
    Corvo::Ptr< Rex::Entity const > input( std::string const & name ) const {
-      auto const & arguments = agent.mounter->l3SmPtr()->arguments();
+      auto const & arguments = agent.mounter->l3Sm()->arguments();
       if ( name == "merged prefix lengths" ) {
          return arguments.mergedPrefixLensInExactMatchV4;
       }
@@ -290,7 +290,7 @@ TEST_F( DispatchTest, noOtherAttributeReachesAnything ) {
 TEST_F( DispatchTest, singleAttributesReachNothingInAZombie ) {
    Names const keyed{
       "shared/portStateInfo 102", "hardware/dace/lag/daceLagStatus 106", "interface/status/eth/vxlan 182" };
-   auto const & l3Sm = agent.mounter->l3SmPtr();
+   auto const & l3Sm = agent.mounter->l3Sm();
    l3Sm->vtiStatusDirSm()->rexDoZombieReactors( true );
    l3Sm->vxlanSplitHorizonCfgSm()->rexDoZombieReactors( true );
    l3Sm->vxlanQosSm()->rexDoZombieReactors( true );

@@ -1,5 +1,5 @@
 #include "ChipFixture.h"
-#include "ContextSelection.h"
+#include "SharedFunctions.h"
 
 using namespace DaceFapNi;
 

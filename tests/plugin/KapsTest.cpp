@@ -1,5 +1,5 @@
 #include "ChipFixture.h"
-#include "KapsStrength.h"
+#include "SharedFunctions.h"
 #include "rex/Operations.h"
 
 using namespace DaceFapNi;

@@ -48,7 +48,7 @@ TEST( L3Sm, WaitsForBothInterfaceDirectories ) {
    agent.phy()->allEthPhyIntfConfigDirIs( nullptr );
    agent.phyStatus()->allEthPhyIntfStatusDirIs( nullptr );
    agent.start();
-   auto const sm = agent.mounter->l3SmPtr();
+   auto const sm = agent.mounter->l3Sm();
    EXPECT_FALSE( sm->initialized() );
    EXPECT_EQ( agent.operations(), 0U );
 
@@ -64,7 +64,7 @@ TEST( L3Sm, WaitsForBothInterfaceDirectories ) {
 TEST( L3Sm, SecondRunOfHandleInitializedDoesNothing ) {
    OwnL3Sm agent;
    agent.start();
-   auto const sm = agent.mounter->l3SmPtr();
+   auto const sm = agent.mounter->l3Sm();
    auto const operations = agent.operations();
    sm->handleInitialized();
    sm->handleAllEthPhyIntfDir();
@@ -84,7 +84,7 @@ TEST( L3Sm, HandlersAreSilentBeforeItIsInitialized ) {
 TEST( L3Sm, ZombieIsSilentAndAwakeAgainHears ) {
    OwnL3Sm agent;
    agent.start();
-   auto const sm = agent.mounter->l3SmPtr();
+   auto const sm = agent.mounter->l3Sm();
    auto const operations = agent.operations();
    sm->rexDoZombieReactors( true );
    agent.sw.set( "routing/hardware/config", "urpfLooseFailForward", true );
@@ -97,7 +97,7 @@ TEST( L3Sm, ZombieIsSilentAndAwakeAgainHears ) {
 TEST( L3Sm, NotificationsOffUnsubscribeEveryInput ) {
    OwnL3Sm agent;
    agent.start();
-   auto const sm = agent.mounter->l3SmPtr();
+   auto const sm = agent.mounter->l3Sm();
    sm->hasNotificationActiveIs( false );
    EXPECT_FALSE( agent.config()->publisher()->hasSubscribers() );
    EXPECT_FALSE(
@@ -111,7 +111,7 @@ TEST( L3Sm, ChipsOfType4KeepOnlyTheInterfaceMachineYetUrpfStillFollows ) {
    agent.shared< DaceFapNi::SliceSmStateInfo >( "sliceSmStateData" )
       ->revisionIs( { 10, static_cast< ChipType >( 20 ), 7 } );
    agent.start();
-   auto const sm = agent.mounter->l3SmPtr();
+   auto const sm = agent.mounter->l3Sm();
    EXPECT_TRUE( sm->initialized() );
    EXPECT_EQ( agent.operations(), 0U );
    agent.sw.set( "routing/hardware/config", "urpfLooseFailForward", true );
@@ -121,7 +121,7 @@ TEST( L3Sm, ChipsOfType4KeepOnlyTheInterfaceMachineYetUrpfStillFollows ) {
 TEST( L3Sm, NullConfigurationOfASlotThrowsTheNullArgumentException ) {
    OwnL3Sm agent;
    agent.start();
-   EXPECT_THROW( agent.mounter->l3SmPtr()->slotLoadBalanceIs( nullptr ), Rex::MutatorArgNullPointerException );
+   EXPECT_THROW( agent.mounter->l3Sm()->slotLoadBalanceIs( nullptr ), Rex::MutatorArgNullPointerException );
 }
 
 TEST( L3Sm, TracesItsInitialisation ) {
@@ -134,7 +134,7 @@ TEST( L3Sm, TracesItsInitialisation ) {
    } );
    OwnL3Sm agent;
    agent.start();
-   agent.mounter->l3SmPtr()->handleInitialized();
+   agent.mounter->l3Sm()->handleInitialized();
    Rex::traceSinkIs( {} );
    EXPECT_EQ( texts,
               ( std::vector< std::string >{ "L3Sm::handleInitialized initialized: false",

@@ -1,5 +1,5 @@
-#include "Learning.h"
 #include "ChipFixture.h"
+#include "SharedFunctions.h"
 
 using namespace DaceFapNi;
 using DacePPExport::ctx_fwd1;

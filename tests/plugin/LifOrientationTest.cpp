@@ -1,5 +1,5 @@
-#include "LifOrientation.h"
 #include "ChipFixture.h"
+#include "SharedFunctions.h"
 
 using namespace DaceFapNi;
 

@@ -136,7 +136,7 @@ TEST( Mounts, FixedSystemRequestsTheSame ) {
    agent.init();
    agent.sliceUp();
    expectTheMounts( agent.sw.entityManager()->requests() );
-   EXPECT_TRUE( agent.mounter->l3SmPtr() );
+   EXPECT_TRUE( agent.mounter->l3Sm() );
 }
 
 TEST( Mounts, SkippedWhenTheVariableIsPresentEvenIfEmpty ) {
@@ -152,7 +152,7 @@ TEST( Mounts, SkippedWhenTheVariableIsPresentEvenIfEmpty ) {
                                                "8 L3SmMounter::startPluginRunnabilitySm",
                                                "0 L3SmMounter::doMounts" } ) );
       EXPECT_TRUE( agent.sw.entityManager()->requests().empty() );
-      EXPECT_FALSE( agent.mounter->l3SmPtr() );
+      EXPECT_FALSE( agent.mounter->l3Sm() );
       ::unsetenv( "DACEFAPNI_SKIP_EXTERNAL_MOUNTER_PLUGINS" );
    }
 }
@@ -170,7 +170,7 @@ TEST( Mounter, RunnabilityMachineOfTheSameArgumentsIsKept ) {
 TEST( Mounter, L3SmOfTheSameArgumentsIsKept ) {
    MountedSwitch agent;
    agent.start();
-   auto const sm = agent.mounter->l3SmPtr();
+   auto const sm = agent.mounter->l3Sm();
    ASSERT_TRUE( sm );
    EXPECT_EQ( agent.mounter->l3SmIs( sm->arguments() ), sm );
    auto changed = sm->arguments();
@@ -181,14 +181,14 @@ TEST( Mounter, L3SmOfTheSameArgumentsIsKept ) {
 TEST( Mounter, StateThatItMakesIsKeptUnderItsNameAndHangsBelowIt ) {
    MountedSwitch agent;
    agent.start();
-   auto const ports = agent.mounter->udpDestPortConfigLocalPtr();
+   auto const ports = agent.mounter->udpDestPortConfigLocal();
    ASSERT_TRUE( ports );
    EXPECT_EQ( ports->name(), "udpDestPort" );
    EXPECT_EQ( ports->parent(), agent.mounter.get() );
    EXPECT_EQ( agent.mounter->udpDestPortConfigLocalIs( "udpDestPort" ), ports );
    EXPECT_NE( agent.mounter->udpDestPortConfigLocalIs( "other" ), ports );
    EXPECT_EQ( ports->parent(), nullptr );
-   auto const groups = agent.mounter->dgConfigPtr();
+   auto const groups = agent.mounter->dgConfig();
    ASSERT_TRUE( groups );
    EXPECT_EQ( groups->parent(), nullptr );
    EXPECT_EQ( agent.mounter->dgConfigIs(), groups );
@@ -197,16 +197,16 @@ TEST( Mounter, StateThatItMakesIsKeptUnderItsNameAndHangsBelowIt ) {
 TEST( Mounter, L3SmIsBuiltEvenWhereChipsAreNotServed ) {
    MountedSwitch agent; // both toggles at their default
    agent.start();
-   ASSERT_TRUE( agent.mounter->l3SmPtr() );
-   EXPECT_TRUE( agent.mounter->l3SmPtr()->initialized() );
+   ASSERT_TRUE( agent.mounter->l3Sm() );
+   EXPECT_TRUE( agent.mounter->l3Sm()->initialized() );
 }
 
 TEST( Mounter, MissingRouteStatusDoesNotStopTheBuild ) {
    MountedSwitch agent;
    agent.sw.deleteEntity( "routing/hardware/route/status" );
    agent.start();
-   ASSERT_TRUE( agent.mounter->l3SmPtr() );
-   EXPECT_TRUE( agent.mounter->l3SmPtr()->arguments().mergedPrefixLensInExactMatchV4->prefixLen().empty() );
+   ASSERT_TRUE( agent.mounter->l3Sm() );
+   EXPECT_TRUE( agent.mounter->l3Sm()->arguments().mergedPrefixLensInExactMatchV4->prefixLen().empty() );
 }
 
 TEST( Mounter, NoNodeIsLeftWhateverStateTheAgentGoesDownIn ) {

@@ -162,6 +162,19 @@ TEST_F( VtiStatusDirTest, cleanupTurnsBothPortsOffAndLeavesTheDefaultVsi ) {
               ( std::map< U32, U32 >{ { 1, 0x4000 }, { 97, 0 }, { 98, 0 }, { 103, 0 }, { 104, 0 } } ) );
 }
 
+// The chip has one port of each kind: a VTI that goes takes them along, whoever is left.
+TEST_F( VtiStatusDirTest, cleanupOfOneTurnsBothPortsOffThoughOthersRemain ) {
+   running();
+   for ( char const * name : { "Vxlan1", "Vxlan2" } ) {
+      auto const vti = vtiIs( name );
+      vti->udpPortIs( 4789 );
+      vti->secUdpPortIs( 4790 );
+   }
+   dir->vtiStatusDel( IntfId( "Vxlan1" ) );
+   EXPECT_EQ( controls( FapId( 0 ) ),
+              ( std::map< U32, U32 >{ { 1, 0x4000 }, { 97, 0 }, { 98, 0 }, { 103, 0 }, { 104, 0 } } ) );
+}
+
 TEST_F( VtiStatusDirTest, tracesWhatItDoes ) {
    running();
    auto const vti = vtiIs( "Vxlan1" );

@@ -253,6 +253,18 @@ TEST_F( VxlanSplitHorizonTest, becomingAZombieReloadsForEachVtiAndThenNoAttribut
    EXPECT_EQ( writes(), Strings{} );
 }
 
+TEST_F( VxlanSplitHorizonTest, wakingFromZombieReloadsForEachVtiAsWell ) {
+   running();
+   vtiIs( "Vxlan1" );
+   auto const vti = vtiIs( "Vxlan2" );
+   sm->rexDoZombieReactors( true );
+   writes();
+   sm->rexDoZombieReactors( false );
+   EXPECT_EQ( writes(), twice( vxlan ) );
+   vti->vtepToVtepBridgingIs( true ); // and hears again
+   EXPECT_FALSE( writes().empty() );
+}
+
 TEST_F( VxlanSplitHorizonTest, catchesUpWithTheDirectoryWhenItsNotificationsAreTurnedOn ) {
    running();
    vtiIs( "Vxlan1" );
