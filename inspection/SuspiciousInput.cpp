@@ -1,6 +1,6 @@
 #include "inspection/SuspiciousInput.h"
 
-#include "constants/FapRevision.h"
+#include "chip/FapRevision.h"
 #include "rex/Entity.h"
 
 #include <algorithm>

@@ -14,7 +14,7 @@
 #include "l3sm/ScenarioToPlay.h"
 #include "l3sm/Tracing.h"
 #include "l3sm/verbs/Verbs.h"
-#include "rex/Assert.h"
+#include "assert/Assert.h"
 
 #include <algorithm>
 #include <iostream>
