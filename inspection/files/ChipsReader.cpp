@@ -6,6 +6,7 @@
 #include "simulator/TableMap.h"
 
 #include <algorithm>
+#include <filesystem>
 #include <memory>
 #include <set>
 
@@ -190,6 +191,13 @@ void streamFaps( std::string const & path,
    }
 }
 
+// Whether it can be read once more, and as a whole.
+bool isPlainChipsFile( std::string const & path ) {
+   std::error_code none;
+   return std::filesystem::is_regular_file( path, none ) && std::filesystem::file_size( path, none ) <= largestInput &&
+          kindOf( readFile( path ) ) == FileKind::chips;
+}
+
 } // namespace
 
 void eachFap( std::string const & path,
@@ -198,7 +206,9 @@ void eachFap( std::string const & path,
    try {
       streamFaps( path, filter, each );
    } catch ( InputError const & ) {
-      readChips( path ); // which tells everything that is wrong with the file, each with its line
+      if ( isPlainChipsFile( path ) ) {
+         readChips( path ); // which tells everything that is wrong with the file, each with its line
+      }
       throw;
    }
 }

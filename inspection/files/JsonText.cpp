@@ -88,14 +88,19 @@ class ValueBuilder {
       }
       return true;
    }
-   bool parse_error( std::size_t position, std::string const &, nlohmann::detail::exception const & error ) {
+   bool parse_error( std::size_t position, std::string const & read, nlohmann::detail::exception const & error ) {
       std::string what = error.what();
       if ( auto const at = what.find( "column " ); at != std::string::npos ) {
          what = what.substr( what.find( ": ", at ) + 2 );
       }
-      std::ranges::replace( what, '\n', ' ' );
-      // The position is behind the last letter that was read.
-      throw Broken{ position - std::min< std::size_t >( position, 1 ), what };
+      // The position is behind the last letter that was read; of a literal that stands in the wrong place all was.
+      bool const isLiteral = what.find( " literal; expected" ) != std::string::npos;
+      bool const isEnd = what.find( "unexpected end of input" ) != std::string::npos;
+      throw Broken{ position - std::min( position,
+                                         isEnd       ? 0
+                                         : isLiteral ? read.size()
+                                                     : 1 ),
+                    what.substr( 0, what.find( "; last read" ) ) };
    }
 
  private:

@@ -7,30 +7,22 @@ namespace Inspection {
 namespace {
 
 using Rex::Value;
-using Simulator::Contents;
 
-template< class Parts, class Differs >
-void erase( Parts & all, Parts const & known, Differs const & differs ) {
-   for ( auto part = all.begin(); part != all.end(); ) {
-      auto const found = known.find( part->first );
-      bool const isKnown = found != known.end() && !differs( part->second, found->second );
-      part = isKnown ? all.erase( part ) : std::next( part );
-   }
-}
-
-// The entries that are not in the boot image as they are here.
-Simulator::TablesContents changedTables( Contents contents, Contents const & booted ) {
-   erase( contents.tables, booted.tables, []( auto & variants, auto const & knownVariants ) {
-      erase( variants, knownVariants, []( auto & arrays, auto const & knownArrays ) {
-         erase( arrays, knownArrays, []( auto & entries, auto const & knownEntries ) {
-            erase( entries, knownEntries, []( auto const & entry, auto const & known ) { return entry != known; } );
-            return !entries.empty();
-         } );
-         return !arrays.empty();
-      } );
-      return !variants.empty();
+// Takes out the entries that are known as they are here, and what is empty then.
+void keepChanged( Simulator::ArrayContents & entries, Simulator::ArrayContents const & known ) {
+   std::erase_if( entries, [&]( auto const & entry ) {
+      auto const found = known.find( entry.first );
+      return found != known.end() && found->second == entry.second;
    } );
-   return std::move( contents.tables );
+}
+template< class Parts >
+void keepChanged( Parts & all, Parts const & known ) {
+   for ( auto part = all.begin(); part != all.end(); ) {
+      if ( auto const found = known.find( part->first ); found != known.end() ) {
+         keepChanged( part->second, found->second );
+      }
+      part = part->second.empty() ? all.erase( part ) : std::next( part );
+   }
 }
 
 // Members on lines of their own, each with as many levels below it on lines of their own.
@@ -52,11 +44,9 @@ Scenario savedScenario( Scenario const & begun, Simulator::SimulatedSwitch const
       auto const chipType = fap.revision.chipType();
       Simulator::Chip fresh( fap.fapId, Hardware::chipTypeName( chipType ), Simulator::addressMap( chipType ) );
       Simulator::boot( fresh, chipType, Simulator::BootNoise::plain );
-      auto contents = contentsOf( sw.chip( fap.fapId ), chipType );
-      auto controls = contents.controls;
-      saved.chips[fap.fapId.value()] = { .controls = std::move( controls ),
-                                         .tables =
-                                            changedTables( std::move( contents ), contentsOf( fresh, chipType ) ) };
+      auto & contents = saved.chips[fap.fapId.value()];
+      contents = contentsOf( sw.chip( fap.fapId ), chipType );
+      keepChanged( contents.tables, contentsOf( fresh, chipType ).tables );
    }
    Value const state = sw.state().value();
    for ( auto const & root : Simulator::stateRoots() ) {
@@ -74,7 +64,7 @@ void writeScenario( std::ostream & out, Scenario const & scenario ) {
    out << ",\n \"switch\": " << toJson( parts.at( "switch" ), 2, 1 );
    out << ",\n \"toggles\": " << toJson( parts.at( "toggles" ), 1, 1 );
    out << ",\n \"chips\": {";
-   writeMembers( out, parts.at( "chips" ), 6 );
+   writeMembers( out, parts.at( "chips" ), 5 );
    out << "},\n \"state\": {";
    writeMembers( out, parts.at( "state" ), 3 );
    out << "},\n \"events\": " << toJson( parts.at( "events" ), 1, 1 ) << "}\n";

@@ -1,5 +1,6 @@
 #include "inspection/files/BuiltInScenario.h"
 #include "inspection/files/Contradictions.h"
+#include "inspection/files/FileKind.h"
 #include "inspection/files/Rehearsal.h"
 #include "inspection/files/ScenarioReading.h"
 #include "inspection/views/Progress.h"
@@ -90,7 +91,20 @@ Scenario scenarioFrom( JsonText text ) {
 } // namespace
 
 Scenario readScenario( std::string const & path ) {
-   return scenarioFrom( readJsonText( path ) );
+   auto text = readFile( path );
+   auto const kind = kindOf( text );
+   std::string const another = notA( FileKind::scenario, text );
+   try {
+      return scenarioFrom( { inputName( path ), std::move( text ) } );
+   } catch ( InputError const & ) {
+      for ( auto const other :
+            { FileKind::journal, FileKind::chips, FileKind::state, FileKind::page, FileKind::binary } ) {
+         if ( kind == other ) { // which has nothing of a scenario
+            throw InputError( inputName( path ), another );
+         }
+      }
+      throw;
+   }
 }
 
 Scenario builtInScenario() {

@@ -2,35 +2,31 @@
 #include "l3sm/Command.h"
 
 #include <gtest/gtest.h>
-#include <sys/resource.h>
 
 namespace {
 
 std::string const one =
    R"({"name": "from outside", "switch": {"faps": [{"fapId": 0, "revision": {"chipType": "BCM88690_B0"}}]}})";
-
-// Behind the program's own line, which has no standard input.
-Command after( std::string const & shell, std::string const & arguments, Command::Files const & files = {} ) {
-   return Command( "--help >/dev/null; ( " + shell + " '" L3SM_BINARY_DIR "/bin/l3sm' " + arguments + " 2>&1 )",
+// The program at the end of a shell's line. Its own line has no standard input.
+Command shell( std::string const & line, std::string const & arguments, Command::Files const & files = {} ) {
+   return Command( "--help >/dev/null; { " + line + " '" L3SM_BINARY_DIR "/bin/l3sm' " + arguments + " 2>&1; }",
                    files );
 }
 
 TEST( InputFile, mayBeStandardInput ) {
-   Command const l3sm( "--help >/dev/null; ( '" L3SM_BINARY_DIR "/bin/l3sm' run - --quiet --save - <s.json 2>&1 )",
-                       { { "s.json", one } } );
-   EXPECT_EQ( l3sm.output.substr( 0, 27 ), "{\n \"name\": \"from outside\",\n" );
+   EXPECT_EQ( shell( "cat s.json |", "run - --quiet --save - | head -2", { { "s.json", one } } ).output,
+              "{\n \"name\": \"from outside\",\n" );
 }
 
 TEST( InputFile, isNamedInWhatIsWrongWithStandardInput ) {
-   EXPECT_EQ( after( "echo '{\"switch\": 1}' |", "run - --quiet" ).output,
+   EXPECT_EQ( shell( "echo '{\"switch\": 1}' |", "run - --quiet" ).output,
               "l3sm: standard input:1:12: /switch: expected an object, got 1\n" );
 }
 
 TEST( InputFile, mayBeAPipe ) {
    EXPECT_EQ(
-      after( "mkfifo pipe; cat s.json >pipe &", "run pipe --quiet --save - | head -2 | tail -1", { { "s.json", one } } )
-         .output,
-      " \"name\": \"from outside\",\n" );
+      shell( "mkfifo pipe; cat s.json >pipe &", "run pipe --quiet --save - | head -2", { { "s.json", one } } ).output,
+      "{\n \"name\": \"from outside\",\n" );
 }
 
 TEST( InputFile, mayBeWrittenToStandardOutput ) {
@@ -58,9 +54,10 @@ TEST( InputFile, isNoTerminal ) {
 TEST( InputFile, isNotSwallowedWhereItHasNoEnd ) {
    std::string const told =
       "holds more than the 256 MB that are read; a scenario need only name what differs from the defaults\n";
-   EXPECT_EQ( after( "", "run /dev/zero" ).output, "l3sm: /dev/zero: " + told );
-   EXPECT_EQ( after( "truncate -s 300M large.json;", "run large.json" ).output, "l3sm: large.json: " + told );
-   EXPECT_EQ( after( "yes '' | head -c 300000000 |", "run -" ).output, "l3sm: standard input: " + told );
+   std::string const limited = "ulimit -v 2000000; ";
+   EXPECT_EQ( shell( limited, "run /dev/zero" ).output, "l3sm: /dev/zero: " + told );
+   EXPECT_EQ( shell( "truncate -s 300M large.json;" + limited, "run large.json" ).output, "l3sm: large.json: " + told );
+   EXPECT_EQ( shell( limited + "yes '' | head -c 300000000 |", "run -" ).output, "l3sm: standard input: " + told );
 }
 
 } // namespace

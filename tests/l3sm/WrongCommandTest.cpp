@@ -64,7 +64,19 @@ TEST( WrongCommand, filesThatCannotBeRead ) {
       { "a journal as a scenario",
         "run j",
         { { "j", "{\"op\": \"read\"}\n{\"op\": \"write\"}\n" } },
-        "j:2:1: syntax error while parsing value - unexpected '{'; expected end of input" },
+        "j: is a journal, no scenario; `l3sm new` writes one" },
+      { "chips as a scenario",
+        "run c",
+        { { "c", "{\"faps\": {}}" } },
+        "c: is a chips file, no scenario; `l3sm new` writes one" },
+      { "state as a scenario",
+        "check s",
+        { { "s", "{\"evpn/status\": {}}" } },
+        "s: is a state file, no scenario; `l3sm new` writes one" },
+      { "a page as a scenario",
+        "compare p",
+        { { "p", "<html>" } },
+        "p: is a page for a browser, no scenario; `l3sm new` writes one" },
    } );
 }
 
@@ -158,6 +170,10 @@ TEST( WrongCommand, togglesThatThereAreNot ) {
 }
 
 TEST( WrongCommand, tracesThatThereAreNot ) {
+   std::string const all =
+      "AleVxlanVtiStatusDirSm, AsicUtilsDaceFapNiPluginL3UnicastMetaInfo, DaceFapNiGueNexthopGroupSm, "
+      "DaceFapNiL3Sm, DaceFapNiL3Vxlan, DaceFapNiMplsParser, DaceFapNiRemFfcModifierSm, "
+      "FfcModifierSm, L3SmMounterDaceFapNi";
    std::string const form = ": expected FACILITY/LEVEL with a level from 0 to 9, as in DaceFapNiL3Sm/8";
    expectTold( {
       { "no level", "run --trace DaceFapNiL3Sm", {}, "--trace DaceFapNiL3Sm" + form },
@@ -167,17 +183,10 @@ TEST( WrongCommand, tracesThatThereAreNot ) {
         "run --trace DaceFapNiL3Sn/8",
         {},
         "--trace DaceFapNiL3Sn: no such facility; did you mean \"DaceFapNiL3Sm\"?" },
-      { "facilities like no other, and one that there is",
+      { "facilities like no other, and some that there are",
         "run --trace 'NOPE/5,*/1,DaceFapNiL3Sm/2,None/1'",
         {},
-        "--trace NOPE: no such facility; there are AleVxlanVtiStatusDirSm, AsicUtilsDaceFapNiPluginL3UnicastMetaInfo, "
-        "DaceFapNiGueNexthopGroupSm, "
-        "DaceFapNiL3Sm, DaceFapNiL3Vxlan, DaceFapNiMplsParser, DaceFapNiRemFfcModifierSm, FfcModifierSm, "
-        "L3SmMounterDaceFapNi\n"
-        "--trace None: no such facility; there are AleVxlanVtiStatusDirSm, AsicUtilsDaceFapNiPluginL3UnicastMetaInfo, "
-        "DaceFapNiGueNexthopGroupSm, "
-        "DaceFapNiL3Sm, DaceFapNiL3Vxlan, DaceFapNiMplsParser, DaceFapNiRemFfcModifierSm, FfcModifierSm, "
-        "L3SmMounterDaceFapNi" },
+        "--trace NOPE: no such facility; there are " + all + "\n--trace None: no such facility; there are " + all },
    } );
 }
 

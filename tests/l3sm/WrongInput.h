@@ -1,8 +1,10 @@
 // Wrong inputs as tables: what a person gives, and the lines that they get for it.
 //
-//    expectTold( { { "a missing file", "run nowhere.json", {}, "nowhere.json: can't be read: ..." } } );
+//    expectTold( { { "a missing file", "run nowhere.json", {}, "nowhere.json: can't be read: ..." },
+//                  scenario( "a comma too many", "{\n \"switch\": {§,}}", "s.json:§: syntax error ..." ) } );
 //
-// Whatever is wrong ends with status 2, and nothing is printed or written. Several lines stand one below the other.
+// Whatever is wrong ends with status 2, and nothing is printed or written. Several lines stand one below the other. A §
+// in a text marks a place, and stands for its line and column in the lines; ¶ is the same place once more.
 #pragma once
 
 #include "l3sm/Command.h"
@@ -16,9 +18,44 @@ struct WrongInput {
    std::string lines;
 };
 
-inline void expectTold( std::vector< WrongInput > const & table ) {
-   for ( auto const & wrong : table ) {
+// Takes the marks out of a text, and puts their places into the lines.
+inline void placeMarks( std::string & text, std::string & lines ) {
+   std::string const mark = "§";
+   std::string const same = "¶";
+   std::string marked;
+   std::size_t line = 1;
+   std::size_t column = 1;
+   std::vector< std::string > places;
+   for ( std::size_t at = 0; at < text.size(); ++at ) {
+      if ( text.compare( at, mark.size(), mark ) == 0 ) {
+         places.push_back( std::to_string( line ) + ":" + std::to_string( column ) );
+         at += mark.size() - 1;
+         continue;
+      }
+      marked += text[at];
+      bool const continues = ( static_cast< unsigned char >( text[at] ) & 0xc0 ) == 0x80;
+      column = text[at] == '\n' ? 1 : column + ( continues ? 0 : 1 );
+      line += text[at] == '\n' ? 1 : 0;
+   }
+   text = marked;
+   std::string told;
+   std::size_t next = 0;
+   for ( std::size_t at = 0; at < lines.size(); ) {
+      bool const isMark = lines.compare( at, mark.size(), mark ) == 0;
+      bool const isSame = lines.compare( at, same.size(), same ) == 0;
+      next += isMark ? 1 : 0;
+      told += isMark || isSame ? places.at( next - 1 ) : std::string( 1, lines[at] );
+      at += isMark || isSame ? mark.size() : 1;
+   }
+   lines = told;
+}
+
+inline void expectTold( std::vector< WrongInput > table ) {
+   for ( auto & wrong : table ) {
       SCOPED_TRACE( wrong.what );
+      if ( !wrong.files.empty() ) {
+         placeMarks( wrong.files.begin()->second, wrong.lines );
+      }
       Command const l3sm( wrong.arguments, wrong.files );
       std::string expected;
       std::istringstream lines( wrong.lines );
@@ -42,7 +79,7 @@ inline WrongInput scenario( char const * what, std::string const & text, std::st
             lines };
 }
 
-// Further members of a scenario with one FAP, from line 2 on.
+// Further members of a scenario with one FAP.
 inline WrongInput member( char const * what, std::string const & more, std::string const & lines ) {
    return scenario( what,
                     R"({"switch": {"faps": [{"fapId": 0, "revision": {"chipType": "BCM88690_B0"}}]},)"
@@ -51,12 +88,12 @@ inline WrongInput member( char const * what, std::string const & more, std::stri
                     lines );
 }
 
-// Its one FAP, from line 1, column 22 on.
+// Its one FAP.
 inline WrongInput fap( char const * what, std::string const & text, std::string const & lines ) {
    return scenario( what, R"({"switch": {"faps": [)" + text + "]}}\n", lines );
 }
 
-// Its events, one a line, from line 2 on.
+// Its events.
 inline WrongInput events( char const * what, std::string const & list, std::string const & lines ) {
    return member( what, R"("events": [)" + list + "]", lines );
 }
