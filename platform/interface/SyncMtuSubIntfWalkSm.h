@@ -45,6 +45,7 @@ struct SyncMtuResult {
 template<>
 struct Rex::Codec< Interface::SyncMtuResult::SyncMtuResultType > {
    using Type = Interface::SyncMtuResult::SyncMtuResultType;
+   static ValueType type() { return Codec< U8 >::type(); }
    static Value toValue( Type result ) { return static_cast< unsigned >( result ); }
    static Type fromValue( Value const & value ) { return static_cast< Type >( Codec< U8 >::fromValue( value ) ); }
 };

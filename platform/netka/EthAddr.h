@@ -32,6 +32,9 @@ class EthAddr {
 
 template<>
 struct Rex::Codec< Netka::EthAddr > {
+   static ValueType type() {
+      return { .kind = ValueType::Kind::text, .name = "MAC address", .pattern = "[0-9a-fA-F]{2}(:[0-9a-fA-F]{2}){5}" };
+   }
    static Value toValue( Netka::EthAddr const & addr ) { return addr.stringValue(); }
    static Netka::EthAddr fromValue( Value const & value );
 };

@@ -42,6 +42,7 @@ struct std::hash< Netka::IntfId > {
 
 template<>
 struct Rex::Codec< Netka::IntfId > {
+   static ValueType type() { return { .kind = ValueType::Kind::text, .name = "interface" }; }
    static Value toValue( Netka::IntfId id ) { return id.stringValue(); }
    static Netka::IntfId fromValue( Value const & value ) {
       return Netka::IntfId( Codec< std::string >::fromValue( value ) );

@@ -67,6 +67,10 @@ std::string Attribute::keyText( void const * ) const {
    return {};
 }
 
+Corvo::Ptr< Entity > TypeData::fresh() const {
+   return make_ ? make_() : nullptr;
+}
+
 std::vector< Attribute const * > TypeData::attributes() const {
    auto all = base_ ? base_->attributes() : std::vector< Attribute const * >{};
    for ( auto const & attribute : own_ ) {

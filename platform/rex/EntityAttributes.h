@@ -143,6 +143,7 @@ template< class Self, class Type, auto Get, auto Set >
 class ScalarAttribute : public Attribute {
  public:
    ScalarAttribute( short number, char const * text ) : Attribute( number, Kind::scalar, text ) {}
+   std::optional< ValueType > valueType() const override { return Codec< Type >::type(); }
    Value value( Entity const & of ) const override {
       return Codec< Type >::toValue( ( static_cast< Self const & >( of ).*Get )() );
    }
@@ -179,6 +180,8 @@ template< class Self, class Key, class Type, auto Member, auto Set, auto Del >
 class MapAttributeData : public Attribute {
  public:
    MapAttributeData( short number, char const * text ) : Attribute( number, Kind::map, text ) {}
+   std::optional< ValueType > valueType() const override { return Codec< Type >::type(); }
+   std::optional< ValueType > keyType() const override { return Codec< Key >::type(); }
    Value value( Entity const & of ) const override {
       Value::Object object;
       for ( auto const & [key, entry] : ( static_cast< Self const & >( of ).*Member ).all() ) {
@@ -230,6 +233,7 @@ class CollectionAttributeData : public Attribute {
  public:
    CollectionAttributeData( short number, char const * text ) : Attribute( number, Kind::collection, text ) {}
    TypeData const * elementType() const override { return &Type::rexType(); }
+   std::optional< ValueType > keyType() const override { return Codec< Key >::type(); }
    Value value( Entity const & of ) const override {
       Value::Object object;
       for ( auto const & [key, entity] : ( static_cast< Self const & >( of ).*Member ).all() ) {
@@ -291,6 +295,8 @@ class ReferencesAttributeData : public Attribute {
 
  public:
    ReferencesAttributeData( short number, char const * text ) : Attribute( number, Kind::collection, text ) {}
+   std::optional< ValueType > keyType() const override { return Codec< Key >::type(); }
+   bool canBeSet() const override { return false; }
    Value value( Entity const & of ) const override {
       Value::Object object;
       for ( auto const & [key, entity] : ( static_cast< Self const & >( of ).*Member ).all() ) {
@@ -353,8 +359,20 @@ void declareLines( TypeData & type, std::integer_sequence< int, Lines... > ) {
 }
 
 template< class T >
+Corvo::Ptr< Entity > makeFresh() {
+   if constexpr ( requires { typename T::RexKey; } ) {
+      return Corvo::makePtr< T >( typename T::RexKey{} );
+   } else if constexpr ( std::is_default_constructible_v< T > ) {
+      return Corvo::makePtr< T >();
+   } else {
+      return nullptr;
+   }
+}
+
+template< class T >
 TypeData const & declaredType( char const * name ) {
    auto * type = new TypeData( name, &T::RexBase::rexType() ); // one for each type, for the life of the process
+   type->makeIs( makeFresh< T > );
    declareLines< T >( *type, std::make_integer_sequence< int, linesOfAPage >{} );
    return *type;
 }

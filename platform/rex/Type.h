@@ -10,6 +10,7 @@
 
 #include <functional>
 #include <memory>
+#include <optional>
 #include <string_view>
 #include <vector>
 
@@ -33,6 +34,12 @@ class Attribute {
 
    // The type of the entities that it holds; null for scalars and maps.
    virtual TypeData const * elementType() const { return nullptr; }
+   // What a scalar, or an entry of a map, takes; none where it holds entities.
+   virtual std::optional< ValueType > valueType() const { return std::nullopt; }
+   // What the keys of a map or collection are.
+   virtual std::optional< ValueType > keyType() const { return std::nullopt; }
+   // False where it only refers to entities that are set elsewhere.
+   virtual bool canBeSet() const { return true; }
 
    virtual Value value( Entity const & of ) const = 0;
    // Sets the attribute, announcing what changes. A map or collection becomes equal to the object that is given;
@@ -64,9 +71,16 @@ class TypeData : public Corvo::NodeType {
    Attribute const * attribute( std::string_view name ) const;
    Attribute const * attribute( short id ) const;
 
+   // An entity of this type, each attribute at its default, in a collection under the first of all keys. Null where one
+   // can't be made from nothing.
+   Corvo::Ptr< Entity > fresh() const;
+
+   using Make = Corvo::Ptr< Entity > ( * )();
+   void makeIs( Make make ) { make_ = make; }
    void attributeAdd( std::unique_ptr< Attribute > attribute ) { own_.push_back( std::move( attribute ) ); }
 
  private:
+   Make make_ = nullptr;
    TypeData const * base_;
    std::vector< std::unique_ptr< Attribute > > own_;
 };

@@ -143,7 +143,25 @@ std::string pointerStep( std::string const & key );
 
 [[noreturn]] void throwWrongKind( std::string const & wanted, Value const & got );
 
+// What a codec takes, as data: what the list of paths and the schema of a scenario are made of.
+struct ValueType {
+   enum class Kind : U8 { boolean, number, text, object };
+   struct Member;
+
+   Kind kind;
+   char const * name;                       // for people: "true or false", "number", "MAC address"
+   std::uint64_t highest = 0;               // of a number, from 0
+   char const * pattern = nullptr;          // of a text: the regular expression that the whole of it matches
+   std::vector< std::string > choices = {}; // of a text: the only ones, if there are any
+   std::vector< Member > members = {};      // of an object, each optional
+};
+struct ValueType::Member {
+   char const * name;
+   ValueType type;
+};
+
 // How a type is written as a value, and as the key of an object. A specialisation has
+//    static ValueType type();
 //    static Value toValue( T const & ); static T fromValue( Value const & );
 // and, where the type is a key,
 //    static std::string toKey( T const & ); static T fromKey( std::string const & );
@@ -153,12 +171,14 @@ struct Codec;
 
 template<>
 struct Codec< bool > {
+   static ValueType type() { return { .kind = ValueType::Kind::boolean, .name = "true or false" }; }
    static Value toValue( bool value ) { return value; }
    static bool fromValue( Value const & value );
 };
 
 template<>
 struct Codec< std::string > {
+   static ValueType type() { return { .kind = ValueType::Kind::text, .name = "text" }; }
    static Value toValue( std::string const & value ) { return value; }
    static std::string fromValue( Value const & value );
    static std::string toKey( std::string const & key ) { return key; }
@@ -173,6 +193,7 @@ std::uint64_t unsignedFromKey( std::string const & key, std::uint64_t highest );
 template< std::unsigned_integral T >
 struct Codec< T > {
    static constexpr std::uint64_t highest = std::numeric_limits< T >::max();
+   static ValueType type() { return { .kind = ValueType::Kind::number, .name = "number", .highest = highest }; }
    static Value toValue( T value ) { return value; }
    static T fromValue( Value const & value ) { return static_cast< T >( Impl::unsignedFromValue( value, highest ) ); }
    static std::string toKey( T key ) { return std::to_string( key ); }
@@ -183,6 +204,7 @@ struct Codec< T > {
 template< class T >
 requires( std::is_class_v< T > && std::unsigned_integral< decltype( T::value ) > ) struct Codec< T > {
    using Number = decltype( T::value );
+   static ValueType type() { return Codec< Number >::type(); }
    static Value toValue( T number ) { return number.value; }
    static T fromValue( Value const & value ) { return T{ Codec< Number >::fromValue( value ) }; }
    static std::string toKey( T key ) { return std::to_string( key.value ); }

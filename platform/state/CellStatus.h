@@ -6,6 +6,7 @@
 
 template<>
 struct Rex::Codec< Hardware::Dace::FapId > {
+   static ValueType type() { return Codec< U16 >::type(); }
    static Value toValue( Hardware::Dace::FapId id ) { return id.value(); }
    static Hardware::Dace::FapId fromValue( Value const & value ) {
       return Hardware::Dace::FapId( Codec< U16 >::fromValue( value ) );
@@ -19,6 +20,7 @@ struct Rex::Codec< Hardware::Dace::FapId > {
 // {"chipType": "BCM88690_B0", "sdkVersion": 7, "major": 5}. Left out: the newest SDK, the chip's own major revision.
 template<>
 struct Rex::Codec< Hardware::Dace::FapRevision > {
+   static ValueType type();
    static Value toValue( Hardware::Dace::FapRevision const & revision );
    static Hardware::Dace::FapRevision fromValue( Value const & value );
 };

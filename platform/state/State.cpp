@@ -69,6 +69,18 @@ Hardware::ChipType chipTypeFromValue( Rex::Value const & value ) {
 
 } // namespace
 
+Rex::ValueType Rex::Codec< Hardware::Dace::FapRevision >::type() {
+   std::vector< std::string > chipTypes;
+   for ( auto const chipType : Hardware::allChipTypes ) {
+      chipTypes.emplace_back( chipTypeName( chipType ) );
+   }
+   ValueType const chip{ .kind = ValueType::Kind::text, .name = "chip", .choices = std::move( chipTypes ) };
+   return {
+      .kind = ValueType::Kind::object,
+      .name = "FAP revision",
+      .members = { { "chipType", chip }, { "sdkVersion", Codec< U32 >::type() }, { "major", Codec< U32 >::type() } } };
+}
+
 Rex::Value Rex::Codec< Hardware::Dace::FapRevision >::toValue( Hardware::Dace::FapRevision const & revision ) {
    std::ostringstream chipType;
    chipType << revision.chipType();

@@ -1,4 +1,5 @@
 #include "platform/Listener.h"
+#include "state/CellStatus.h"
 #include "state/Interfaces.h"
 #include "state/Overlays.h"
 #include "state/Routing.h"
@@ -31,6 +32,34 @@ TEST( Entity, AttributesOfTheBaseComeFirst ) {
    ASSERT_EQ( attributes.size(), 3U );
    EXPECT_STREQ( attributes[0]->name, "enabled" );
    EXPECT_STREQ( attributes[2]->name, "addr" );
+}
+
+TEST( Entity, AttributesTellWhatTheyTake ) {
+   using Kind = Rex::ValueType::Kind;
+   auto const & vti = Vxlan::VtiStatus::rexType();
+   EXPECT_EQ( vti.attribute( "udpPort" )->valueType()->kind, Kind::number );
+   EXPECT_EQ( vti.attribute( "udpPort" )->valueType()->highest, 65535U );
+   EXPECT_EQ( vti.attribute( "remoteVxlanDomain" )->valueType()->kind, Kind::boolean );
+   EXPECT_FALSE( vti.attribute( "udpPort" )->keyType() );
+
+   auto const * const vtis = Vxlan::VtiStatusDir::rexType().attribute( "vtiStatus" );
+   EXPECT_FALSE( vtis->valueType() );
+   EXPECT_STREQ( vtis->keyType()->name, "interface" );
+   auto const * const ports = L3::Tunnel::UdpDestinationPortConfig::rexType().attribute( "udpDestPort" );
+   EXPECT_EQ( ports->keyType()->highest, 255U );
+   EXPECT_EQ( ports->valueType()->highest, 65535U );
+
+   auto const revision = *Hardware::Dace::Cell::FapStatus::rexType().attribute( "revision" )->valueType();
+   ASSERT_EQ( revision.members.size(), 3U );
+   EXPECT_EQ( revision.members[0].type.choices.size(), Hardware::allChipTypes.size() );
+}
+
+TEST( Entity, TypesMakeAnEntityWithEveryAttributeAtItsDefault ) {
+   auto const config = Interface::EthPhyIntfConfig::rexType().fresh();
+   ASSERT_TRUE( config );
+   EXPECT_EQ( config->value(), Corvo::makePtr< Interface::EthPhyIntfConfig >( Netka::IntfId() )->value() );
+   EXPECT_EQ( config->value().object()->at( "enabled" ), Rex::Value( true ) );
+   EXPECT_FALSE( Rex::Entity::rexType().fresh() );
 }
 
 TEST( Entity, CollectionAnnouncesTheKeyOfWhatComesAndGoes ) {
