@@ -5,12 +5,14 @@
 #include "inspection/files/Json.h"
 #include "inspection/views/Terminal.h"
 #include "inspection/views/VersionText.h"
+#include "l3sm/Completion.h"
 #include "l3sm/verbs/Verbs.h"
 #include "rex/Nearest.h"
 
 #include <CLI/CLI.hpp>
 #include <algorithm>
 #include <iostream>
+#include <memory>
 
 namespace Cli {
 
@@ -28,6 +30,7 @@ struct Verb {
 
 constexpr Verb verbs[] = {
    { "run", "boot a simulated switch, load the plug-in, play a scenario, tell what is on the chips", defineRun },
+   { "new", "write a scenario to start from: chips, and the state and events of some subjects", defineNew },
    { "catalogue", "the chip tables: geometry, addresses, and where their fields lie", defineCatalogue },
    { "constants",
      "what the platform stands in for: context numbers, action words, well-known numbers",
@@ -40,6 +43,10 @@ constexpr Verb verbs[] = {
    { "replay", "apply the writes of a journal to a fresh switch, and compare", defineReplay },
    { "plan", "what a start and the events of a scenario would change, without changing anything", definePlan },
    { "check", "play a scenario and verify what can be verified on the chips afterwards", defineCheck },
+   { "paths", "the state by path: attributes, what they take, defaults, whom they reach", definePaths },
+   { "schema", "the JSON Schema of a scenario, for editors and validators", defineSchema },
+   { "toggles", "the toggles: file, default, and which functions read them", defineToggles },
+   { "facilities", "the trace facilities, and what each level tells", defineFacilities },
 };
 
 int failed( std::string const & text ) {
@@ -56,14 +63,19 @@ int unknownVerb( std::string const & word ) {
    return failed( "there is no verb \"" + word + "\"" + ( remedy.empty() ? "; l3sm --help lists them" : remedy ) );
 }
 
+// For the scripts in completions/, not for people: no help lists it.
+constexpr char const * completeVerb = "complete";
+
 bool isVerb( std::string const & word ) {
-   return std::any_of( std::begin( verbs ), std::end( verbs ), [&]( Verb const & verb ) { return word == verb.name; } );
+   return word == completeVerb ||
+          std::any_of( std::begin( verbs ), std::end( verbs ), [&]( Verb const & verb ) { return word == verb.name; } );
 }
 
 } // namespace
 
-int commandLine( int argc, char const * const * argv ) {
-   CLI::App app( "l3sm: programs simulated chips with the layer-3 unicast plug-in, and shows them.", "l3sm" );
+void defineCommandLine( CLI::App & app, Action & action ) {
+   app.name( "l3sm" );
+   app.description( "l3sm: programs simulated chips with the layer-3 unicast plug-in, and shows them." );
    app.require_subcommand( 1 );
    bool json = false;
    app.add_flag( "--json", json, "with --version: for programs" );
@@ -74,13 +86,28 @@ int commandLine( int argc, char const * const * argv ) {
    app.footer(
       "`l3sm VERB --help` explains a verb.\nExit status: 0 fine, 1 the answer is \"no\", 2 wrong usage or input, "
       "3 nothing could be judged." );
-   Action action;
    for ( auto const & verb : verbs ) {
       auto * const sub = app.add_subcommand( verb.name, verb.does );
       VerbOptions options( *sub );
       sub->callback( [&action, does = verb.define( options )] { action = does; } );
       sub->add_flag_callback( "--no-pager", Pager::off, "on a terminal, don't page what is longer than the screen" );
    }
+   auto * const complete = app.add_subcommand( completeVerb, "what can follow on a line that is being typed" );
+   complete->group( "" );
+   auto const words = std::make_shared< std::vector< std::string > >();
+   complete->add_option( "words", *words );
+   complete->callback( [&app, &action, words] {
+      action = [&app, words] {
+         writeCompletion( std::cout, app, *words );
+         return 0;
+      };
+   } );
+}
+
+int commandLine( int argc, char const * const * argv ) {
+   CLI::App app;
+   Action action;
+   defineCommandLine( app, action );
    if ( argc < 2 ) {
       return failed( "say what to do; l3sm --help lists the verbs" );
    }

@@ -4,7 +4,17 @@
 // standard error for each thing that is wrong.
 #pragma once
 
+#include <functional>
+
+namespace CLI {
+class App;
+}
+
 namespace Cli {
+
+// Tells the parser of every verb with its options; parsing sets `action` to what the line asks for. Both outlive the
+// action.
+void defineCommandLine( CLI::App & app, std::function< int() > & action );
 
 int commandLine( int argc, char const * const * argv );
 

@@ -54,7 +54,7 @@ void VerbOptions::flag( char const * name, bool & into, char const * help ) {
    app_.add_flag( name, into, help );
 }
 
-void VerbOptions::footer( char const * text ) {
+void VerbOptions::footer( std::string const & text ) {
    app_.footer( text );
 }
 

@@ -38,7 +38,7 @@ class VerbOptions {
    void number( char const * name, std::optional< int > & into, char const * help );
    void flag( char const * name, bool & into, char const * help );
    // The last lines of its help.
-   void footer( char const * text );
+   void footer( std::string const & text );
 
  private:
    CLI::App & app_;

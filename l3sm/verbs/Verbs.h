@@ -23,5 +23,10 @@ Action defineCompare( VerbOptions & verb );
 Action defineReplay( VerbOptions & verb );
 Action defineCheck( VerbOptions & verb );
 Action definePlan( VerbOptions & verb );
+Action defineNew( VerbOptions & verb );
+Action definePaths( VerbOptions & verb );
+Action defineSchema( VerbOptions & verb );
+Action defineToggles( VerbOptions & verb );
+Action defineFacilities( VerbOptions & verb );
 
 } // namespace Cli

@@ -43,4 +43,20 @@ TEST( TouchesGolden, areWhatTheExamplesShow ) {
    expectList( "inspection/KnownFunctionTables.cpp", "touches[] = {\n", rows );
 }
 
+TEST( ControlsGolden, areWhatTheExamplesShow ) {
+   std::set< std::pair< U32, std::string > > controls;
+   for ( auto const & journal : journalsOfTheExamples() ) {
+      for ( auto const & row : journal.all() ) {
+         if ( row.kind == Simulator::Row::Kind::control ) {
+            controls.emplace( row.control, row.function );
+         }
+      }
+   }
+   std::string rows;
+   for ( auto const & [number, function] : controls ) {
+      rows += "      { " + std::to_string( number ) + ", \"" + function + "\" },\n";
+   }
+   expectList( "inspection/KnownControls.cpp", "controls[] = {\n", rows );
+}
+
 } // namespace

@@ -1,135 +1,231 @@
-// The completion and the manual page know every verb and every option that the program has.
+// What can follow on a line that is being typed: as the program says it, and as the shells offer it.
+#include "l3sm/Completion.h"
 #include "l3sm/Command.h"
+#include "l3sm/CommandLine.h"
 
+#include <CLI/CLI.hpp>
+#include <algorithm>
 #include <gtest/gtest.h>
-#include <regex>
 #include <set>
 
 namespace {
 
-namespace fs = std::filesystem;
-
 using Names = std::set< std::string >;
 
-fs::path const source = L3SM_SOURCE_DIR;
+// The command line as a whole, to ask what it has.
+struct Everything {
+   CLI::App app;
+   std::function< int() > action;
+   Everything() { Cli::defineCommandLine( app, action ); }
+};
 
-Names matches( std::string const & text, char const * pattern ) {
-   std::regex const name( pattern, std::regex::multiline );
-   Names all;
-   for ( std::sregex_iterator it( text.begin(), text.end(), name ), end; it != end; ++it ) {
-      all.insert( ( *it )[1] );
+CLI::App const & everything() {
+   static auto const * const theCommandLine = new Everything;
+   return theCommandLine->app;
+}
+
+Names linesOf( std::string const & text ) {
+   Names lines;
+   std::istringstream in( text );
+   for ( std::string line; std::getline( in, line ); ) {
+      lines.insert( line.substr( 0, line.find( '\t' ) ) );
    }
-   return all;
+   lines.erase( "" );
+   return lines;
 }
 
-std::string helpOf( std::string const & verb ) {
-   Command const l3sm( verb + " --help" );
-   EXPECT_EQ( l3sm.status, 0 );
-   return l3sm.output;
-}
-
-Names const & verbs() {
-   static Names const all = [] {
-      std::string const help = helpOf( "" );
-      return matches( help.substr( help.find( "Subcommands:" ) ), "^  ([a-z]+) " );
-   }();
-   return all;
-}
-
-Names optionsOf( std::string const & verb ) {
-   return matches( helpOf( verb ), "^  (?:-[a-z],)?(--[a-z-]+)" );
-}
-
-// Those that take a value.
-Names valuesOf( std::string const & verb ) {
-   return matches( helpOf( verb ), "^  (?:-[a-z],)?(--[a-z-]+) [A-Z]" );
-}
-
-// What is offered for the last of the words.
-Names completions( std::string const & words, Command::Files const & files = {} ) {
-   std::string const script =
-      "source '" + ( source / "completions/l3sm.bash" ).string() + "'; COMP_WORDS=(" + words +
-      "); COMP_CWORD=$((${#COMP_WORDS[@]} - 1)); _l3sm \"$0\"; printf '%s\\n' \"${COMPREPLY[@]}\"";
-   // Through the program's own line: it names itself, and bash follows.
-   Command const bash( "--help >/dev/null; bash -c '" + std::regex_replace( script, std::regex( "'" ), "'\\''" ) +
-                          "' '" L3SM_BINARY_DIR "/bin/l3sm'",
-                       files );
-   EXPECT_EQ( bash.errors, "" );
-   return matches( bash.output, "^(.+)$" );
+// What the program answers for the words of a line, the last of them being typed.
+Names completions( std::vector< std::string > const & words ) {
+   std::ostringstream out;
+   Cli::writeCompletion( out, everything(), words );
+   return linesOf( out.str() );
 }
 
 TEST( Completion, offersEveryVerb ) {
-   Names expected = verbs();
-   EXPECT_GE( expected.size(), 9u );
-   expected.insert( { "--help", "--version" } );
-   EXPECT_EQ( completions( "l3sm ''" ), expected );
-   EXPECT_EQ( completions( "l3sm ca" ), Names{ "catalogue" } );
+   Names expected{ "--help" };
+   for ( auto const * verb : Cli::verbsOf( everything() ) ) {
+      expected.insert( verb->get_name() );
+   }
+   EXPECT_GE( expected.size(), 14u );
+   EXPECT_EQ( completions( { "l3sm", "" } ), expected );
+   EXPECT_EQ( completions( { "l3sm", "cat" } ), Names{ "catalogue" } );
 }
 
-TEST( Completion, offersEveryOption ) {
-   for ( std::string const & verb : verbs() ) {
-      EXPECT_EQ( completions( "l3sm " + verb + " --" ), optionsOf( verb ) ) << verb;
+TEST( Completion, isItselfNotOffered ) {
+   EXPECT_FALSE( completions( { "l3sm", "" } ).contains( "complete" ) );
+   EXPECT_EQ( Command( "--help" ).output.find( "complete" ), std::string::npos );
+}
+
+TEST( Completion, offersEveryOptionOfAVerb ) {
+   for ( auto const * verb : Cli::verbsOf( everything() ) ) {
+      Names expected;
+      for ( auto const * option : Cli::optionsOf( *verb ) ) {
+         expected.insert( "--" + option->get_lnames().front() );
+      }
+      EXPECT_EQ( completions( { "l3sm", verb->get_name(), "--" } ), expected ) << verb->get_name();
    }
 }
 
-TEST( Completion, knowsWhatEveryOptionTakes ) {
-   std::string const script = contentsOf( source / "completions/l3sm.bash" );
-   Names const known = matches( script.substr( script.find( "case $previous" ) ), "[ |](--[a-z-]+)(?= ?[|)])" );
-   for ( std::string const & verb : verbs() ) {
-      for ( std::string const & option : valuesOf( verb ) ) {
-         EXPECT_TRUE( known.contains( option ) ) << verb << ' ' << option;
+// A verb that declares a value of a new kind says in Candidates.cpp what can stand there.
+TEST( Completion, knowsWhatCanStandInThePlaceOfEveryValue ) {
+   for ( auto const * verb : Cli::verbsOf( everything() ) ) {
+      auto all = Cli::optionsOf( *verb );
+      auto const places = Cli::placesOf( *verb );
+      all.insert( all.end(), places.begin(), places.end() );
+      for ( auto const * option : all ) {
+         if ( Cli::takesValue( *option ) ) {
+            EXPECT_NE( Cli::placeOf( *option ), "" ) << verb->get_name() << ' ' << option->get_name( true, true );
+         }
       }
    }
 }
 
-TEST( Completion, offersTablesFieldsChipsAndFiles ) {
-   EXPECT_EQ( completions( "l3sm catalogue IppdFer" ), Names{ "IppdFerTrapCfg" } );
-   EXPECT_EQ( completions( "l3sm diff a b --table IppdFer" ), Names{ "IppdFerTrapCfg" } );
-   EXPECT_EQ( completions( "l3sm why run.jsonl IppdFerTrapCfg.cpu" ),
+TEST( Completion, offersAnOptionOnceUnlessItMayBeRepeated ) {
+   EXPECT_FALSE( completions( { "l3sm", "run", "--quiet", "--q" } ).contains( "--quiet" ) );
+   EXPECT_TRUE( completions( { "l3sm", "catalogue", "--journal", "j", "--j" } ).contains( "--journal" ) );
+}
+
+TEST( Completion, offersTablesFieldsAndControls ) {
+   EXPECT_EQ( completions( { "l3sm", "catalogue", "IppdFer" } ), Names{ "IppdFerTrapCfg" } );
+   EXPECT_EQ( completions( { "l3sm", "show", "chips.json", "IppdFerTrapCfg", "IppdFer" } ), Names{ "IppdFerTrapCfg" } );
+   EXPECT_EQ( completions( { "l3sm", "diff", "a", "b", "--table", "IppdFer" } ), Names{ "IppdFerTrapCfg" } );
+   EXPECT_EQ( completions( { "l3sm", "why", "run.jsonl", "IppdFerTrapCfg.cpu" } ),
               ( Names{ "IppdFerTrapCfg.cpuSnoopCodeN", "IppdFerTrapCfg.cpuStrengthN" } ) );
-   EXPECT_EQ( completions( "l3sm catalogue --chip BCM8848" ), ( Names{ "BCM88480_A0", "BCM88480_B0" } ) );
-   EXPECT_EQ( completions( "l3sm show ch", { { "chips.json", "" }, { "run.jsonl", "" } } ), Names{ "chips.json" } );
-   EXPECT_EQ( completions( "l3sm run x.json --plugin p", { { "plugin.so", "" } } ), Names{ "plugin.so" } );
+   EXPECT_EQ( completions( { "l3sm", "why", "run.jsonl", "contr" } ), ( Names{ "control.", ":open" } ) );
+   EXPECT_TRUE( completions( { "l3sm", "why", "run.jsonl", "control.6" } ).contains( "control.64" ) );
 }
 
-// ---- the manual page
-
-// What the page says of each verb, without its marks.
-std::map< std::string, std::string > manualByVerb() {
-   std::istringstream lines( contentsOf( source / "docs/l3sm.1" ) );
-   std::map< std::string, std::string > said;
-   std::regex const verb( R"(\.BR? ([a-z]+)( ".*)?)" );
-   std::regex const marks( R"(\\f[A-Z]|^\.[A-Z]+ )" );
-   std::string current;
-   bool areVerbs = false;
-   for ( std::string line; std::getline( lines, line ); ) {
-      if ( line.starts_with( ".SH" ) ) {
-         areVerbs = line == ".SH VERBS";
-      }
-      if ( !areVerbs ) {
-         continue;
-      }
-      std::smatch found;
-      if ( std::regex_match( line, found, verb ) && verbs().contains( found[1] ) ) {
-         current = found[1];
-      }
-      line = std::regex_replace( line, marks, "" );
-      said[current] += std::regex_replace( line, std::regex( R"(\\-)" ), "-" ) + "\n";
-   }
-   return said;
+TEST( Completion, offersPathsAndTheirAttributes ) {
+   EXPECT_EQ( completions( { "l3sm", "paths", "evpn/" } ), ( Names{ "evpn/status" } ) );
+   EXPECT_EQ( completions( { "l3sm", "paths", "evpn/status/e" } ), ( Names{ "evpn/status/evpnDciEnabled" } ) );
+   EXPECT_EQ( completions( { "l3sm", "paths", "interface/status/eth/vxlan/vtiStatus/Vxlan1/sec" } ),
+              ( Names{ "interface/status/eth/vxlan/vtiStatus/Vxlan1/secUdpPort" } ) );
+   EXPECT_TRUE(
+      completions( { "l3sm", "why", "run.jsonl", "routing/hardware/" } ).contains( "routing/hardware/config" ) );
+   EXPECT_EQ( completions( { "l3sm", "why", "run.jsonl", "L3Sm::handleEvpnD" } ),
+              Names{ "L3Sm::handleEvpnDciGateway" } );
 }
 
-TEST( Manual, hasEveryVerbAndItsOptions ) {
-   auto const said = manualByVerb();
-   Names const common{ "--help", "--json", "--no-pager" }; // said once, of all
-   for ( std::string const & verb : verbs() ) {
-      ASSERT_TRUE( said.contains( verb ) ) << verb;
-      Names known = matches( said.at( verb ), "(--[a-z]+(?:-[a-z]+)*)" );
-      known.insert( common.begin(), common.end() );
-      Names expected = optionsOf( verb );
-      expected.insert( common.begin(), common.end() );
-      EXPECT_EQ( known, expected ) << verb;
+TEST( Completion, offersTogglesWithBothStates ) {
+   EXPECT_EQ( completions( { "l3sm", "run", "--toggle", "Dace.json:Arm" } ),
+              ( Names{ "Dace.json:ArmOrderedSwTable=off", "Dace.json:ArmOrderedSwTable=on" } ) );
+   EXPECT_EQ( completions( { "l3sm", "run", "--toggle=Velo" } ),
+              ( Names{ "--toggle=VeloroSAI.json:VeloroSAIMode=off", "--toggle=VeloroSAI.json:VeloroSAIMode=on" } ) );
+}
+
+TEST( Completion, offersFacilitiesAndTheLevelsOnWhichTheyTellSomething ) {
+   EXPECT_EQ( completions( { "l3sm", "run", "--trace", "DaceFapNiMpls" } ),
+              ( Names{ "DaceFapNiMplsParser/", ":open" } ) );
+   EXPECT_EQ( completions( { "l3sm", "run", "--trace", "DaceFapNiMplsParser/" } ), Names{ "DaceFapNiMplsParser/0" } );
+   EXPECT_EQ( completions( { "l3sm", "run", "--trace", "*/9,DaceFapNiMplsParser/" } ),
+              Names{ "*/9,DaceFapNiMplsParser/0" } );
+   EXPECT_EQ( completions( { "l3sm", "facilities", "DaceFapNiMpls" } ), Names{ "DaceFapNiMplsParser" } );
+}
+
+TEST( Completion, offersChips ) {
+   EXPECT_EQ( completions( { "l3sm", "catalogue", "--chip", "BCM8848" } ), ( Names{ "BCM88480_A0", "BCM88480_B0" } ) );
+}
+
+TEST( Completion, leavesFilesToTheShell ) {
+   EXPECT_EQ( completions( { "l3sm", "run", "" } ), Names{ ":files" } );
+   EXPECT_EQ( completions( { "l3sm", "run", "s.json", "--plugin", "" } ), Names{ ":files" } );
+   EXPECT_EQ( completions( { "l3sm", "run", "s.json", "" } ), Names{} );
+}
+
+TEST( Completion, hasNothingToSayOfWhatItDoesNotKnow ) {
+   EXPECT_EQ( completions( { "l3sm" } ), Names{} );
+   EXPECT_EQ( completions( { "l3sm", "fly", "" } ), Names{} );
+   EXPECT_EQ( completions( { "l3sm", "why", "run.jsonl", "x", "--fap", "" } ), Names{} );
+}
+
+// ---- the shells
+
+// Runs a shell's script, where the program can be found and `line` is what is being typed.
+Names inShell( std::string const & shell, std::string const & script, std::string const & line, Command::Files files ) {
+   files["script"] = script;
+   Command const run( "--help > /dev/null; PATH='" L3SM_BINARY_DIR "/bin':$PATH " + shell + " script '" +
+                         std::string( L3SM_SOURCE_DIR "/completions" ) + "' '" + line + "'",
+                      files );
+   EXPECT_EQ( run.errors, "" );
+   Names lines = linesOf( run.output );
+   lines.erase( "script" );
+   return lines;
+}
+
+bool hasShell( std::string const & name ) {
+   return std::system( ( "command -v " + name + " > /dev/null" ).c_str() ) == 0;
+}
+
+Names inBash( std::string const & line, Command::Files const & files = {} ) {
+   return inShell( "bash",
+                   R"(source "$1/l3sm.bash"
+COMP_LINE=$2
+COMP_POINT=${#COMP_LINE}
+_l3sm l3sm
+printf '%s\n' "${COMPREPLY[@]}")",
+                   line,
+                   files );
+}
+
+TEST( CompletionInBash, offersWhatTheProgramSays ) {
+   EXPECT_EQ( inBash( "l3sm cat" ), Names{ "catalogue" } );
+   EXPECT_EQ( inBash( "l3sm run --q" ), Names{ "--quiet" } );
+   EXPECT_EQ( inBash( "l3sm catalogue --chip BCM8848" ), ( Names{ "BCM88480_A0", "BCM88480_B0" } ) );
+}
+
+// Readline takes what follows the last colon or equals sign for the word.
+TEST( CompletionInBash, leavesOutWhatStandsBeforeAColonAlready ) {
+   EXPECT_EQ( inBash( "l3sm run --toggle Dace.json:Arm" ),
+              ( Names{ "ArmOrderedSwTable=off", "ArmOrderedSwTable=on" } ) );
+   EXPECT_EQ( inBash( "l3sm run --toggle Dace.json:ArmOrderedSwTable=o" ), ( Names{ "off", "on" } ) );
+   EXPECT_EQ( inBash( "l3sm why j L3Sm::handleEvpnD" ), Names{ "handleEvpnDciGateway" } );
+}
+
+TEST( CompletionInBash, offersFiles ) {
+   EXPECT_EQ( inBash( "l3sm show ch", { { "chips.json", "" }, { "run.jsonl", "" } } ), Names{ "chips.json" } );
+   EXPECT_EQ( inBash( "l3sm run x.json --plugin p", { { "plugin.so", "" } } ), Names{ "plugin.so" } );
+   EXPECT_EQ( inBash( "l3sm run --chips=ch", { { "chips.json", "" } } ), Names{ "chips.json" } );
+}
+
+TEST( CompletionInFish, offersWhatTheProgramSays ) {
+   if ( !hasShell( "fish" ) ) {
+      GTEST_SKIP() << "left out: fish is missing";
    }
+   auto const inFish = []( std::string const & line, Command::Files const & files = {} ) {
+      return inShell( "fish --no-config", "source $argv[1]/l3sm.fish\ncomplete -C $argv[2]", line, files );
+   };
+   EXPECT_EQ( inFish( "l3sm cat" ), Names{ "catalogue" } );
+   EXPECT_EQ( inFish( "l3sm run --q" ), Names{ "--quiet" } );
+   EXPECT_EQ( inFish( "l3sm run --toggle Dace.json:Arm" ),
+              ( Names{ "Dace.json:ArmOrderedSwTable=off", "Dace.json:ArmOrderedSwTable=on" } ) );
+   EXPECT_EQ( inFish( "l3sm show ch", { { "chips.json", "" }, { "run.jsonl", "" } } ), Names{ "chips.json" } );
+}
+
+// A terminal of its own, in which a tab is typed: zsh completes on a line that is edited, and nowhere else.
+TEST( CompletionInZsh, offersWhatTheProgramSays ) {
+   if ( !hasShell( "zsh" ) ) {
+      GTEST_SKIP() << "left out: zsh is missing";
+   }
+   auto const inZsh = []( std::string const & line, Command::Files const & files = {} ) {
+      return inShell( "zsh -f",
+                      R"(zmodload zsh/zpty
+zpty shell zsh -f -i
+typed() { zpty -w shell "$1" }
+typed 'PROMPT= RPROMPT= LISTMAX=10000; stty -echo columns 200; fpath=('$1' $fpath); autoload -Uz compinit; compinit -u -d dump'
+typed "zstyle ':completion:*' list-prompt ''; bindkey '^I' complete-word; print -r -- ready"
+zpty -r shell out '*ready*'
+zpty -n -w shell "$2"$'\t'
+sleep 1
+zpty -n -w shell $'\x1bx'
+out=
+while zpty -r -t shell part; do out+=$part; done
+print -r -- "$out" | tr -d '\r\a' | sed 's/\x1b\[[0-9;?]*[a-zA-Z]//g; s/  *-- .*//; s/ *$//')",
+                      line,
+                      files );
+   };
+   Names const verbs = inZsh( "l3sm cat" );
+   EXPECT_TRUE(
+      std::ranges::any_of( verbs, []( auto const & text ) { return text.find( "catalogue" ) != std::string::npos; } ) );
 }
 
 } // namespace

@@ -13,12 +13,10 @@
 // Below a command stand its output and what it says on standard error, and its exit status where that isn't 0. Line
 // numbers of the source are written as `N`: they change with every edit of a file. To write the answers anew, run with
 // L3SM_TRANSCRIPTS=write in the environment, and look at what git makes of it.
-#include "l3sm/Command.h"
+#include "l3sm/Session.h"
 
 #include <algorithm>
-#include <array>
 #include <gtest/gtest.h>
-#include <regex>
 
 namespace {
 
@@ -36,44 +34,12 @@ std::vector< std::string > names() {
    return all;
 }
 
-// Line numbers move, and a compiler cache may have the compiler see the sources from the build folder.
-std::string withoutLineNumbers( std::string const & text ) {
-   static std::regex const number( R"((\.cpp):\d+ *( |\n|"|:|$))" );
-   static std::regex const fromBuildFolder( R"(\.\./\.\./(DaceL3Unicast/))" );
-   return std::regex_replace( std::regex_replace( text, number, "$1:N$2" ), fromBuildFolder, "$1" );
-}
-
-class Session {
- public:
-   Session() : folder_( fs::temp_directory_path() / ( "l3sm-transcript-" + std::to_string( ::getpid() ) ) ) {
-      fs::create_directories( folder_ );
-      for ( auto const & example : exampleScenarios() ) {
-         fs::copy_file( example, folder_ / example.filename() );
-      }
-   }
-   ~Session() { fs::remove_all( folder_ ); }
-
-   // The command's line, and below it what it answered.
-   std::string play( std::string const & command ) const {
-      std::string const line = "cd '" + folder_.string() +
-                               "' && PATH='" L3SM_BINARY_DIR "/bin':$PATH && unset COLUMNS && { " + command +
-                               "; } </dev/null >.answer 2>&1";
-      int const status = WEXITSTATUS( std::system( line.c_str() ) );
-      std::string answer = "$ " + command + "\n" + withoutLineNumbers( contentsOf( folder_ / ".answer" ) );
-      answer += status == 0 ? "" : "[" + std::to_string( status ) + "]\n";
-      return answer;
-   }
-
- private:
-   fs::path folder_;
-};
-
 struct TranscriptTest : testing::TestWithParam< std::string > {};
 
 TEST_P( TranscriptTest, isAnsweredToTheLetter ) {
    fs::path const path = transcripts / ( GetParam() + ".txt" );
    std::string const expected = contentsOf( path );
-   Session const session;
+   Session const session( "." );
    std::string actual;
    std::istringstream lines( expected );
    for ( std::string line; std::getline( lines, line ); ) {
