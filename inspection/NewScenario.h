@@ -8,7 +8,7 @@
 // playing, from the gates that are closed.
 #pragma once
 
-#include "constants/ChipType.h"
+#include "chip/ChipType.h"
 #include "rex/Value.h"
 
 #include <optional>

@@ -1,6 +1,6 @@
 #include "l3sm/Candidates.h"
 
-#include "constants/ChipType.h"
+#include "chip/ChipType.h"
 #include "generated/Catalogue.h"
 #include "inspection/Facilities.h"
 #include "inspection/FunctionTables.h"

@@ -13,6 +13,10 @@ REX_DEFINE( DaceFapNi::ChipInitConfig, "DaceFapNi::ChipInitConfig" );
 REX_DEFINE( DaceFapNi::ChipInitConfigDir, "DaceFapNi::ChipInitConfigDir" );
 REX_DEFINE( DaceFapNi::AgentSdkState, "DaceFapNi::AgentSdkState" );
 
+// For those who derive from what holds one.
+template class Rex::HeldEntity< Interface::AllEthPhyIntfConfigDir >;
+template class Rex::HeldEntity< Interface::AllEthPhyIntfStatusDir >;
+
 namespace DaceFapNi {
 
 Corvo::Ptr< ChipInitConfig > ChipInitConfigDir::addChipInitConfig( Corvo::String const & name ) {

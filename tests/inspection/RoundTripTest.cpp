@@ -1,6 +1,7 @@
 // A saved scenario begins where the run ended: played without events, it ends in the same chips, controls and state.
 //
 // RC_PARAMS="max_success=1000" tries a thousand random runs instead of a hundred.
+#include "inspection/Toggles.h"
 #include "inspection/Play.h"
 #include "inspection/files/Rehearsal.h"
 #include "inspection/files/SavedScenario.h"
