@@ -96,7 +96,7 @@ void checkTable( Table const & table, std::vector< Chip > const & chips ) {
                       where + " has " + std::to_string( layout.instances ) + " copies, but " +
                          std::to_string( layout.selectors.size() ) + " pairs of selectors are given" );
       }
-      if ( layout.width == 0 || layout.width > 32 ) {
+      if ( layout.width == 0 || layout.width > mostWords ) {
          throw Error( table.file, layout.geometryLine, "the width must be 1 to 32 words" );
       }
       if ( ( layout.arrayElements > 1 ) != ( layout.arrayStep != 0 ) ) {

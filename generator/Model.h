@@ -22,6 +22,10 @@ class Error : public std::runtime_error {
 
 namespace Model {
 
+inline constexpr unsigned mostWords = 32; // of an entry
+inline constexpr unsigned mostBits = 32 * mostWords;
+inline constexpr unsigned mostVariants = 255; // a byte counts them
+
 struct Chip {
    std::string name;
    unsigned number;

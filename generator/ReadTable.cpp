@@ -65,6 +65,9 @@ class TableReader {
       }
       if ( root_.has( "variants" ) ) {
          table_.variants = root_.at( "variants" ).number();
+         if ( table_.variants == 0 || table_.variants > Model::mostVariants ) {
+            root_.at( "variants" ).fail( "a table has 1 to " + std::to_string( Model::mostVariants ) + " variants" );
+         }
       }
       for ( unsigned variant = 0; variant < table_.variants; ++variant ) {
          for ( unsigned const chip : table_.chips ) {
@@ -186,6 +189,18 @@ class TableReader {
       }
    }
 
+   // The number of a bit, or of bits. What lies behind the largest entry need not be exact to be refused, so sums of
+   // positions stay small numbers.
+   static unsigned position( Yaml const & number ) { return std::min( number.number(), 2 * Model::mostBits ); }
+
+   // A number of a run of fields, of which an entry has no more than bits.
+   static unsigned runNumber( std::string const & digits, Yaml const & at ) {
+      if ( digits.size() > 4 || std::stoul( digits ) >= Model::mostBits ) {
+         at.fail( "the fields of a run have numbers below " + std::to_string( Model::mostBits ) );
+      }
+      return static_cast< unsigned >( std::stoul( digits ) );
+   }
+
    // One field, or the fields of a run: "slot0..3".
    static std::vector< Field > fieldsOf( std::string const & name, Yaml const & bits ) {
       auto const dots = name.find( ".." );
@@ -194,7 +209,7 @@ class TableReader {
          if ( parts.size() < 2 || parts.size() > 3 || ( parts.size() == 3 && parts[2].text() != "view" ) ) {
             bits.fail( "a field is [offset, width] or [offset, width, view]" );
          }
-         return { { name, parts[0].number(), parts[1].number(), parts.size() == 3, bits.line() } };
+         return { { name, position( parts[0] ), position( parts[1] ), parts.size() == 3, bits.line() } };
       }
       auto const digits = name.find_last_not_of( "0123456789", dots - 1 ) + 1;
       if ( digits >= dots || name.find_first_not_of( "0123456789", dots + 2 ) != std::string::npos ||
@@ -202,13 +217,16 @@ class TableReader {
          bits.fail( "a run of fields is written name0..7" );
       }
       bits.allowKeys( { "at", "width", "step" } );
-      unsigned const first = static_cast< unsigned >( std::stoul( name.substr( digits, dots - digits ) ) );
-      unsigned const last = static_cast< unsigned >( std::stoul( name.substr( dots + 2 ) ) );
+      unsigned const first = runNumber( name.substr( digits, dots - digits ), bits );
+      unsigned const last = runNumber( name.substr( dots + 2 ), bits );
+      if ( first > last ) {
+         bits.fail( "a run of fields counts upwards" );
+      }
       std::vector< Field > fields;
       for ( unsigned number = first; number <= last; ++number ) {
          fields.push_back( { name.substr( 0, digits ) + std::to_string( number ),
-                             bits.at( "at" ).number() + ( number - first ) * bits.at( "step" ).number(),
-                             bits.at( "width" ).number(),
+                             position( bits.at( "at" ) ) + ( number - first ) * position( bits.at( "step" ) ),
+                             position( bits.at( "width" ) ),
                              false,
                              bits.line() } );
       }
@@ -239,7 +257,7 @@ class TableReader {
       for ( auto const & pair : pairs( block ) ) {
          for ( Yaml const & bits : block.at( "bits" ).items() ) {
             auto const parts = bits.items( 3 );
-            Tag const tag{ parts[0].number(), parts[1].number(), parts[2].number(), bits.line() };
+            Tag const tag{ position( parts[0] ), position( parts[1] ), parts[2].number(), bits.line() };
             if ( tag.width > 8 || tag.value >> tag.width != 0 ) {
                bits.fail( "a tag has at most 8 bits, and a value that fits them" );
             }

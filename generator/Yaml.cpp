@@ -1,18 +1,19 @@
 #include "generator/Yaml.h"
 
 #include <algorithm>
+#include <filesystem>
 #include <fstream>
 #include <set>
 
 Yaml Yaml::load( std::string const & file ) {
    std::ifstream in( file );
-   if ( !in ) {
+   if ( !in || !std::filesystem::is_regular_file( file ) ) { // a folder can be opened, too
       throw Error( file, 1, "cannot be read" );
    }
    try {
       return { YAML::Load( in ), file, 1 };
-   } catch ( YAML::ParserException const & e ) {
-      throw Error( file, e.mark.line + 1, e.msg );
+   } catch ( YAML::Exception const & e ) {
+      throw Error( file, e.mark.is_null() ? 1 : e.mark.line + 1, e.msg );
    }
 }
 

@@ -91,7 +91,8 @@ void ReplayedChips::row( Row const & row ) {
          Catalogue::tables()[row.tableNumber], static_cast< U8 >( chipTypes_.at( row.fap ) ), row.variant );
       if ( !layout || layout->width != row.words.size() ||
            row.entry.value_or( 0 ) >= Simulator::entryCount( *layout ) ||
-           static_cast< U32 >( row.array ) - layout->arrayIndexFirst >= layout->arrayElements ) {
+           static_cast< U32 >( row.array ) - layout->arrayIndexFirst >= layout->arrayElements ||
+           ( row.scope == Row::Scope::core && static_cast< std::size_t >( row.core ) >= layout->selectors.size() ) ) {
          throw Rex::ValueError( "", std::string( row.table ) + " has no such place on this kind of chip" );
       }
    }

@@ -175,14 +175,14 @@ class L3Sm : public Corvo::Node {
    template< auto const & rows >
    static void dispatch( Corvo::Publisher *, Corvo::Subscriber * slot, short attribute, void const *, void const * );
 
-   static DispatchRow const phySmStateSharedStatusRows[];
-   static DispatchRow const phySmStateRows[];
-   static DispatchRow const mplsRoutingInfoRows[];
-   static DispatchRow const vtiStatusDirRows[];
-   static DispatchRow const evpnStatusRows[];
-   static DispatchRow const mergedPrefixLensInExactMatchV4Rows[];
-   static DispatchRow const routingHwConfigRows[];
-   static DispatchRow const driverSetupSmStateInfoRows[];
+   static DispatchRow const phySmStateSharedStatusRows[1];
+   static DispatchRow const phySmStateRows[1];
+   static DispatchRow const mplsRoutingInfoRows[2];
+   static DispatchRow const vtiStatusDirRows[1];
+   static DispatchRow const evpnStatusRows[2];
+   static DispatchRow const mergedPrefixLensInExactMatchV4Rows[1];
+   static DispatchRow const routingHwConfigRows[2];
+   static DispatchRow const driverSetupSmStateInfoRows[1];
    // Follows the slots' load-balance configurations as they come and go, also while the machine is a zombie.
    static void daceLagStatusDispatch(
       Corvo::Publisher *, Corvo::Subscriber * slot, short attribute, void const * key, void const * );

@@ -35,7 +35,9 @@ class AsicBase {
    virtual U32 maxIdentifier() const { fail( "false && \"maxIdentifier invalid for this class\"" ); }
    virtual U16 fieldCount() const = 0;
    virtual bool isTable() const = 0;
-   // allFieldsMask has no slot among these: its type is the class's own, so each class introduces it behind them.
+   // The mask of all fields, in words. In each class's own type it is allFieldsMask, which can't stand here for its
+   // type; its slot does, so that those behind it have their places.
+   virtual U32 const * fieldsMaskWords() const = 0;
    virtual S32 sdkDefinedId() const = 0;
    virtual U32 instanceCount() const = 0;
    virtual bool hasInstance( U32 ) const { fail( "false" ); }

@@ -318,6 +318,10 @@ U16 BcmAsicBase::fieldCount() const {
    return meta_->fieldCount( chipType, variant_ );
 }
 
+U32 const * BcmAsicBase::fieldsMaskWords() const {
+   return meta_->fieldsMask( chipType, variant_ );
+}
+
 S32 BcmAsicBase::sdkDefinedId() const {
    meta_->trace( "virtual S32 %::sdkDefinedId() const", chipType, variant_ );
    return meta_->sdkDefinedId( chipType, variant_ );

@@ -34,6 +34,7 @@ class BcmAsicBase : public AsicBase {
    bool isFieldValid( U32 fieldId ) const override;
    U16 width() const override;
    U16 fieldCount() const override;
+   U32 const * fieldsMaskWords() const override;
    S32 sdkDefinedId() const override;
    U32 instanceCount() const override;
    bool hasIdentifier( U32 identifier ) const override;

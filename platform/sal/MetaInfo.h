@@ -160,6 +160,7 @@ struct MetaInfo {
    bool isFormat( Hardware::ChipType chipType, U8 const * buf, U16 len, U8 variant ) const;
    // Checks the tag, or writes it.
    void handleBuf( Hardware::ChipType chipType, U8 * buf, U16 len, bool bufferHoldsEntry, U8 variant ) const;
+   U32 const * fieldsMask( U32 chipType, U8 variant ) const;
    template< class Entry >
    Entry allFieldsMask( U32 chipType, U8 variant ) const {
       U32 const * mask = fieldsMask( chipType, variant );
@@ -203,7 +204,6 @@ struct MetaInfo {
  private:
    void emitTrace( std::string_view pattern, U32 chipType, U8 variant ) const;
    TableLayout const & layoutFor( std::string_view pattern, U32 chipType, U8 variant ) const;
-   U32 const * fieldsMask( U32 chipType, U8 variant ) const;
    bool acceptsIdentifier( TableLayout const & layout, U32 identifier ) const;
 };
 

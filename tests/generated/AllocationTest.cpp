@@ -79,10 +79,11 @@ TEST( Allocation, aFieldAccessMakesNone ) {
 
 // One for the accessor and what counts its users.
 TEST( Allocation, anAccessorByNameMakesOne ) {
-   std::string const name = "ErppCfgSplitHorizonFilter";
+   std::string name = "ErppCfgSplitHorizonFilter";        // taken by value: a copy of it would count
    Hardware::stringObj( name, ChipType::BCM88690_B0, 0 ); // the map of names is built at its first use
    std::shared_ptr< AsicUtils::AsicBase > accessor;
-   EXPECT_EQ( allocationsOf( [&] { accessor = Hardware::stringObj( name, ChipType::BCM88690_B0, 0 ); } ), 1u );
+   EXPECT_EQ( allocationsOf( [&] { accessor = Hardware::stringObj( std::move( name ), ChipType::BCM88690_B0, 0 ); } ),
+              1u );
    EXPECT_TRUE( accessor );
 }
 

@@ -167,6 +167,36 @@ TEST_F( SchemaTest, BrokenYaml ) {
    EXPECT_EQ( fault( "memory\n" ), "Table.yaml:1: a map of keys and values is expected here" );
 }
 
+TEST_F( SchemaTest, AFolderNamedLikeATable ) {
+   write( "Fine.yaml", good );
+   std::filesystem::create_directories( folder_ / "Table.yaml" );
+   EXPECT_EQ( catalogueFault(), "Table.yaml:1: cannot be read" );
+}
+
+TEST_F( SchemaTest, NumbersThatNoTableHas ) {
+   EXPECT_EQ( fault( "variants: 400000000\n" + good ), "Table.yaml:1: a table has 1 to 255 variants" );
+   EXPECT_EQ( fault( "variants: 0\n" + good ), "Table.yaml:1: a table has 1 to 255 variants" );
+   auto const run = []( std::string const & name ) {
+      return good + "      " + name + ": {at: 32, width: 1, step: 1}\n";
+   };
+   for ( std::string const name : { "slot0..400000000", "slot0..1024", "slot99999999999999999999..3" } ) {
+      EXPECT_EQ( fault( run( name ) ), "Table.yaml:10: the fields of a run have numbers below 1024" ) << name;
+   }
+   EXPECT_EQ( fault( run( "slot3..2" ) ), "Table.yaml:10: a run of fields counts upwards" );
+   EXPECT_EQ( fault( run( "slot0..31" ) ), "" );
+}
+
+// Sums of such numbers don't begin at 0 again.
+TEST_F( SchemaTest, PlacesFarBehindTheEntry ) {
+   auto const pastTheWidth = []( std::string const & text ) {
+      return text.find( "past the 2 words of BCM88690_B0 variant 0" ) != std::string::npos;
+   };
+   EXPECT_TRUE( pastTheWidth( fault( good + "      far: [4294967295, 2]\n" ) ) );
+   EXPECT_TRUE( pastTheWidth( fault( good + "      far0..1: {at: 32, width: 1, step: 4294967295}\n" ) ) );
+   EXPECT_EQ( fault( good + "tag:\n  - bits: [[4294967295, 2, 1]]\n" ),
+              "Table.yaml:11: the tag goes past the width of BCM88690_B0 variant 0" );
+}
+
 TEST_F( SchemaTest, IdsThatDoNotFitTheFields ) {
    write( "Table.yaml", good );
    write( "field-ids.yaml", "vector: 3\nvoid: 4\n" );

@@ -33,17 +33,16 @@ TEST( InitialProgramming, runsBehindTheChildrenInItsOrder ) {
                                             "VxlanSplitHorizonCfgSm::reloadSplitHorizonCfg",
                                             "GueNexthopGroupSm::doWriteAdditionalHeaderMapTable0",
                                             "MplsParserCfgSm::handleParserConfig",
-                                            "L3Sm::setupMplsFwdContext",
+                                            "doWriteFlpacsAction",
                                             "L3Sm::handleEvpnEncapType",
                                             "L3Sm::handleEvpnDciGateway",
                                             "L3Sm::handleDecapRouteAll",
                                             "L3Sm::initEgressOutrifMaxValueReg",
-                                            "L3Sm::initUnknownDaProfileTable",
+                                            "DaceL3UnicastVtiStatusDirSm::doSetupVxlanFloodSet",
                                             "L3Sm::setupMplsLookupFbIpFwdContext",
                                             "doProgramGueTunnelTermination",
                                             "L3Sm::handlePrefixLensInExactMatch",
-                                            "L3Sm::handleLooseUrpfFailFwdConfig",
-                                            "L3Sm::handleStrictUrpfFailFwdConfig",
+                                            "L3Sm::handleUrpfFailFwdConfig",       // loose and strict
                                             "doProgramGueTunnelTermination" } ) ); // the slot's own reactor
 }
 

@@ -67,13 +67,17 @@ TEST( L3SmLifecycle, hearsEveryInputFromItsConstructionOn ) {
       char const * function;
       std::function< void() > change;
    } const rows[] = {
-      { "L3Sm::setupMplsFwdContext", [&] { observed.mplsRoutingInfo->mplsLookupLabelCountIs( 1 ); } },
+      { "doWriteFlpacsAction", [&] { observed.mplsRoutingInfo->mplsLookupLabelCountIs( 1 ); } },
       { "L3Sm::handleDecapRouteAll", [&] { observed.vtiStatusDir->decapRouteAllIs( true ); } },
       { "L3Sm::handleEvpnEncapType", [&] { observed.evpnStatus->vxlanEnabledIs( true ); } },
       { "doProgramGueTunnelTermination", [&] { observed.daceLagStatus->slotLoadBalanceIs( slotConfig( 0 ) ); } },
       { "L3Sm::handlePrefixLensInExactMatch", [&] { observed.mergedPrefixLens->prefixLenIs( 1, 24 ); } },
-      { "L3Sm::handleLooseUrpfFailFwdConfig", [&] { observed.routingHwConfig->urpfLooseFailForwardIs( true ); } },
-      { "L3Sm::setupMplsLookupFbIpFwdContext", [&] { observed.driverSetupSmStateInfo->ucodeProfileIs( 3 ); } },
+      { "L3Sm::handleUrpfFailFwdConfig", [&] { observed.routingHwConfig->urpfLooseFailForwardIs( true ); } },
+      { "L3Sm::setupMplsLookupFbIpFwdContext",
+        [&] {
+           observed.driverSetupSmStateInfo->ucodeProfileIs( 1 );
+           observed.driverSetupSmStateInfo->ucodeProfileIs( 2 ); // routing
+        } },
    };
    for ( auto const & row : rows ) {
       EXPECT_TRUE( functionsOf( observed, row.change ).contains( row.function ) ) << row.function;

@@ -3,7 +3,6 @@
 #include <cstdio>
 #include <gtest/gtest.h>
 #include <memory>
-#include <sstream>
 
 namespace {
 
@@ -33,15 +32,11 @@ struct Symbol {
 
 std::vector< Symbol > symbolsOf( std::string const & library, std::string const & options ) {
    std::vector< Symbol > symbols;
-   for ( auto const & line : linesOf( "nm -D --format=posix " + options + " '" + library + "'" ) ) {
-      // With --demangle a name may hold blanks; its kind is the one letter that stands alone, from the right.
-      std::istringstream in( line );
-      std::string name;
-      std::string word;
-      while ( in >> word && word.size() != 1 ) {
-         name += ( name.empty() ? "" : " " ) + word;
+   for ( auto const & line : linesOf( "nm -D " + options + " '" + library + "'" ) ) {
+      // The value's 16 digits or as many blanks, the kind, the name.
+      if ( line.size() > 19 ) {
+         symbols.push_back( { line.substr( 19 ), line[17] } );
       }
-      symbols.push_back( { name, word.empty() ? '?' : word[0] } );
    }
    return symbols;
 }
@@ -65,9 +60,9 @@ TEST( Library, needsThePlatformAndTheRuntimeOfTheLanguage ) {
       }
    }
    Names const runtime{ "libstdc++.so.6", "libgcc_s.so.1", "libc.so.6", "libm.so.6", "libasan.so.8", "libubsan.so.1" };
-   EXPECT_TRUE( needed.contains( "libL3SmPlatform.so" ) );
+   // The platform goes by the version that its classes lie open at.
+   EXPECT_EQ( std::erase_if( needed, []( auto & name ) { return name.starts_with( "libL3SmPlatform.so" ); } ), 1u );
    EXPECT_TRUE( needed.contains( "libstdc++.so.6" ) );
-   needed.erase( "libL3SmPlatform.so" );
    EXPECT_TRUE( std::ranges::includes( runtime, needed ) ) << testing::PrintToString( needed );
 #ifndef __SANITIZE_ADDRESS__
    EXPECT_FALSE( needed.contains( "libasan.so.8" ) );
@@ -101,7 +96,7 @@ TEST( Library, takesTheNamesThatAPlatformMustHave ) {
                                "Agent::MounterPlugin::MounterBase::init",
                                "DaceFapNi::MounterRunnabilitySm::MounterRunnabilitySmIs",
                                "DaceFapNi::MounterRunnabilitySmBase::runnableStatesIs",
-                               "DaceFapNi::ChipInitConfigDir::addChipInitConfig",
+                               "typeinfo for DaceFapNi::ChipInitConfigDir",
                                "Cell::path[abi:cxx11]",
                                "Stordb::EntityManager::getMountGroup",
                                "Stordb::EntityManager::getEntity",
