@@ -63,12 +63,24 @@ void addSlice( std::vector< std::string > & all, Simulator::SimulatedSwitch cons
    }
 }
 
+// What contradicts the chips, as far as it has been played.
+void addContradictions( std::vector< std::string > & all,
+                        Scenario const & scenario,
+                        Simulator::SimulatedSwitch const & sw ) {
+   for ( Warning const & warning : scenario.warnings ) {
+      if ( !warning.event || *warning.event <= sw.event() ) {
+         all.push_back( warning.place + ": " + warning.text );
+      }
+   }
+}
+
 } // namespace
 
-std::vector< std::string > suspicionsOf( Scenario const &, Simulator::SimulatedSwitch const & sw ) {
+std::vector< std::string > suspicionsOf( Scenario const & scenario, Simulator::SimulatedSwitch const & sw ) {
    std::vector< std::string > all;
    addPorts( all, sw );
    addSlice( all, sw );
+   addContradictions( all, scenario, sw );
    addMissingPaths( all, sw );
    return all;
 }

@@ -101,22 +101,26 @@ Candidates toggles( std::string const &, Before const & ) {
    return { .list = all };
 }
 
-// The paths as they are listed; below one of them, its attributes.
-Candidates paths( std::string const & typed, Before const & ) {
+// The paths as they are listed; behind one of them and `mark`, its attributes.
+Candidates pathsAndAttributes( std::string const & typed, char mark ) {
    List all;
    for ( StatePath const & path : statePaths() ) {
       all.push_back( { path.path, path.type->name() } );
    }
-   auto const slash = typed.rfind( '/' );
-   std::string const head = slash == std::string::npos ? "" : typed.substr( 0, slash );
+   auto const at = typed.rfind( mark );
+   std::string const head = at == std::string::npos ? "" : typed.substr( 0, at );
    for ( StatePath const & path : statePaths() ) {
       if ( path.isOf( head ) ) {
          for ( StateAttribute const & attribute : path.attributes ) {
-            all.push_back( { head + "/" + attribute.attribute->name, "attribute" } );
+            all.push_back( { head + mark + attribute.attribute->name, "attribute" } );
          }
       }
    }
    return { .list = all };
+}
+
+Candidates paths( std::string const & typed, Before const & ) {
+   return pathsAndAttributes( typed, '/' );
 }
 
 std::set< std::string > fieldsOf( std::string const & table ) {
@@ -172,7 +176,7 @@ Candidates subjects( std::string const & typed, Before const & before ) {
       return { .list = all };
    }
    List all = allTables();
-   for ( auto const & more : { paths( typed, before ), functions( typed, before ) } ) {
+   for ( auto const & more : { pathsAndAttributes( typed, '.' ), functions( typed, before ) } ) {
       all.insert( all.end(), more.list.begin(), more.list.end() );
    }
    all.push_back( { "control.", "a numbered control of the driver" } );
@@ -206,6 +210,10 @@ Candidates scenarioSubjects( std::string const & typed, Before const & ) {
    return { .list = all };
 }
 
+Candidates events( std::string const &, Before const & ) {
+   return { .list = { { "all" }, { "last" } } };
+}
+
 struct Place {
    std::string_view name;
    Candidates ( *candidates )( std::string const &, Before const & );
@@ -223,8 +231,7 @@ constexpr Place places[] = {
    { "TABLE", tablesAndFields },
    { "PATH", paths },
    { "FACILITY", facilities },
-   { "WHAT", subjects },
-   { "scenario", files },
+   { "SUBJECT", subjects },
    { "A", files },
    { "B", files },
    { "CHIPS", files },
@@ -232,15 +239,27 @@ constexpr Place places[] = {
    // the types of what is left
    { "UINT", nothing },
    { "INT", nothing },
-   { "FILE", files },
-   { "FILE.html", files },
+   { "N[,...]|all|last", events },
    { "FACILITY/LEVEL[,...]", facilitiesWithLevels },
    { "FILE:NAME=on|off", toggles },
 };
 
+// A file is told by its word: "FILE", "SCENARIO.json", "PAGE.html", "PLUGIN.so".
+bool isFile( std::string_view name ) {
+   auto const dot = std::min( name.find( '.' ), name.size() );
+   auto const stem = name.substr( 0, dot );
+   bool const isInCapitals =
+      !stem.empty() && std::ranges::all_of( stem, []( char letter ) { return letter >= 'A' && letter <= 'Z'; } );
+   bool const hasEnd = dot + 1 < name.size() && std::ranges::all_of( name.substr( dot + 1 ), []( char letter ) {
+                          return letter >= 'a' && letter <= 'z';
+                       } );
+   return isInCapitals && ( hasEnd || stem == "FILE" );
+}
+
 Place const * placeNamed( std::string_view name ) {
+   static constexpr Place file{ "FILE", files };
    auto const found = std::ranges::find( places, name, &Place::name );
-   return found == std::end( places ) ? nullptr : found;
+   return found != std::end( places ) ? found : isFile( name ) ? &file : nullptr;
 }
 
 } // namespace

@@ -2,8 +2,8 @@
 //
 //    candidatesFor( "--table", "Ippd", {} ).list;          // { "IppdFerTrapCfg", ... }
 //
-// A place is known by the name of its option, by its own, or by the type that its help shows. Every one is named in
-// Candidates.cpp; a test sees to it.
+// A place is known by the name of its option, by its own, or by the type that its help shows: FILE and what ends as a
+// file's name does are files, and every other is named in Candidates.cpp; a test sees to it.
 //
 // Threading: none.
 #pragma once

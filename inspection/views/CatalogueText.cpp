@@ -131,16 +131,21 @@ Value layoutValue( Layout const & layout ) {
    for ( auto const & field : layout.fields ) {
       fields.push_back( Value::Object{ { "name", field.name }, { "offset", field.offset }, { "width", field.width } } );
    }
-   return Value::Object{ { "entries", numberOrNull( layout.entries != 0, layout.entries ) },
-                         { "width", layout.width },
-                         { "arrayElements", layout.arrayElements },
-                         { "arrayIndexMin", layout.arrayIndexMin },
-                         { "sdkDefinedId", numberOrNull( layout.sdkDefinedId != -1, layout.sdkDefinedId ) },
-                         { "instanceCount", layout.instanceCount },
-                         { "base", layout.base },
-                         { "arrayStep", numberOrNull( layout.arrayStep != 0, layout.arrayStep ) },
-                         { "selectors", selectors },
-                         { "fields", fields } };
+   Value::Object value{ { "entries", numberOrNull( layout.entries != 0, layout.entries ) },
+                        { "width", layout.width },
+                        { "arrayElements", layout.arrayElements },
+                        { "arrayIndexMin", layout.arrayIndexMin },
+                        { "sdkDefinedId", numberOrNull( layout.sdkDefinedId != -1, layout.sdkDefinedId ) },
+                        { "instanceCount", layout.instanceCount },
+                        { "base", layout.base },
+                        { "arrayStep", numberOrNull( layout.arrayStep != 0, layout.arrayStep ) },
+                        { "selectors", selectors },
+                        { "fields", fields } };
+   if ( layout.arrayIndexFirst != layout.arrayIndexMin ) {
+      value["arrayIndexAccepted"] =
+         Value::List{ layout.arrayIndexFirst, layout.arrayIndexFirst + layout.arrayElements - 1 };
+   }
+   return value;
 }
 
 } // namespace

@@ -42,7 +42,11 @@ Names completions( std::vector< std::string > const & words ) {
 }
 
 TEST( Completion, offersEveryVerb ) {
-   Names expected{ "--help" };
+   Names expected;
+   for ( auto const * option : Cli::optionsOf( everything() ) ) {
+      expected.insert( "--" + option->get_lnames().front() );
+   }
+   EXPECT_TRUE( expected.contains( "--version" ) );
    for ( auto const * verb : Cli::verbsOf( everything() ) ) {
       expected.insert( verb->get_name() );
    }
@@ -102,6 +106,7 @@ TEST( Completion, offersPathsAndTheirAttributes ) {
               ( Names{ "interface/status/eth/vxlan/vtiStatus/Vxlan1/secUdpPort" } ) );
    EXPECT_TRUE(
       completions( { "l3sm", "why", "run.jsonl", "routing/hardware/" } ).contains( "routing/hardware/config" ) );
+   EXPECT_EQ( completions( { "l3sm", "why", "run.jsonl", "evpn/status.e" } ), Names{ "evpn/status.evpnDciEnabled" } );
    EXPECT_EQ( completions( { "l3sm", "why", "run.jsonl", "L3Sm::handleEvpnD" } ),
               Names{ "L3Sm::handleEvpnDciGateway" } );
 }
@@ -124,6 +129,10 @@ TEST( Completion, offersFacilitiesAndTheLevelsOnWhichTheyTellSomething ) {
 
 TEST( Completion, offersChips ) {
    EXPECT_EQ( completions( { "l3sm", "catalogue", "--chip", "BCM8848" } ), ( Names{ "BCM88480_A0", "BCM88480_B0" } ) );
+}
+
+TEST( Completion, offersWhatAnEventCanBeCalled ) {
+   EXPECT_EQ( completions( { "l3sm", "run", "--event", "" } ), ( Names{ "all", "last" } ) );
 }
 
 TEST( Completion, leavesFilesToTheShell ) {

@@ -186,4 +186,21 @@ TEST( Ending, atTheStartTellsTheFapThatWasWorkedOn ) {
    EXPECT_EQ( journalOf( l3sm.file( "j" ) ).ended, "assertion" );
 }
 
+// Of what contradicts the chip, that which has been played.
+TEST( Ending, namesWhatContradictsTheChip ) {
+   std::string const text = "{\"switch\": {\"faps\": [{\"fapId\": 0, \"revision\": {\"chipType\": \"BCM88850_A0\",\n"
+                            "\"major\": 5}}]}, \"toggles\": {\"Dace.json\": {\"ArmOrderedSwTable\": false}},\n"
+                            "\"events\": [{\"set\": {\"path\": \"routing/hardware/route/status\", "
+                            "\"attribute\": \"prefixLensInExactMatch\", \"key\": \"1\", \"value\": 64}}]}";
+   Command const l3sm( "run s.json", { { "s.json", text } } );
+   EXPECT_EQ( l3sm.status, 128 + SIGABRT );
+   EXPECT_NE( l3sm.errors.find( "arrayIndex >= 3" ), std::string::npos ) << l3sm.errors;
+   EXPECT_NE( l3sm.errors.find( "  suspicious: s.json:2:10: the major revision 5 is that of a BCM88690_B0; "
+                                "a BCM88850_A0 has 8\n" ),
+              std::string::npos )
+      << l3sm.errors;
+   auto const last = l3sm.errors.substr( l3sm.errors.find( "The run ended by an assertion" ) );
+   EXPECT_EQ( last.find( "an IPv4 prefix" ), std::string::npos ) << last;
+}
+
 } // namespace

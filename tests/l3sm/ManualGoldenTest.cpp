@@ -58,7 +58,8 @@ std::string verbsSection() {
             continue;
          }
          std::string const type = option->get_type_name();
-         text += ".TP\n\\fB" + roff( "--" + name ) + "\\fR";
+         std::string const letter = option->get_snames().empty() ? "" : "-" + option->get_snames().front() + ", ";
+         text += ".TP\n\\fB" + roff( letter + "--" + name ) + "\\fR";
          text += Cli::takesValue( *option ) ? " \\fI" +
                                                  roff( type == "TEXT"                    ? "NAME"
                                                        : type == "UINT" || type == "INT" ? "N"
