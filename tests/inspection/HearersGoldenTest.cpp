@@ -114,15 +114,20 @@ class Ears : public DaceSal::OperationListener, public Rex::GateListener {
          what << ' ' << word;
       }
       bool const isRead = of.kind == DaceSal::Operation::Kind::read;
-      heard.push_back( { nameOf( of.origin ), what.str(), sw_.cause(), isRead } );
+      add( { nameOf( of.origin ), what.str(), sw_.cause(), isRead } );
    }
    void gateClosed( Rex::ClosedGate const & gate ) override {
-      heard.push_back( { nameOf( gate.origin ), std::string( gate.reason ), sw_.cause(), false } );
+      add( { nameOf( gate.origin ), std::string( gate.reason ), sw_.cause(), false } );
    }
 
    std::vector< Heard > heard;
+   std::function< void( Heard const & ) > tells = []( Heard const & ) {}; // at once
 
  private:
+   void add( Heard one ) {
+      tells( one );
+      heard.push_back( std::move( one ) );
+   }
    static std::string nameOf( std::source_location const & at ) {
       return Simulator::functionName( at.function_name() );
    }
@@ -252,13 +257,16 @@ void hearChanges( Scenario const & scenario, std::size_t from, std::ostream & ou
    Ears ears( sw );
    for ( std::size_t index = from; index < places.size(); ++index ) {
       tell( out, index, places[index] );
-      ears.heard.clear();
-      changeInEveryWay( sw, places[index] );
-      for ( auto const & heard : ears.heard ) {
-         if ( heard.cause == places[index].path + " " + places[index].attribute ) {
+      // At once, as the next value may be one that the plug-in can't live with.
+      std::set< std::string > told;
+      ears.tells = [&]( Ears::Heard const & heard ) {
+         bool const isOfChange = heard.cause == places[index].path + " " + places[index].attribute;
+         if ( isOfChange && told.insert( heard.function ).second ) {
             out << "heard " << heard.function << '\n';
          }
-      }
+      };
+      ears.heard.clear();
+      changeInEveryWay( sw, places[index] );
       if ( !isScalar( sw, places[index] ) ) {
          return; // the entities are others now: whoever has followed those before hears nothing of them
       }

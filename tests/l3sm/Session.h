@@ -29,7 +29,7 @@ class Session {
 
    // The command's line, and below it what it answered.
    std::string play( std::string const & command ) const {
-      std::string const line = "cd '" + folder.string() +
+      std::string const line = "ulimit -c 0; cd '" + folder.string() +
                                "' && PATH='" L3SM_BINARY_DIR "/bin':$PATH && unset COLUMNS && { " + command +
                                "\n} </dev/null >.answer 2>&1";
       int const status = WEXITSTATUS( std::system( line.c_str() ) );

@@ -17,7 +17,7 @@ void expectWarned( std::string const & fap, std::string lines, std::string const
    EXPECT_EQ( l3sm.errors.substr( 0, expected.size() ), expected );
    EXPECT_EQ( l3sm.status, status );
    EXPECT_EQ( l3sm.errors.size() == expected.size(), status == 0 );
-   EXPECT_EQ( l3sm.wrote( "save" ), status == 0 );
+   EXPECT_TRUE( l3sm.wrote( "save" ) ); // up to where the run has ended
 }
 
 constexpr int aborted = 134;
