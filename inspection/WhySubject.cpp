@@ -63,10 +63,10 @@ WhySubject stateAsTyped( std::string typed ) {
    return subject;
 }
 
-// Throws unless the path can be, and its type has the attribute.
-void checkState( WhySubject const & subject ) {
+// Throws unless the path can be, and its type has the attribute, which may stand behind a slash as well.
+WhySubject checked( WhySubject subject ) {
    if ( std::ranges::any_of( managedPaths, [&]( auto root ) { return isBelow( subject.path, root ); } ) ) {
-      return;
+      return subject;
    }
    std::string root;
    std::vector< std::string > roots{ std::begin( managedPaths ), std::end( managedPaths ) };
@@ -78,7 +78,7 @@ void checkState( WhySubject const & subject ) {
    }
    bool const isAbove = std::ranges::any_of( roots, [&]( auto const & it ) { return isBelow( it, subject.path ); } );
    if ( root.empty() && isAbove && subject.attribute.empty() ) {
-      return;
+      return subject;
    }
    if ( root.empty() ) {
       throw InputError( "the state has no path \"" + subject.path + "\"" + Rex::didYouMean( subject.path, roots ) );
@@ -97,7 +97,13 @@ void checkState( WhySubject const & subject ) {
       std::istringstream steps( subject.path.size() > root.size() ? subject.path.substr( root.size() + 1 ) : "" );
       for ( std::string step, key; std::getline( steps, step, '/' ); ) {
          auto const entity = there( path );
-         if ( !there( path + "/" + step ) && entity && entity->typeData().attribute( step ) ) {
+         auto const * const named = entity ? entity->typeData().attribute( step ) : nullptr;
+         if ( named && !named->elementType() && steps.eof() && subject.attribute.empty() ) {
+            subject.path = path;
+            subject.attribute = step;
+            return subject;
+         }
+         if ( !there( path + "/" + step ) && named ) {
             tree.attributeIs( path, step, Rex::Value::Object() );
          }
          if ( there( path + "/" + step ) ) {
@@ -107,7 +113,7 @@ void checkState( WhySubject const & subject ) {
             path += "/" + step + "/" + key;
          } else if ( entity ) {
             Rex::attributeOf( entity->typeData(), step ); // a collection, named without an entry
-            return;
+            return subject;
          }
       }
       auto const entity = there( path );
@@ -117,6 +123,7 @@ void checkState( WhySubject const & subject ) {
    } catch ( Rex::ValueError const & error ) {
       throw InputError( "\"" + subject.text() + "\": " + error.what() );
    }
+   return subject;
 }
 
 WhySubject functionAsTyped( std::string const & typed ) {
@@ -162,13 +169,16 @@ std::string WhySubject::text() const {
 bool WhySubject::isState( std::string_view ofPath,
                           std::string_view ofAttribute,
                           std::optional< std::string_view > ofKey ) const {
+   // A change of a collection tells of its entries, which have paths of their own.
+   std::string whole( ofPath );
+   whole += ofAttribute.empty() ? "" : "/" + std::string( ofAttribute );
+   whole += ofKey ? "/" + std::string( *ofKey ) : "";
    if ( attribute.empty() ) {
-      // A change of a collection tells of its entries, which have paths of their own.
-      std::string const whole =
-         std::string( ofPath ) + "/" + std::string( ofAttribute ) + ( ofKey ? "/" + std::string( *ofKey ) : "" );
       return isBelow( ofPath, path ) || isBelow( whole, path );
    }
-   return ofPath == path && ofAttribute == attribute && ( !key || !ofKey || *key == *ofKey );
+   // Itself; or the entity that has it is made anew, or goes.
+   bool const isEntity = ( ofKey || ofAttribute.empty() ) && isBelow( path, whole );
+   return isEntity || ( ofPath == path && ofAttribute == attribute && ( !key || !ofKey || *key == *ofKey ) );
 }
 
 std::optional< Rex::Value > WhySubject::valueAtStart( Rex::Value const & scenario ) const {
@@ -206,9 +216,7 @@ WhySubject whySubjectOf( std::string const & typed ) {
       return { .kind = WhySubject::Kind::interface, .name = typed };
    }
    if ( typed.find_first_of( "/ " ) != std::string::npos ) {
-      auto subject = stateAsTyped( typed );
-      checkState( subject );
-      return subject;
+      return checked( stateAsTyped( typed ) );
    }
    auto const functions = knownFunctions();
    if ( typed.find( "::" ) != std::string::npos ) {

@@ -37,10 +37,11 @@ class SummaryText {
          auto const & revision = fap->revision;
          auto const * const chip = Hardware::chipTypeName( revision.chipType() );
          lines_.put( 2,
-                     "FAP " + std::to_string( number ) + "  " + fap->name + "  " + ( chip ? chip : "unknown chip" ) +
-                        ", major " + std::to_string( revision.fapRevMajor() ) + ", SDK " +
-                        std::to_string( revision.sdkVersion() ) + ", " + counted( fap->coreCount(), "core", "cores" ) +
-                        "  " + servedText( number ) );
+                     "FAP " + std::to_string( number ) + "  " +
+                        ( fap->name.empty() ? "Fap" + std::to_string( number ) : fap->name ) + "  " +
+                        ( chip ? chip : "unknown chip" ) + ", major " + std::to_string( revision.fapRevMajor() ) +
+                        ", SDK " + std::to_string( revision.sdkVersion() ) + ", " +
+                        counted( fap->coreCount(), "core", "cores" ) + "  " + servedText( number ) );
       }
       if ( faps.size() > mostFaps ) {
          std::size_t served = 0;

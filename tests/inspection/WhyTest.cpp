@@ -115,6 +115,11 @@ TEST( Why, ofAnAttributeTellsAllThatItCaused ) {
    EXPECT_EQ( answer.chain.back().steps.front().after, Rex::Value( 2000 ) );
 }
 
+TEST( Why, ofAnAttributeTellsOfItsEntityThatComesAndGoes ) {
+   auto const answer = Played( "vti" ).why( "interface/status/eth/vxlan/vtiStatus/Vxlan1.udpPort" );
+   EXPECT_EQ( eventsOf( answer ), ( std::vector< U32 >{ 5, 4, 1 } ) );
+}
+
 TEST( Why, ofAPublishedAttributeTellsWhoSetIt ) {
    auto const answer =
       Played( "interface-mtu" ).why( "shared/phySmStateSharedStatus/allEthPhyIntfStatusDir/intfStatus/Ethernet1.mtu" );
@@ -189,6 +194,9 @@ TEST( WhySubject, splitsAPathFromItsAttributeAndKey ) {
    EXPECT_EQ( subject.attribute, "prefixLensInExactMatch" );
    EXPECT_EQ( subject.key, "1" );
    EXPECT_EQ( whySubjectOf( "interface/status/subintf/intfStatus/Ethernet1.1" ).attribute, "" );
+   EXPECT_EQ( whySubjectOf( "evpn/status/evpnDciEnabled" ).text(), "evpn/status.evpnDciEnabled" );
+   EXPECT_EQ( whySubjectOf( "interface/status/eth/vxlan/vtiStatus/Vxlan1/udpPort" ).attribute, "udpPort" );
+   EXPECT_EQ( whySubjectOf( "interface/status/eth/vxlan/vtiStatus/Vxlan1" ).attribute, "" );
 }
 
 TEST( WhySubject, isAFunctionByItsLastPart ) {
