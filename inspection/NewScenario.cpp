@@ -139,6 +139,9 @@ std::vector< Subject > const & subjects() {
 
 Value newScenario( WantedScenario const & wanted, std::string const & plugin ) {
    Value scenario = scenarioFor( wanted );
+   if ( auto const warnings = scenarioOf( scenario, "the new scenario" ).warnings; wanted.cores && !warnings.empty() ) {
+      throw InputError( "--cores " + std::to_string( *wanted.cores ), warnings.front().text );
+   }
    for ( int attempt = 0; attempt < mostAttempts; ++attempt ) {
       auto const openers = closedGates( scenario, plugin );
       if ( openers.empty() ) {

@@ -1,8 +1,8 @@
 #include "l3sm/CommandLine.h"
 
 #include "inspection/files/InputError.h"
-#include "inspection/views/Pager.h"
 #include "inspection/files/Json.h"
+#include "inspection/views/Pager.h"
 #include "inspection/views/Terminal.h"
 #include "inspection/views/VersionText.h"
 #include "l3sm/Completion.h"
@@ -66,6 +66,17 @@ int unknownVerb( std::string const & word ) {
 // For the scripts in completions/, not for people: no help lists it.
 constexpr char const * completeVerb = "complete";
 
+// `l3sm help VERB` is `l3sm VERB --help`, and `l3sm help` is `l3sm --help`.
+std::vector< char const * > withoutHelpVerb( int argc, char const * const * argv ) {
+   std::vector< char const * > words( argv, argv + argc );
+   if ( argc > 1 && std::string_view( argv[1] ) == "help" ) {
+      words.erase( words.begin() + 1 );
+      words.resize( std::min< std::size_t >( words.size(), 2 ) );
+      words.push_back( "--help" );
+   }
+   return words;
+}
+
 bool isVerb( std::string const & word ) {
    return word == completeVerb ||
           std::any_of( std::begin( verbs ), std::end( verbs ), [&]( Verb const & verb ) { return word == verb.name; } );
@@ -84,7 +95,7 @@ void defineCommandLine( CLI::App & app, Action & action ) {
       [&json] { return json ? toJson( versionValue( thisVersion() ), 1 ) : versionText( thisVersion() ); },
       "which program this is: version, build, and the plug-in's library" );
    app.footer(
-      "`l3sm VERB --help` explains a verb.\nExit status: 0 fine, 1 the answer is \"no\", 2 wrong usage or input, "
+      "`l3sm help VERB` explains a verb.\nExit status: 0 fine, 1 the answer is \"no\", 2 wrong usage or input, "
       "3 nothing could be judged." );
    for ( auto const & verb : verbs ) {
       auto * const sub = app.add_subcommand( verb.name, verb.does );
@@ -104,7 +115,10 @@ void defineCommandLine( CLI::App & app, Action & action ) {
    } );
 }
 
-int commandLine( int argc, char const * const * argv ) {
+int commandLine( int argumentCount, char const * const * arguments ) {
+   auto const words = withoutHelpVerb( argumentCount, arguments );
+   int const argc = static_cast< int >( words.size() );
+   char const * const * const argv = words.data();
    CLI::App app;
    Action action;
    defineCommandLine( app, action );

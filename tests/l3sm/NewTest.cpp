@@ -73,6 +73,15 @@ TEST( New, givesEveryChipTheCoresThatAreAskedFor ) {
    EXPECT_FALSE( Command( "new" ).output.find( "cores" ) != std::string::npos );
 }
 
+TEST( New, refusesCoresThatAChipHasNot ) {
+   Command const many( "new --chip BCM88690_B0 BCM88800_A0 --cores 2" );
+   EXPECT_EQ( many.status, 2 );
+   EXPECT_EQ( many.output, "" );
+   EXPECT_EQ( many.errors,
+              "l3sm: --cores 2: 2 cores are more than the chip has copies of its tables; a BCM88800_A0 has 1\n" );
+   EXPECT_EQ( Command( "new --cores 0" ).status, 2 );
+}
+
 TEST( New, doesNotTouchAFileThatIsThere ) {
    Command const l3sm( "new -o mine.json", { { "mine.json", "mine" } } );
    EXPECT_EQ( l3sm.status, 2 );

@@ -239,4 +239,10 @@ TEST( Help, explainsTheProgramAndEachVerb ) {
    }
 }
 
+TEST( Help, isAVerbToo ) {
+   EXPECT_EQ( Command( "help" ).output, Command( "--help" ).output );
+   EXPECT_EQ( Command( "help run" ).output, Command( "run --help" ).output );
+   EXPECT_EQ( Command( "help rnu" ).errors, "l3sm: there is no verb \"rnu\"; did you mean \"run\"?\n" );
+}
+
 } // namespace
