@@ -2,6 +2,7 @@
 
 #include "assert/Assert.h"
 #include "inspection/files/InputError.h"
+#include "inspection/views/Terminal.h"
 #include "rex/Nearest.h"
 
 #include <algorithm>
@@ -43,10 +44,14 @@ void Tracing::start() {
          throw InputError( path_, std::string( "can't be written: " ) + std::strerror( errno ) );
       }
       failureHook_ = Rex::atFailure( [this] { std::fflush( file_.get() ); } );
-      Rex::traceSinkIs( [this]( Rex::TraceRecord const & record ) {
-         std::fprintf( file_.get(), "%s/%d %s\n", record.facility, record.level, record.text.c_str() );
-      } );
    }
+   Rex::traceSinkIs( [this]( Rex::TraceRecord const & record ) {
+      std::fprintf( file_ ? file_.get() : stderr,
+                    "%s/%d %s\n",
+                    record.facility,
+                    record.level,
+                    Inspection::printable( record.text ).c_str() );
+   } );
    for ( auto const & facility : facilities_ ) {
       Rex::traceLevelIs( facility.name, facility.level );
    }

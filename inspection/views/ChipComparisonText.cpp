@@ -268,7 +268,7 @@ Value flipsValue( std::vector< Flip > const & flips ) {
 } // namespace
 
 void showComparison( std::ostream & out, ChipComparison const & comparison, bool all, Style const & style ) {
-   out << style.title( comparison.name ) << "\n\n";
+   out << style.title( printable( comparison.name ) ) << "\n\n";
    showFailures( out, comparison.failures, style );
    for ( std::string const & table : showTables( out, comparison, style ) ) {
       showTable( out, comparison, table, all, style );

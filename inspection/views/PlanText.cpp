@@ -181,7 +181,7 @@ Value changeValue( Row const & row ) {
 
 void showPlan( std::ostream & out, Plan const & plan, PlanTextOptions const & options, Style const & style ) {
    Totals const totals( plan, options.fap );
-   out << style.title( plan.name ) << "\n\n";
+   out << style.title( printable( plan.name ) ) << "\n\n";
    if ( totals.changing == 0 ) {
       out << "Nothing would change: the chips hold what the start and "
           << counted( plan.events.size() - 1, "event", "events" ) << " would write.\n";

@@ -1,3 +1,4 @@
+#include "assert/Assert.h"
 #include "inspection/FailureReport.h"
 #include "inspection/Interruption.h"
 #include "inspection/Play.h"
@@ -14,7 +15,6 @@
 #include "l3sm/ScenarioToPlay.h"
 #include "l3sm/Tracing.h"
 #include "l3sm/verbs/Verbs.h"
-#include "assert/Assert.h"
 
 #include <algorithm>
 #include <iostream>
@@ -38,6 +38,7 @@ struct Options {
    std::optional< U16 > fap;
    std::string trace;
    std::string traceOut;
+   std::string ring;
    std::vector< std::string > toggles;
    std::string plugin;
    bool unchanged = false;
@@ -63,7 +64,7 @@ class Run {
  public:
    Run( Options const & options, Scenario scenario )
       : options_( options ), scenario_( std::move( scenario ) ), chips_( options.chips ), state_( options.state ),
-        save_( options.save ), journal_( options.journal ), report_( options.report ),
+        save_( options.save ), journal_( options.journal ), report_( options.report ), ring_( options.ring ),
         summary_( wantedOf( options.events, options.fap, options.json, scenario_ ) ) {
       bool const isFollowed = !options.quiet || journal_.isWanted() || report_.isWanted();
       using enum Simulator::SwitchDescription::Journalled;
@@ -117,6 +118,33 @@ class Run {
          std::ostringstream text;
          writeScenario( text, savedScenario( scenario_, *sw_ ) );
          save_.write( text.str() );
+      }
+      if ( ring_.isWanted() ) {
+         std::string text;
+         for ( auto const & record : Rex::RingTrace::records() ) {
+            text += lineOf( record ) + "\n";
+         }
+         ring_.write( text );
+      }
+   }
+
+   // As traces are written; a record of the ring buffer alone has no facility.
+   static std::string lineOf( Rex::TraceRecord const & record ) {
+      return ( *record.facility ? record.facility : "ring" ) + std::string( "/" ) + std::to_string( record.level ) +
+             " " + record.text;
+   }
+
+   // The last steps before the failure.
+   static void tellLastSteps() {
+      constexpr std::size_t most = 20;
+      auto const records = Rex::RingTrace::records();
+      if ( records.empty() ) {
+         return;
+      }
+      std::cerr << "The last steps, of " << records.size() << ( records.size() == 1 ? " record" : " records" )
+                << " in the ring buffer:\n";
+      for ( auto at = records.size() - std::min( records.size(), most ); at < records.size(); ++at ) {
+         std::cerr << "  " << printable( lineOf( records[at] ) ) << '\n';
       }
    }
 
@@ -183,6 +211,7 @@ class Run {
       if ( !sw_ ) {
          return;
       }
+      tellLastSteps();
       for ( auto const & line : failureReportOf( scenario_, *sw_, summary_, isFollowed_ ).lines() ) {
          std::cerr << printable( line ) << '\n';
       }
@@ -196,6 +225,7 @@ class Run {
    OutputFile const save_;
    OutputFile const journal_;
    OutputFile const report_;
+   OutputFile const ring_;
    bool isFollowed_ = true; // operations are
    RunSummary summary_;
    Rex::Value::List events_;
@@ -208,13 +238,13 @@ int run( Options const & options ) {
    }
    Scenario scenario = scenarioToPlay( options.scenario, options.toggles, options.plugin );
    std::vector const written{
-      options.chips, options.state, options.save, options.journal, options.report, options.traceOut };
+      options.chips, options.state, options.save, options.journal, options.report, options.traceOut, options.ring };
    eachAlone( written, { options.scenario } );
    if ( !options.quiet && std::ranges::find( written, "-" ) != written.end() ) {
       throw InputError( "standard output", "would take the summary, too; give --quiet" );
    }
+   Tracing tracing( options.trace, options.traceOut ); // outlives the switch, whose end is traced, too
    Run it( options, std::move( scenario ) );
-   Tracing tracing( options.trace, options.traceOut );
    tracing.start();
    return it.play( tracing );
 }
@@ -241,6 +271,8 @@ Action defineRun( VerbOptions & verb ) {
    verb.text(
       "--trace", options->trace, "trace facilities up to a level; `*` for every facility", "FACILITY/LEVEL[,...]" );
    verb.text( "--trace-out", options->traceOut, "write the traces there instead of to standard error", "FILE" );
+   verb.text(
+      "--ring", options->ring, "write what the ring buffer holds at the end: the last steps, without --trace", "FILE" );
    verb.repeated( "--toggle", options->toggles, "set a toggle; may be given several times", "FILE:NAME=on|off" );
    verb.text( "--plugin", options->plugin, "the plug-in's library; the default lies beside this program", "PATH" );
    verb.flag( "--quiet", options->quiet, "print no summary" );

@@ -3,6 +3,7 @@
 
 #include "inspection/files/Json.h"
 
+#include <algorithm>
 #include <gtest/gtest.h>
 #include <random>
 #include <regex>
@@ -169,6 +170,27 @@ TEST( Ending, byAnAssertionTellsLastWhereItHappenedAndWhatIsSuspicious ) {
            "  suspicious: the state leaves out vxlan/ecnConfig (null)\n" } ) {
       EXPECT_NE( words.find( line ), std::string::npos ) << line << "\n" << words;
    }
+}
+
+// Without any level being switched on.
+TEST( Ending, byAnAssertionTellsTheLastStepsFromTheRingBuffer ) {
+   Command const l3sm( "run s.json --quiet --ring ring", { { "s.json", failingScenario( 2 ) } } );
+   EXPECT_EQ( l3sm.status, 128 + SIGABRT );
+   std::string const step = "DaceFapNiL3Sm/8 handleInitialized: slot:0 Load Balance Config not ready\n";
+   EXPECT_NE( l3sm.file( "ring" ).find( step ), std::string::npos ) << l3sm.file( "ring" );
+   auto const steps = l3sm.errors.find( "The last steps, of " );
+   ASSERT_NE( steps, std::string::npos ) << l3sm.errors;
+   auto const report = l3sm.errors.find( "The run ended by an assertion: " );
+   auto const told = l3sm.errors.substr( steps, report - steps );
+   EXPECT_NE( told.find( "  " + step ), std::string::npos ) << told;
+   EXPECT_LE( std::ranges::count( told, '\n' ), 21 );
+}
+
+TEST( Ending, completeLeavesTheRingBufferInItsFile ) {
+   Command const l3sm( "run s.json --quiet --ring ring", { { "s.json", scenarioWith( "" ) } } );
+   EXPECT_EQ( l3sm.status, 0 );
+   auto const ring = l3sm.file( "ring" );
+   EXPECT_NE( ring.find( "DaceFapNiL3Sm/8 handleInitialized: slot:0 " ), std::string::npos ) << ring;
 }
 
 TEST( Ending, atTheStartTellsTheFapThatWasWorkedOn ) {

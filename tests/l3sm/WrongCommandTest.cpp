@@ -41,6 +41,7 @@ TEST( WrongCommand, emptyNames ) {
                                  "--report",
                                  "--trace",
                                  "--trace-out",
+                                 "--ring",
                                  "--plugin",
                                  "--toggle" } ) {
       table.push_back( { option,
@@ -99,7 +100,7 @@ TEST( WrongCommand, filesThatCannotBeWritten ) {
         "/proc/none: can't be written: No such file or directory" },
    } );
    for ( char const * option :
-         { "--chips", "--state", "--save", "--journal", "--report", "--trace '*/9' --trace-out" } ) {
+         { "--chips", "--state", "--save", "--journal", "--report", "--ring", "--trace '*/9' --trace-out" } ) {
       expectTold( { { "a full disk",
                       std::string( "run --quiet " ) + option + " /dev/full",
                       {},
