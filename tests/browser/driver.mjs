@@ -127,6 +127,17 @@ export class Browser {
   }
 
   text(selector) { return this.until(`return document.querySelector(${JSON.stringify(selector)})?.innerText`); }
+  // Until a script's text matches.
+  async matches(script, pattern) {
+    const end = performance.now() + patience;
+    let text;
+    do {
+      text = await this.run(script);
+      if (pattern.test(text)) return;
+    } while (performance.now() < end);
+    throw new Error(`never ${pattern}: ${text}`);
+  }
+  says(selector, pattern) { return this.matches(`return document.querySelector(${JSON.stringify(selector)})?.innerText`, pattern); }
 
   // As a person does it: the place must be in the window, and nothing may lie above it.
   async click(selector) {

@@ -37,7 +37,15 @@ export class Page {
   isThere() { return this.browser.until("return document.querySelector('main h1') && !document.querySelector('main .pending')"); }
   heading(text) { return this.browser.until(`return document.querySelector('main h1')?.innerText === ${JSON.stringify(text)}`); }
   place(hash) { return this.browser.until(`return location.hash === ${JSON.stringify(hash)}`); }
-  lines() { return this.browser.run("return [...document.querySelectorAll('main .item .row')].map(it => it.innerText.replace(/\\s+/g, ' ').trim())"); }
+  // Those that lie in the window; a virtual list lays them out on a later turn.
+  lines() {
+    return this.browser.until(`const all = [...document.querySelectorAll('main .item .row')].map(it => it.innerText.replace(/\\s+/g, ' ').trim());
+      return all.length ? all : null`);
+  }
+  // Until a line says it: what is searched for comes as it is found.
+  says(pattern) {
+    return this.browser.matches("return [...document.querySelectorAll('main .item .row')].map(it => it.innerText.replace(/\\s+/g, ' ').trim()).join('\\n')", pattern);
+  }
   nodes() { return this.browser.run("return document.querySelectorAll('*').length"); }
   async shot(name) { if (this.pictures) writeFileSync(join(this.pictures, name), await this.browser.picture()); }
 
