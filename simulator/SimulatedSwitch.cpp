@@ -17,6 +17,48 @@ constexpr DaceFapNi::SliceState sliceUp{ 31 };
 // A state of a slice that nobody has told anything about.
 constexpr DaceFapNi::SliceState sliceDown{ 0 };
 
+// The cause that was told last. Most rows of an event share theirs, and to tell it takes a way through the state.
+class LatestCause {
+ public:
+   // `tell` is asked where the announcements under way are others than before.
+   template< class Tell >
+   std::string const & of( U32 event, Tell const & tell ) {
+      if ( event != event_ || !isAsBefore() ) {
+         event_ = event;
+         announced_.clear();
+         for ( auto const * it = Corvo::Publisher::current(); it; it = it->outer ) {
+            announced_.push_back( { it->publisher, it->attribute, it->key } );
+            if ( it->publisher && dynamic_cast< Rex::Dir const * >( &it->publisher->node() ) ) {
+               announced_.clear(); // it is told by name, and names may come one after the other in one place
+               break;
+            }
+         }
+         text_ = tell();
+      }
+      return text_;
+   }
+
+ private:
+   struct Announced {
+      Corvo::Publisher const * publisher;
+      short attribute;
+      void const * key;
+   };
+   bool isAsBefore() const {
+      auto const * it = Corvo::Publisher::current();
+      for ( auto const & before : announced_ ) {
+         if ( !it || it->publisher != before.publisher || it->attribute != before.attribute || it->key != before.key ) {
+            return false;
+         }
+         it = it->outer;
+      }
+      return !it && !announced_.empty();
+   }
+   U32 event_ = 0;
+   std::vector< Announced > announced_; // the innermost first
+   std::string text_;
+};
+
 SwitchDescription checked( SwitchDescription description ) {
    if ( DaceSal::schanDriver() ) {
       throw std::logic_error( "there is a switch in this process already" );
@@ -69,8 +111,9 @@ void loadPlugin( std::string const & path ) {
 
 SimulatedSwitch::SimulatedSwitch( SwitchDescription description )
    : description_( checked( std::move( description ) ) ),
-     journal_( { .cause = [this] { return cause(); },
-                 .pathOf = [this]( Rex::Entity const & entity ) { return publishedPath( entity ); } } ),
+     journal_(
+        { .cause = [this, latest = LatestCause()]() mutable { return latest.of( event_, [this] { return cause(); } ); },
+          .pathOf = [this]( Rex::Entity const & entity ) { return publishedPath( entity ); } } ),
      scheduler_( makePtr< Orb::TaskScheduler >() ),
      entityManager_( makePtr< Stordb::EntityManager >( state_.database(), scheduler_ ) ),
      context_( makePtr< Agent::MounterPlugin::MounterContext >( entityManager_, state_.shared() ) ) {

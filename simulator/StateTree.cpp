@@ -6,6 +6,9 @@
 
 #include <array>
 
+#include <algorithm>
+#include <iterator>
+
 namespace Simulator {
 
 namespace {
@@ -177,21 +180,25 @@ void StateTree::rootIs( std::string const & path, Ptr< Rex::Entity > const & ent
 }
 
 StateRoot const & StateTree::rootOf( std::string const & path ) {
-   StateRoot const * longest = nullptr;
-   std::vector< std::string > known;
-   for ( auto const & root : roots ) {
-      std::string const candidate = root.path();
-      bool const leads = path == candidate || path.starts_with( candidate + "/" );
-      if ( leads && ( !longest || candidate.size() > longest->path().size() ) ) {
-         longest = &root;
+   static std::vector< std::string > const paths = [] {
+      std::vector< std::string > all;
+      std::ranges::transform( roots, std::back_inserter( all ), &StateRoot::path );
+      return all;
+   }();
+   std::size_t longest = paths.size();
+   for ( std::size_t root = 0; root < paths.size(); ++root ) {
+      std::string const & candidate = paths[root];
+      bool const leads =
+         path.starts_with( candidate ) && ( path.size() == candidate.size() || path[candidate.size()] == '/' );
+      if ( leads && ( longest == paths.size() || candidate.size() > paths[longest].size() ) ) {
+         longest = root;
       }
-      known.push_back( candidate );
    }
-   if ( !longest ) {
-      auto const near = Rex::didYouMean( path, known );
+   if ( longest == paths.size() ) {
+      auto const near = Rex::didYouMean( path, paths );
       refusePath( "there is no path \"" + path + "\"" + ( near.empty() ? "; `l3sm paths` lists them" : near ) );
    }
-   return *longest;
+   return roots[longest];
 }
 
 bool StateTree::enter( Place & place, Place const & next, std::string const & rest ) {
