@@ -213,7 +213,7 @@ bool Journal::follows( Rex::Entity const & entity ) {
 void Journal::written( Rex::Write const & write ) {
    Record record = recordOf( Kind::publish, 0 );
    record.publication =
-      &publications_.emplace_back( Publication{ .path = knowledge_.pathOf( write.entity ),
+      &publications_.emplace_back( Publication{ .path = followed_,
                                                 .attribute = write.attribute.name,
                                                 .key = write.key.empty() ? std::nullopt : std::optional( write.key ),
                                                 .before = write.before,

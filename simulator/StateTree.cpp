@@ -333,7 +333,7 @@ std::string StateTree::pathOf( Rex::Entity const & entity ) const {
 }
 
 bool StateTree::isMachinery( std::string const & path ) {
-   return !path.empty() && rootOf( path ).kind == Kind::machinery;
+   return path.starts_with( "shared/" ) && rootOf( path ).kind == Kind::machinery; // all of it is shared
 }
 
 Rex::Value StateTree::value() const {
