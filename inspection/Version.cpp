@@ -7,10 +7,16 @@
 
 namespace Inspection {
 
+std::string_view versionNumber() {
+   return L3SM_VERSION;
+}
+
 Version thisVersion() {
    std::string const plugin = pluginBeside();
-   return {
-      L3SM_VERSION, *revision ? std::optional< std::string >( revision ) : std::nullopt, plugin, libraryId( plugin ) };
+   return { std::string( versionNumber() ),
+            *revision ? std::optional< std::string >( revision ) : std::nullopt,
+            plugin,
+            libraryId( plugin ) };
 }
 
 std::optional< std::string > libraryId( std::string const & path ) {

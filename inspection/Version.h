@@ -13,6 +13,7 @@
 
 #include <optional>
 #include <string>
+#include <string_view>
 
 namespace Inspection {
 
@@ -24,6 +25,7 @@ struct Version {
 };
 
 Version thisVersion();
+std::string_view versionNumber();
 
 // What tells one build of a library from another: the hash of its file. None where it can't be read.
 std::optional< std::string > libraryId( std::string const & path );

@@ -1,5 +1,6 @@
 #include "inspection/files/JournalWriter.h"
 
+#include "inspection/Version.h"
 #include "inspection/files/Json.h"
 
 #include <array>
@@ -163,7 +164,7 @@ std::string const & known( std::vector< std::string > & texts, std::size_t numbe
 JournalWriter::JournalWriter( std::string path, Begin const & begin ) : sink_( std::move( path ) ) {
    std::string line = begun( "begin" );
    add( line, "format", 2 );
-   add( line, "l3sm", std::string_view( "1.0.0" ) );
+   add( line, "l3sm", versionNumber() );
    add( line, "plugin", std::string_view( begin.plugin ) );
    add( line, "scenario", begin.scenario );
    sink_.append( line + "}\n" );

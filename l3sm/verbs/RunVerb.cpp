@@ -3,6 +3,7 @@
 #include "inspection/Interruption.h"
 #include "inspection/Play.h"
 #include "inspection/RunSummaryValue.h"
+#include "inspection/Version.h"
 #include "inspection/files/ChipsFile.h"
 #include "inspection/files/JournalWriter.h"
 #include "inspection/files/OutputFile.h"
@@ -81,7 +82,10 @@ class Run {
       auto & journal = sw_->journal();
       std::optional< JournalWriter > writer;
       if ( journal_.isWanted() ) {
-         writer.emplace( journal_.path(), JournalWriter::Begin{ valueOf( scenario_, Parts::withoutEvents ) } );
+         std::string const plugin = options_.plugin.empty() ? pluginBeside() : options_.plugin;
+         writer.emplace( journal_.path(),
+                         JournalWriter::Begin{ valueOf( scenario_, Parts::withoutEvents ),
+                                               libraryId( plugin ).value_or( std::string() ) } );
          journal.readerAdd( *writer );
       }
       std::optional< ReportFile > page;

@@ -1,5 +1,6 @@
 // The journal as it is written: the very lines, and when they are on the disk.
 #include "JournalSample.h"
+#include "inspection/Version.h"
 
 #include <sys/stat.h>
 
@@ -26,7 +27,8 @@ TEST( JournalWriter, WritesEachKindOfRowAsALine ) {
    std::string const shared = R"(, "function": "L3Sm::f", "source": "L3Sm.cpp:41", "cause": "chip-init"})";
    auto const lines = linesOf( folder.text( "run.jsonl" ) );
    ASSERT_EQ( lines.size(), 12u );
-   EXPECT_TRUE( lines[0].starts_with( R"({"op": "begin", "format": 2, "l3sm": ")" ) ) << lines[0];
+   EXPECT_TRUE( lines[0].starts_with( R"({"op": "begin", "format": 2, "l3sm": ")" + std::string( versionNumber() ) + R"(", )" ) )
+      << lines[0];
    EXPECT_TRUE( lines[0].ends_with( R"(, "plugin": "p", "scenario": {"switch": {}}})" ) ) << lines[0];
    EXPECT_EQ( lines[1], R"({"op": "event", "event": 0, "what": {"start": {}}})" );
    std::string const register3 = R"("table": "IppdFerTrapCfg", "variant": 0, "array": 3, "entry": null, )";

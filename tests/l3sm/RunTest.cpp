@@ -1,6 +1,7 @@
 // What `l3sm run` writes: chips, journal, state, traces, summary.
 #include "l3sm/Command.h"
 
+#include "inspection/Version.h"
 #include "inspection/files/ChipsFile.h"
 #include "inspection/files/Json.h"
 
@@ -55,6 +56,14 @@ TEST( Run, playsTheBuiltInExampleAndTellsWhatWasProgrammedByWhom ) {
    EXPECT_NE( l3sm.output.find( "        cpuStrengthN  0x5 -> 0x0\n"
                                 "        snoopStrengthN  0x0 -> 0x5\n\n" ),
               std::string::npos );
+}
+
+TEST( Run, beginsAJournalWithTheProgramAndThePlugIn ) {
+   Command const l3sm( "run --quiet --journal j" );
+   std::string const journal = l3sm.file( "j" );
+   Value const begin = Inspection::parseJson( journal.substr( 0, journal.find( '\n' ) ), "j" );
+   EXPECT_EQ( text( begin, "l3sm" ), Inspection::versionNumber() );
+   EXPECT_EQ( text( begin, "plugin" ), Inspection::libraryId( L3SM_BINARY_DIR "/lib/libL3SmPlugin.so" ) );
 }
 
 TEST( Run, saysWhatKeepsAFapFromBeingServedAndHowToOpenTheGate ) {
