@@ -1,6 +1,6 @@
 #include "inspection/RunSummaryValue.h"
 
-#include "inspection/RunValue.h"
+#include "simulator/SimulatedSwitch.h"
 
 #include <algorithm>
 
@@ -69,6 +69,41 @@ Value gateValue( RunSummary::Gate const & gate, SharedTexts const & texts ) {
                          { "lastEvent", gate.lastEvent },
                          { "cause", gate.cause },
                          { "count", gate.count } };
+}
+
+Value switchValue( Simulator::SwitchDescription const & description ) {
+   Value::List faps;
+   for ( auto const & fap : description.faps ) {
+      Value::Object ports;
+      for ( auto const & [systemPort, fapPort] : fap.ports ) {
+         ports[std::to_string( systemPort )] = fapPort;
+      }
+      Value::Object one;
+      one["fapId"] = fap.fapId.value();
+      one["name"] = fap.name;
+      one["chipType"] = Hardware::chipTypeName( fap.revision.chipType() );
+      one["major"] = fap.revision.fapRevMajor();
+      one["sdkVersion"] = fap.revision.sdkVersion();
+      one["cores"] = fap.coreCount();
+      one["ports"] = std::move( ports );
+      faps.emplace_back( std::move( one ) );
+   }
+   Value::Object value;
+   value["slice"] = description.sliceName;
+   value["faps"] = std::move( faps );
+   return value;
+}
+
+Value togglesValue() {
+   Value::List toggles;
+   for ( auto const & reading : Toggle::readings() ) {
+      Value::Object one;
+      one["name"] = reading.name;
+      one["file"] = reading.file;
+      one["state"] = reading.state;
+      toggles.emplace_back( std::move( one ) );
+   }
+   return toggles;
 }
 
 } // namespace

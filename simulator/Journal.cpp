@@ -10,7 +10,6 @@ namespace Simulator {
 
 namespace {
 
-constexpr std::size_t mostVariants = 8; // of a table
 constexpr std::size_t blockWords = 1 << 15;
 
 } // namespace
@@ -64,22 +63,6 @@ void Journal::hearsNoMore() {
    }
    if ( Rex::writeListener() == this ) {
       Rex::writeListenerIs( nullptr );
-   }
-}
-
-void Journal::chipIs( U16 fap, Hardware::ChipType chipType ) {
-   if ( layouts_.size() <= fap ) {
-      layouts_.resize( fap + 1u );
-   }
-   Layouts & layouts = layouts_[fap];
-   layouts.assign( Catalogue::tables().size() * mostVariants, nullptr );
-   for ( Catalogue::Table const & table : Catalogue::tables() ) {
-      for ( Catalogue::Layout const & layout : table.layouts ) {
-         if ( layout.chipType == static_cast< U8 >( chipType ) ) {
-            Rex::sassert( layout.variant < mostVariants, "layout.variant < mostVariants" );
-            layouts[table.number * mostVariants + layout.variant] = &layout;
-         }
-      }
    }
 }
 
@@ -240,72 +223,6 @@ U32 Journal::causeNumber( std::string cause ) {
       causes_.push_back( &known->first );
    }
    return latestCause_ = known->second;
-}
-
-// ---- rows
-
-Row Journal::row( Record const & record ) const {
-   Row row{ .kind = record.kind, .event = record.event, .seq = record.seq };
-   row.cause = *causes_[record.cause];
-   row.causeNumber = record.cause;
-   row.isOfFap = record.isOfFap;
-   row.fap = record.fap;
-   if ( record.kind == Kind::publish ) {
-      Publication const & publication = *record.publication;
-      row.path = publication.path;
-      row.attribute = publication.attribute;
-      row.key = publication.key;
-      row.publishedBefore = &publication.before;
-      row.published = &publication.after;
-      return row;
-   }
-   row.function = origins_[record.origin].function;
-   row.source = origins_[record.origin].source;
-   row.originNumber = record.origin;
-   row.changed = record.changed;
-   switch ( record.kind ) {
-   case Kind::gate:
-      row.reason = *record.reason;
-      break;
-   case Kind::control:
-      row.control = record.entryOrControl;
-      row.value = record.value;
-      row.valueBefore = record.hasBefore ? std::optional( record.valueBefore ) : std::nullopt;
-      break;
-   case Kind::read:
-   case Kind::write:
-      row.tableNumber = record.table;
-      row.table = Catalogue::tables()[record.table].name;
-      row.layout = record.fap < layouts_.size() && !layouts_[record.fap].empty()
-                      ? layouts_[record.fap][record.table * mostVariants + record.variant]
-                      : nullptr;
-      row.variant = record.variant;
-      row.array = record.array;
-      row.entry = record.isRegister ? std::nullopt : std::optional( record.entryOrControl );
-      row.scope = record.scope;
-      row.core = record.core;
-      row.words = { record.words, record.width };
-      row.before = { record.words + record.width, record.hasBefore ? record.width : 0u };
-      break;
-   case Kind::publish:
-      break;
-   }
-   return row;
-}
-
-std::vector< Row > Journal::rows() const {
-   std::vector< Row > all;
-   all.reserve( records_.size() );
-   for ( Record const & record : records_ ) {
-      all.push_back( row( record ) );
-   }
-   return all;
-}
-
-std::vector< Row > Journal::operations() const {
-   auto all = rows();
-   std::erase_if( all, []( Row const & row ) { return !row.isOperation(); } );
-   return all;
 }
 
 } // namespace Simulator

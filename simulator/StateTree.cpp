@@ -2,9 +2,6 @@
 
 #include "interface/ManagedIntfStatusDir.h"
 #include "rex/Nearest.h"
-#include "state/Routing.h"
-
-#include <array>
 
 #include <algorithm>
 #include <iterator>
@@ -18,56 +15,6 @@ using Rex::Attribute;
 using Rex::ValueError;
 using Home = StateRoot::Home;
 using Kind = StateRoot::Kind;
-
-template< class T >
-Ptr< Rex::Entity > make() {
-   return Corvo::makePtr< T >();
-}
-
-// A directory whose entries other agents make by name.
-template< class T >
-Ptr< Rex::Entity > makeDir() {
-   return Corvo::makePtr< Rex::Dir >( T::rexType(), []( Corvo::String const & ) { return make< T >(); } );
-}
-
-Ptr< Rex::Entity > makeTaskScheduler() {
-   return Corvo::makePtr< DaceFapNi::TaskScheduler >( nullptr );
-}
-
-constexpr std::array roots{
-   StateRoot{ Home::database, "hardware/dace/fap/status", make< Rex::Dir >, Kind::given },
-   StateRoot{ Home::database, "bridging/config", make< Bridging::Config > },
-   StateRoot{ Home::database, "bridging/hwcapabilities", make< Bridging::HwCapabilities > },
-   StateRoot{ Home::database, "routerMac/hwCapability", make< RouterMac::HwCapability > },
-   StateRoot{ Home::cell, "interface/status/eth/phy/local", make< Interface::EthPhyIntfStatusLocalDir > },
-   StateRoot{ Home::database, "routing/mpls/routingInfo/status", make< Mpls::RoutingInfo > },
-   StateRoot{ Home::database, "routing/mpls/config", make< Mpls::Config > },
-   StateRoot{ Home::database, "interface/status/eth/vxlan", make< Vxlan::VtiStatusDir > },
-   StateRoot{ Home::database, "vxlan/ecnConfig", make< Vxlan::EcnConfig > },
-   StateRoot{ Home::database, "evpn/status", make< Evpn::EvpnStatus > },
-   StateRoot{ Home::database, "interface/config/global", make< Interface::GlobalIntfConfig > },
-   StateRoot{ Home::database, "hardware/dace/lag/daceLagStatus", make< Hardware::DaceLag::Status > },
-   StateRoot{ Home::database, "routing/hardware/route/status", make< Routing::Hardware::RouteStatus > },
-   StateRoot{ Home::database, "interface/hardware/capability", make< Interface::Hardware::Capability > },
-   StateRoot{ Home::database, "routing/hardware/mpls/capability", make< Mpls::Hardware::Capability > },
-   StateRoot{ Home::database, "interface/status/subintf", make< Interface::SubIntfStatusDir > },
-   StateRoot{ Home::cell, "interface/status/subintf/local", make< Interface::SubIntfStatusLocalDir > },
-   StateRoot{ Home::database, "l3/tunnel/udpDestinationPortConfig", make< L3::Tunnel::UdpDestinationPortConfig > },
-   StateRoot{ Home::database, "routing/nexthopgroup/input/config", makeDir< L3::Tunnel::UdpDestinationPortConfig > },
-   StateRoot{ Home::database, "routing/tunneldecap/input/cli", make< Tunnel::Decap::ConfigInput > },
-   StateRoot{ Home::database, "routing/tunneldecap/input/dynamic", makeDir< Tunnel::Decap::ConfigInput > },
-   StateRoot{ Home::database, "routing/hardware/config", make< Routing::Hardware::Config > },
-
-   StateRoot{ Home::readOnly, "agentGlobalState", make< DaceFapNi::AgentGlobalState > },
-   StateRoot{ Home::readOnly, "sliceSmStateData", make< DaceFapNi::SliceSmStateInfo > },
-   StateRoot{ Home::readOnly, "phySmStateData", make< DaceFapNi::PhySmStateInfo > },
-   StateRoot{ Home::writeAllowed, "phySmStateSharedStatus", make< DaceFapNi::PhySmStateSharedStatus > },
-   StateRoot{ Home::readOnly, "driverSetupSmStateInfo", make< DaceFapNi::DriverSetupSmStateInfo > },
-   StateRoot{ Home::readOnly, "portStateInfo", make< DaceFapNi::PortStateInfo > },
-   StateRoot{ Home::writeAllowed, "chipInitConfigDir", make< DaceFapNi::ChipInitConfigDir >, Kind::machinery },
-   StateRoot{ Home::readOnly, "agentSdkState", make< DaceFapNi::AgentSdkState >, Kind::machinery },
-   StateRoot{ Home::writeAllowed, "agentScheduler", makeTaskScheduler, Kind::machinery },
-};
 
 Corvo::String databasePath( StateRoot const & root ) {
    return root.home == Home::cell ? Cell::path( root.name, 0 ) : root.name;
@@ -112,14 +59,10 @@ Attribute const & attributeAt( Rex::Entity const & entity, std::string const & a
 
 } // namespace
 
-std::span< StateRoot const > stateRoots() {
-   return roots;
-}
-
 StateTree::StateTree()
    : database_( Corvo::makePtr< Stordb::Database >() ),
      shared_( Corvo::makePtr< Agent::MounterPlugin::LocalSharedState >() ) {
-   for ( auto const & root : roots ) {
+   for ( auto const & root : stateRoots() ) {
       rootEntityIs( root, root.make() );
    }
 }
@@ -182,7 +125,7 @@ void StateTree::rootIs( std::string const & path, Ptr< Rex::Entity > const & ent
 StateRoot const & StateTree::rootOf( std::string const & path ) {
    static std::vector< std::string > const paths = [] {
       std::vector< std::string > all;
-      std::ranges::transform( roots, std::back_inserter( all ), &StateRoot::path );
+      std::ranges::transform( stateRoots(), std::back_inserter( all ), &StateRoot::path );
       return all;
    }();
    std::size_t longest = paths.size();
@@ -198,7 +141,7 @@ StateRoot const & StateTree::rootOf( std::string const & path ) {
       auto const near = Rex::didYouMean( path, paths );
       refusePath( "there is no path \"" + path + "\"" + ( near.empty() ? "; `l3sm paths` lists them" : near ) );
    }
-   return roots[longest];
+   return stateRoots()[longest];
 }
 
 bool StateTree::enter( Place & place, Place const & next, std::string const & rest ) {
@@ -338,7 +281,7 @@ bool StateTree::isMachinery( std::string const & path ) {
 
 Rex::Value StateTree::value() const {
    Rex::Value::Object all;
-   for ( auto const & root : roots ) {
+   for ( auto const & root : stateRoots() ) {
       if ( root.kind != Kind::machinery ) {
          auto const entity = rootEntity( root );
          all.emplace( root.path(), entity ? entity->value() : Rex::Value() );
