@@ -150,6 +150,8 @@ void writeCompletion( std::ostream & out, CLI::App const & app, std::vector< std
    Candidates all;
    if ( words.size() == 2 ) {
       all = verbNames( app, words[1] );
+   } else if ( words[1] == "help" ) {
+      all = words.size() == 3 ? verbNames( app, words[2] ) : Candidates{};
    } else {
       for ( auto const * verb : verbsOf( app ) ) {
          all = verb->get_name() == words[1] ? ofVerb( *verb, words ) : all;

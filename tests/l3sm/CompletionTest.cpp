@@ -53,6 +53,7 @@ TEST( Completion, offersEveryVerb ) {
    EXPECT_GE( expected.size(), 14u );
    EXPECT_EQ( completions( { "l3sm", "" } ), expected );
    EXPECT_EQ( completions( { "l3sm", "cat" } ), Names{ "catalogue" } );
+   EXPECT_EQ( completions( { "l3sm", "help", "cat" } ), Names{ "catalogue" } );
 }
 
 TEST( Completion, isItselfNotOffered ) {
