@@ -2,6 +2,7 @@
 
 #include "inspection/files/InputError.h"
 #include "rex/Nearest.h"
+#include "rex/Value.h"
 
 #include <algorithm>
 #include <set>
