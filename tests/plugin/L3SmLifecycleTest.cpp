@@ -84,6 +84,22 @@ TEST( L3SmLifecycle, hearsEveryInputFromItsConstructionOn ) {
    }
 }
 
+TEST( L3SmLifecycle, programsNothingBeforeItIsInitialized ) {
+   ObservedL3Sm observed( false );
+   observed.build();
+   auto const operations = observed.operations();
+   observed.sm->handleUrpfFailFwdConfig( 3, true );
+   observed.sm->handleLooseUrpfFailFwdConfig();
+   observed.sm->handleStrictUrpfFailFwdConfig();
+   observed.sm->setupMplsFwdContext();
+   observed.sm->setupMplsLookupFbIpFwdContext();
+   observed.sm->handleEvpnEncapType();
+   observed.sm->handleEvpnDciGateway();
+   observed.sm->handleDecapRouteAll();
+   observed.sm->handlePrefixLensInExactMatch();
+   EXPECT_EQ( observed.operations(), operations );
+}
+
 TEST( L3SmLifecycle, hearsEitherDirectoryFromItsConstructionOn ) {
    for ( bool const configLast : { true, false } ) {
       ObservedL3Sm observed( false );

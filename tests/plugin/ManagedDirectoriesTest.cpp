@@ -119,6 +119,47 @@ TEST_F( ManagedDirectoriesTest, anInterfaceThatGoesAndComesMeanwhileHasOneFilter
    EXPECT_EQ( world.sm->ethConfig( eth1 ), world.config( eth1 ) );
 }
 
+TEST_F( ManagedDirectoriesTest, aPortThatComesAgainMeanwhileHasTheLaterReactor ) {
+   world.start();
+   Corvo::Ptr< PortState > second;
+   Ear ear( { world.status( eth1 ) } );
+   ear.when( "Ethernet1 routedAddr", [&] {
+      world.portDel( 10 );
+      second = world.port( 10, eth1 );
+   } );
+   world.port( 10, eth1 );
+   ASSERT_TRUE( second );
+   ASSERT_TRUE( world.sm->portState( port10 ) );
+   EXPECT_EQ( world.sm->portState( port10 )->notifier(), second );
+   EXPECT_FALSE( world.sm->portState( port10 )->isZombie() );
+   EXPECT_TRUE( world.serves( eth1 ) ); // the first reactor's end took nothing away
+   EXPECT_TRUE( world.manages( eth1 ) );
+   world.portDel( 10 );
+   EXPECT_FALSE( world.serves( eth1 ) );
+}
+
+TEST_F( ManagedDirectoriesTest, withoutAHelperNobodyEntersThem ) {
+   world.helper = nullptr;
+   world.port( 10, eth1 );
+   world.start();
+   world.sm->doUpdateManagedIntfStatusDirs( eth1, true );
+   EXPECT_TRUE( world.serves( eth1 ) );
+   EXPECT_FALSE( world.manages( eth1 ) );
+}
+
+TEST_F( ManagedDirectoriesTest, aReactorThatIsGivenItsPortAgainHandlesItNoMore ) {
+   auto const port = world.port( 10, eth1 );
+   world.start();
+   Traces traces( 9 );
+   world.sm->portState( port10 )->notifierIs( port );
+   EXPECT_EQ( traces.take(), Texts{} );
+}
+
+TEST_F( ManagedDirectoriesTest, theMachineHasItsTypesName ) {
+   world.start();
+   EXPECT_EQ( world.sm->typeData().name(), "DaceFapNi::L3IntfSm" );
+}
+
 // ---- From the construction on
 
 TEST_F( ManagedDirectoriesTest, theMachineHearsItsInputsBeforeItIsActivated ) {
