@@ -1,6 +1,7 @@
 #include "inspection/report/ReportData.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace Inspection {
 

@@ -7,6 +7,7 @@
 // A word that is wider than a line loses its middle to a "…", or is cut in pieces where everything is to be told.
 #pragma once
 
+#include "corvo/Types.h"
 #include "inspection/views/Terminal.h"
 
 namespace Inspection {
