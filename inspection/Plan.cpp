@@ -230,22 +230,30 @@ bool Plan::isEmpty() const {
    return std::ranges::all_of( events, []( PlannedEvent const & event ) { return event.changes.empty(); } );
 }
 
-Plan planOf( Scenario const & scenario,
-             std::string const & plugin,
-             std::vector< Simulator::RowReader * > const & others ) {
+Plan planOf( Scenario const & scenario, std::string const & plugin, PlanOptions const & options ) {
    Plan plan{ .name = scenario.name.empty() ? scenario.file : scenario.name, .events = {} };
    loadPlugin( plugin );
    auto description = scenario.description;
    description.journalled = Simulator::SwitchDescription::Journalled::streamed;
    Simulator::SimulatedSwitch sw( description );
+   scenario.fillChips( sw.driver() );
+   Scenario played = scenario;
+   played.chips.clear();
+   for ( StagedDriver::Change const & change : options.chips ) {
+      if ( change.isControl ) {
+         sw.driver().control( change.chip, change.control, change.after.front() );
+      } else {
+         sw.driver().write( change.chip, change.at, change.after );
+      }
+   }
    StagedDriver staged( sw.driver() );
    DaceSal::schanDriverIs( &staged );
    Planner planner( plan, scenario, staged );
    sw.journal().readerAdd( planner );
-   for ( auto * const other : others ) {
+   for ( auto * const other : options.others ) {
       sw.journal().readerAdd( *other );
    }
-   play( scenario, sw );
+   play( played, sw );
    sw.stop();
    return plan;
 }

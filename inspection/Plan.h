@@ -12,6 +12,7 @@
 
 #include "inspection/files/Scenario.h"
 #include "simulator/Row.h"
+#include "simulator/StagedDriver.h"
 
 #include <deque>
 
@@ -41,9 +42,13 @@ struct Plan {
    std::deque< std::vector< U32 > > words = {};
 };
 
-// Plays the scenario, with `others` reading along. InputError where it doesn't fit, or the library can't be loaded.
-Plan planOf( Scenario const & scenario,
-             std::string const & plugin,
-             std::vector< Simulator::RowReader * > const & others = {} );
+struct PlanOptions {
+   std::vector< Simulator::RowReader * > others = {}; // that read along
+   // What stands on the chips on top of what the scenario tells.
+   std::vector< Simulator::StagedDriver::Change > chips = {};
+};
+
+// Plays the scenario. InputError where it doesn't fit, or the library can't be loaded.
+Plan planOf( Scenario const & scenario, std::string const & plugin, PlanOptions const & options = {} );
 
 } // namespace Inspection

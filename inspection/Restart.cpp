@@ -9,12 +9,34 @@ namespace Inspection {
 
 namespace {
 
-Scenario endOf( Scenario const & scenario ) {
+// Where a run has ended: a scenario that begins there, and what stands on its chips on top of what that tells.
+struct Left {
+   Scenario scenario;
+   std::vector< Simulator::StagedDriver::Change > chips;
+};
+
+Left endOf( Scenario const & scenario, std::vector< Simulator::RowReader * > const & others ) {
+   Left left;
+   left.scenario = scenario;
+   left.scenario.events.clear();
    auto description = scenario.description;
-   description.journalled = Simulator::SwitchDescription::Journalled::none;
+   using enum Simulator::SwitchDescription::Journalled;
+   description.journalled = others.empty() ? none : streamed;
    Simulator::SimulatedSwitch sw( description );
-   play( scenario, sw );
-   return savedScenario( scenario, sw );
+   for ( auto * const other : others ) {
+      sw.journal().readerAdd( *other );
+   }
+   Simulator::StagedDriver staged( sw.driver() );
+   scenario.prepare( sw );
+   DaceSal::schanDriverIs( &staged );
+   sw.start();
+   for ( Event const & event : scenario.events ) {
+      scenario.play( sw, event );
+   }
+   left.scenario.state = stateLeftBy( sw );
+   left.chips = staged.changes();
+   sw.stop();
+   return left;
 }
 
 } // namespace
@@ -27,11 +49,13 @@ std::size_t Restart::entriesWithWindows() const {
    return places.size();
 }
 
-Restart restartAfter( Scenario const & scenario, std::string const & plugin ) {
+Restart restartAfter( Scenario const & scenario,
+                      std::string const & plugin,
+                      std::vector< Simulator::RowReader * > const & others ) {
    loadPlugin( plugin );
-   Scenario const left = endOf( scenario );
+   Left const left = endOf( scenario, others );
    PassingValues windows;
-   Restart restart{ planOf( left, plugin, { &windows } ), {} };
+   Restart restart{ planOf( left.scenario, plugin, { .others = { &windows }, .chips = left.chips } ), {} };
    restart.windows = windows.all();
    return restart;
 }

@@ -21,7 +21,9 @@ struct Restart {
    std::size_t entriesWithWindows() const;
 };
 
-// Plays the scenario, and starts once more where it has ended. InputError as for a run.
-Restart restartAfter( Scenario const & scenario, std::string const & plugin );
+// Plays the scenario, with `others` reading along, and starts once more where it has ended. InputError as for a run.
+Restart restartAfter( Scenario const & scenario,
+                      std::string const & plugin,
+                      std::vector< Simulator::RowReader * > const & others = {} );
 
 } // namespace Inspection

@@ -226,9 +226,11 @@ constexpr Place places[] = {
    { "--function", functions },
    { "--cause", causes },
    { "--plugin", files },
+   { "--against", files },
    { "--with", scenarioSubjects },
    // places
    { "TABLE", tablesAndFields },
+   { "CONDITION", tablesAndFields },
    { "PATH", paths },
    { "FACILITY", facilities },
    { "SUBJECT", subjects },

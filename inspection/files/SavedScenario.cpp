@@ -48,13 +48,19 @@ Scenario savedScenario( Scenario const & begun, Simulator::SimulatedSwitch const
       contents = contentsOf( sw.chip( fap.fapId ), chipType );
       keepChanged( contents.tables, contentsOf( fresh, chipType ).tables );
    }
+   saved.state = stateLeftBy( sw );
+   return saved;
+}
+
+Value::Object stateLeftBy( Simulator::SimulatedSwitch const & sw ) {
+   Value::Object left;
    Value const state = sw.state().value();
    for ( auto const & root : Simulator::stateRoots() ) {
       if ( root.kind == Simulator::StateRoot::Kind::state ) {
-         saved.state.emplace( root.path(), state.object()->at( root.path() ) );
+         left.emplace( root.path(), state.object()->at( root.path() ) );
       }
    }
-   return saved;
+   return left;
 }
 
 void writeScenario( std::ostream & out, Scenario const & scenario ) {

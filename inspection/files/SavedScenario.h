@@ -17,6 +17,9 @@ namespace Inspection {
 // `begun`: what the run began with; `sw`: before it stops.
 Scenario savedScenario( Scenario const & begun, Simulator::SimulatedSwitch const & sw );
 
+// What other agents have set, path by path, as a scenario has it.
+Rex::Value::Object stateLeftBy( Simulator::SimulatedSwitch const & sw );
+
 // As a file has it, each path, entry and event on a line of its own.
 void writeScenario( std::ostream & out, Scenario const & scenario );
 

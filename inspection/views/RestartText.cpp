@@ -1,13 +1,26 @@
 #include "inspection/views/RestartText.h"
 
+#include "inspection/KnownMemories.h"
 #include "inspection/views/PlanText.h"
 #include "inspection/views/WindowsText.h"
 
 namespace Inspection {
 
 namespace {
+
 constexpr std::size_t fewWindows = 8;
+
+// What is known of those that end as another, once each.
+std::set< KnownMemory const * > knownOf( Restart const & restart ) {
+   std::set< KnownMemory const * > known;
+   for ( Simulator::Row const & row : restart.start().changes ) {
+      known.merge( knownMemoriesOf( row ) );
+   }
+   known.erase( nullptr );
+   return known;
 }
+
+} // namespace
 
 void showRestart( std::ostream & out, Restart const & restart, bool all, Style const & style ) {
    PlannedEvent const & start = restart.start();
@@ -21,6 +34,9 @@ void showRestart( std::ostream & out, Restart const & restart, bool all, Style c
           << ( start.controls() ? ", and " + counted( start.controls(), "control", "controls" ) : "" )
           << ": the chips remember what the state doesn't hold, or the plug-in restores what it doesn't.\n\n";
       showPlan( out, restart.plan, { .all = all }, style );
+      for ( KnownMemory const * const known : knownOf( restart ) ) {
+         out << '\n' << style.strong( "Known" ) << ": " << known->table << ": " << known->reason << ".\n";
+      }
    }
    if ( restart.windows.empty() ) {
       out << "No entry is wrong in between.\n";
@@ -34,12 +50,19 @@ void showRestart( std::ostream & out, Restart const & restart, bool all, Style c
 
 Rex::Value restartValue( Restart const & restart ) {
    PlannedEvent const & start = restart.start();
+   Rex::Value::List known;
+   for ( KnownMemory const * const it : knownOf( restart ) ) {
+      known.push_back( Rex::Value::Object{ { "table", std::string( it->table ) },
+                                           { "field", std::string( it->field ) },
+                                           { "reason", std::string( it->reason ) } } );
+   }
    return Rex::Value::Object{ { "operations", start.operations },
                               { "writes", start.writes },
                               { "changingWrites", start.changingWrites },
                               { "entriesThatDiffer", start.entries() },
                               { "controlsThatDiffer", start.controls() },
                               { "differences", planValue( restart.plan, std::nullopt ) },
+                              { "known", known },
                               { "entriesWrongInBetween", restart.entriesWithWindows() },
                               { "windows", windowsValue( restart.windows ) } };
 }

@@ -2,6 +2,7 @@
 
 #include "inspection/FoldedWrites.h"
 #include "inspection/NamesAsTyped.h"
+#include "inspection/views/Lines.h"
 
 #include <algorithm>
 #include <tuple>
@@ -12,12 +13,11 @@ namespace {
 
 using Rex::Value;
 
-// What goes the same way, from which function to which.
-using Way =
-   std::tuple< U32, std::string, U8, std::string, std::string, std::string, std::string, std::string, std::string >;
+// What goes from one value to another, by which functions, whatever lies in between.
+using Way = std::tuple< U32, std::string, U8, std::string, std::string, std::string, std::string, std::string >;
 
 Way wayOf( PassingValue const & it ) {
-   return { it.event, it.table, it.variant, it.field, it.from, it.through, it.to, it.setAt, it.leftAt };
+   return { it.event, it.table, it.variant, it.field, it.from, it.to, it.setBy, it.leftBy };
 }
 
 struct Ways {
@@ -35,7 +35,24 @@ struct Ways {
 };
 
 std::string valueText( std::string const & value ) {
-   return value.starts_with( "0x" ) ? readable( value ) : value;
+   constexpr std::size_t most = 30;
+   return shortened( value.starts_with( "0x" ) ? readable( value ) : value, most );
+}
+
+// The values in between, one that many places pass through told once: "0x40", "9 values, 0x40 first".
+std::string throughOf( std::vector< PassingValue const * > const & windows ) {
+   std::set< std::string > values;
+   for ( PassingValue const * const window : windows ) {
+      values.insert( window->through );
+   }
+   std::string const first = valueText( windows.front()->through );
+   return values.size() == 1 ? first : std::to_string( values.size() ) + " values, first " + first;
+}
+
+std::string functionsOf( PassingValue const & it, Style const & style ) {
+   std::string const text = it.setBy + " " + style.faint( it.setAt );
+   return it.setBy == it.leftBy ? "by " + text + " itself"
+                                : "set by " + text + ", ended by " + it.leftBy + " " + style.faint( it.leftAt );
 }
 
 std::string placesOf( std::vector< PassingValue const * > const & windows ) {
@@ -78,10 +95,9 @@ void showWindows( std::ostream & out,
       out << "    " << it.table << ( it.field.empty() ? "" : "." + it.field )
           << ( it.variant ? " variant " + std::to_string( it.variant ) : "" ) << "  "
           << style.place( placesOf( alike ) ) << '\n'
-          << "      " << valueText( it.from ) << style.faint( " → " ) << style.differs( valueText( it.through ) )
+          << "      " << valueText( it.from ) << style.faint( " → " ) << style.differs( throughOf( alike ) )
           << style.faint( " → " ) << valueText( it.to ) << style.faint( "  for " + operations ) << '\n'
-          << "      set by " << it.setBy << " " << style.faint( it.setAt ) << ", ended by " << it.leftBy << " "
-          << style.faint( it.leftAt ) << '\n';
+          << "      " << functionsOf( it, style ) << '\n';
    }
    if ( shown < ways.all.size() ) {
       out << "    ... and " << counted( ways.all.size() - shown, "more", "more" ) << "; --all shows them\n";

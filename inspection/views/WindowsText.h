@@ -6,7 +6,8 @@
 
 namespace Inspection {
 
-// Those that go the same way are told together. `most`: so many of these ways, 0: all.
+// Those that go from one value to another by the same functions are told together. `most`: so many of these ways, 0:
+// all.
 void showWindows( std::ostream & out,
                   std::vector< PassingValue > const & windows,
                   std::size_t most,

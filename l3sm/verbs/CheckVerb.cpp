@@ -67,7 +67,7 @@ int startAgain( Scenario const & scenario, Options const & options ) {
 
 int lookForWindows( Scenario const & scenario, Options const & options ) {
    PassingValues windows;
-   planOf( scenario, options.plugin, { &windows } );
+   planOf( scenario, options.plugin, { .others = { &windows } } );
    if ( options.json ) {
       std::cout << toJson( Rex::Value::Object{ { "windows", windowsValue( windows.all() ) } }, 3 ) << '\n';
    } else if ( windows.all().empty() ) {

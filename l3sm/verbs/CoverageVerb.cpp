@@ -1,0 +1,109 @@
+// The verb `coverage`: which tables, fields and values on which chips journals, or scenarios, have written and changed.
+#include "inspection/OnChip.h"
+#include "inspection/Play.h"
+#include "inspection/RandomScenario.h"
+#include "inspection/files/FileKind.h"
+#include "inspection/files/JournalReader.h"
+#include "inspection/files/Json.h"
+#include "inspection/views/CoverageText.h"
+#include "inspection/views/Progress.h"
+#include "l3sm/ScenarioToPlay.h"
+#include "l3sm/verbs/Verbs.h"
+
+#include <fstream>
+#include <iostream>
+#include <memory>
+
+namespace Cli {
+
+using namespace Inspection;
+
+namespace {
+
+constexpr int isMissed = 1;
+
+struct Options {
+   std::vector< std::string > files;
+   std::optional< U32 > random;
+   std::optional< U32 > seed;
+   std::optional< U8 > least;
+   std::string plugin;
+   std::string page;
+   bool everyChip = false;
+   bool all = false;
+   bool json = false;
+};
+
+void play( Coverage & coverage, Scenario const & scenario, Options const & options ) {
+   if ( !options.everyChip ) {
+      cover( coverage, scenario, options.plugin );
+      return;
+   }
+   for ( auto const chipType : Hardware::allChipTypes ) {
+      cover( coverage, onChip( scenario, chipType ), options.plugin );
+   }
+}
+
+void read( Coverage & coverage, std::string const & path ) {
+   JournalReader journal( path );
+   coverage.beginsWith( journal.chipTypes() );
+   journal.read( coverage, { .readsToo = false } );
+   for ( auto const & remark : journal.remarks() ) {
+      std::cerr << "l3sm: " << printable( remark ) << '\n';
+   }
+}
+
+int answer( Options const & options ) {
+   if ( options.files.empty() && !options.random ) {
+      throw InputError( "name a journal or a scenario, or give --random" );
+   }
+   Coverage coverage;
+   Progress progress( "covering" );
+   std::size_t const all = options.files.size() + options.random.value_or( 0 );
+   std::size_t done = 0;
+   for ( std::string const & file : options.files ) {
+      if ( kindOfFile( file ) == FileKind::scenario ) {
+         play( coverage, scenarioToPlay( file, {}, options.plugin ), options );
+      } else {
+         read( coverage, file );
+      }
+      progress.stands( ++done, all );
+   }
+   for ( U32 number = 0; number < options.random.value_or( 0 ); ++number ) {
+      play( coverage, randomScenario( chanceOf( U64{ options.seed.value_or( 1 ) } + number ) ), options );
+      progress.stands( ++done, all );
+   }
+   if ( !options.page.empty() ) {
+      std::ofstream page( options.page );
+      page << coveragePage( coverage );
+      page.close();
+      if ( !page ) {
+         throw InputError( options.page, "can't be written" );
+      }
+   }
+   if ( options.json ) {
+      std::cout << toJson( coverageValue( coverage ), 3 ) << '\n';
+   } else {
+      showCoverage( std::cout, coverage, options.all, Style::of( std::cout ) );
+   }
+   return options.least && coverage.pairs().percent() < *options.least ? isMissed : 0;
+}
+
+} // namespace
+
+Action defineCoverage( VerbOptions & verb ) {
+   auto const options = std::make_shared< Options >();
+   verb.texts( "JOURNAL", options->files, "journals, and scenarios, which are played" );
+   verb.flag( "--every-chip", options->everyChip, "play each scenario on every kind of chip" );
+   verb.number( "--random", options->random, "play as many random scenarios, too" );
+   verb.number( "--seed", options->seed, "chance begins here; without it, at 1" );
+   verb.number( "--min", options->least, "exit with 1 where less is covered: percent of what the plug-in can write" );
+   verb.text( "--page", options->page, "write a page, too", "FILE.html" );
+   verb.flag( "--all", options->all, "every table" );
+   verb.text( "--plugin", options->plugin, "the plug-in's library; the default lies beside this program", "PATH" );
+   verb.flag( "--json", options->json, "for programs" );
+   verb.footer( "Exit status: 0; with --min 1 where less is covered." );
+   return [options] { return answer( *options ); };
+}
+
+} // namespace Cli
