@@ -246,6 +246,24 @@ TEST_F( ManagedDirectoriesTest, whatAFilterFollowsIsSilentOnceTheFilterIsInactiv
    EXPECT_FALSE( filter->l3MtuSm()->hasNotificationActive() );
 }
 
+// Becoming a zombie turns notifications off, too: here it was one already, with its notifications on.
+TEST_F( ManagedDirectoriesTest, whatIsRemovedIsSilentThoughItWasAZombie ) {
+   world.port( 10, eth1 );
+   world.start();
+   auto const filter = world.filter( eth1 );
+   auto const config = filter->intfConfig();
+   config->markAndSweepFlagSet( true );
+   filter->intfConfigDel();
+   EXPECT_FALSE( config->hasNotificationActive() );
+   filter->markAndSweepFlagSet( true );
+   world.sm->ipIntfConfigFilterDel( eth1 );
+   EXPECT_FALSE( filter->hasNotificationActive() );
+   auto const reactor = world.sm->portState( port10 );
+   reactor->markAndSweepFlagSet( true );
+   world.sm->portStateDel( port10 );
+   EXPECT_FALSE( reactor->hasNotificationActive() );
+}
+
 // ---- What outlives its owner is alone
 
 TEST_F( ManagedDirectoriesTest, reactorsOfAMachineThatIsGoneHaveNoParent ) {
