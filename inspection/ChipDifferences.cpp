@@ -2,8 +2,7 @@
 
 #include "inspection/NamesAsTyped.h"
 
-#include <map>
-#include <set>
+#include <algorithm>
 
 namespace Inspection {
 
@@ -11,9 +10,6 @@ namespace {
 
 using Rex::Value;
 using Simulator::EntryContents;
-
-char const * const controlsTable = "controls";
-char const * const chipTypeTable = "chip type";
 
 // Walks two maps side by side: `each( key, a or null, b or null )`.
 template< class Map, class Each >
@@ -63,35 +59,51 @@ std::string wordsText( EntryContents const & contents ) {
    return text;
 }
 
+// Whether a field has a bit that is another one in `b`.
+bool differs( Simulator::Words const & a, Simulator::Words const & b, Catalogue::Field const & field ) {
+   for ( unsigned bit = field.offset; bit < field.offset + field.width; ) {
+      unsigned const word = bit / 32;
+      unsigned const until = std::min< unsigned >( ( word + 1 ) * 32, field.offset + field.width );
+      U64 const mask = ( U64{ 1 } << ( until - bit ) ) - 1;
+      if ( ( ( a[word] ^ b[word] ) & mask << bit % 32 ) != 0 ) {
+         return true;
+      }
+      bit = until;
+   }
+   return false;
+}
+
 class Comparison {
  public:
+   explicit Comparison( EachDifference const & each ) : each_( each ) {}
+
    void fap( U16 number, FapContents const * a, FapContents const * b ) {
       fap_ = number;
       a_ = a;
       b_ = b;
       if ( !a || !b || a->chipType != b->chipType ) {
-         Difference it = differenceOf( chipTypeTable, "" );
+         Difference it = differenceOf( Difference::chipType, "" );
          auto const name = []( FapContents const * of ) {
             return of ? std::optional< std::string >( Hardware::chipTypeName( of->chipType ) ) : std::nullopt;
          };
          it.inA = a != nullptr;
          it.inB = b != nullptr;
          it.values.push_back( { "chip type", name( a ), name( b ) } );
-         all.push_back( it );
+         each_( std::move( it ) );
       }
       if ( !a || !b ) {
          return; // a FAP that is missing is one difference, not one for each entry
       }
       sideBySide( &a->contents.controls, &b->contents.controls, [&]( U32 control, U32 const * x, U32 const * y ) {
          if ( !x || !y || *x != *y ) {
-            Difference it = differenceOf( controlsTable, std::to_string( control ) );
+            Difference it = differenceOf( Difference::controls, std::to_string( control ) );
             it.entry = control;
             it.inA = x != nullptr;
             it.inB = y != nullptr;
             it.values.push_back( { "value",
                                    x ? std::optional( std::to_string( *x ) ) : std::nullopt,
                                    y ? std::optional( std::to_string( *y ) ) : std::nullopt } );
-            all.push_back( it );
+            each_( std::move( it ) );
          }
       } );
       sideBySide( &a->contents.tables, &b->contents.tables, [&]( auto const & table, auto const * x, auto const * y ) {
@@ -105,8 +117,6 @@ class Comparison {
       } );
    }
 
-   std::vector< Difference > all;
-
  private:
    struct Place {
       U32 variant;
@@ -114,8 +124,8 @@ class Comparison {
       U32 entry;
    };
 
-   Difference differenceOf( std::string const & table, std::string const & place ) const {
-      return Difference{ .fap = fap_, .table = table, .place = place, .values = {} };
+   Difference differenceOf( std::string_view table, std::string const & place ) const {
+      return Difference{ .fap = fap_, .table = std::string( table ), .place = place, .values = {} };
    }
 
    static Catalogue::Layout const * layoutOf( Catalogue::Table const & table, FapContents const & fap, U32 variant ) {
@@ -135,6 +145,31 @@ class Comparison {
       it.entry = place.entry;
       it.inA = a != nullptr;
       it.inB = b != nullptr;
+      if ( layoutA && layoutA == layoutB && a->copies.size() == 1 && b->copies.size() == 1 ) {
+         for ( Catalogue::Field const & field : layoutA->fields ) {
+            if ( differs( a->copies[0], b->copies[0], field ) ) {
+               it.values.push_back( { field.name,
+                                      Simulator::fieldText( a->copies[0], field ),
+                                      Simulator::fieldText( b->copies[0], field ) } );
+            }
+         }
+      } else {
+         compareByName( it, layoutA, a, layoutB, b );
+      }
+      if ( it.values.empty() && a && b && a_->chipType == b_->chipType ) {
+         it.values.push_back( { "bits outside of every field", wordsText( *a ), wordsText( *b ) } );
+      }
+      if ( !it.values.empty() ) {
+         each_( std::move( it ) );
+      }
+   }
+
+   // Where one side lacks the entry, or its copies differ, or the kinds of chip do.
+   static void compareByName( Difference & it,
+                              Catalogue::Layout const * layoutA,
+                              EntryContents const * a,
+                              Catalogue::Layout const * layoutB,
+                              EntryContents const * b ) {
       bool const byCopy = ( a && a->copies.size() > 1 ) || ( b && b->copies.size() > 1 );
       std::vector< std::pair< std::string, std::string > > const none;
       auto const left = a ? valuesOf( *layoutA, *a, byCopy ) : none;
@@ -154,125 +189,66 @@ class Comparison {
             it.values.push_back( { field, std::nullopt, value } );
          }
       }
-      if ( it.values.empty() && a && b && a_->chipType == b_->chipType ) {
-         it.values.push_back( { "bits outside of every field", wordsText( *a ), wordsText( *b ) } );
-      }
-      if ( !it.values.empty() ) {
-         all.push_back( std::move( it ) );
-      }
    }
 
+   EachDifference const & each_;
    U16 fap_ = 0;
    FapContents const * a_ = nullptr;
    FapContents const * b_ = nullptr;
 };
 
-std::string valueText( std::optional< std::string > const & value ) {
-   if ( !value ) {
-      return "-";
-   }
-   bool const isNumber = value->starts_with( "0x" ) && value->find( ' ' ) == std::string::npos;
-   return isNumber ? readable( *value ) : *value;
-}
-
-void showSummary( std::ostream & out, std::vector< Difference > const & all, Style const & style ) {
-   struct Count {
-      std::size_t entries = 0;
-      std::size_t fields = 0;
-   };
-   std::map< std::pair< std::string, U16 >, Count > counts;
-   for ( Difference const & it : all ) {
-      Count & count = counts[{ it.table, it.fap }];
-      ++count.entries;
-      count.fields += it.values.size();
-   }
-   std::set< std::string > tables;
-   Columns columns;
-   columns.row(
-      { style.strong( "table" ), style.strong( "FAP" ), style.strong( "entries" ), style.strong( "fields" ) } );
-   for ( auto const & [key, count] : counts ) {
-      columns.row( { tables.insert( key.first ).second ? key.first : "",
-                     std::to_string( key.second ),
-                     std::to_string( count.entries ),
-                     std::to_string( count.fields ) } );
-   }
-   for ( std::size_t const column : { 1u, 2u, 3u } ) {
-      columns.rightAlign( column );
-   }
-   out << counted( all.size(), "entry differs", "entries differ" ) << " in "
-       << counted( tables.size(), "table", "tables" ) << "\n\n";
-   columns.print( out );
-}
-
 } // namespace
 
-std::vector< Difference > differencesOf( ChipsFile const & a, ChipsFile const & b ) {
-   Comparison comparison;
-   sideBySide( &a, &b, [&]( U16 fap, FapContents const * x, FapContents const * y ) { comparison.fap( fap, x, y ); } );
-   return std::move( comparison.all );
+void eachDifference( U16 fap, FapContents const * a, FapContents const * b, EachDifference const & each ) {
+   Comparison( each ).fap( fap, a, b );
 }
 
-void showDifferences( std::ostream & out,
-                      std::vector< Difference > const & all,
-                      std::string const & nameA,
-                      std::string const & nameB,
-                      Style const & style ) {
-   if ( all.empty() ) {
-      out << "no difference\n";
-      return;
+std::vector< Difference > differencesOf( ChipsFile const & a, ChipsFile const & b ) {
+   std::vector< Difference > all;
+   sideBySide( &a, &b, [&]( U16 fap, FapContents const * x, FapContents const * y ) {
+      eachDifference( fap, x, y, [&]( Difference it ) { all.push_back( std::move( it ) ); } );
+   } );
+   return all;
+}
+
+Value::Object sidesOf( ValueDifference const & value ) {
+   return { { "a", value.a ? Value( *value.a ) : Value() }, { "b", value.b ? Value( *value.b ) : Value() } };
+}
+
+void DifferenceCounts::add( Difference const & it ) {
+   Count & count = byTable_[it.table];
+   count.faps.insert( it.fap );
+   ++count.entries;
+   count.fields += it.values.size();
+   ++entries_;
+}
+
+Value DifferenceCounts::value() const {
+   Value::List list;
+   for ( auto const & [table, count] : byTable_ ) {
+      list.push_back( Value::Object{ { "table", table },
+                                     { "faps", Value::List( count.faps.begin(), count.faps.end() ) },
+                                     { "entries", count.entries },
+                                     { "fields", count.fields } } );
    }
-   showSummary( out, all, style );
-   std::string table;
-   Columns columns;
-   auto const flush = [&] {
-      columns.print( out, 2 );
-      columns = Columns();
-   };
-   for ( Difference const & it : all ) {
-      std::string const head = it.table + style.faint( "  FAP " + std::to_string( it.fap ) );
-      if ( head != table ) {
-         flush();
-         table = head;
-         out << '\n' << style.strong( it.table ) << style.faint( "  FAP " + std::to_string( it.fap ) ) << '\n';
-      }
-      std::string place = style.place( it.place );
-      if ( !it.inA || !it.inB ) {
-         columns.row( { place, style.faint( "only in " + ( it.inA ? nameA : nameB ) ) } );
-         place.clear();
-      }
-      for ( ValueDifference const & value : it.values ) {
-         columns.row( { place,
-                        value.name,
-                        style.before( valueText( value.a ) ),
-                        style.faint( "→" ),
-                        style.after( valueText( value.b ) ) } );
-         place.clear();
-      }
-   }
-   flush();
+   return list;
 }
 
 Value differencesValue( std::vector< Difference > const & all ) {
    Value::List list;
-   auto const sides = []( ValueDifference const & value ) {
-      Value::Object both;
-      both["a"] = value.a ? Value( *value.a ) : Value();
-      both["b"] = value.b ? Value( *value.b ) : Value();
-      return both;
-   };
    for ( Difference const & it : all ) {
       Value::Object fields;
       for ( ValueDifference const & value : it.values ) {
-         fields[value.name] = sides( value );
+         fields[value.name] = sidesOf( value );
       }
       Value::Object one;
       one["fap"] = it.fap;
       one["inA"] = it.inA;
       one["inB"] = it.inB;
-      if ( it.table == controlsTable ) {
+      if ( it.table == Difference::controls ) {
          one["control"] = it.entry;
          one["values"] = fields.begin()->second;
-      } else if ( it.table == chipTypeTable ) {
+      } else if ( it.table == Difference::chipType ) {
          one["chipType"] = fields.begin()->second;
       } else {
          one["table"] = it.table;

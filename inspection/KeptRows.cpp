@@ -22,7 +22,9 @@ void KeptRows::row( Simulator::Row const & row ) {
 
 KeptRows rowsOf( std::string const & journal ) {
    KeptRows rows;
-   JournalReader( journal ).read( rows );
+   JournalReader reader( journal );
+   reader.read( rows );
+   rows.remarks = reader.remarks();
    return rows;
 }
 

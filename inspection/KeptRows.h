@@ -16,6 +16,8 @@ class KeptRows final : public Simulator::RowReader {
    KeptRows( KeptRows && ) = default; // rows refer to the texts and words that are kept beside them
    KeptRows & operator=( KeptRows && ) = default;
    std::deque< Simulator::Row > const & all() const { return rows_; }
+   // What is odd about the journal that they are from.
+   std::vector< std::string > remarks = {};
    void row( Simulator::Row const & row ) override;
 
  private:

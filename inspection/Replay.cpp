@@ -1,42 +1,13 @@
 #include "inspection/Replay.h"
 
-#include "inspection/files/ChipsFile.h"
+#include "inspection/ChipsSides.h"
 #include "inspection/files/ChipsReader.h"
+#include "inspection/files/ChipsWriter.h"
 #include "inspection/files/Scenario.h"
-
-#include <fstream>
 
 namespace Inspection {
 
-namespace {
-
 using Rex::Value;
-
-// FAP by FAP, so that only one of them is held as contents.
-std::vector< Difference > differencesFrom( std::string const & path, ReplayedChips & chips ) {
-   std::vector< Difference > all;
-   std::set< U16 > seen;
-   auto const compare = [&]( ChipsFile const & a, U16 fap ) {
-      ChipsFile b;
-      if ( chips.chipTypes().contains( fap ) ) {
-         b[fap] = { chips.chipTypes().at( fap ), chips.contents( fap ) };
-      }
-      auto differences = differencesOf( a, b );
-      all.insert( all.end(), differences.begin(), differences.end() );
-   };
-   eachFap( path, {}, [&]( U16 fap, FapContents contents ) {
-      seen.insert( fap );
-      compare( ChipsFile{ { fap, std::move( contents ) } }, fap );
-   } );
-   for ( auto const & [fap, chipType] : chips.chipTypes() ) {
-      if ( !seen.contains( fap ) ) {
-         compare( {}, fap );
-      }
-   }
-   return all;
-}
-
-} // namespace
 
 Replay replayOf( ReplayQuestion const & question, OutputFile const & out ) {
    JournalReader journal( question.journal );
@@ -63,17 +34,16 @@ Replay replayOf( ReplayQuestion const & question, OutputFile const & out ) {
                   .others = chips.others(),
                   .remarks = journal.remarks() };
    if ( !question.chips.empty() ) {
-      replay.differences = differencesFrom( question.chips, chips );
+      auto & all = replay.differences.emplace();
+      eachDifference( question.chips, chips, {}, false, [&]( Difference it ) { all.push_back( std::move( it ) ); } );
    }
-   if ( out.isWanted() ) {
-      ChipsFile contents;
+   out.stream( [&]( std::ostream & file ) {
+      ChipsWriter writer( file );
       for ( auto const & [fap, chipType] : chips.chipTypes() ) {
-         contents[fap] = { chipType, chips.contents( fap ) };
+         writer.add( fap, chipType, chips.chip( fap ) );
       }
-      std::ostringstream text;
-      writeChips( text, contents );
-      out.write( text.str() );
-   }
+      writer.end();
+   } );
    return replay;
 }
 

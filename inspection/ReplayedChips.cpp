@@ -12,10 +12,12 @@ using Simulator::Chip;
 using Simulator::Row;
 using Simulator::Words;
 
-ReplayedChips::ReplayedChips( JournalReader const & journal )
-   : journal_( journal ), isBeginKnown_( journal.format() != 1 ) {
+ReplayedChips::ReplayedChips( JournalReader const & journal, std::optional< U16 > only )
+   : journal_( journal ), only_( only ), isBeginKnown_( journal.format() != 1 ) {
    for ( auto const & [fap, chipType] : journal.chipTypes() ) {
-      chipIs( fap, chipType );
+      if ( !only || *only == fap ) {
+         chipIs( fap, chipType );
+      }
    }
    fill( journal.path(), journal.scenario() );
 }
@@ -45,6 +47,9 @@ void ReplayedChips::fill( std::string const & file, Value const & scenario ) {
          auto const fap = Rex::Codec< U16 >::fromKey( key );
          auto const contents = contentsFromValue( part );
          auto const chipType = chipTypes_.find( fap );
+         if ( only_ && *only_ != fap ) {
+            return;
+         }
          if ( chipType == chipTypes_.end() ) {
             throw Rex::ValueError( "", "the switch has no FAP " + key );
          }

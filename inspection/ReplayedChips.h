@@ -44,8 +44,9 @@ struct OtherContentsList {
 
 class ReplayedChips final : public Simulator::RowReader {
  public:
-   // InputError where the contents that the journal begins with don't fit its chips.
-   explicit ReplayedChips( JournalReader const & journal );
+   // `only`: the other FAPs aren't there. InputError where the contents that the journal begins with don't fit its
+   // chips.
+   explicit ReplayedChips( JournalReader const & journal, std::optional< U16 > only = {} );
 
    // A FAP's kind of chip, where the journal doesn't tell it. InputError if it tells another.
    void chipIs( U16 fap, Hardware::ChipType chipType );
@@ -75,6 +76,7 @@ class ReplayedChips final : public Simulator::RowReader {
                  Simulator::WordView journalled );
 
    JournalReader const & journal_;
+   std::optional< U16 > const only_;
    Simulator::ChipDriver driver_;
    std::map< U16, Hardware::ChipType > chipTypes_;
    std::vector< Simulator::Chip * > chips_; // by FAP

@@ -58,19 +58,20 @@ WhyReader::WhyReader( WhySubject subject, WhyFilter filter ) : filter_( std::mov
 
 RowFilter WhyReader::rows() const {
    WhySubject const & subject = answer_.subject;
+   std::vector< std::string > const tables( filter_.table.empty() ? 0 : 1, filter_.table );
    switch ( subject.kind ) {
    case Kind::part:
-      return { .table = subject.part.table->name };
+      return { .tables = { subject.part.table->name }, .publicationsToo = false };
    case Kind::control:
-      return { .table = subject.text() }; // which no table is called: no reads and writes
+      return { .tables = { subject.text() }, .publicationsToo = false }; // no table is called so: no reads and writes
    case Kind::interface:
       return { .operationsToo = false };
    case Kind::state:
-      return { .table = filter_.table, .readsToo = false };
+      return { .tables = tables, .readsToo = false };
    case Kind::function:
       break;
    }
-   return { .table = filter_.table, .function = subject.name };
+   return { .tables = tables, .function = subject.name, .publicationsToo = false };
 }
 
 void WhyReader::beginsWith( Rex::Value const & scenario ) {
@@ -208,26 +209,39 @@ std::vector< std::string > WhyReader::keptBy( std::string_view function ) const 
    return kept;
 }
 
+WhyReader::Gate & WhyReader::gateOf( Row const & row ) {
+   latestGates_.resize( std::max< std::size_t >( latestGates_.size(), row.originNumber + 1 ) );
+   Gate *& latest = latestGates_[row.originNumber];
+   if ( !latest || latest->step.reason != row.reason || latest->step.source != row.source ) {
+      latest = &gates_[{ std::string( row.source ), std::string( row.reason ) }];
+   }
+   return *latest;
+}
+
 void WhyReader::stopped( Row const & row ) {
-   StoppedStep & gate = gates_[{ std::string( row.source ), std::string( row.reason ) }];
+   Gate & known = gateOf( row );
+   StoppedStep & gate = known.step;
    if ( gate.times == 0 ) {
       gate.function = row.function;
       gate.source = row.source;
       gate.reason = row.reason;
    }
+   bool const isNew = gate.times == 0 || gate.lastEvent != row.event;
+   if ( isNew && ( gate.times == 0 || input_.kind != EventInput::Kind::start ) ) {
+      gate.lastInput = input_.text();
+   }
    ++gate.times;
    gate.lastEvent = row.event;
    gate.lastCause = row.cause;
-   if ( gate.lastInput.empty() || gate.times < 2 || input_.kind != EventInput::Kind::start ) {
-      gate.lastInput = input_.text();
-   }
    if ( row.isOfFap ) {
       gate.faps.insert( row.fap );
    }
-   bool const isOfChain =
-      answer_.subject.kind == Kind::state || answer_.subject.kind == Kind::interface ? isAbout( row )
-                                                                                     : !keptBy( row.function ).empty();
-   if ( isOfChain ) {
+   if ( known.ofRan != ran_.size() ) {
+      known.keeps = !keptBy( row.function ).empty();
+      known.ofRan = ran_.size();
+   }
+   bool const isFollowed = answer_.subject.kind == Kind::state || answer_.subject.kind == Kind::interface;
+   if ( isFollowed ? isAbout( row ) : known.keeps ) {
       steps_.add( row );
    }
 }
@@ -259,33 +273,6 @@ void WhyReader::eventIsOver() {
 void WhyReader::ends( Simulator::Ending const & ending ) {
    eventIsOver(); // where the run broke off in it
    answer_.ending = ending;
-}
-
-WhyAnswer WhyReader::take() {
-   bool const isFollowed = answer_.subject.kind == Kind::state || answer_.subject.kind == Kind::interface;
-   std::set< std::string, std::less<> > kept;
-   for ( auto & [place, gate] : gates_ ) {
-      gate.kept = keptBy( gate.function );
-      kept.insert( gate.kept.begin(), gate.kept.end() );
-      if ( gate.kept.empty() ) {
-         answer_.others.push_back( gate );
-      } else if ( !isFollowed ) {
-         answer_.stopped.push_back( gate );
-      }
-   }
-   std::ranges::stable_sort( answer_.stopped, std::greater<>(), &StoppedStep::lastEvent );
-   if ( isFollowed ) {
-      answer_.others.clear();
-   } else {
-      std::ranges::copy_if( known_, std::back_inserter( answer_.idle ), [&]( std::string const & function ) {
-         return !ran_.contains( function ) && !kept.contains( function );
-      } );
-   }
-   answer_.isReached = answer_.isReached || !answer_.stopped.empty();
-   if ( model_ ) {
-      answer_.interface = model_->story();
-   }
-   return std::move( answer_ );
 }
 
 } // namespace Inspection

@@ -111,7 +111,16 @@ class WhyReader final : public Simulator::RowReader {
    std::set< std::string, std::less<> > known_; // functions that are known to have to do with the subject
    std::set< std::string, std::less<> > ran_;   // functions that had to do with it in this run
    std::set< U16 > faps_;
-   std::map< std::pair< std::string, std::string >, StoppedStep > gates_; // by source and reason
+   // A gate, with whether it is known to keep a function from running that has to do with the subject, as of so many
+   // that ran.
+   struct Gate {
+      StoppedStep step = {};
+      bool keeps = false;
+      std::optional< std::size_t > ofRan = {};
+   };
+   Gate & gateOf( Simulator::Row const & row );
+   std::map< std::pair< std::string, std::string >, Gate > gates_; // by source and reason
+   std::vector< Gate * > latestGates_;                             // by where the row is from
    std::optional< InterfaceModel > model_;
 
    U32 event_ = 0;

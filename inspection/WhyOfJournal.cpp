@@ -76,6 +76,34 @@ void checkSubject( JournalReader const & journal,
 
 } // namespace
 
+WhyAnswer WhyReader::take() {
+   bool const isFollowed = answer_.subject.kind == Kind::state || answer_.subject.kind == Kind::interface;
+   std::set< std::string, std::less<> > kept;
+   for ( auto & [place, known] : gates_ ) {
+      StoppedStep & gate = known.step;
+      gate.kept = keptBy( gate.function );
+      kept.insert( gate.kept.begin(), gate.kept.end() );
+      if ( gate.kept.empty() ) {
+         answer_.others.push_back( gate );
+      } else if ( !isFollowed ) {
+         answer_.stopped.push_back( gate );
+      }
+   }
+   std::ranges::stable_sort( answer_.stopped, std::greater<>(), &StoppedStep::lastEvent );
+   if ( isFollowed ) {
+      answer_.others.clear();
+   } else {
+      std::ranges::copy_if( known_, std::back_inserter( answer_.idle ), [&]( std::string const & function ) {
+         return !ran_.contains( function ) && !kept.contains( function );
+      } );
+   }
+   answer_.isReached = answer_.isReached || !answer_.stopped.empty();
+   if ( model_ ) {
+      answer_.interface = model_->story();
+   }
+   return std::move( answer_ );
+}
+
 WhyAnswer whyOf( JournalReader & journal, WhyReader & reader ) {
    reader.beginsWith( journal.scenario() );
    Simulator::Ending const ending = journal.read( reader, reader.rows() );

@@ -228,6 +228,7 @@ constexpr Place places[] = {
    { "--plugin", files },
    { "--against", files },
    { "--with", scenarioSubjects },
+   { "--at", nothing },
    // places
    { "TABLE", tablesAndFields },
    { "CONDITION", tablesAndFields },

@@ -2,7 +2,7 @@
 
 #include "rex/Nearest.h"
 #include "rex/Value.h"
-#include "simulator/TableMap.h"
+#include "simulator/EachEntry.h"
 
 #include <algorithm>
 
@@ -11,15 +11,6 @@ namespace Simulator {
 namespace {
 
 using Hardware::ChipType;
-
-EntryContents contentsOf( Chip::Entry const & entry ) {
-   EntryContents contents;
-   U32 const copies = entry.copiesDiffer() ? entry.copies() : 1;
-   for ( U32 copy = 0; copy < copies; ++copy ) {
-      contents.copies.emplace_back( entry.words( copy ).begin(), entry.words( copy ).end() );
-   }
-   return contents;
-}
 
 std::string range( U32 first, U32 count ) {
    return count == 1 ? "only " + std::to_string( first )
@@ -128,27 +119,49 @@ class Fitter {
 
 } // namespace
 
+namespace {
+
+// Puts entries where they belong, which come in their order.
+class Filling {
+ public:
+   explicit Filling( TablesContents & tables ) : tables_( tables ) {}
+
+   void
+   put( Catalogue::Table const & table, Catalogue::Layout const & layout, U32 array, U32 entry, EntryContents of ) {
+      if ( layout_ != &layout || array_ != array ) {
+         layout_ = &layout;
+         array_ = array;
+         entries_ = &tables_[table.name][layout.variant][array];
+      }
+      entries_->emplace_hint( entries_->end(), entry, std::move( of ) );
+   }
+
+ private:
+   TablesContents & tables_;
+   Catalogue::Layout const * layout_ = nullptr;
+   U32 array_ = 0;
+   ArrayContents * entries_ = nullptr;
+};
+
+} // namespace
+
+EntryContents contentsOf( Chip::Entry const & entry ) {
+   EntryContents contents;
+   U32 const copies = entry.copiesDiffer() ? entry.copies() : 1;
+   for ( U32 copy = 0; copy < copies; ++copy ) {
+      contents.copies.emplace_back( entry.words( copy ).begin(), entry.words( copy ).end() );
+   }
+   return contents;
+}
+
 Contents contentsOf( Chip const & chip, ChipType chipType ) {
    Contents contents{ .controls = chip.controls(), .tables = {} };
-   for ( Catalogue::Table const & table : Catalogue::tables() ) {
-      for ( Catalogue::Layout const & layout : table.layouts ) {
-         if ( !table.hasMemory || layout.chipType != static_cast< U8 >( chipType ) ) {
-            continue;
-         }
-         for ( U32 const array : arrayIndices( layout ) ) {
-            ArrayContents entries;
-            for ( U32 entry = 0; entry < entryCount( layout ); ++entry ) {
-               Chip::Entry const found = chip.entry( addressOf( layout, array, entry ) );
-               if ( found.hasValue() ) {
-                  entries.emplace_hint( entries.end(), entry, contentsOf( found ) );
-               }
-            }
-            if ( !entries.empty() ) {
-               contents.tables[table.name][layout.variant][array] = std::move( entries );
-            }
-         }
+   Filling filling( contents.tables );
+   eachEntry( chipType, [&]( auto const & table, auto const & layout, U32 array, U32 entry, auto const & at ) {
+      if ( auto const found = chip.entry( at ); found.hasValue() ) {
+         filling.put( table, layout, array, entry, contentsOf( found ) );
       }
-   }
+   } );
    return contents;
 }
 

@@ -1,6 +1,8 @@
 #include "inspection/files/ByteStreams.h"
 
 #include "inspection/files/InputError.h"
+#include "inspection/files/InputFile.h"
+#include "inspection/files/StandardInput.h"
 
 #include <algorithm>
 #include <array>
@@ -16,7 +18,7 @@ namespace Inspection {
 
 namespace {
 
-constexpr std::size_t pendingBytes = 1 << 18; // before they go to the compressor or the kernel
+constexpr std::size_t pendingBytes = 1 << 16; // before they go to the kernel
 constexpr int compressionLevel = 1;           // a journal repeats itself: more effort gains little
 
 constexpr std::string_view frameBegin = "\x28\xb5\x2f\xfd"; // of zstd
@@ -81,8 +83,8 @@ void ByteSink::put( std::string_view bytes ) {
    }
 }
 
-void ByteSink::compress( int how ) {
-   ZSTD_inBuffer in{ pending_.data(), pending_.size(), 0 };
+void ByteSink::compress( std::string_view bytes, int how ) {
+   ZSTD_inBuffer in{ bytes.data(), bytes.size(), 0 };
    std::size_t left = 1;
    while ( left != 0 || in.pos < in.size ) {
       ZSTD_outBuffer out{ compressor_->out.data(), compressor_->out.size(), 0 };
@@ -92,25 +94,27 @@ void ByteSink::compress( int how ) {
          break;
       }
    }
-   pending_.clear();
 }
 
 void ByteSink::append( std::string_view bytes ) {
-   pending_ += bytes;
-   if ( pending_.size() >= pendingBytes ) {
-      if ( compressor_ ) {
-         compress( ZSTD_e_continue );
-      } else {
-         bringToDisk();
-      }
+   if ( compressor_ ) {
+      compress( bytes, ZSTD_e_continue ); // which keeps them until there are enough
+      return;
    }
+   if ( pending_.size() + bytes.size() < pendingBytes ) {
+      pending_ += bytes;
+      return;
+   }
+   bringToDisk();
+   put( bytes );
 }
 
 void ByteSink::bringToDisk() {
    if ( compressor_ ) {
-      compress( ZSTD_e_flush );
+      compress( {}, ZSTD_e_flush );
    } else {
-      put( std::exchange( pending_, {} ) );
+      put( pending_ );
+      pending_.clear();
    }
 }
 
@@ -119,7 +123,7 @@ void ByteSink::close() {
       return;
    }
    if ( compressor_ ) {
-      compress( ZSTD_e_end );
+      compress( {}, ZSTD_e_end );
    } else {
       bringToDisk();
    }
@@ -142,10 +146,15 @@ struct ByteSource::Decompressor {
    bool isInFrame = false;
 };
 
-ByteSource::ByteSource( std::string path )
-   : path_( std::move( path ) ), file_( ::open( path_.c_str(), O_RDONLY | O_CLOEXEC ) ) {
+ByteSource::ByteSource( std::string path, Use use )
+   : path_( inputName( path ) ), isStandardInput_( path == "-" ), isLook_( use == Use::look ),
+     file_( isStandardInput_ ? ::dup( STDIN_FILENO ) : ::open( path.c_str(), O_RDONLY | O_CLOEXEC ) ) {
    if ( file_ < 0 ) {
       throw InputError( path_, "can't be read: " + reason() );
+   }
+   if ( isStandardInput_ && ::isatty( file_ ) ) {
+      ::close( file_ );
+      throw InputError( path_, "is a terminal; name a file, or give the text through a pipe" );
    }
    readAhead();
 }
@@ -175,9 +184,30 @@ void ByteSource::readAhead() {
 
 ByteSource::~ByteSource() {
    ::close( file_ );
+   if ( isStandardInput_ && isLook_ ) {
+      readAheadOfStandardInput().insert( 0, lookedAt_ );
+   }
 }
 
 std::size_t ByteSource::readRaw( std::span< char > into ) {
+   if ( !isStandardInput_ ) {
+      return readFromFile( into );
+   }
+   std::string & ahead = readAheadOfStandardInput();
+   std::size_t size = std::min( ahead.size(), into.size() );
+   if ( size > 0 ) {
+      std::ranges::copy( std::string_view( ahead ).substr( 0, size ), into.begin() );
+      ahead.erase( 0, size );
+   } else {
+      size = readFromFile( into );
+   }
+   if ( isLook_ ) {
+      lookedAt_.append( into.data(), size );
+   }
+   return size;
+}
+
+std::size_t ByteSource::readFromFile( std::span< char > into ) {
    while ( true ) {
       auto const size = ::read( file_, into.data(), into.size() );
       if ( size >= 0 ) {

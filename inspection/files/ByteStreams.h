@@ -1,5 +1,5 @@
 // Files as streams of bytes. They are written compressed with zstd where their name ends in ".zst", and decompressed
-// where they begin as zstd does.
+// where they begin as zstd does. "-" is standard input.
 //
 //    ByteSink sink( "run.jsonl.zst" );          // InputError
 //    sink.append( text );
@@ -42,7 +42,7 @@ class ByteSink {
  private:
    struct Compressor;
    void put( std::string_view bytes );
-   void compress( int how );
+   void compress( std::string_view bytes, int how );
    [[noreturn]] void giveUp();
 
    std::string path_;
@@ -53,11 +53,14 @@ class ByteSink {
 
 class ByteSource {
  public:
-   explicit ByteSource( std::string path );
+   // `look`: what is read of standard input is there for the next source, too.
+   enum class Use : U8 { read, look };
+   explicit ByteSource( std::string path, Use use = Use::read );
    ~ByteSource();
    ByteSource( ByteSource const & ) = delete;
    ByteSource & operator=( ByteSource const & ) = delete;
 
+   // What messages call it.
    std::string const & path() const { return path_; }
    // Reads on into `into`, which isn't empty; how many bytes came. 0: the end. A compressed file that breaks off ends
    // there, and isCut() tells.
@@ -68,9 +71,13 @@ class ByteSource {
    struct Decompressor;
    void readAhead();
    std::size_t readRaw( std::span< char > into );
+   std::size_t readFromFile( std::span< char > into );
 
    std::string path_;
+   bool isStandardInput_;
+   bool isLook_;
    int file_;
+   std::string lookedAt_;
    bool isCut_ = false;
    std::string ahead_; // read, and not yet handed over
    std::unique_ptr< Decompressor > decompressor_;

@@ -1,6 +1,7 @@
 #include "inspection/files/ChipsFile.h"
 
 #include "inspection/files/ChipsReader.h"
+#include "inspection/files/ChipsWriter.h"
 #include "simulator/TableMap.h"
 #include "state/CellStatus.h"
 
@@ -123,34 +124,13 @@ Value valueOf( EntryContents const & entry ) {
    return Value::Object{ { "instances", std::move( instances ) } };
 }
 
-void writeWords( std::ostream & out, Words const & words ) {
-   char const * before = "[";
+void appendWords( std::string & text, Words const & words ) {
+   char const * before = "[\"";
    for ( U32 const word : words ) {
-      out << before << '"' << wordText( word ) << '"';
-      before = ", ";
+      text += before + wordText( word );
+      before = "\", \"";
    }
-   out << ']';
-}
-
-void writeEntry( std::ostream & out, EntryContents const & entry, Catalogue::Layout const & layout ) {
-   if ( entry.copies.size() > 1 ) {
-      char const * before = "{\"instances\": {\"";
-      for ( std::size_t copy = 0; copy < entry.copies.size(); ++copy ) {
-         out << before << copy << "\": ";
-         writeWords( out, entry.copies[copy] );
-         before = ", \"";
-      }
-      out << "}}";
-      return;
-   }
-   out << "{\"words\": ";
-   writeWords( out, entry.copies[0] );
-   char const * before = ", \"fields\": {\"";
-   for ( auto const & field : Simulator::decode( layout, entry.copies[0] ) ) {
-      out << before << field.name << "\": \"" << field.value << '"';
-      before = ", \"";
-   }
-   out << "}}";
+   text += words.empty() ? "[]" : "\"]";
 }
 
 // The members of an object, each on a line of its own.
@@ -166,6 +146,29 @@ void writeObject( std::ostream & out, Members const & members, int indent, Write
 }
 
 } // namespace
+
+void appendEntry( std::string & text, EntryContents const & entry, Catalogue::Layout const & layout ) {
+   if ( entry.copies.size() > 1 ) {
+      char const * before = "{\"instances\": {\"";
+      for ( std::size_t copy = 0; copy < entry.copies.size(); ++copy ) {
+         text += before + std::to_string( copy ) + "\": ";
+         appendWords( text, entry.copies[copy] );
+         before = ", \"";
+      }
+      text += "}}";
+      return;
+   }
+   text += "{\"words\": ";
+   appendWords( text, entry.copies[0] );
+   char const * before = ", \"fields\": {\"";
+   for ( auto const & field : Simulator::decode( layout, entry.copies[0] ) ) {
+      text += before;
+      text += field.name;
+      text += "\": \"" + field.value + '"';
+      before = ", \"";
+   }
+   text += "}}";
+}
 
 std::string wordText( U32 word ) {
    char text[11];
@@ -240,7 +243,9 @@ void writeTables( std::ostream & out,
          auto const & layout = *Catalogue::layout( table, static_cast< U8 >( chipType ), static_cast< U8 >( variant ) );
          writeObject( out, arrays, indent + 2, [&]( U32, ArrayContents const & entries ) {
             writeObject( out, entries, indent + 3, [&]( U32, EntryContents const & entry ) {
-               writeEntry( out, entry, layout );
+               std::string text;
+               appendEntry( text, entry, layout );
+               out << text;
             } );
          } );
       } );

@@ -1,152 +1,131 @@
 #include "inspection/files/ChipsReader.h"
 
 #include "inspection/files/FileKind.h"
-#include "inspection/files/JsonElements.h"
-#include "inspection/files/JsonStream.h"
-#include "simulator/TableMap.h"
 
 #include <algorithm>
 #include <filesystem>
-#include <memory>
-#include <set>
+#include <utility>
 
 namespace Inspection {
 
-namespace {
-
-using JsonElements::dom::element;
-using JsonElements::dom::object;
 using Rex::ValueError;
-using Simulator::EntryContents;
-
-simdjson::dom::parser & parser() {
-   static simdjson::dom::parser one;
-   return one;
-}
-
-element parsed( std::string_view text ) {
-   element root;
-   if ( auto const error = parser().parse( text.data(), text.size(), false ).get( root ) ) {
-      throw ValueError( "", std::string( "no JSON: " ) + simdjson::error_message( error ) );
-   }
-   return root;
-}
-
-object objectIn( element value ) {
-   object members;
-   if ( value.get( members ) ) {
-      throw ValueError( "", "expected an object" );
-   }
-   return members;
-}
-
-// An object whose keys are numbers.
-template< class Read >
-auto numbered( element value, Read const & read ) {
-   std::map< U32, decltype( read( value ) ) > all;
-   for ( auto const [key, part] : objectIn( value ) ) {
-      std::string const name( key );
-      Rex::below( name, [&] {
-         auto const number = Rex::Codec< U32 >::fromKey( name );
-         if ( all.contains( number ) ) {
-            throw ValueError( "", "stands twice" );
-         }
-         all.emplace_hint( all.end(), number, read( part ) );
-      } );
-   }
-   return all;
-}
-
-EntryContents entryOf( element value ) {
-   EntryContents contents;
-   bool hasWords = false;
-   bool hasInstances = false;
-   for ( auto const [key, part] : objectIn( value ) ) {
-      if ( key == "words" ) {
-         hasWords = true;
-         JsonElements::wordsInto( contents.copies.emplace_back(), part, "words" );
-      } else if ( key == "instances" ) {
-         hasInstances = true;
-         for ( auto const [instance, words] : objectIn( part ) ) {
-            auto const expected = std::to_string( contents.copies.size() );
-            if ( instance != expected ) {
-               throw ValueError( "/instances/" + std::string( instance ), "expected instance " + expected );
-            }
-            JsonElements::wordsInto( contents.copies.emplace_back(), words, "instances" );
-         }
-         if ( contents.copies.size() < 2 ) {
-            throw ValueError( "/instances", "instances are two or more: give \"words\" where all hold the same" );
-         }
-      } else if ( key != "fields" ) { // said once more, in other words
-         throw ValueError( "", "an entry has \"words\" or \"instances\", no \"" + std::string( key ) + "\"" );
-      }
-   }
-   if ( hasWords == hasInstances ) {
-      throw ValueError( "", "an entry has either \"words\" or \"instances\"" );
-   }
-   return contents;
-}
-
-void readFap( JsonStream & json, std::string const & pointer, ChipsFilter const & filter, FapContents & fap ) {
-   bool hasChipType = false;
-   json.enter();
-   for ( std::string key; json.nextKey( key ); ) {
-      if ( key == "chipType" ) {
-         hasChipType = true;
-         fap.chipType = Rex::below( key, [&] { return chipTypeFromText( json.value() ); } );
-      } else if ( key == "controls" ) {
-         fap.contents.controls = Rex::below( key, [&] { return controlsFromText( json.value() ); } );
-      } else if ( key == "tables" ) {
-         json.enter();
-         for ( std::string name; json.nextKey( name ); ) {
-            if ( !filter.isWanted( name ) ) {
-               json.skip();
-            } else if ( fap.contents.tables.contains( name ) ) {
-               throw ValueError( "/tables" + Rex::pointerStep( name ), "stands twice" );
-            } else {
-               Rex::below( "tables", [&] {
-                  Rex::below( name, [&] { fap.contents.tables[name] = tableFromText( json.value() ); } );
-               } );
-            }
-         }
-      } else {
-         throw ValueError( Rex::pointerStep( key ), "is unknown here" );
-      }
-   }
-   if ( !hasChipType ) {
-      throw ValueError( "", "\"chipType\" is missing" );
-   }
-   checkFits( json.path(), pointer + "/tables", fap );
-}
-
-} // namespace
 
 bool ChipsFilter::isWanted( std::string_view table ) const {
    return tables.empty() || std::ranges::find( tables, table ) != tables.end();
 }
 
-Simulator::TableContents tableFromText( std::string_view text ) {
-   return numbered( parsed( text ), []( element arrays ) {
-      return numbered( arrays, []( element entries ) { return numbered( entries, entryOf ); } );
-   } );
+ChipsReader::ChipsReader( std::string const & path, ChipsFilter filter )
+   : json_( path ), filter_( std::move( filter ) ) {
+   if ( kindOf( json_.ahead() ) != FileKind::chips ) {
+      throw InputError( this->path(), notA( FileKind::chips, json_.ahead() ) );
+   }
+   json_.enter();
+   std::string key;
+   if ( json_.nextKey( key ) && key != "faps" ) {
+      refuse( Rex::pointerStep( key ), "is unknown here" );
+   }
+   json_.enter();
 }
 
-std::map< U32, U32 > controlsFromText( std::string_view text ) {
-   return numbered( parsed( text ), []( element value ) {
-      std::uint64_t number = 0;
-      if ( value.get( number ) || number > 0xffffffff ) {
-         throw ValueError( "", "expected a number from 0 to 4294967295" );
+std::string ChipsReader::keyOf( Kind kind ) {
+   constexpr char const * keys[] = { "chipType", "controls", "tables" };
+   return keys[static_cast< std::size_t >( kind )];
+}
+
+void ChipsReader::refuse( std::string const & place, std::string const & what ) const {
+   inFile( path(), [&] { throw ValueError( place, what ); } );
+}
+
+void ChipsReader::skipRest() {
+   if ( std::exchange( isUnread_, false ) ) {
+      json_.skip();
+   }
+}
+
+bool ChipsReader::nextFap() {
+   for ( std::string number; json_.nextKey( number ); ) {
+      auto const fap = inFile( path(), [&] {
+         return Rex::below(
+            "faps", [&] { return Rex::below( number, [&] { return Rex::Codec< U16 >::fromKey( number ); } ); } );
+      } );
+      if ( !seen_.insert( fap ).second ) {
+         refuse( "/faps/" + number, "stands twice" );
       }
-      return static_cast< U32 >( number );
-   } );
+      if ( filter_.fap && *filter_.fap != fap ) {
+         json_.skip();
+         continue;
+      }
+      at_ = { .fap = fap };
+      seenHere_.clear();
+      hasChipType_ = false;
+      json_.enter();
+      level_ = Level::fap;
+      return true;
+   }
+   finish();
+   return false;
 }
 
-Hardware::ChipType chipTypeFromText( std::string_view text ) {
-   return chipTypeFromValue( JsonElements::valueOf( parsed( text ) ) );
+bool ChipsReader::nextPart() {
+   skipRest();
+   std::string key;
+   while ( level_ != Level::ended ) {
+      std::string const place = "/faps/" + std::to_string( at_.fap );
+      if ( level_ == Level::faps ) {
+         nextFap();
+         continue;
+      }
+      if ( !json_.nextKey( key ) ) {
+         if ( level_ == Level::fap && !hasChipType_ ) {
+            refuse( place, "\"chipType\" is missing" );
+         }
+         level_ = level_ == Level::tables ? Level::fap : Level::faps;
+         continue;
+      }
+      if ( !seenHere_.insert( level_ == Level::tables ? "tables " + key : key ).second ) {
+         refuse( place + ( level_ == Level::tables ? "/tables" : "" ) + Rex::pointerStep( key ), "stands twice" );
+      }
+      if ( level_ == Level::tables ) {
+         if ( !filter_.isWanted( key ) ) {
+            json_.skip();
+            continue;
+         }
+         at_.kind = Kind::table;
+         at_.name = key;
+      } else if ( key == "tables" ) {
+         json_.enter();
+         level_ = Level::tables;
+         continue;
+      } else if ( key == "chipType" || key == "controls" ) {
+         hasChipType_ = hasChipType_ || key == "chipType";
+         at_.kind = key == "chipType" ? Kind::chipType : Kind::controls;
+         at_.name.clear();
+      } else {
+         refuse( place + Rex::pointerStep( key ), "is unknown here" );
+      }
+      return isUnread_ = true;
+   }
+   return false;
 }
 
-void checkFits( std::string const & path, std::string const & pointer, FapContents const & fap ) {
-   inFile( path + ": " + pointer, [&] { Simulator::check( fap.contents.tables, fap.chipType ); } );
+std::string_view ChipsReader::text() {
+   isUnread_ = false;
+   return json_.value();
+}
+
+bool ChipsReader::passIfSame( std::string_view text ) {
+   bool const isSame = json_.passIfSame( text );
+   isUnread_ = isUnread_ && !isSame;
+   return isSame;
+}
+
+void ChipsReader::finish() {
+   std::string key;
+   if ( json_.nextKey( key ) ) {
+      refuse( Rex::pointerStep( key ), "is unknown here" );
+   }
+   json_.end();
+   level_ = Level::ended;
 }
 
 namespace {
@@ -154,40 +133,39 @@ namespace {
 void streamFaps( std::string const & path,
                  ChipsFilter const & filter,
                  std::function< void( U16 fap, FapContents contents ) > const & each ) {
-   JsonStream json( path );
-   if ( kindOf( json.ahead() ) != FileKind::chips ) {
-      throw InputError( path, notA( FileKind::chips, json.ahead() ) );
-   }
-   std::set< U16 > seen;
-   inFile( path, [&] {
-      json.enter();
-      for ( std::string key; json.nextKey( key ); ) {
-         if ( key != "faps" ) {
-            throw ValueError( Rex::pointerStep( key ), "is unknown here" );
-         }
-         json.enter();
-         for ( std::string number; json.nextKey( number ); ) {
-            Rex::below( "faps", [&] {
-               Rex::below( number, [&] {
-                  auto const fap = Rex::Codec< U16 >::fromKey( number );
-                  if ( !seen.insert( fap ).second ) {
-                     throw ValueError( "", "stands twice" );
-                  }
-                  if ( filter.fap && *filter.fap != fap ) {
-                     json.skip();
-                     return;
-                  }
-                  FapContents contents;
-                  readFap( json, "/faps/" + number, filter, contents );
-                  each( fap, std::move( contents ) );
-               } );
-            } );
-         }
+   ChipsReader chips( path, filter );
+   std::optional< U16 > fap;
+   FapContents contents;
+   auto const flush = [&] {
+      if ( fap ) {
+         checkFits( chips.path(), "/faps/" + std::to_string( *fap ) + "/tables", contents );
+         each( *fap, std::exchange( contents, {} ) );
       }
-      json.end();
-   } );
-   if ( filter.fap && !seen.contains( *filter.fap ) ) {
-      throw InputError( path, "there is no FAP " + std::to_string( *filter.fap ) );
+   };
+   while ( chips.nextPart() ) {
+      auto const part = chips.at();
+      if ( fap != part.fap ) {
+         flush();
+         fap = part.fap;
+      }
+      auto const text = chips.text();
+      chips.reading( [&] {
+         switch ( part.kind ) {
+         case ChipsReader::Kind::chipType:
+            contents.chipType = chipTypeFromText( text );
+            break;
+         case ChipsReader::Kind::controls:
+            contents.contents.controls = controlsFromText( text );
+            break;
+         case ChipsReader::Kind::table:
+            contents.contents.tables[part.name] = tableFromText( text );
+            break;
+         }
+      } );
+   }
+   flush();
+   if ( filter.fap && !chips.has( *filter.fap ) ) {
+      throw InputError( chips.path(), "there is no FAP " + std::to_string( *filter.fap ) );
    }
 }
 
@@ -200,15 +178,19 @@ bool isPlainChipsFile( std::string const & path ) {
 
 } // namespace
 
+void refuseAsAWhole( std::string const & path ) {
+   if ( isPlainChipsFile( path ) ) {
+      readChips( path );
+   }
+}
+
 void eachFap( std::string const & path,
               ChipsFilter const & filter,
               std::function< void( U16 fap, FapContents contents ) > const & each ) {
    try {
       streamFaps( path, filter, each );
    } catch ( InputError const & ) {
-      if ( isPlainChipsFile( path ) ) {
-         readChips( path ); // which tells everything that is wrong with the file, each with its line
-      }
+      refuseAsAWhole( path );
       throw;
    }
 }

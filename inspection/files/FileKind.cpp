@@ -95,7 +95,7 @@ FileKind kindOf( std::string_view text ) {
 }
 
 FileKind kindOfFile( std::string const & path ) {
-   ByteSource source( path );
+   ByteSource source( path, ByteSource::Use::look );
    std::vector< char > head( lookedAt );
    std::size_t size = 0;
    while ( size < head.size() ) {

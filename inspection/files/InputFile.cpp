@@ -1,6 +1,7 @@
 #include "inspection/files/InputFile.h"
 
 #include "inspection/files/InputError.h"
+#include "inspection/files/StandardInput.h"
 
 #include <algorithm>
 #include <cerrno>
@@ -8,6 +9,7 @@
 #include <fcntl.h>
 #include <sys/stat.h>
 #include <unistd.h>
+#include <utility>
 
 namespace Inspection {
 
@@ -46,6 +48,11 @@ std::string inputName( std::string const & path ) {
    return path == "-" ? "standard input" : path;
 }
 
+std::string & readAheadOfStandardInput() {
+   static std::string text;
+   return text;
+}
+
 std::string readFile( std::string const & path ) {
    auto const name = inputName( path );
    Descriptor const file( path );
@@ -67,9 +74,9 @@ std::string readFile( std::string const & path ) {
       refuseSize( name );
    }
    constexpr std::size_t step = 1 << 16;
-   std::string text;
-   std::size_t size = 0;
-   for ( text.resize( told + step );; text.resize( std::max( text.size(), size + step ) ) ) {
+   std::string text = path == "-" ? std::exchange( readAheadOfStandardInput(), {} ) : std::string();
+   std::size_t size = text.size();
+   for ( text.resize( size + told + step );; text.resize( std::max( text.size(), size + step ) ) ) {
       auto const got = ::read( file, text.data() + size, text.size() - size );
       if ( got < 0 && errno != EINTR ) {
          refuse( name, errno );

@@ -2,7 +2,6 @@
 
 #include "inspection/files/ChipsFile.h"
 #include "inspection/files/JsonElements.h"
-
 namespace Inspection {
 
 namespace {
@@ -64,28 +63,54 @@ JournalLineParser::Parsed JournalLineParser::parse( std::string_view line ) {
    return row( object, oneOf< Row::Kind >( op, "op", kindNames ) );
 }
 
-JournalLineParser::Text JournalLineParser::kept( std::string_view text ) {
-   auto const known = numbers_.find( text );
-   if ( known != numbers_.end() ) {
-      return { known->first, known->second };
+std::optional< Row > JournalLineParser::row( WrittenRow & written ) {
+   Row row{ .kind = written.kind, .event = written.event, .seq = written.seq };
+   row.isOfFap = written.isOfFap;
+   row.fap = written.fap;
+   if ( written.kind == Row::Kind::publish || ( areChipsAll_ && row.isOfFap && !chipTypes_.contains( row.fap ) ) ) {
+      return std::nullopt;
    }
-   auto const number = static_cast< U32 >( texts_.size() );
-   std::string_view const keep = texts_.emplace_back( text );
-   numbers_.emplace( keep, number );
-   return { keep, number };
+   if ( written.kind == Row::Kind::read || written.kind == Row::Kind::write ) {
+      if ( !latestTable_ || latestTable_->name != written.table ) {
+         latestTable_ = Catalogue::table( written.table );
+      }
+      if ( !latestTable_ || !latestTable_->hasMemory || !written.access( row, words_, before_ ) ) {
+         return std::nullopt;
+      }
+      row.table = latestTable_->name;
+      row.tableNumber = latestTable_->number;
+      row.layout = layoutOf( row );
+      if ( !row.layout || ( row.scope == Row::Scope::core &&
+                            static_cast< std::size_t >( row.core ) >= row.layout->selectors.size() ) ) {
+         return std::nullopt;
+      }
+   } else if ( written.kind == Row::Kind::control && !written.control( row ) ) {
+      return std::nullopt;
+   }
+   auto const * const tail = texts_.tailOf( written.rest );
+   if ( !tail || ( written.kind == Row::Kind::gate ) == tail->reason.empty() ) {
+      return std::nullopt;
+   }
+   row.reason = tail->reason;
+   row.function = tail->function;
+   row.source = tail->source.text;
+   row.cause = tail->cause.text;
+   row.originNumber = tail->source.number;
+   row.causeNumber = tail->cause.number;
+   return row;
 }
 
 Row JournalLineParser::row( dom::object const & object, Row::Kind kind ) {
    Row row{ .kind = kind, .event = number< U32 >( object, "event" ) };
-   auto const cause = kept( text( object, "cause" ) );
+   auto const cause = texts_.kept( text( object, "cause" ) );
    row.cause = cause.text;
    row.causeNumber = cause.number;
    if ( kind == Row::Kind::publish ) {
       publication( object, row );
       return row;
    }
-   row.function = kept( text( object, "function" ) ).text;
-   auto const source = kept( text( object, "source" ) );
+   row.function = texts_.kept( text( object, "function" ) ).text;
+   auto const source = texts_.kept( text( object, "source" ) );
    row.source = source.text;
    row.originNumber = source.number;
    dom::element fap;
@@ -95,7 +120,7 @@ Row JournalLineParser::row( dom::object const & object, Row::Kind kind ) {
       if ( row.isOfFap ) {
          checkFap( row.fap );
       }
-      row.reason = kept( text( object, "reason" ) ).text;
+      row.reason = texts_.kept( text( object, "reason" ) ).text;
       return row;
    }
    row.fap = number< U16 >( object, "fap" );
@@ -184,11 +209,11 @@ void JournalLineParser::access( dom::object const & object, Row & row ) {
 }
 
 void JournalLineParser::publication( dom::object const & object, Row & row ) {
-   row.path = kept( text( object, "path" ) ).text;
-   row.attribute = kept( text( object, "attribute" ) ).text;
+   row.path = texts_.kept( text( object, "path" ) ).text;
+   row.attribute = texts_.kept( text( object, "attribute" ) ).text;
    std::string_view key;
    if ( !object["key"].get( key ) ) {
-      row.key = kept( key ).text;
+      row.key = texts_.kept( key ).text;
    }
    published_ = valueOf( member( object, "value" ) );
    publishedBefore_ = valueOf( member( object, "before" ) );

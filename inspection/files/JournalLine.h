@@ -4,13 +4,12 @@
 #pragma once
 
 #include "chip/ChipType.h"
-#include "simulator/Row.h"
+#include "inspection/files/RowTexts.h"
+#include "inspection/files/WrittenRow.h"
 
-#include <deque>
 #include <map>
 #include <optional>
 #include <simdjson.h>
-#include <unordered_map>
 #include <variant>
 
 namespace Inspection {
@@ -38,23 +37,21 @@ class JournalLineParser {
    // its texts as long as the parser. Rex::ValueError.
    Parsed parse( std::string_view line );
 
+   // The same of a line whose form is known, which is quicker; none where it is of another form after all, or wrong, as
+   // parse() tells then.
+   std::optional< Simulator::Row > row( WrittenRow & written );
+
    // The gates that the row carries, in format 1: those that were found closed before it, and after it.
    std::vector< Simulator::Row > const & gatesBefore() const { return gatesBefore_; }
    std::vector< Simulator::Row > const & gatesAfter() const { return gatesAfter_; }
 
  private:
-   struct Text {
-      std::string_view text;
-      U32 number;
-   };
-
    Simulator::Row row( simdjson::dom::object const & object, Simulator::Row::Kind kind );
    void operation( simdjson::dom::object const & object, Simulator::Row & row );
    void access( simdjson::dom::object const & object, Simulator::Row & row );
    void publication( simdjson::dom::object const & object, Simulator::Row & row );
    void gatesInto( std::vector< Simulator::Row > & gates, simdjson::dom::object const & object, char const * key );
    void checkFap( U16 fap ) const;
-   Text kept( std::string_view text );
    Catalogue::Layout const * layoutOf( Simulator::Row const & row ) const;
 
    simdjson::dom::parser parser_;
@@ -62,8 +59,8 @@ class JournalLineParser {
    bool areChipsAll_ = false;
    std::vector< Simulator::Row > gatesBefore_;
    std::vector< Simulator::Row > gatesAfter_;
-   std::deque< std::string > texts_;
-   std::unordered_map< std::string_view, U32 > numbers_;
+   RowTexts texts_;
+   Catalogue::Table const * latestTable_ = nullptr;
    std::vector< U32 > words_;
    std::vector< U32 > before_;
    Rex::Value published_;

@@ -2,6 +2,7 @@
 
 #include "inspection/files/ChipsFile.h"
 #include "inspection/files/FileKind.h"
+#include "inspection/files/InputFile.h"
 #include "inspection/files/JournalLine.h"
 #include "inspection/files/Json.h"
 
@@ -19,56 +20,12 @@ using Simulator::Row;
 
 constexpr std::size_t chunk = 1 << 18;
 
-// Which lines to take apart. The program's own lines are told by what they begin with; others are taken apart first.
-class Wanted {
- public:
-   explicit Wanted( RowFilter const & filter )
-      : filter_( filter ), table_( "\"table\": \"" + filter.table + "\"" ),
-        function_( "\"function\": \"" + filter.function + "\"" ) {}
-
-   bool mayBe( std::string_view line ) const {
-      constexpr std::string_view begin = "{\"op\": \"";
-      if ( !line.starts_with( begin ) ) {
-         return true;
-      }
-      auto const op = line.substr( begin.size() );
-      bool const isRead = op.starts_with( "read\"" );
-      bool const isOperation = isRead || op.starts_with( "write\"" ) || op.starts_with( "control\"" );
-      if ( isOperation && !filter_.function.empty() && op.find( function_ ) == std::string_view::npos ) {
-         return false;
-      }
-      if ( !isRead && !op.starts_with( "write\"" ) ) {
-         return filter_.operationsToo || !op.starts_with( "control\"" );
-      }
-      if ( !filter_.operationsToo || ( isRead && !filter_.readsToo ) ) {
-         return false;
-      }
-      return filter_.table.empty() || ::memmem( op.data(), op.size(), table_.data(), table_.size() ) != nullptr ||
-             ::memmem( op.data(), op.size(), "\"table\": ", 9 ) == nullptr;
-   }
-
-   bool is( Row const & row ) const {
-      if ( !row.isOperation() ) {
-         return true;
-      }
-      bool const isRead = row.kind == Row::Kind::read;
-      return filter_.operationsToo && ( !isRead || filter_.readsToo ) &&
-             ( filter_.function.empty() || filter_.function == row.function ) &&
-             ( row.kind == Row::Kind::control || filter_.table.empty() || filter_.table == row.table );
-   }
-
- private:
-   RowFilter const & filter_;
-   std::string table_;
-   std::string function_;
-};
-
 } // namespace
 
 struct JournalReader::Parser : JournalLineParser {};
 
 JournalReader::JournalReader( std::string path )
-   : path_( std::move( path ) ), source_( path_ ), parser_( std::make_unique< Parser >() ) {
+   : path_( inputName( path ) ), source_( std::move( path ) ), parser_( std::make_unique< Parser >() ) {
    Line line{};
    if ( !nextLine( line ) ) {
       throw InputError( path_,
@@ -200,22 +157,43 @@ struct JournalReader::Reading {
    }
 
    Simulator::RowReader & reader;
-   Wanted wanted;
+   RowsWanted const wanted;
    std::optional< U32 > event = {};
    U64 operations = 0;
 };
 
+// A row of the program's own form. False where the line has to be read as JSON.
+bool JournalReader::readQuickly( Line const & line, Reading & reading ) {
+   WrittenRow written( line.text );
+   if ( !line.isWhole || format_ == 1 || !written.isKnown() ) {
+      return false;
+   }
+   if ( !reading.wanted.mayBe( written ) ) {
+      reading.operations = written.isOperation() ? written.seq : reading.operations;
+      return true;
+   }
+   auto const row = parser_->row( written );
+   if ( row ) {
+      reading.operations = row->isOperation() ? row->seq : reading.operations;
+      reading.row( *row );
+   }
+   return row.has_value();
+}
+
 Ending JournalReader::read( Simulator::RowReader & reader, RowFilter const & filter ) {
-   Reading reading{ .reader = reader, .wanted = Wanted( filter ) };
+   Reading reading{ .reader = reader, .wanted = RowsWanted( filter ) };
    std::optional< Ending > ending;
    bool isCutInLine = false;
    Line line = pending_;
    while ( !line.text.empty() || nextLine( line ) ) {
       Line const current = std::exchange( line, {} );
-      if ( current.text.empty() || ( current.isWhole && !reading.wanted.mayBe( current.text ) ) ) {
+      if ( current.text.empty() ) {
          continue;
       }
       try {
+         if ( !ending && readQuickly( current, reading ) ) {
+            continue;
+         }
          auto parsed = parser_->parse( current.text );
          if ( std::holds_alternative< JournalLineParser::BeginLine >( parsed ) ) {
             remarks_.push_back( place() + ": another journal begins here; only the first is read" );
@@ -251,6 +229,10 @@ Ending JournalReader::read( Simulator::RowReader & reader, RowFilter const & fil
          }
          throw InputError( error.place().empty() ? place() : place() + ": " + error.place(), error.what() );
       }
+   }
+   if ( format_ == 1 ) {
+      remarks_.push_back( path_ + ": is of format 1, an older one, which doesn't tell what the run began with, "
+                                  "nor how it ended" );
    }
    bool const isCut = isCutInLine || ( !ending && ( source_.isCut() || format_ != 1 ) );
    if ( !ending ) {

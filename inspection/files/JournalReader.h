@@ -17,22 +17,14 @@
 #include "chip/ChipType.h"
 #include "inspection/files/ByteStreams.h"
 #include "inspection/files/InputError.h"
+#include "inspection/files/RowFilter.h"
 #include "simulator/Row.h"
 
 #include <functional>
 #include <map>
-#include <unordered_map>
 #include <vector>
 
 namespace Inspection {
-
-// Which rows to read. Events and the journal's end are always told.
-struct RowFilter {
-   std::string table = {};    // reads and writes: only of this table; empty: of all
-   std::string function = {}; // operations: only of this function; empty: of all
-   bool readsToo = true;      // else no reads
-   bool operationsToo = true; // else gates and publications alone
-};
 
 class JournalReader {
  public:
@@ -68,6 +60,7 @@ class JournalReader {
    void theSwitchIs();
    void tell( Simulator::Ending const & ending, bool isCutInLine );
    struct Reading;
+   bool readQuickly( Line const & line, Reading & reading );
    std::string place() const { return path_ + ":" + std::to_string( lineNumber_ ); }
 
    std::string path_;

@@ -15,8 +15,6 @@ using Simulator::Row;
 
 constexpr std::size_t textBytes = 1 << 16;
 
-constexpr std::string_view kindNames[] = { "read", "write", "control", "gate", "publish" };
-constexpr std::string_view scopeNames[] = { "any", "all", "core" };
 constexpr std::string_view endingNames[] = { "complete", "interrupted", "assertion", "cut" };
 
 template< class Kind, std::size_t count >
@@ -41,11 +39,6 @@ void add( std::string & line, std::string_view key, std::integral auto number ) 
    addNumber( line, number );
 }
 
-void add( std::string & line, std::string_view key, bool value ) {
-   addKey( line, key );
-   line += value ? "true" : "false";
-}
-
 void add( std::string & line, std::string_view key, std::string_view text ) {
    addKey( line, key );
    line += quoted( std::string( text ) );
@@ -56,107 +49,8 @@ void add( std::string & line, std::string_view key, Rex::Value const & value ) {
    line += toJson( value, 0 );
 }
 
-void add( std::string & line, std::string_view key, Simulator::WordView words ) {
-   constexpr char digits[] = "0123456789abcdef";
-   addKey( line, key );
-   line += '[';
-   char text[] = "\"0x00000000\", ";
-   for ( std::size_t word = 0; word < words.size(); ++word ) {
-      for ( int digit = 0; digit < 8; ++digit ) {
-         text[3 + digit] = digits[words[word] >> ( 28 - 4 * digit ) & 15];
-      }
-      line.append( text, word + 1 < words.size() ? 14 : 12 );
-   }
-   line += ']';
-}
-
 std::string begun( std::string_view op ) {
    return "{\"op\": \"" + std::string( op ) + "\"";
-}
-
-// What the row has of its own.
-void addHead( std::string & line, Row const & row ) {
-   line += "{\"op\": \"";
-   line += nameOf( row.kind, kindNames );
-   line += '"';
-   if ( row.isOperation() ) {
-      add( line, "seq", row.seq );
-   }
-   add( line, "event", row.event );
-   if ( row.isOfFap && row.kind != Row::Kind::publish ) {
-      add( line, "fap", row.fap );
-   }
-   switch ( row.kind ) {
-   case Row::Kind::read:
-   case Row::Kind::write:
-      add( line, "table", row.table );
-      add( line, "variant", unsigned{ row.variant } );
-      add( line, "array", row.array );
-      if ( row.entry ) {
-         add( line, "entry", *row.entry );
-      } else {
-         line += ", \"entry\": null";
-      }
-      add( line, "scope", nameOf( row.scope, scopeNames ) );
-      if ( row.scope == Row::Scope::core ) {
-         add( line, "core", row.core );
-      }
-      add( line, "words", row.words );
-      if ( row.kind == Row::Kind::write ) {
-         add( line, "changed", row.changed );
-         if ( row.changed && !row.before.empty() ) {
-            add( line, "before", row.before );
-         }
-      }
-      break;
-   case Row::Kind::control:
-      add( line, "control", row.control );
-      add( line, "value", row.value );
-      add( line, "changed", row.changed );
-      if ( row.changed && row.valueBefore ) {
-         add( line, "before", *row.valueBefore );
-      }
-      break;
-   case Row::Kind::gate:
-      add( line, "reason", row.reason );
-      break;
-   case Row::Kind::publish:
-      add( line, "path", row.path );
-      add( line, "attribute", row.attribute );
-      if ( row.key ) {
-         add( line, "key", *row.key );
-      }
-      add( line, "value", *row.published );
-      add( line, "before", *row.publishedBefore );
-      break;
-   }
-}
-
-// What it shares with many others.
-std::string originOf( Row const & row ) {
-   std::string line;
-   add( line, "function", row.function );
-   add( line, "source", row.source );
-   return line;
-}
-
-std::string causeOf( Row const & row ) {
-   std::string line;
-   add( line, "cause", row.cause );
-   return line + "}";
-}
-
-// The text of a number, made when it is first asked for.
-template< class Make >
-std::string const & known( std::vector< std::string > & texts, std::size_t number, Make const & make ) {
-   if ( texts.size() <= number ) {
-      texts.resize( number + 1 );
-   }
-   auto & text = texts[number];
-   if ( text.empty() ) {
-      text = make();
-   }
-   return text;
 }
 
 } // namespace
@@ -175,24 +69,20 @@ void JournalWriter::eventBegins( U32 event, Rex::Value const & what ) {
    std::string line = begun( "event" );
    add( line, "event", event );
    add( line, "what", what );
-   text_ += line + "}\n";
+   sink_.append( line + "}\n" );
 }
 
 void JournalWriter::row( Row const & row ) {
-   addHead( text_, row );
-   if ( row.kind != Row::Kind::publish ) {
-      text_ += known( origins_, row.originNumber, [&] { return originOf( row ); } );
-   }
-   text_ += known( causes_, row.causeNumber, [&] { return causeOf( row ) + "\n"; } );
-   if ( text_.size() >= textBytes ) {
-      sink_.append( text_ );
-      text_.clear();
+   lines_.add( row );
+   if ( lines_.text().size() >= textBytes ) {
+      sink_.append( lines_.text() );
+      lines_.clear();
    }
 }
 
 void JournalWriter::eventEnds( U32 ) {
-   sink_.append( text_ );
-   text_.clear();
+   sink_.append( lines_.text() );
+   lines_.clear();
    sink_.bringToDisk();
 }
 
@@ -206,15 +96,17 @@ void JournalWriter::ends( Ending const & ending ) {
       add( line, "function", std::string_view( ending.function ) );
       add( line, "source", std::string_view( ending.source ) );
    }
-   text_ += line + "}\n";
    eventEnds( ending.events );
+   sink_.append( line + "}\n" );
    sink_.close();
 }
 
 std::string JournalWriter::line( Row const & row ) {
-   std::string line;
-   addHead( line, row );
-   return line + ( row.kind == Row::Kind::publish ? "" : originOf( row ) ) + causeOf( row );
+   Row alone = row; // its numbers stand for nothing here
+   alone.originNumber = alone.causeNumber = 0;
+   RowLines lines;
+   lines.add( alone );
+   return std::string( lines.text().substr( 0, lines.text().size() - 1 ) );
 }
 
 } // namespace Inspection

@@ -10,9 +10,7 @@
 #pragma once
 
 #include "inspection/files/ByteStreams.h"
-#include "simulator/Row.h"
-
-#include <vector>
+#include "inspection/files/RowLines.h"
 
 namespace Inspection {
 
@@ -35,10 +33,7 @@ class JournalWriter final : public Simulator::RowReader {
 
  private:
    ByteSink sink_;
-   std::string text_; // on its way to the sink
-   // What many lines share, by the number that the row has for it.
-   std::vector< std::string > origins_;
-   std::vector< std::string > causes_;
+   RowLines lines_; // on their way to the sink
 };
 
 } // namespace Inspection

@@ -127,6 +127,23 @@ std::string_view JsonStream::value() {
    return { buffer_.data() + kept_, from_ - kept_ };
 }
 
+bool JsonStream::passIfSame( std::string_view value ) {
+   char letter = 0;
+   if ( !peek( letter ) ) {
+      refuse( "the file is cut" );
+   }
+   while ( to_ - from_ < value.size() ) {
+      if ( !refill() ) {
+         return false;
+      }
+   }
+   if ( std::memcmp( buffer_.data() + from_, value.data(), value.size() ) != 0 ) {
+      return false;
+   }
+   from_ += value.size();
+   return true;
+}
+
 void JsonStream::end() {
    char letter = 0;
    if ( peek( letter ) ) {

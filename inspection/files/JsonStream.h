@@ -33,6 +33,8 @@ class JsonStream {
    void skip();
    // Its text, valid until the next call; bytes behind it may be read as simdjson does.
    std::string_view value();
+   // Passes over the value if it begins with these letters, which are a whole value.
+   bool passIfSame( std::string_view value );
    // Only white space may follow.
    void end();
 

@@ -35,18 +35,23 @@ OutputFile::OutputFile( std::string path ) : path_( std::move( path ) ) {
 }
 
 void OutputFile::write( std::string const & text ) const {
+   stream( [&]( std::ostream & out ) { out << text; } );
+}
+
+void OutputFile::stream( std::function< void( std::ostream & out ) > const & write ) const {
    if ( !isWanted() ) {
       return;
    }
    if ( isStandard() ) {
-      std::cout << text << std::flush;
+      write( std::cout );
+      std::cout.flush();
       if ( !std::cout ) {
          refusePath( "standard output", errno );
       }
       return;
    }
    std::ofstream out( path_, std::ios::binary );
-   out << text;
+   write( out );
    out.close();
    if ( !out ) {
       refusePath( path_, errno );

@@ -5,6 +5,8 @@
 //    chips.write( text );                 // once everything went well
 #pragma once
 
+#include <functional>
+#include <ostream>
 #include <stdexcept>
 #include <string>
 #include <vector>
@@ -21,6 +23,8 @@ class OutputFile {
    std::string path() const { return isStandard() ? "/dev/stdout" : path_; }
    // Throws InputError.
    void write( std::string const & text ) const;
+   // Runs `write` on the file's stream, where a file is wanted: for what is large. InputError.
+   void stream( std::function< void( std::ostream & out ) > const & write ) const;
    // Runs `write`, which writes the file itself and throws "<path>: <reason>" as a std::runtime_error where it can't.
    template< class Write >
    void writing( Write const & write ) const {

@@ -53,6 +53,28 @@ class ReportData : public Simulator::RowReader {
       std::vector< bool > isMet_;
       std::vector< U32 > all_;
    };
+   // By number; most rows of a run count for the same few.
+   class Tallies {
+    public:
+      Tally & operator[]( U32 number ) {
+         if ( number >= all_.size() ) {
+            all_.resize( std::size_t{ number } + 1 );
+         }
+         return all_[number];
+      }
+      // Those that were counted for, in their order: `each( number, tally )`.
+      template< class Each >
+      void each( Each const & each ) const {
+         for ( std::size_t number = 0; number < all_.size(); ++number ) {
+            if ( all_[number].rows != std::array< U32, kinds >{} ) {
+               each( static_cast< U32 >( number ), all_[number] );
+            }
+         }
+      }
+
+    private:
+      std::vector< Tally > all_;
+   };
    struct EventOf {
       U32 number;
       U32 firstRow;
@@ -104,10 +126,10 @@ class ReportData : public Simulator::RowReader {
    std::vector< LayoutOf > layouts_;
    std::vector< std::pair< U32, U32 > > origins_; // function and source, by the row's number
    std::vector< U32 > causeNumbers_;
-   std::map< U32, Tally > byFunction_;
-   std::map< U32, Tally > byCause_;
-   std::map< U32, Tally > byTable_;
-   std::map< U32, Tally > byFap_;
+   Tallies byFunction_;
+   Tallies byCause_;
+   Tallies byTable_;
+   Tallies byFap_;
    std::unordered_map< U32, Published > published_; // by what the row is
    std::optional< Simulator::Ending > ending_;
 };

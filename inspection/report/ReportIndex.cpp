@@ -127,14 +127,14 @@ std::string ReportData::index() const {
                                       std::pair( "tables", &byTable_ ),
                                       std::pair( "faps", &byFap_ ) } ) {
       JsonList list;
-      for ( auto const & [number, tally] : *all ) {
+      all->each( [&]( U32 number, Tally const & tally ) {
          list.add( number );
          for ( U32 const rows : tally.rows ) {
             list.add( rows );
          }
          list.add( tally.changes );
          list.add( tally.changedControls );
-      }
+      } );
       tallies += std::string( tallies.empty() ? "" : "," ) + "\"" + name + "\":" + list.done();
    }
    Simulator::Ending const ending = ending_.value_or( Simulator::Ending{} );

@@ -19,11 +19,27 @@ std::string hexadecimal( U64 number ) {
    return "0x" + std::string( digits.data(), end );
 }
 
+U64 mixed( U64 hash, U64 part ) {
+   hash = ( hash ^ part ) * 0x9e3779b97f4a7c15;
+   return hash ^ hash >> 29;
+}
+
+// Of what a row has put where: most rows of a long run have been there before.
 U64 hashOf( Simulator::Row const & row ) {
-   U64 hash = reinterpret_cast< std::uintptr_t >( row.layout );
+   using Kind = Simulator::Row::Kind;
+   if ( row.kind == Kind::control ) {
+      return mixed( mixed( 1, row.control ), row.value );
+   }
+   std::hash< std::string_view > const ofText;
+   if ( row.kind == Kind::publish ) {
+      auto const * const number = row.published->integer();
+      U64 const value = number ? static_cast< U64 >( *number ) : ofText( Rex::toText( *row.published ) );
+      return mixed( mixed( mixed( 2, ofText( row.path ) ), ofText( row.attribute ) ), value );
+   }
+   // Mixed before the words come, which else could undo what tells one table from another.
+   U64 hash = mixed( 3, U64{ row.tableNumber } << 16 | U64{ row.variant } << 8 | row.layout->chipType );
    for ( U32 const word : row.words ) {
-      hash = ( hash ^ word ) * 0x9e3779b97f4a7c15;
-      hash ^= hash >> 29;
+      hash = mixed( hash, word );
    }
    return hash;
 }
@@ -41,17 +57,24 @@ void SearchableValues::add( Values & values, std::string value, Simulator::Row c
 
 void SearchableValues::follow( Simulator::Row const & row ) {
    using Kind = Simulator::Row::Kind;
-   if ( row.kind == Kind::write && row.layout ) {
-      if ( seen_.size() >= contentsInAll ) {
-         isWhole_ = false;
-      } else if ( seen_.insert( hashOf( row ) ).second ) {
-         for ( auto & [name, value] : Simulator::decode( *row.layout, row.words ) ) {
-            add( all_[{ std::string( row.table ), name }], std::move( value ), row );
-         }
+   bool const isWrite = row.kind == Kind::write && row.layout;
+   if ( !isWrite && row.kind != Kind::control && ( row.kind != Kind::publish || row.published->isNull() ) ) {
+      return;
+   }
+   if ( seen_.size() >= contentsInAll ) {
+      isWhole_ = false;
+      return;
+   }
+   if ( !seen_.insert( hashOf( row ) ).second ) {
+      return;
+   }
+   if ( isWrite ) {
+      for ( auto & [name, value] : Simulator::decode( *row.layout, row.words ) ) {
+         add( all_[{ std::string( row.table ), name }], std::move( value ), row );
       }
    } else if ( row.kind == Kind::control ) {
       add( all_[{ "control " + std::to_string( row.control ), "" }], hexadecimal( row.value ), row );
-   } else if ( row.kind == Kind::publish && !row.published->isNull() ) {
+   } else {
       auto const * const number = row.published->integer();
       auto const * const text = row.published->text();
       add( all_[{ std::string( row.path ), std::string( row.attribute ) }],

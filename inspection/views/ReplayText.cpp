@@ -1,6 +1,7 @@
 #include "inspection/views/ReplayText.h"
 
 #include "inspection/NamesAsTyped.h"
+#include "inspection/views/DifferencesText.h"
 
 namespace Inspection {
 

@@ -3,6 +3,7 @@
 #include "inspection/NamesAsTyped.h"
 #include "inspection/files/Json.h"
 #include "inspection/views/CatalogueText.h"
+#include "inspection/views/ReplayText.h"
 #include "l3sm/verbs/Verbs.h"
 
 #include <iostream>
@@ -24,13 +25,15 @@ struct Options {
 };
 
 // From the journals that were named, or else from those of the examples.
-std::vector< Touch > touchesOf( Catalogue::Table const & table, Options const & options ) {
+std::vector< Touch >
+touchesOf( Catalogue::Table const & table, Options const & options, std::vector< std::string > & remarks ) {
    if ( options.journals.empty() ) {
       return Inspection::touchesOf( table );
    }
    std::vector< KeptRows > journals;
    for ( std::string const & path : options.journals ) {
-      journals.push_back( rowsOf( path ) );
+      auto const & rows = journals.emplace_back( rowsOf( path ) );
+      remarks.insert( remarks.end(), rows.remarks.begin(), rows.remarks.end() );
    }
    return Inspection::touchesOf( table, journals );
 }
@@ -44,7 +47,8 @@ int answer( Options const & options ) {
    if ( table && !isOnChip( *table, chipType ) ) {
       throw InputError( std::string( "the " ) + options.chip + " has no table " + table->name );
    }
-   auto const touches = table ? touchesOf( *table, options ) : std::vector< Touch >();
+   std::vector< std::string > remarks;
+   auto const touches = table ? touchesOf( *table, options, remarks ) : std::vector< Touch >();
    if ( options.json ) {
       Value::Object classes;
       for ( auto const & each : Catalogue::tables() ) {
@@ -55,9 +59,14 @@ int answer( Options const & options ) {
             }
          }
       }
-      std::cout << toJson( Value::Object{ { "classes", classes } }, 5 ) << '\n';
+      Value::Object all{ { "classes", classes } };
+      if ( !remarks.empty() ) {
+         all["remarks"] = Value::List( remarks.begin(), remarks.end() );
+      }
+      std::cout << toJson( all, 5 ) << '\n';
    } else if ( table ) {
       std::string const runs = options.journals.empty() ? "the examples" : "these journals";
+      showRemarks( std::cout, remarks, Style::of( std::cout ) );
       showTable( std::cout, *table, chipType, touches, runs, Style::of( std::cout ) );
    } else {
       listTables( std::cout, chipType, Style::of( std::cout ) );

@@ -1,10 +1,8 @@
-// The verb `diff`: two chip-contents files, entry by entry and field by field.
-#include "inspection/ChipDifferences.h"
-#include "inspection/NamesAsTyped.h"
-#include "inspection/views/Progress.h"
+// The verb `diff`: two files that tell of chips or of state, entry by entry and field by field.
+#include "inspection/FileDifferences.h"
+#include "inspection/views/DifferencesText.h"
 #include "l3sm/verbs/Verbs.h"
 
-#include <algorithm>
 #include <iostream>
 #include <memory>
 
@@ -14,50 +12,74 @@ using namespace Inspection;
 
 namespace {
 
+constexpr std::size_t mostEvents = 2;
+
 struct Options {
    std::string a;
    std::string b;
+   std::vector< std::string > at;
    std::vector< std::string > tables;
+   TypedPlace place;
    std::optional< U16 > fap;
+   bool stat = false;
+   bool all = false;
    bool json = false;
 };
 
+U32 eventNamed( std::string const & typed ) {
+   try {
+      return Rex::Codec< U32 >::fromKey( typed );
+   } catch ( Rex::ValueError const & ) {
+      throw InputError( "--at " + typed, "is no event; events have numbers, 0 for the start" );
+   }
+}
+
 int answer( Options const & options ) {
-   for ( std::string const & table : options.tables ) {
-      tableNamed( table );
+   DiffQuestion question{ .a = options.a,
+                          .b = options.b,
+                          .filter = ContentsFilter( options.tables, options.place, options.fap ),
+                          .countsOnly = options.stat };
+   for ( auto const & event : options.at ) {
+      question.events.push_back( eventNamed( event ) );
    }
-   Progress progress( "reading files" );
-   auto const chipsA = readChips( options.a );
-   progress.stands( 1, 2 );
-   auto const chipsB = readChips( options.b );
-   progress.stands( 2, 2 );
-   if ( options.fap && !chipsA.contains( *options.fap ) && !chipsB.contains( *options.fap ) ) {
-      throw InputError( "neither file has a FAP " + std::to_string( *options.fap ) );
+   if ( question.events.size() > mostEvents ) {
+      throw InputError( "--at is given " + std::to_string( question.events.size() ) + " times; there are two sides" );
    }
-   auto all = differencesOf( chipsA, chipsB );
-   std::erase_if( all, [&]( Difference const & it ) {
-      bool const isTable =
-         options.tables.empty() || std::ranges::find( options.tables, it.table ) != options.tables.end();
-      return !isTable || ( options.fap && *options.fap != it.fap );
-   } );
+   auto const differences = differencesOf( question );
    if ( options.json ) {
-      std::cout << toJson( Rex::Value::Object{ { "differences", differencesValue( all ) } }, 2 ) << '\n';
+      std::cout << toJson( valueOf( differences, options.stat ), 2 ) << '\n';
    } else {
-      showDifferences( std::cout, all, options.a, options.b, Style::of( std::cout ) );
+      showDifferences( std::cout,
+                       differences,
+                       options.stat  ? DifferencesShown::counts
+                       : options.all ? DifferencesShown::all
+                                     : DifferencesShown::first,
+                       Style::of( std::cout ) );
    }
-   return all.empty() ? 0 : 1;
+   return differences.isAlike() ? 0 : 1;
 }
 
 } // namespace
 
 Action defineDiff( VerbOptions & verb ) {
    auto const options = std::make_shared< Options >();
-   verb.required( "A", options->a, "a file that `l3sm run --chips` wrote" );
-   verb.required( "B", options->b, "another" );
-   verb.texts( "--table", options->tables, "only these tables" );
+   verb.required(
+      "A", options->a, "a file that `l3sm run` wrote with --chips, --journal, --state or --save; `-`: standard input" );
+   verb.text( "B", options->b, "another; of a journal alone, two of its events are compared: --at EVENT --at EVENT" );
+   verb.repeated( "--at",
+                  options->at,
+                  "of a journal: what stood there when this event was over, not at its end; given twice: of each side",
+                  "EVENT" );
+   verb.texts( "--table", options->tables, "only these: TABLE, TABLE.FIELD, `controls` or control.NUMBER", "TABLE" );
    verb.number( "--fap", options->fap, "only this FAP" );
+   verb.number( "--variant", options->place.variant, "only this variant" );
+   verb.number( "--array", options->place.array, "only this array index" );
+   verb.number( "--entry", options->place.entry, "only this entry" );
+   verb.flag( "--stat", options->stat, "count by table" );
+   verb.flag( "--all", options->all, "every place that differs" );
    verb.flag( "--json", options->json, "for programs" );
-   verb.footer( "Exit status: 0 no difference, 1 there are some." );
+   verb.footer( "A chips file and a journal can be compared with each other. Exit status: 0 no difference, 1 there are "
+                "some." );
    return [options] { return answer( *options ); };
 }
 

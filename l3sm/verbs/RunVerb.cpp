@@ -4,7 +4,7 @@
 #include "inspection/Play.h"
 #include "inspection/RunSummaryValue.h"
 #include "inspection/Version.h"
-#include "inspection/files/ChipsFile.h"
+#include "inspection/files/ChipsWriter.h"
 #include "inspection/files/JournalWriter.h"
 #include "inspection/files/OutputFile.h"
 #include "inspection/files/SavedScenario.h"
@@ -110,11 +110,7 @@ class Run {
 
  private:
    void writeFiles() {
-      if ( chips_.isWanted() ) {
-         std::ostringstream text;
-         writeChips( text, chipsOf( *sw_ ) );
-         chips_.write( text.str() );
-      }
+      chips_.stream( [this]( std::ostream & out ) { writeChipsOf( *sw_, out ); } );
       if ( state_.isWanted() ) {
          state_.write( toJson( sw_->state().value(), 2 ) + "\n" );
       }

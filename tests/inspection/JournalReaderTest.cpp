@@ -181,9 +181,66 @@ TEST( JournalReader, PassesOverRowsThatNobodyWantsWhateverTheyLookLike ) {
    auto const text = begin + event0 + aWrite + other + end;
    EXPECT_EQ( readingOf( text ).heard.size(), 5u );
    EXPECT_EQ( readingOf( text, { .readsToo = false } ).heard.size(), 4u );
-   EXPECT_EQ( readingOf( text, { .table = "EnablersVectors" } ).heard.size(), 3u );
-   EXPECT_EQ( readingOf( text, { .table = "IppdFerTrapCfg" } ).heard.size(), 5u );
+   EXPECT_EQ( readingOf( text, { .tables = { "EnablersVectors" } } ).heard.size(), 3u );
+   EXPECT_EQ( readingOf( text, { .tables = { "IppdFerTrapCfg" } } ).heard.size(), 5u );
    EXPECT_EQ( readingOf( text, { .operationsToo = false } ).heard.size(), 3u );
+}
+
+TEST( JournalReader, PassesOverGatesPublicationsFapsAndLaterEvents ) {
+   Folder const folder;
+   writeSample( folder / "run.jsonl" );
+   auto const text = folder.text( "run.jsonl" );
+   auto const kinds = [&]( RowFilter const & filter ) {
+      std::string all;
+      for ( auto const & line : readingOf( text, filter ).heard ) {
+         all += line.starts_with( "{" ) ? line[8] : ' ';
+      }
+      return all;
+   };
+   EXPECT_EQ( kinds( {} ), " rwwccggpp  rwwccggpp  " ); // by the letter that a kind begins with
+   EXPECT_EQ( kinds( { .gatesToo = false } ), " rwwccpp  rwwccpp  " );
+   EXPECT_EQ( kinds( { .publicationsToo = false } ), " rwwccgg  rwwccgg  " );
+   EXPECT_EQ( kinds( { .fap = 7 } ), " ggpp  ggpp  " );
+   EXPECT_EQ( kinds( { .last = 0 } ), " rwwccggpp    " );
+}
+
+// A line of the program's own form is taken apart by where its parts stand; with one more space it is read as JSON.
+TEST( JournalReader, HearsTheSameOfALineInAnotherForm ) {
+   Folder const folder;
+   writeSample( folder / "run.jsonl" );
+   auto const text = folder.text( "run.jsonl" );
+   std::string spaced = text;
+   for ( auto at = spaced.find( "{\"op\":" ); at != std::string::npos; at = spaced.find( "{\"op\":", at + 2 ) ) {
+      spaced.insert( at + 1, " " );
+   }
+   ASSERT_NE( spaced, text );
+   EXPECT_EQ( readingOf( text ).heard, readingOf( spaced ).heard );
+}
+
+TEST( WrittenRow, KnowsNoLineWhoseWordsAreNoneOfItsForm ) {
+   std::string const line =
+      R"({"op": "read", "seq": 1, "event": 0, "fap": 0, "table": "IppdFerTrapCfg", "variant": 0, "array": 3, )"
+      R"("entry": null, "scope": "any", "words": ["0x09afAF00"], "function": "f", "source": "s", "cause": "c"})";
+   auto const wordsOf = [&]( std::string const & digits ) {
+      std::string with = line;
+      with.replace( with.find( "09afAF00" ), 8, digits );
+      WrittenRow written( with );
+      EXPECT_TRUE( written.isKnown() );
+      Simulator::Row row{ .kind = Simulator::Row::Kind::read, .event = 0 };
+      std::vector< U32 > words;
+      std::vector< U32 > before;
+      bool const isKnown = written.access( row, words, before );
+      return isKnown ? std::optional( words ) : std::nullopt;
+   };
+   EXPECT_EQ( wordsOf( "09afaf00" ), std::vector< U32 >{ 0x09afaf00 } );
+   EXPECT_EQ( wordsOf( "fedcba98" ), std::vector< U32 >{ 0xfedcba98 } );
+   for ( char const letter : std::string( "AFGg/:`@ \"x" ) ) { // those beside the digits, and others
+      for ( std::size_t place = 0; place < 8; ++place ) {
+         std::string digits = "00000000";
+         digits[place] = letter;
+         EXPECT_EQ( wordsOf( digits ), std::nullopt ) << digits;
+      }
+   }
 }
 
 TEST( JournalReader, TellsWhichLineIsWrong ) {
@@ -240,7 +297,10 @@ TEST( JournalReader, ReadsFormat1 ) {
                  R"("scope": "all", "words": ["0x00000002"], "changed": true, )" + from + R"(, "gates": [)" + gate +
                  R"(1, "cause": "x y"}], "gatesAfter": [)" + gate + R"(3, "cause": "z"}]})" + "\n" );
    EXPECT_EQ( reading.error, "" );
-   EXPECT_EQ( reading.remarks, Remarks{} );
+   EXPECT_EQ(
+      reading.remarks,
+      Remarks{ "run.jsonl: is of format 1, an older one, which doesn't tell what the run began with, nor how it "
+               "ended" } );
    ASSERT_EQ( reading.heard.size(), 13u );
    EXPECT_EQ( reading.heard[0], "event 0 null" );
    EXPECT_EQ( reading.heard[3], "event 1 null" );

@@ -75,6 +75,7 @@ inline void playSampleEvent( Simulator::RowReader & reader, U32 event = 0 ) {
       row.source = "L3Sm.cpp:41";
       row.cause = "chip-init";
       row.table = "IppdFerTrapCfg";
+      row.tableNumber = Catalogue::table( row.table )->number;
       row.array = 3;
       row.words = words;
       return row;
@@ -88,6 +89,7 @@ inline void playSampleEvent( Simulator::RowReader & reader, U32 event = 0 ) {
    reader.row( write );
    auto core = of( Row::Kind::write, 3 );
    core.table = "EnablersVectors";
+   core.tableNumber = Catalogue::table( core.table )->number;
    core.array = 1;
    core.entry = 22;
    core.words = wide;
