@@ -5,7 +5,9 @@
 #include "simulator/TableMap.h"
 
 #include <algorithm>
+#include <set>
 #include <tuple>
+#include <unordered_map>
 
 namespace Inspection {
 
@@ -15,78 +17,54 @@ using Simulator::Row;
 using Simulator::StagedDriver;
 using Words = std::vector< U32 >;
 
-// Who wrote to a place in the event, in order.
+constexpr U32 none = ~U32{ 0 };
+
+// Who wrote to a place in the event: a row of it, and the next who did.
 struct Writing {
-   std::string_view function;
-   std::string_view source;
-   std::string_view cause;
-   Words words;
+   U32 row;
+   U32 next = none;
 };
 
-// A copy of an entry, or a control, as the journal's rows name it.
+// A copy of an entry, or a control.
 struct Place {
-   Row like; // without its words
-   U32 copy = 0;
-   std::vector< Writing > writings;
+   U32 copy;
+   U32 first; // of the writings
+   U32 last;
 };
 
-using Address = std::tuple< U16, U32, U32, U32 >; // chip, selectors, address; a control: no selectors
-
-// The bits of the fields that a writing has set to what the place ends as, and nobody after it has touched.
-class Attribution {
- public:
-   Attribution( Place const & place, StagedDriver::Change const & change ) : place_( place ), change_( change ) {}
-
-   // For each writing that counts, the words as they would be with its fields alone.
-   std::vector< std::pair< Writing const *, Words > > parts() const {
-      std::vector< std::pair< Writing const *, Words > > parts;
-      for ( auto const & field : place_.like.layout->fields ) {
-         if ( isAlike( field, change_.before, change_.after ) ) {
-            continue;
-         }
-         Writing const * const by = lastSetter( field );
-         auto part = std::ranges::find( parts, by, &std::pair< Writing const *, Words >::first );
-         if ( part == parts.end() ) {
-            part = parts.insert( part, { by, change_.before } );
-         }
-         copy( field, change_.after, part->second );
-      }
-      return parts;
-   }
-
- private:
-   static bool bit( Words const & words, unsigned at ) { return words[at / 32] >> at % 32 & 1; }
-
-   static bool isAlike( Catalogue::Field const & field, Words const & a, Words const & b ) {
-      for ( unsigned at = field.offset; at < field.offset + unsigned{ field.width }; ++at ) {
-         if ( bit( a, at ) != bit( b, at ) ) {
-            return false;
-         }
-      }
-      return true;
-   }
-
-   static void copy( Catalogue::Field const & field, Words const & from, Words & to ) {
-      for ( unsigned at = field.offset; at < field.offset + unsigned{ field.width }; ++at ) {
-         to[at / 32] = ( to[at / 32] & ~( U32{ 1 } << at % 32 ) ) | U32{ bit( from, at ) } << at % 32;
-      }
-   }
-
-   Writing const * lastSetter( Catalogue::Field const & field ) const {
-      Words const * before = &change_.before;
-      Writing const * setter = &place_.writings.front();
-      for ( Writing const & writing : place_.writings ) {
-         if ( !isAlike( field, *before, writing.words ) ) {
-            setter = &writing;
-         }
-         before = &writing.words;
-      }
-      return setter;
-   }
-
-   Place const & place_;
-   StagedDriver::Change const & change_;
+// A copy of an entry on its bus; of a control its number, with selectors that no block has.
+struct Address {
+   U16 chip;
+   U32 selectorA;
+   U32 selectorB;
+   U32 address;
+   bool operator==( Address const & ) const = default;
 };
+
+struct AddressHash {
+   std::size_t operator()( Address const & at ) const {
+      U64 const block = U64{ at.chip } << 32 ^ U64 { at.selectorA } << 48 ^ U64 { at.selectorB } << 40;
+      return ( block ^ at.address ) * 0x9e3779b97f4a7c15 >> 7;
+   }
+};
+
+// Visits the words that a field lies in, each with the field's bits there.
+template< class Visit >
+void eachWord( Catalogue::Field const & field, Visit const & visit ) {
+   unsigned const end = field.offset + unsigned{ field.width };
+   for ( unsigned at = field.offset; at < end; ) {
+      unsigned const bits = std::min( 32 - at % 32, end - at );
+      visit( at / 32, ( bits == 32 ? ~U32{ 0 } : ( U32{ 1 } << bits ) - 1 ) << at % 32 );
+      at += bits;
+   }
+}
+
+template< class A, class B >
+bool isAlike( Catalogue::Field const & field, A const & a, B const & b ) {
+   U32 different = 0;
+   eachWord( field, [&]( std::size_t word, U32 mask ) { different |= ( a[word] ^ b[word] ) & mask; } );
+   return different == 0;
+}
 
 class Planner final : public Simulator::RowReader {
  public:
@@ -97,6 +75,10 @@ class Planner final : public Simulator::RowReader {
       plan_.events.push_back(
          { .event = event, .what = event == 0 ? "start" : scenario_.events[event - 1].text(), .changes = {} } );
       places_.clear();
+      writings_.clear();
+      rows_.clear();
+      words_.clear();
+      firstWords_.clear();
    }
 
    void row( Row const & row ) override {
@@ -105,15 +87,16 @@ class Planner final : public Simulator::RowReader {
       event.writes += row.kind == Row::Kind::write;
       event.changingWrites += row.isOperation() && row.changed;
       if ( row.kind == Row::Kind::control ) {
-         wrote( { row.fap, 0, 0, row.control }, row, 0, {} );
+         keep( row );
+         wrote( atControl( row.fap, row.control ), 0 );
       } else if ( row.kind == Row::Kind::write ) {
+         keep( row );
          bool const isCore = row.scope == Row::Scope::core;
          auto const copies = static_cast< U32 >( row.layout->selectors.size() );
          for ( U32 copy = isCore ? static_cast< U32 >( row.core ) : 0; copy < copies; ++copy ) {
             auto const at =
                Simulator::addressOf( *row.layout, static_cast< U32 >( row.array ), row.entry.value_or( 0 ), copy );
-            wrote(
-               { row.fap, at.selectorA, at.selectorB, at.address }, row, copy, { row.words.begin(), row.words.end() } );
+            wrote( { row.fap, at.selectorA, at.selectorB, at.address }, copy );
             if ( isCore ) {
                break;
             }
@@ -122,72 +105,102 @@ class Planner final : public Simulator::RowReader {
    }
 
    void eventEnds( U32 ) override {
-      for ( StagedDriver::Change const & change : staged_.changes() ) {
-         take( change );
-      }
+      staged_.eachChange( [this]( StagedDriver::Change const & change ) { take( change ); } );
       foldCopies( plan_.events.back().changes );
       staged_.commit();
    }
 
  private:
-   std::string_view kept( std::string_view text ) {
-      if ( plan_.texts.empty() || plan_.texts.back() != text ) {
-         plan_.texts.emplace_back( text );
-      }
-      return plan_.texts.back();
+   static Address atControl( U16 chip, U32 control ) { return { chip, none, none, control }; }
+
+   void keep( Row const & row ) {
+      auto const & origin = plan_.texts.origin( row );
+      Row & kept = rows_.emplace_back( row );
+      kept.function = origin.function;
+      kept.source = origin.source;
+      kept.cause = plan_.texts.cause( row );
+      kept.changed = true;
+      firstWords_.push_back( words_.size() );
+      words_.insert( words_.end(), row.words.begin(), row.words.end() );
    }
 
-   void wrote( Address const & at, Row const & row, U32 copy, Words words ) {
-      Place & place = places_[at];
-      if ( place.writings.empty() ) {
-         place.like = row;
-         place.like.words = place.like.before = {};
-         place.copy = copy;
+   // The row that was kept last.
+   void wrote( Address const & at, U32 copy ) {
+      auto const writing = static_cast< U32 >( writings_.size() );
+      writings_.push_back( { static_cast< U32 >( rows_.size() - 1 ) } );
+      auto const [place, isNew] = places_.try_emplace( at, Place{ copy, writing, writing } );
+      if ( !isNew ) {
+         writings_[place->second.last].next = writing;
+         place->second.last = writing;
       }
-      place.writings.push_back( { kept( row.function ), kept( row.source ), kept( row.cause ), std::move( words ) } );
+   }
+
+   U32 const * wordsOf( Writing const & writing ) const { return words_.data() + firstWords_[writing.row]; }
+
+   // The last who made a field become another than it was.
+   Writing const & setterOf( Catalogue::Field const & field, Place const & place, Words const & begun ) const {
+      Writing const * setter = &writings_[place.first];
+      U32 const * before = begun.data();
+      for ( U32 at = place.first; at != none; at = writings_[at].next ) {
+         U32 const * const after = wordsOf( writings_[at] );
+         if ( !isAlike( field, before, after ) ) {
+            setter = &writings_[at];
+         }
+         before = after;
+      }
+      return *setter;
    }
 
    void take( StagedDriver::Change const & change ) {
       if ( change.isControl ) {
-         Place const & place = places_.at( { change.chip.value, 0, 0, change.control } );
-         Row & row = add( place, place.writings.back() );
+         Place const & place = places_.at( atControl( change.chip.value, change.control ) );
+         Row & row = add( writings_[place.last] );
          row.value = change.after.front();
          row.valueBefore = change.before.empty() ? std::nullopt : std::optional( change.before.front() );
          return;
       }
       Place const & place =
          places_.at( { change.chip.value, change.at.selectorA, change.at.selectorB, change.at.address } );
-      for ( auto const & [writing, words] : Attribution( place, change ).parts() ) {
-         Row & row = add( place, *writing );
-         row.words = plan_.words.emplace_back( words );
+      // For each writing that counts, the words as they would be with its fields alone.
+      std::vector< std::pair< Writing const *, Words > > parts;
+      for ( auto const & field : rows_[writings_[place.first].row].layout->fields ) {
+         if ( isAlike( field, change.before, change.after ) ) {
+            continue;
+         }
+         Writing const * const by = &setterOf( field, place, change.before );
+         auto part = std::ranges::find( parts, by, &std::pair< Writing const *, Words >::first );
+         if ( part == parts.end() ) {
+            part = parts.insert( part, { by, change.before } );
+         }
+         eachWord( field, [&]( std::size_t word, U32 mask ) {
+            part->second[word] = ( part->second[word] & ~mask ) | ( change.after[word] & mask );
+         } );
+      }
+      for ( auto & [writing, words] : parts ) {
+         Row & row = add( *writing );
+         row.words = plan_.words.emplace_back( std::move( words ) );
          row.before = plan_.words.emplace_back( change.before );
          row.scope = Row::Scope::core;
          row.core = static_cast< int >( place.copy );
       }
    }
 
-   Row & add( Place const & place, Writing const & by ) {
-      Row & row = plan_.events.back().changes.emplace_back( place.like );
-      row.function = by.function;
-      row.source = by.source;
-      row.cause = by.cause;
-      row.changed = true;
-      return row;
-   }
+   Row & add( Writing const & by ) { return plan_.events.back().changes.emplace_back( rows_[by.row] ); }
 
    // Copies that would change alike are one change of all.
    static void foldCopies( std::vector< Row > & rows ) {
       std::vector< Row > folded;
       for ( Row const & row : rows ) {
          auto const isOtherCopy = [&]( Row const & other ) {
-            return row.kind == Row::Kind::write && other.kind == Row::Kind::write && other.fap == row.fap &&
-                   other.layout == row.layout && other.array == row.array && other.entry == row.entry &&
+            return other.entry == row.entry && other.array == row.array && other.layout == row.layout &&
+                   other.fap == row.fap && row.kind == Row::Kind::write && other.kind == Row::Kind::write &&
                    other.core != row.core && other.source == row.source && other.words == row.words &&
                    other.before == row.before;
          };
          // They stand close together, mostly side by side.
          auto const near = folded.size() > 64 ? folded.end() - 64 : folded.begin();
-         auto const other = std::find_if( near, folded.end(), isOtherCopy );
+         bool const isAlone = row.kind == Row::Kind::control || row.layout->selectors.size() == 1;
+         auto const other = isAlone ? folded.end() : std::find_if( near, folded.end(), isOtherCopy );
          if ( other != folded.end() ) {
             other->scope = Row::Scope::all;
          } else {
@@ -203,7 +216,12 @@ class Planner final : public Simulator::RowReader {
    Plan & plan_;
    Scenario const & scenario_;
    StagedDriver & staged_;
-   std::map< Address, Place > places_; // of the event under way
+   // Of the event under way: what was written where, by whom.
+   std::unordered_map< Address, Place, AddressHash > places_;
+   std::vector< Writing > writings_;
+   std::vector< Row > rows_;
+   Words words_;
+   std::vector< std::size_t > firstWords_; // of each row, in words_
 };
 
 std::size_t countOf( std::vector< Row > const & rows, Row::Kind kind ) {

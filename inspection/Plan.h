@@ -10,6 +10,7 @@
 // entry and copy by copy. A change has the function and the cause that set the fields to what they end as.
 #pragma once
 
+#include "inspection/EventRows.h"
 #include "inspection/files/Scenario.h"
 #include "simulator/Row.h"
 #include "simulator/StagedDriver.h"
@@ -38,7 +39,7 @@ struct Plan {
 
    bool isEmpty() const;
    // What the rows refer to.
-   std::deque< std::string > texts = {};
+   SharedTexts texts = {};
    std::deque< std::vector< U32 > > words = {};
 };
 

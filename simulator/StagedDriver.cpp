@@ -85,22 +85,22 @@ std::optional< U32 > StagedDriver::controlValue( ChipId chip, U32 control ) cons
 
 std::vector< StagedDriver::Change > StagedDriver::changes() const {
    std::vector< Change > all;
-   std::ranges::copy_if(
-      staged_, std::back_inserter( all ), []( Change const & it ) { return it.before != it.after; } );
+   eachChange( [&]( Change const & change ) { all.push_back( change ); } );
    return all;
 }
 
 std::size_t StagedDriver::commit() {
-   auto const all = changes();
-   for ( Change const & change : all ) {
+   std::size_t handedOn = 0;
+   eachChange( [&]( Change const & change ) {
+      ++handedOn;
       if ( change.isControl ) {
          under_.control( change.chip, change.control, change.after.front() );
       } else {
          under_.write( change.chip, change.at, change.after );
       }
-   }
+   } );
    drop();
-   return all.size();
+   return handedOn;
 }
 
 void StagedDriver::drop() {

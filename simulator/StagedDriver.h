@@ -47,7 +47,15 @@ class StagedDriver final : public DaceSal::SchanDriver {
    bool control( ChipId chip, U32 control, U32 value ) override;
    std::optional< U32 > controlValue( ChipId chip, U32 control ) const override;
 
-   // What a commit would change, in its order.
+   // Visits what a commit would change, in its order.
+   template< class Visit >
+   void eachChange( Visit const & visit ) const {
+      for ( Change const & change : staged_ ) {
+         if ( change.before != change.after ) {
+            visit( change );
+         }
+      }
+   }
    std::vector< Change > changes() const;
    // Hands the changes on, and forgets them. Returns how many there were.
    std::size_t commit();
