@@ -36,7 +36,7 @@ constexpr Verb verbs[] = {
      "what the platform stands in for: context numbers, action words, well-known numbers",
      defineConstants },
    { "show", "chip contents, decoded by field", defineShow },
-   { "diff", "two chip-contents files, entry by entry and field by field", defineDiff },
+   { "diff", "two files of a kind (chips, journals, states, saved scenarios), entry by entry, field by field", defineDiff },
    { "why", "which operation wrote it, where in the source, on which cause", defineWhy },
    { "report", "the page that shows a run in a browser, from its journal or from a scenario", defineReport },
    { "compare", "one scenario on every kind of chip, and with each toggle flipped alone", defineCompare },

@@ -24,8 +24,7 @@ class Put {
    char * at() const { return at_; }
 
    Put & operator<<( std::string_view text ) {
-      std::memcpy( at_, text.data(), text.size() );
-      at_ += text.size();
+      at_ = std::ranges::copy( text, at_ ).out; // of no text, too, which has no place
       return *this;
    }
    template< std::integral Number >

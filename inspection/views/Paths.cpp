@@ -162,9 +162,12 @@ std::string takesText( ValueType const & type ) {
 }
 
 std::string takesText( Attribute const & attribute ) {
-   std::string const key = attribute.keyType() ? takesText( *attribute.keyType() ) + " → " : "";
-   std::string const value =
-      attribute.elementType() ? attribute.elementType()->name() : takesText( *attribute.valueType() );
+   auto const keyType = attribute.keyType();
+   auto const valueType = attribute.valueType();
+   std::string const key = keyType ? takesText( *keyType ) + " → " : "";
+   std::string const value = attribute.elementType() ? attribute.elementType()->name()
+                             : valueType             ? takesText( *valueType )
+                                                     : "an entity that stands elsewhere";
    return key + value + ( attribute.kind == Attribute::Kind::entity ? " or null" : "" );
 }
 
