@@ -20,11 +20,11 @@ constexpr DaceFapNi::SliceState sliceDown{ 0 };
 // The cause that was told last. Most rows of an event share theirs, and to tell it takes a way through the state.
 class LatestCause {
  public:
-   // `tell` is asked where the announcements under way are others than before.
+   // `tell` is asked where the moment or the announcements under way are others than before.
    template< class Tell >
-   std::string const & of( U32 event, Tell const & tell ) {
-      if ( event != event_ || !isAsBefore() ) {
-         event_ = event;
+   std::string const & of( std::pair< U32, bool > const & moment, Tell const & tell ) {
+      if ( moment != moment_ || !isAsBefore() ) {
+         moment_ = moment;
          announced_.clear();
          for ( auto const * it = Corvo::Publisher::current(); it; it = it->outer ) {
             announced_.push_back( { it->publisher, it->attribute, it->key } );
@@ -54,7 +54,7 @@ class LatestCause {
       }
       return !it && !announced_.empty();
    }
-   U32 event_ = 0;
+   std::pair< U32, bool > moment_;      // the event, and whether chips are being initialised
    std::vector< Announced > announced_; // the innermost first
    std::string text_;
 };
@@ -111,9 +111,11 @@ void loadPlugin( std::string const & path ) {
 
 SimulatedSwitch::SimulatedSwitch( SwitchDescription description )
    : description_( checked( std::move( description ) ) ),
-     journal_(
-        { .cause = [this, latest = LatestCause()]() mutable { return latest.of( event_, [this] { return cause(); } ); },
-          .pathOf = [this]( Rex::Entity const & entity ) { return publishedPath( entity ); } } ),
+     journal_( { .cause =
+                    [this, latest = LatestCause()]() mutable {
+                       return latest.of( { event_, phase_ == Phase::chipInit }, [this] { return cause(); } );
+                    },
+                 .pathOf = [this]( Rex::Entity const & entity ) { return publishedPath( entity ); } } ),
      scheduler_( makePtr< Orb::TaskScheduler >() ),
      entityManager_( makePtr< Stordb::EntityManager >( state_.database(), scheduler_ ) ),
      context_( makePtr< Agent::MounterPlugin::MounterContext >( entityManager_, state_.shared() ) ) {

@@ -1,8 +1,8 @@
 #include "inspection/files/ScenarioSchema.h"
 
 #include "generated/Catalogue.h"
+#include "inspection/KnownToggles.h"
 #include "inspection/StatePaths.h"
-#include "inspection/Toggles.h"
 #include "inspection/files/TypeSchema.h"
 #include "state/CellStatus.h"
 
