@@ -32,6 +32,9 @@ struct Position {
 struct Snapshot {
    Position position;
    Paths paths;
+   // What can't be read, by its place: a path, which is there but not in `paths`, and at which whoever follows keeps
+   // what he has; or an entry of a log, which changes nothing.
+   std::map< std::string, std::string > unreadable = {};
 };
 
 // What was changed at once, and is one event of an agent.
