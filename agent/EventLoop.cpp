@@ -1,6 +1,7 @@
 #include "agent/EventLoop.h"
 
 #include <algorithm>
+#include <chrono>
 #include <csignal>
 #include <system_error>
 #include <systemd/sd-daemon.h>
@@ -145,6 +146,10 @@ EventLoop::Source EventLoop::signal( int number, std::function< void() > come ) 
 void EventLoop::soon( std::function< void() > what ) {
    soon_.push_back( std::move( what ) );
    checked( sd_event_source_set_enabled( deferred_->source, SD_EVENT_ONESHOT ), "what is to be done soon" );
+}
+
+Rex::Seconds EventLoop::clock() {
+   return std::chrono::duration< double >( std::chrono::steady_clock::now().time_since_epoch() ).count();
 }
 
 int EventLoop::run() {

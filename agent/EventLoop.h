@@ -60,6 +60,9 @@ class EventLoop {
    // Once, when everything that is ready now has been served.
    void soon( std::function< void() > what );
 
+   // The machine's steady time: for measuring how long something takes, alone.
+   static Rex::Seconds clock();
+
    // Runs until somebody ends it; what end() was told.
    int run();
    void end( int status );

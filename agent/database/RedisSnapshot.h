@@ -1,0 +1,47 @@
+// The whole state at one moment, read while others write: between two places in the log, what lies between them applied
+// to what was read.
+//
+//    RedisSnapshot snapshot( connection, layout, { .is = …, .without = …, .fails = … } );
+//
+// It goes on as long as it lives and ends with one of the three, or with the connection. From within them it may be
+// destroyed.
+//
+// Threading: the agent's loop.
+#pragma once
+
+#include "agent/database/RedisLog.h"
+#include "agent/database/Tether.h"
+
+namespace Live {
+
+class RedisSnapshot {
+ public:
+   struct Answers {
+      std::function< void( Snapshot & ) > is;
+      std::function< void( std::string const & ) > without;
+      std::function< void( std::string const & ) > fails;
+   };
+
+   RedisSnapshot( RedisConnection & connection, RedisLayout const & layout, Answers answers );
+
+ private:
+   void begin();
+   void pathsAre( RedisReply names );
+   void readMore();
+   void pathIs( std::string const & path, RedisReply fields );
+   void applyRest();
+   void apply( Transaction const & transaction );
+   void again();
+
+   RedisConnection & connection_;
+   RedisLayout layout_;
+   Answers answers_;
+   unsigned tries_ = 0;
+   Snapshot snapshot_;
+   std::vector< std::string > names_;
+   std::size_t asked_ = 0; // of the names
+   std::size_t open_ = 0;  // asked, not answered
+   Tether tether_;
+};
+
+} // namespace Live
