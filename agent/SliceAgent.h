@@ -98,7 +98,10 @@ class SliceAgent final : private Database::Follower {
    void playWaiting();
    void play( Transaction & transaction );
    void list( Transaction const & transaction );
-   std::vector< Inspection::Event > literal( std::vector< Inspection::Event > changes );
+   void hold( Inspection::Event const & change );
+   bool isReset( Inspection::Event const & change ) const;
+   std::vector< Inspection::Event > reset( Inspection::Event const & removal );
+   std::vector< Inspection::Event > taken( std::vector< Inspection::Event > changes );
    void report( bool isWhole );
 
    EventLoop & loop_;
@@ -119,6 +122,7 @@ class SliceAgent final : private Database::Follower {
    bool needsSnapshot_ = true;
    Paths base_; // what the file says
    Paths held_;
+   PathLookup const lookup_{ held_ };
    Position position_;
    std::deque< Transaction > waiting_;
    bool isPlaying_ = false; // playWaiting is on its way

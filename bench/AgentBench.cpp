@@ -1,5 +1,6 @@
-// What it costs to follow a state in a Redis: against a bare reader of the same log that parses what it reads, against one
-// writer, against reading the same state, and against a bare subscriber. A real server on a Unix socket; all in one run.
+// What it costs to follow a state in a Redis: against a bare reader of the same log that parses what it reads, against
+// one writer, against reading the same state, and against a bare subscriber. A real server on a Unix socket; all in one
+// run.
 #include "agent/RedisServer.h"
 #include "agent/SliceAgent.h"
 #include "agent/database/RedisDatabase.h"
@@ -112,7 +113,8 @@ double secondsOf( std::function< void() > const & what ) {
 
 void tell( benchmark::State & state, std::string const & what, double ratio, double goal, bool isAtLeast ) {
    char text[200];
-   std::snprintf( text, sizeof text, "%s: ratio %.2f (goal %s %.2f)", what.c_str(), ratio, isAtLeast ? ">=" : "<=", goal );
+   std::snprintf(
+      text, sizeof text, "%s: ratio %.2f (goal %s %.2f)", what.c_str(), ratio, isAtLeast ? ">=" : "<=", goal );
    bool const isMet = isAtLeast ? ratio >= goal : ratio <= goal;
    isMet ? state.SetLabel( text ) : state.SkipWithError( text );
 }
