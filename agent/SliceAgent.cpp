@@ -25,6 +25,13 @@ Inspection::Scenario streamed( Inspection::Scenario scenario ) {
    return scenario;
 }
 
+// What the file says; a path that it leaves out is none for a database either.
+Paths baseOf( Inspection::Scenario const & scenario ) {
+   auto state = scenario.state;
+   std::erase_if( state, []( auto const & it ) { return it.second.isNull(); } );
+   return flattened( state );
+}
+
 std::string toldOf( StateDoor::Rejected const & rejected ) {
    Rex::Value::Object told;
    for ( auto const & [place, what] : rejected ) {
@@ -41,9 +48,10 @@ std::string toldOf( StateDoor::Rejected const & rejected ) {
 
 SliceAgent::SliceAgent( EventLoop & loop, Database & database, Inspection::Scenario scenario, std::string version )
    : loop_( loop ), database_( database ), scenario_( streamed( std::move( scenario ) ) ),
-     version_( std::move( version ) ), sw_( scenario_.description ), door_( sw_ ),
-     base_( flattened( scenario_.state ) ), held_( base_ ) {
+     version_( std::move( version ) ), lastWords_( scenario_ ), sw_( scenario_.description ), door_( sw_ ),
+     base_( baseOf( scenario_ ) ), held_( base_ ) {
    scenario_.prepare( sw_ );
+   lastWords_.follows( &sw_ );
    sw_.journal().readerAdd( published_ );
    database_.followerIs( this );
 }
@@ -51,6 +59,7 @@ SliceAgent::SliceAgent( EventLoop & loop, Database & database, Inspection::Scena
 SliceAgent::~SliceAgent() {
    end();
    sw_.journal().readerDel( published_ );
+   lastWords_.follows( nullptr );
 }
 
 void SliceAgent::begin() {

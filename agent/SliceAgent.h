@@ -23,6 +23,7 @@
 #pragma once
 
 #include "agent/EventLoop.h"
+#include "agent/LastWords.h"
 #include "agent/Phase.h"
 #include "agent/PublishedState.h"
 #include "agent/StateDoor.h"
@@ -108,6 +109,7 @@ class SliceAgent final : private Database::Follower {
    Database & database_;
    Inspection::Scenario scenario_;
    std::string version_;
+   LastWords lastWords_; // before the switch
    Simulator::SimulatedSwitch sw_;
    StateDoor door_;
    PublishedState published_;
