@@ -50,6 +50,7 @@ constexpr Verb verbs[] = {
    { "schema", "the JSON Schema of a scenario, for editors and validators", defineSchema },
    { "toggles", "the toggles: file, default, and which functions read them", defineToggles },
    { "facilities", "the trace facilities, and what each level tells", defineFacilities },
+   { "state", "the state in a central database that agents follow: look at it, change it, wait for them", defineState },
 };
 
 int failed( std::string const & text ) {

@@ -31,5 +31,6 @@ Action definePaths( VerbOptions & verb );
 Action defineSchema( VerbOptions & verb );
 Action defineToggles( VerbOptions & verb );
 Action defineFacilities( VerbOptions & verb );
+Action defineState( VerbOptions & verb );
 
 } // namespace Cli
