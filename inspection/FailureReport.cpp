@@ -1,7 +1,7 @@
 #include "inspection/FailureReport.h"
 
-#include "inspection/SuspiciousInput.h"
 #include "assert/Assert.h"
+#include "inspection/SuspiciousInput.h"
 #include "simulator/FunctionName.h"
 
 #include <algorithm>

@@ -24,7 +24,8 @@ namespace fs = std::filesystem;
 class Folder {
  public:
    Folder() {
-      std::string name = ( fs::temp_directory_path() / "l3sm-compare-XXXXXX" ).string();
+      std::string name = ( fs::temp_directory_path() / "l3sm-compare-" ).string();
+      name.append( 6, 'X' ); // which mkdtemp replaces
       if ( !::mkdtemp( name.data() ) ) {
          throw InputError( name, std::string( "can't be made: " ) + std::strerror( errno ) );
       }

@@ -1,6 +1,6 @@
 #include "inspection/RandomScenario.h"
 
-#include "inspection/Toggles.h"
+#include "inspection/KnownToggles.h"
 
 #include <random>
 

@@ -1,5 +1,7 @@
 #include "inspection/Roads.h"
 
+#include "inspection/PathDifferences.h"
+
 #include "inspection/NamesAsTyped.h"
 #include "inspection/PlaceAt.h"
 #include "inspection/files/Json.h"
@@ -40,35 +42,6 @@ Rex::Value publishedBy( SimulatedSwitch const & sw ) {
    add( "managed/intfStatusLocalDir", Interface::ManagedIntfStatusLocalDir::newest() );
    add( "shared/phySmStateSharedStatus", sw.state().entity( "shared/phySmStateSharedStatus" ).get() );
    return all;
-}
-
-void comparePublished( std::vector< EndDifference > & all,
-                       std::string const & path,
-                       std::string const & name,
-                       Rex::Value const & own,
-                       Rex::Value const & here ) {
-   if ( own == here ) {
-      return;
-   }
-   auto const * const a = own.object();
-   auto const * const b = here.object();
-   if ( !a || !b ) {
-      all.push_back( { 0, "published", path, name, Rex::toText( own ), Rex::toText( here ) } );
-      return;
-   }
-   std::set< std::string > names;
-   for ( auto const * const side : { a, b } ) {
-      for ( auto const & member : *side ) {
-         names.insert( member.first );
-      }
-   }
-   for ( std::string const & member : names ) {
-      auto const of = [&]( Rex::Value::Object const & side ) {
-         auto const found = side.find( member );
-         return found == side.end() ? Rex::Value() : found->second;
-      };
-      comparePublished( all, path + ( path.empty() || name.empty() ? "" : "/" ) + name, member, of( *a ), of( *b ) );
-   }
 }
 
 } // namespace
@@ -278,7 +251,10 @@ std::vector< EndDifference > RoadPlayer::differencesFrom( RoadEnd const & own ) 
          }
       }
    }
-   comparePublished( all, "", "", own.published, here.published );
+   eachPathDifference( own.published, here.published, [&]( PathDifference const & it ) {
+      all.push_back(
+         { 0, "published", it.path, it.value.name, it.value.a.value_or( "null" ), it.value.b.value_or( "null" ) } );
+   } );
    // Copies that differ alike are one.
    auto const isSame = []( EndDifference const & a, EndDifference const & b ) {
       return a.key() == b.key() && a.here == b.here;

@@ -7,7 +7,7 @@
 //    faps.of( 0 ).remedy();              // "--toggle Dace.json:ArmOrderedSwTable=off opens it, as does ..."
 #pragma once
 
-#include "inspection/Toggles.h"
+#include "inspection/KnownToggles.h"
 #include "simulator/Row.h"
 
 #include <map>

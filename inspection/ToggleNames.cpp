@@ -1,6 +1,6 @@
 #include "inspection/ToggleNames.h"
 
-#include "inspection/Toggles.h"
+#include "inspection/KnownToggles.h"
 #include "inspection/files/InputError.h"
 #include "rex/Nearest.h"
 

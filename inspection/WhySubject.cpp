@@ -2,7 +2,7 @@
 
 #include "inspection/FunctionTables.h"
 #include "inspection/GateReach.h"
-#include "inspection/Toggles.h"
+#include "inspection/KnownToggles.h"
 #include "inspection/files/InputError.h"
 #include "rex/Entity.h"
 #include "rex/Nearest.h"

@@ -5,9 +5,9 @@
 #include "inspection/Facilities.h"
 #include "inspection/FunctionTables.h"
 #include "inspection/KnownControls.h"
+#include "inspection/KnownToggles.h"
 #include "inspection/NewScenario.h"
 #include "inspection/StatePaths.h"
-#include "inspection/Toggles.h"
 
 #include <algorithm>
 #include <map>

@@ -37,6 +37,13 @@ Value valueOf( Toggle::Settings const & toggles ) {
 } // namespace
 
 Value valueOf( Event const & event ) {
+   if ( event.kind == Event::Kind::transaction ) {
+      Value::List changes;
+      for ( Event const & change : event.changes ) {
+         changes.push_back( valueOf( change ) );
+      }
+      return Value::Object{ { event.word(), std::move( changes ) } };
+   }
    Value::Object object{ { "path", event.path } };
    for ( auto const & [name, member] :
          { std::pair( "attribute", &event.attribute ), std::pair( "key", &event.key ) } ) {
@@ -47,7 +54,7 @@ Value valueOf( Event const & event ) {
    if ( event.kind == Event::Kind::set ) {
       object["value"] = event.value;
    }
-   return Value::Object{ { event.kind == Event::Kind::set ? "set" : "delete", std::move( object ) } };
+   return Value::Object{ { event.word(), std::move( object ) } };
 }
 
 Value valueOf( Scenario const & scenario, Parts parts ) {

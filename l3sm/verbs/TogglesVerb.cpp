@@ -1,4 +1,4 @@
-#include "inspection/Toggles.h"
+#include "inspection/KnownToggles.h"
 #include "inspection/files/Json.h"
 #include "inspection/views/Terminal.h"
 #include "l3sm/verbs/Verbs.h"

@@ -9,15 +9,6 @@ constexpr char const * elision = "...";
 
 }
 
-std::vector< std::string > linesOf( std::string const & text ) {
-   std::vector< std::string > lines;
-   std::istringstream in( text );
-   for ( std::string line; std::getline( in, line ); ) {
-      lines.push_back( line );
-   }
-   return lines;
-}
-
 std::vector< Block > blocksOf( std::string const & document ) {
    std::vector< Block > blocks;
    bool isInside = false;

@@ -10,8 +10,7 @@
 // Blocks of another kind are pictures.
 #pragma once
 
-#include <string>
-#include <vector>
+#include "Folder.h"
 
 struct Block {
    std::string info; // what stands behind the first fence
@@ -35,5 +34,3 @@ bool areAsExpected( std::vector< std::string > const & expected, std::vector< st
 // What to write in place of `expected`: these lines, as much of them at the beginning and at the end as was there.
 std::vector< std::string > shortened( std::vector< std::string > const & expected,
                                       std::vector< std::string > const & lines );
-
-std::vector< std::string > linesOf( std::string const & text );

@@ -1,6 +1,6 @@
 // A list in a source file that a test compares with what it has found, and that ./dev golden writes anew.
 //
-//    expectList( "inspection/Toggles.cpp", "toggles[] = {\n", rows );
+//    expectList( "inspection/KnownToggles.cpp", "toggles[] = {\n", rows );
 //
 // The rows stand between the line that `begin` ends and the next line "   };".
 #pragma once

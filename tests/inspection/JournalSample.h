@@ -5,39 +5,11 @@
 #include "inspection/files/JournalWriter.h"
 #include "inspection/files/Json.h"
 
-#include <filesystem>
-#include <fstream>
+#include "Folder.h"
+
 #include <gtest/gtest.h>
-#include <sstream>
 
 namespace Inspection {
-
-// A folder of a test's own.
-class Folder {
- public:
-   Folder() {
-      std::string name = ( std::filesystem::temp_directory_path() / "l3sm-test-" ).string();
-      name.append( 6, 'X' );
-      path_ = ::mkdtemp( name.data() );
-   }
-   ~Folder() { std::filesystem::remove_all( path_ ); }
-   Folder( Folder const & ) = delete;
-   Folder & operator=( Folder const & ) = delete;
-
-   std::string operator/( std::string const & name ) const { return ( path_ / name ).string(); }
-   std::string text( std::string const & name ) const {
-      std::ostringstream text;
-      text << std::ifstream( path_ / name ).rdbuf();
-      return text.str();
-   }
-   std::string file( std::string const & name, std::string_view text ) const {
-      std::ofstream( path_ / name ) << text;
-      return *this / name;
-   }
-
- private:
-   std::filesystem::path path_;
-};
 
 // Everything that a reader hears, a line each: rows as a journal has them.
 class Heard final : public Simulator::RowReader {

@@ -8,15 +8,6 @@ using namespace Inspection;
 
 namespace {
 
-std::vector< std::string > linesOf( std::string const & text ) {
-   std::vector< std::string > lines;
-   std::istringstream in( text );
-   for ( std::string line; std::getline( in, line ); ) {
-      lines.push_back( line );
-   }
-   return lines;
-}
-
 TEST( JournalWriter, WritesEachKindOfRowAsALine ) {
    Folder const folder;
    {
@@ -27,7 +18,8 @@ TEST( JournalWriter, WritesEachKindOfRowAsALine ) {
    std::string const shared = R"(, "function": "L3Sm::f", "source": "L3Sm.cpp:41", "cause": "chip-init"})";
    auto const lines = linesOf( folder.text( "run.jsonl" ) );
    ASSERT_EQ( lines.size(), 12u );
-   EXPECT_TRUE( lines[0].starts_with( R"({"op": "begin", "format": 2, "l3sm": ")" + std::string( versionNumber() ) + R"(", )" ) )
+   EXPECT_TRUE(
+      lines[0].starts_with( R"({"op": "begin", "format": 2, "l3sm": ")" + std::string( versionNumber() ) + R"(", )" ) )
       << lines[0];
    EXPECT_TRUE( lines[0].ends_with( R"(, "plugin": "p", "scenario": {"switch": {}}})" ) ) << lines[0];
    EXPECT_EQ( lines[1], R"({"op": "event", "event": 0, "what": {"start": {}}})" );

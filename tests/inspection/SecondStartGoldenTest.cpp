@@ -2,10 +2,10 @@
 // on every kind of chip, with each toggle as the example has it and flipped. tests/golden/second-start/ has what was
 // found, a file for each example; what ends as another also has its reason (inspection/KnownMemories.h).
 #include "inspection/KnownMemories.h"
+#include "inspection/KnownToggles.h"
 #include "inspection/OnChip.h"
 #include "inspection/Play.h"
 #include "inspection/Restart.h"
-#include "inspection/Toggles.h"
 #include "l3sm/Command.h"
 #include "rex/Log.h"
 

@@ -1,5 +1,5 @@
 // The list of toggles is what the sources of the plug-in say; ./dev golden writes it anew.
-#include "inspection/Toggles.h"
+#include "inspection/KnownToggles.h"
 
 #include "inspection/GoldenList.h"
 #include "inspection/PluginSource.h"
@@ -47,7 +47,7 @@ TEST( TogglesGolden, areThoseOfTheSources ) {
    for ( auto const & [key, row] : rowsOfTheSources() ) {
       text += row;
    }
-   expectList( "inspection/Toggles.cpp", "toggles[] = {\n", text );
+   expectList( "inspection/KnownToggles.cpp", "toggles[] = {\n", text );
 }
 
 // What a run reads is in the list, with the default that the plug-in has asked with.

@@ -5,20 +5,12 @@
 //    EXPECT_EQ( l3sm.errors, "l3sm: scenario.json:1: ...\n" );
 #pragma once
 
-#include <cstdlib>
-#include <filesystem>
-#include <fstream>
+#include "Folder.h"
+
 #include <map>
 #include <set>
-#include <sstream>
 #include <string>
 #include <sys/wait.h>
-
-inline std::string contentsOf( std::filesystem::path const & path ) {
-   std::ostringstream text;
-   text << std::ifstream( path ).rdbuf();
-   return text.str();
-}
 
 // The scenarios among the examples of the tree, in the order of their names.
 inline std::set< std::filesystem::path > exampleScenarios() {
@@ -57,13 +49,6 @@ class Command {
    int status; // 128 + signal where a signal ended it, as shells say it
    std::string output;
    std::string errors;
-
- private:
-   static std::filesystem::path newFolder() {
-      std::string name = ( std::filesystem::temp_directory_path() / "l3sm-test-" ).string();
-      name.append( 6, 'X' ); // which mkdtemp replaces
-      return ::mkdtemp( name.data() );
-   }
 };
 
 // A scenario for one FAP that is served; `more` are further members of the object, each with a comma before it.

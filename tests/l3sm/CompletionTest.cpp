@@ -24,7 +24,7 @@ CLI::App const & everything() {
    return theCommandLine->app;
 }
 
-Names linesOf( std::string const & text ) {
+Names choicesOf( std::string const & text ) {
    Names lines;
    std::istringstream in( text );
    for ( std::string line; std::getline( in, line ); ) {
@@ -38,7 +38,7 @@ Names linesOf( std::string const & text ) {
 Names completions( std::vector< std::string > const & words ) {
    std::ostringstream out;
    Cli::writeCompletion( out, everything(), words );
-   return linesOf( out.str() );
+   return choicesOf( out.str() );
 }
 
 TEST( Completion, offersEveryVerb ) {
@@ -157,7 +157,7 @@ Names inShell( std::string const & shell, std::string const & script, std::strin
                          std::string( L3SM_SOURCE_DIR "/completions" ) + "' '" + line + "'",
                       files );
    EXPECT_EQ( run.errors, "" );
-   Names lines = linesOf( run.output );
+   Names lines = choicesOf( run.output );
    lines.erase( "script" );
    return lines;
 }

@@ -9,15 +9,6 @@
 
 namespace {
 
-std::vector< std::string > linesOf( std::string const & text ) {
-   std::vector< std::string > lines;
-   std::istringstream in( text );
-   for ( std::string line; std::getline( in, line ); ) {
-      lines.push_back( line );
-   }
-   return lines;
-}
-
 // In characters.
 std::size_t widthOf( std::string const & line ) {
    return static_cast< std::size_t >(

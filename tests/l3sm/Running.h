@@ -89,11 +89,6 @@ class Running {
    std::string errors() const { return file( ".errors" ); }
 
  private:
-   static std::string newFolder() {
-      std::string name = ( std::filesystem::temp_directory_path() / "l3sm-test-" ).string();
-      name.append( 6, 'X' ); // which mkdtemp replaces
-      return ::mkdtemp( name.data() );
-   }
    template< class Condition >
    bool until( Condition const & holds ) const {
       while ( !holds() ) {

@@ -51,11 +51,4 @@ class Session {
    }
 
    std::filesystem::path const folder;
-
- private:
-   static std::filesystem::path newFolder() {
-      std::string name = ( std::filesystem::temp_directory_path() / "l3sm-session-" ).string();
-      name.append( 6, 'X' ); // which mkdtemp replaces
-      return ::mkdtemp( name.data() );
-   }
 };

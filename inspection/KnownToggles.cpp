@@ -1,4 +1,4 @@
-#include "inspection/Toggles.h"
+#include "inspection/KnownToggles.h"
 
 #include <algorithm>
 #include <sstream>

@@ -1,0 +1,113 @@
+// Where a path leads, told by the declarations of the entities.
+#include "agent/database/Paths.h"
+#include "rex/Dir.h"
+
+#include <algorithm>
+
+namespace Live {
+
+namespace {
+
+using Rex::Attribute;
+using Rex::TypeData;
+using Rex::ValueError;
+using Simulator::StateRoot;
+
+struct Root {
+   StateRoot const * root;
+   std::string path;
+   TypeData const * type;
+   TypeData const * entries;
+};
+
+std::vector< Root > const & roots() {
+   static std::vector< Root > const all = [] {
+      std::vector< Root > found;
+      for ( StateRoot const & root : Simulator::stateRoots() ) {
+         auto const entity = root.make();
+         auto const dir = Corvo::ptrCast< Rex::Dir >( entity );
+         found.push_back( { &root, root.path(), &entity->typeData(), dir ? dir->elementType() : nullptr } );
+      }
+      return found;
+   }();
+   return all;
+}
+
+[[noreturn]] void refuse( std::string const & text ) {
+   throw ValueError( "/path", text );
+}
+
+Root const & rootOf( std::string const & path ) {
+   Root const * longest = nullptr;
+   for ( Root const & root : roots() ) {
+      bool const leads =
+         path.starts_with( root.path ) && ( path.size() == root.path.size() || path[root.path.size()] == '/' );
+      if ( leads && ( !longest || root.path.size() > longest->path.size() ) ) {
+         longest = &root;
+      }
+   }
+   if ( !longest ) {
+      refuse( "there is no path \"" + path + "\"; `l3sm paths` lists them" );
+   }
+   if ( longest->root->kind != StateRoot::Kind::state ) {
+      refuse( longest->path + " can't be set: it is told by the description of the switch" );
+   }
+   return *longest;
+}
+
+bool holdsEntities( Attribute const & attribute ) {
+   return attribute.elementType() && attribute.canBeSet();
+}
+
+// A key may have slashes itself: it ends where an attribute of its entity's type that holds further entities begins.
+std::size_t endOfKey( TypeData const & type, std::string const & path, std::size_t from ) {
+   std::size_t end = path.size();
+   for ( auto const * attribute : type.attributes() ) {
+      if ( holdsEntities( *attribute ) ) {
+         auto const at = path.find( std::string( "/" ) + attribute->name, from );
+         auto const behind = at == std::string::npos ? at : at + 1 + std::string_view( attribute->name ).size();
+         if ( at != std::string::npos && ( behind == path.size() || path[behind] == '/' ) ) {
+            end = std::min( end, at );
+         }
+      }
+   }
+   return end;
+}
+
+} // namespace
+
+PathPlace placeOf( std::string const & path ) {
+   Root const & root = rootOf( path );
+   PathPlace place{ .type = root.type, .entries = root.entries };
+   std::size_t at = root.path.size(); // all before it is taken
+   while ( at < path.size() ) {
+      std::size_t const from = at + 1;
+      std::string const owner = path.substr( 0, at );
+      if ( place.entries ) {
+         at = std::min( path.find( '/', from ), path.size() );
+         place = { place.entries, nullptr, owner, {}, path.substr( from, at - from ) };
+      } else {
+         at = std::min( path.find( '/', from ), path.size() );
+         std::string const step = path.substr( from, at - from );
+         auto const * attribute = place.type->attribute( step );
+         if ( !attribute || !holdsEntities( *attribute ) ) {
+            refuse( owner + " holds nothing at \"" + path.substr( from ) + "\"" );
+         }
+         place = { attribute->elementType(), nullptr, owner, step, {} };
+         if ( attribute->kind == Attribute::Kind::collection ) {
+            if ( at == path.size() ) {
+               refuse( path + " is a collection: its members have paths, " + path + "/KEY" );
+            }
+            std::size_t const key = at + 1;
+            at = endOfKey( *place.type, path, key );
+            place.key = path.substr( key, at - key );
+         }
+      }
+      if ( from == path.size() || ( !place.key.empty() ? false : place.attribute.empty() ) ) {
+         refuse( "\"" + path + "\" ends in a slash" );
+      }
+   }
+   return place;
+}
+
+} // namespace Live
