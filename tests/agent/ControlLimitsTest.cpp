@@ -9,7 +9,7 @@ std::string const echoed = R"({"jsonrpc": "2.0", "id": 1, "result": "a"})";
 std::string const echo = request( "echo", R"(["a"])" );
 
 TEST( ControlLimits, EndTheConnectionOfATooLongRequest ) {
-   for ( std::string const & end : { "", "\n" } ) {
+   for ( std::string const end : { "", "\n" } ) {
       ControlWorld world;
       world.serve();
       std::string first;
