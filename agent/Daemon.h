@@ -16,6 +16,8 @@ struct DaemonOptions {
    U32 cell = 1;
    std::string database = {}; // an URL; empty: the process itself
    std::string version = {};
+   std::string plugin = {}; // which build of it
+   std::string socket = {}; // of control; empty: where the slice's is
 };
 
 class Daemon {

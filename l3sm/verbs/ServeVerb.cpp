@@ -1,4 +1,5 @@
 #include "agent/Daemon.h"
+#include "inspection/Play.h"
 #include "inspection/Version.h"
 #include "l3sm/ScenarioToPlay.h"
 #include "l3sm/verbs/Verbs.h"
@@ -16,6 +17,7 @@ struct Options {
    std::string slice;
    std::optional< U32 > cell;
    std::string database;
+   std::string socket;
    std::vector< std::string > toggles;
    std::string plugin;
 };
@@ -29,10 +31,13 @@ int serve( Options const & options ) {
    if ( !options.slice.empty() ) {
       scenario.description.sliceName = options.slice;
    }
-   Live::Daemon daemon( { .scenario = std::move( scenario ),
-                          .cell = options.cell.value_or( 1 ),
-                          .database = options.database,
-                          .version = std::string( versionNumber() ) } );
+   Live::Daemon daemon(
+      { .scenario = std::move( scenario ),
+        .cell = options.cell.value_or( 1 ),
+        .database = options.database,
+        .version = std::string( versionNumber() ),
+        .plugin = libraryId( options.plugin.empty() ? pluginBeside() : options.plugin ).value_or( "" ),
+        .socket = options.socket } );
    return daemon.run();
 }
 
@@ -45,6 +50,8 @@ Action defineServe( VerbOptions & verb ) {
    verb.number( "--cell", options->cell, "whose state it follows; the default is 1" );
    verb.text(
       "--database", options->database, "where the state is; without one, the file's, changed by `l3sm ctl`", "URL" );
+   verb.text(
+      "--socket", options->socket, "where to listen for `l3sm ctl`; the default is /run/l3sm/SLICE.ctl", "PATH" );
    verb.repeated( "--toggle", options->toggles, "set a toggle; may be given several times", "FILE:NAME=on|off" );
    verb.text( "--plugin", options->plugin, "the plug-in's library; the default lies beside this program", "PATH" );
    return [options] { return serve( *options ); };
