@@ -1,6 +1,8 @@
 #include "agent/EventLoop.h"
 
 #include <algorithm>
+#include <cerrno>
+#include <chrono>
 #include <csignal>
 #include <system_error>
 #include <systemd/sd-daemon.h>
@@ -13,8 +15,9 @@ namespace {
 
 constexpr double microseconds = 1e6; // in a second
 
+// A loop that has ended looks after nothing any more: what is asked of it then is fine, and never comes.
 int checked( int result, char const * what ) {
-   if ( result < 0 ) {
+   if ( result < 0 && result != -ESTALE ) {
       throw std::system_error( -result, std::generic_category(), what );
    }
    return result;
@@ -145,6 +148,10 @@ EventLoop::Source EventLoop::signal( int number, std::function< void() > come ) 
 void EventLoop::soon( std::function< void() > what ) {
    soon_.push_back( std::move( what ) );
    checked( sd_event_source_set_enabled( deferred_->source, SD_EVENT_ONESHOT ), "what is to be done soon" );
+}
+
+Rex::Seconds EventLoop::clock() {
+   return std::chrono::duration< double >( std::chrono::steady_clock::now().time_since_epoch() ).count();
 }
 
 int EventLoop::run() {

@@ -60,7 +60,10 @@ class EventLoop {
    // Once, when everything that is ready now has been served.
    void soon( std::function< void() > what );
 
-   // Runs until somebody ends it; what end() was told.
+   // The machine's steady time: for measuring how long something takes, alone.
+   static Rex::Seconds clock();
+
+   // Runs until somebody ends it; what end() was told. A loop that has ended looks after nothing any more.
    int run();
    void end( int status );
    // Serves what is ready; waits so long for something to become ready. Whether something was served.

@@ -36,6 +36,17 @@ EventInput EventInput::of( Rex::Value const & what ) {
    return input;
 }
 
+std::vector< EventInput > EventInput::allOf( Rex::Value const & what ) {
+   auto const * const object = what.object();
+   auto const found = object ? object->find( "transaction" ) : Rex::Value::Object::const_iterator();
+   auto const * const changes = object && found != object->end() ? found->second.list() : nullptr;
+   std::vector< EventInput > inputs;
+   for ( Rex::Value const & change : changes ? *changes : Rex::Value::List{ what } ) {
+      inputs.push_back( of( change ) );
+   }
+   return inputs;
+}
+
 std::string EventInput::cause() const {
    return kind == Kind::start ? "start" : path + ( attribute.empty() ? "" : " " + attribute );
 }
@@ -50,6 +61,13 @@ std::string EventInput::text() const {
       return "delete " + cause() + ( key ? "[" + *key + "]" : "" );
    case Kind::other:
       break;
+   }
+   if ( auto const changes = allOf( value ); changes.size() > 1 ) {
+      std::string all = "at once:";
+      for ( EventInput const & change : changes ) {
+         all += ( &change == &changes.front() ? " " : ", " ) + change.text();
+      }
+      return all;
    }
    return value.isNull() ? std::string() : toJson( value, 0 );
 }

@@ -8,6 +8,7 @@
 
 #include <optional>
 #include <string>
+#include <vector>
 
 namespace Inspection {
 
@@ -21,6 +22,8 @@ struct EventInput {
    Rex::Value value = {}; // of Kind::other the whole
 
    static EventInput of( Rex::Value const & what );
+   // The changes that an event consists of: those of a transaction, or the one.
+   static std::vector< EventInput > allOf( Rex::Value const & what );
    // As rows that it causes name it: "evpn/status evpnDciEnabled".
    std::string cause() const;
    std::string text() const;

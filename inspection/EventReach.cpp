@@ -14,6 +14,9 @@ std::string EventReach::silence() const {
 }
 
 EventReach reachOf( Simulator::StateTree const & state, Event const & event ) {
+   if ( event.kind == Event::Kind::transaction ) {
+      return {};
+   }
    EventReach reach{ .isKnown = true, .path = event.path };
    Corvo::Ptr< Rex::Entity > entity;
    try {

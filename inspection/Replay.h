@@ -24,7 +24,7 @@ struct Replay {
    OtherContentsList begunWith = {};
    OtherContentsList others = {};
    std::optional< std::vector< Difference > > differences = {}; // none: nothing to compare with
-   std::vector< std::string > remarks = {};                    // about the journal, a line each
+   std::vector< std::string > remarks = {};                     // about the journal, a line each
 
    bool isAlike() const { return others.seqs.empty() && ( !differences || differences->empty() ); }
 };

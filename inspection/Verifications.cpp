@@ -99,8 +99,7 @@ void fillWith( SimulatedSwitch & sw, Scenario const & scenario, std::string cons
          throw InputError( path + ": " + place + "/chipType",
                            std::string( "in the scenario the FAP is a " ) + Hardware::chipTypeName( chipType ) );
       }
-      inFile( path + ": " + place + "/tables",
-              [&] { apply( contents.contents.tables, *chip, contents.chipType ); } );
+      inFile( path + ": " + place + "/tables", [&] { apply( contents.contents.tables, *chip, contents.chipType ); } );
    }
 }
 

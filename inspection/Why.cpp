@@ -88,16 +88,20 @@ void WhyReader::eventBegins( U32 event, Rex::Value const & what ) {
    event_ = event;
    input_ = EventInput::of( what );
    WhySubject const & subject = answer_.subject;
-   bool const isChange = input_.kind == EventInput::Kind::set || input_.kind == EventInput::Kind::remove;
-   if ( model_ ) {
-      isInput_ = isChange && model_->concerns( input_ );
-      model_->changed( event, input_ );
-      isInput_ = isInput_ || ( isChange && model_->concerns( input_ ) );
-   } else {
-      isInput_ = subject.kind == Kind::state && isChange &&
-                 subject.isState( input_.path,
-                                  input_.attribute,
-                                  input_.key ? std::optional< std::string_view >( *input_.key ) : std::nullopt );
+   isInput_ = false;
+   for ( EventInput const & change : EventInput::allOf( what ) ) {
+      bool const isChange = change.kind == EventInput::Kind::set || change.kind == EventInput::Kind::remove;
+      if ( model_ ) {
+         isInput_ = isInput_ || ( isChange && model_->concerns( change ) );
+         model_->changed( event, change );
+         isInput_ = isInput_ || ( isChange && model_->concerns( change ) );
+      } else {
+         isInput_ = isInput_ ||
+                    ( subject.kind == Kind::state && isChange &&
+                      subject.isState( change.path,
+                                       change.attribute,
+                                       change.key ? std::optional< std::string_view >( *change.key ) : std::nullopt ) );
+      }
    }
    steps_ = {};
 }

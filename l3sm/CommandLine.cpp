@@ -36,7 +36,9 @@ constexpr Verb verbs[] = {
      "what the platform stands in for: context numbers, action words, well-known numbers",
      defineConstants },
    { "show", "chip contents, decoded by field", defineShow },
-   { "diff", "two files of a kind (chips, journals, states, saved scenarios), entry by entry, field by field", defineDiff },
+   { "diff",
+     "two files of a kind (chips, journals, states, saved scenarios), entry by entry, field by field",
+     defineDiff },
    { "why", "which operation wrote it, where in the source, on which cause", defineWhy },
    { "report", "the page that shows a run in a browser, from its journal or from a scenario", defineReport },
    { "compare", "one scenario on every kind of chip, and with each toggle flipped alone", defineCompare },
@@ -50,6 +52,9 @@ constexpr Verb verbs[] = {
    { "schema", "the JSON Schema of a scenario, for editors and validators", defineSchema },
    { "toggles", "the toggles: file, default, and which functions read them", defineToggles },
    { "facilities", "the trace facilities, and what each level tells", defineFacilities },
+   { "serve",
+     "be the agent of a slice: follow the state in a database, program the chips, until told to end",
+     defineServe },
    { "state", "the state in a central database that agents follow: look at it, change it, wait for them", defineState },
 };
 

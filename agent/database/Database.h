@@ -2,7 +2,7 @@
 //
 //    database.followerIs( this );
 //    database.snapshot();                        // → snapshotIs( … ), whose position is where it stands
-//    database.since( position );                 // → transactionsAre( … ), again and again; or gapIs( … )
+//    database.since( position );                 // → transactionsAre( … ), as soon as there are any; or gapIs( … )
 //    database.publish( report );                 // what the agent has done, for others to see
 //
 // Behind it: the process itself (the state of a file, changed through the control socket), Redis, a recording.
@@ -49,8 +49,8 @@ struct Transaction {
 
 // What an agent tells of itself, whole: the fields that others read beside the state.
 struct Report {
-   Position applied;  // all transactions up to here are on the chips, or rejected
-   Attributes fields; // "phase", "reason", "drift", "rejected", "version": as they are written, without JSON
+   Position applied;       // all transactions up to here are on the chips, or rejected
+   Attributes fields = {}; // "phase", "reason", "drift", "rejected", "version": as they are written, without JSON
    // What the plug-in publishes, by path: what has changed since the report before. A path without attributes is gone.
    Paths published = {};
    // Instead of changes, `published` is all there is: what the database has beside it goes.
@@ -63,7 +63,7 @@ class Database {
     public:
       virtual ~Follower() = default;
       virtual void snapshotIs( Snapshot snapshot ) = 0;
-      // The next ones in their order, one at least.
+      // The next ones in their order, one at least. Once for each since(): who can't keep up isn't given more.
       virtual void transactionsAre( std::vector< Transaction > transactions ) = 0;
       // What came after the position that since() was asked for can't be had any more, or belongs to another life.
       virtual void gapIs( std::string reason ) = 0;

@@ -170,6 +170,21 @@ class Way {
          gone_ = path;
       }
    }
+   // A directory's entry is made by setting anything in it; what is set here changes nothing in a new one.
+   void beginEntry( std::string const & path, TypeData const & type ) {
+      for ( auto const * attribute : type.attributes() ) {
+         if ( attribute->canBeSet() && attribute->kind != Attribute::Kind::entity ) {
+            events_.push_back(
+               { .path = path, .attribute = attribute->name, .value = attribute->value( *type.fresh() ) } );
+            return;
+         }
+      }
+   }
+   std::string held( std::string const & path, std::string const & attribute ) const {
+      auto const at = from_.find( path );
+      auto const found = at == from_.end() ? Attributes::const_iterator() : at->second.find( attribute );
+      return at == from_.end() || found == at->second.end() ? std::string() : found->second;
+   }
    void reset( std::string const & path, PathPlace const & place, std::string const & name ) {
       auto const * attribute = place.type->attribute( name );
       auto const fresh = place.type->fresh();
@@ -184,6 +199,12 @@ class Way {
       }
       PathPlace const place = placeOf( path );
       bool const isNew = had == from_.end() && !place.isRoot() && !place.attribute.empty() && !place.key.empty();
+      if ( had == from_.end() && held( place.owner, place.attribute ) == none ) {
+         events_.push_back( { .path = place.owner, .attribute = place.attribute, .value = Value::Object() } );
+      }
+      if ( had == from_.end() && !place.isRoot() && place.attribute.empty() ) {
+         beginEntry( path, *place.type );
+      }
       Value::Object all; // of a new member
       for ( auto const & [name, text] : wanted ) {
          if ( had != from_.end() ) {

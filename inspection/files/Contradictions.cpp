@@ -41,9 +41,13 @@ class Contradictions {
                   "/state" + Rex::pointerStep( routes ) + Rex::pointerStep( prefixLengths ) );
       }
    }
-   void inEvent( Event const & event ) {
+   void inEvent( Event const & event ) { inEvent( event, "/events/" + std::to_string( event.number - 1 ) ); }
+   void inEvent( Event const & event, std::string const & place ) {
+      for ( std::size_t at = 0; at < event.changes.size(); ++at ) {
+         inEvent( event.changes[at], place + "/transaction/" + std::to_string( at ) );
+      }
       if ( event.kind == Event::Kind::set && event.path == routes && event.attribute == prefixLengths ) {
-         lengths( event.value, "/events/" + std::to_string( event.number - 1 ) + "/set/value" );
+         lengths( event.value, place + "/set/value" );
       }
    }
 

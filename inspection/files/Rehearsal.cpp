@@ -65,6 +65,15 @@ void Rehearsal::state( Value::Object & state ) {
 }
 
 void Rehearsal::event( Event const & event ) {
+   if ( event.kind == Event::Kind::transaction ) {
+      ValueErrors errors;
+      for ( std::size_t at = 0; at < event.changes.size(); ++at ) {
+         Event const & change = event.changes[at];
+         errors.below( std::to_string( at ), [&] { Rex::below( change.word(), [&] { this->event( change ); } ); } );
+      }
+      errors.end();
+      return;
+   }
    try {
       event.change( tree_ );
    } catch ( ValueError const & error ) {
@@ -82,6 +91,12 @@ void Rehearsal::event( Event const & event ) {
 }
 
 void Rehearsal::isWithout( Event const & event ) {
+   for ( Event const & change : event.changes ) {
+      isWithout( change );
+   }
+   if ( event.kind == Event::Kind::transaction ) {
+      return;
+   }
    isMissing( event.path + ( event.attribute ? "/" + *event.attribute : "" ) + ( event.key ? "/" + *event.key : "" ) );
 }
 

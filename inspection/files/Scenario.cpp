@@ -8,7 +8,22 @@ namespace Inspection {
 using Rex::Value;
 using Rex::ValueError;
 
+char const * Event::word() const {
+   return kind == Kind::set ? "set" : kind == Kind::remove ? "delete" : "transaction";
+}
+
+std::string Event::cause() const {
+   return kind == Kind::transaction ? word() : attribute ? path + " " + *attribute : path;
+}
+
 std::string Event::text() const {
+   if ( kind == Kind::transaction ) {
+      std::string all = "at once:";
+      for ( Event const & change : changes ) {
+         all += ( &change == &changes.front() ? " " : ", " ) + change.text();
+      }
+      return all;
+   }
    std::string out = ( kind == Kind::set ? "set " : "delete " ) + printable( path );
    out += attribute ? " " + printable( *attribute ) : "";
    out += key ? "[" + printable( *key ) + "]" : "";
@@ -17,7 +32,12 @@ std::string Event::text() const {
 }
 
 void Event::change( Simulator::StateTree & state ) const {
-   if ( kind == Kind::set && key ) {
+   if ( kind == Kind::transaction ) {
+      for ( std::size_t at = 0; at < changes.size(); ++at ) {
+         Rex::below( std::to_string( at ),
+                     [&] { Rex::below( changes[at].word(), [&] { changes[at].change( state ); } ); } );
+      }
+   } else if ( kind == Kind::set && key ) {
       state.entryIs( path, *attribute, *key, value );
    } else if ( kind == Kind::set ) {
       state.attributeIs( path, *attribute, value );
@@ -87,8 +107,7 @@ void Scenario::play( Simulator::SimulatedSwitch & sw, Event const & event ) cons
       try {
          sw.change( [&] { event.change( sw.state() ); }, event.cause(), valueOf( event ) );
       } catch ( ValueError const & error ) {
-         auto const * kind = event.kind == Event::Kind::set ? "set" : "delete";
-         throw error.below( kind ).below( std::to_string( event.number - 1 ) ).below( "events" );
+         throw error.below( event.word() ).below( std::to_string( event.number - 1 ) ).below( "events" );
       }
    } );
 }

@@ -19,9 +19,9 @@
 
 namespace Inspection {
 
-// One change of state.
+// One change of state, or several at once.
 struct Event {
-   enum class Kind : U8 { set, remove };
+   enum class Kind : U8 { set, remove, transaction };
 
    U32 number = 0; // from 1
    Kind kind = Kind::set;
@@ -29,11 +29,14 @@ struct Event {
    std::optional< std::string > attribute = {};
    std::optional< std::string > key = {};
    Rex::Value value = {};
+   std::vector< Event > changes = {}; // of a transaction, each a set or a remove; it has nothing else
 
    // "set evpn/status evpnDciEnabled = true"
    std::string text() const;
    // As it is told who hears of it: "evpn/status evpnDciEnabled".
-   std::string cause() const { return attribute ? path + " " + *attribute : path; }
+   std::string cause() const;
+   // The word that a scenario has for its kind: "set", "delete", "transaction".
+   char const * word() const;
    // Throws Rex::ValueError, its place seen from {"path", "attribute", "key", "value"}.
    void change( Simulator::StateTree & state ) const;
 };

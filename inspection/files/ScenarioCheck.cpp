@@ -44,9 +44,7 @@ void readEvents( Value::List & values, Scenario & scenario, Rehearsal & rehearsa
       event.number = static_cast< U32 >( scenario.events.size() );
       progress.stands( event.number, values.size() );
       if ( errors.below( index, [&] { readEvent( value, event ); } ) ) {
-         errors.below( index, [&] {
-            Rex::below( event.kind == Event::Kind::set ? "set" : "delete", [&] { rehearsal.event( event ); } );
-         } );
+         errors.below( index, [&] { Rex::below( event.word(), [&] { rehearsal.event( event ); } ); } );
       } else {
          rehearsal.isWithout( event );
       }

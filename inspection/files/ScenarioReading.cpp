@@ -127,11 +127,32 @@ void readEvent( Value const & value, Event & event ) {
    if ( kinds.find( "fault" ) ) {
       throw ValueError( { "/fault", "faults can't be injected yet; leave the event out", true } );
    }
+   if ( auto const * const changes = kinds.find( "transaction" ) ) {
+      event.kind = Event::Kind::transaction;
+      kinds.end();
+      Rex::below( event.word(), [&] {
+         ValueErrors errors;
+         for ( Value const & change : listOf( *changes ) ) {
+            Event & read = event.changes.emplace_back( Event{ .number = event.number } );
+            errors.below( std::to_string( event.changes.size() - 1 ), [&] {
+               readEvent( change, read );
+               if ( read.kind == Event::Kind::transaction ) {
+                  throw ValueError( "", "a transaction holds no other one" );
+               }
+            } );
+         }
+         errors.end();
+         if ( event.changes.empty() ) {
+            throw ValueError( "", "a transaction holds one change at least" );
+         }
+      } );
+      return;
+   }
    bool const isSet = kinds.find( "set" );
    bool const isDelete = kinds.find( "delete" );
    kinds.end();
    if ( isSet == isDelete ) {
-      throw ValueError( "", "an event is either {\"set\": {...}} or {\"delete\": {...}}" );
+      throw ValueError( "", "an event is {\"set\": {...}}, {\"delete\": {...}}, or {\"transaction\": [...]}" );
    }
    event.kind = isSet ? Event::Kind::set : Event::Kind::remove;
    std::string const kind = isSet ? "set" : "delete";

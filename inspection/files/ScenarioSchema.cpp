@@ -230,9 +230,14 @@ Value eventSchema( EntitySchemas & entities ) {
    Value remove = objectSchema( both, { "path" } );
    ( *remove.object() )["allOf"] = deletes;
    ( *remove.object() )["dependencies"] = Object{ { "attribute", List{ "key" } }, { "key", List{ "attribute" } } };
-   Value event = objectSchema( Object{ { "set", set }, { "delete", remove } } );
-   ( *event.object() )["oneOf"] =
-      List{ Object{ { "required", List{ "set" } } }, Object{ { "required", List{ "delete" } } } };
+   Value change = objectSchema( Object{ { "set", set }, { "delete", remove } } );
+   Value const one = List{ Object{ { "required", List{ "set" } } }, Object{ { "required", List{ "delete" } } } };
+   ( *change.object() )["oneOf"] = one;
+   Value const changes = Object{ { "type", "array" }, { "minItems", 1 }, { "items", change } };
+   Value event = objectSchema( Object{ { "set", set }, { "delete", remove }, { "transaction", changes } } );
+   auto kinds = *one.list();
+   kinds.push_back( Object{ { "required", List{ "transaction" } } } );
+   ( *event.object() )["oneOf"] = std::move( kinds );
    return event;
 }
 

@@ -13,9 +13,9 @@ namespace {
 using Rex::Value;
 
 // What a reader wants to know first; everything else follows, numbers by their value.
-constexpr std::array firstKeys{
-   "$schema", "name",    "switch", "slice", "fapId",  "cores", "ports",  "faps", "revision",  "chipType", "sdkVersion",
-   "major",   "toggles", "chips",  "state", "events", "set",   "delete", "path", "attribute", "key",      "value" };
+constexpr std::array firstKeys{ "$schema",  "name",     "switch",      "slice", "fapId",     "cores", "ports", "faps",
+                                "revision", "chipType", "sdkVersion",  "major", "toggles",   "chips", "state", "events",
+                                "set",      "delete",   "transaction", "path",  "attribute", "key",   "value" };
 
 auto rankOf( std::string const & key ) {
    bool const isNumber =

@@ -31,6 +31,7 @@ Action definePaths( VerbOptions & verb );
 Action defineSchema( VerbOptions & verb );
 Action defineToggles( VerbOptions & verb );
 Action defineFacilities( VerbOptions & verb );
+Action defineServe( VerbOptions & verb );
 Action defineState( VerbOptions & verb );
 
 } // namespace Cli

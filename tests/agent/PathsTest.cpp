@@ -1,5 +1,7 @@
 // The state as databases hold it: paths and their attributes, and what events do to them.
 #include "agent/database/Paths.h"
+#include "inspection/AnyScenario.h"
+#include "inspection/files/SavedScenario.h"
 
 namespace {
 
@@ -57,6 +59,40 @@ TEST( Paths, refuseWhatLeadsNowhere ) {
    EXPECT_EQ( placeOf( "interface/status/eth/vxlan/vtiStatus/Vxlan1" ).key, "Vxlan1" );
    EXPECT_EQ( placeOf( "routing/tunneldecap/input/dynamic/bgp/decapGroup/7" ).owner,
               "routing/tunneldecap/input/dynamic/bgp" );
+}
+
+// What a state looks like, whichever way it was reached.
+Value::Object stateAfter( std::vector< Event > const & events, Inspection::Scenario const & scenario ) {
+   Simulator::SimulatedSwitch sw( scenario.description );
+   for ( auto const & event : events ) {
+      sw.change( [&] { event.change( sw.state() ); } );
+   }
+   return Inspection::stateLeftBy( sw );
+}
+
+// Given a state and another, the events between the two lead there, and lead the paths there, too.
+TEST( Paths, areLedFromAnyStateToAnyOtherByTheEventsBetweenThem ) {
+   EXPECT_TRUE( rc::check( [] {
+      auto const one = anyScenario();
+      auto const other = anyScenario();
+      std::map< std::string, std::string > wrong;
+      auto const from = overlaid( flattened( stateAfter( {}, one ) ), after( one.events ) );
+      auto const to = overlaid( flattened( stateAfter( {}, one ) ), after( other.events ) );
+      auto const here = eventsBetween( {}, from, wrong );
+      auto const there = eventsBetween( from, to, wrong );
+      RC_ASSERT( wrong.empty() );
+      auto const straight = eventsBetween( {}, to, wrong );
+      auto all = here;
+      all.insert( all.end(), there.begin(), there.end() );
+      auto const reached = stateAfter( all, one );
+      auto const wanted = stateAfter( straight, one );
+      for ( auto const & [path, attributes] : wanted ) {
+         RC_LOG() << ( reached.at( path ) == attributes ? std::string()
+                                                        : path + ": " + Rex::toText( reached.at( path ) ) +
+                                                             "\n wanted " + Rex::toText( attributes ) + "\n" );
+      }
+      RC_ASSERT( Value( reached ) == Value( wanted ) );
+   } ) );
 }
 
 } // namespace

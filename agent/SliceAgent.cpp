@@ -1,0 +1,330 @@
+#include "agent/SliceAgent.h"
+
+#include "inspection/files/Json.h"
+
+#include <cmath>
+
+namespace Live {
+
+namespace {
+
+using Inspection::Event;
+
+// How long to wait before another try: doubled each time.
+constexpr Rex::Seconds firstWait = 0.1;
+constexpr Rex::Seconds longestWait = 5;
+
+// So long transactions are played before others have their turn.
+constexpr Rex::Seconds longestTurn = 0.005;
+
+// How many rejected places are told in the database; all of them can be asked for.
+constexpr std::size_t mostTold = 100;
+
+Inspection::Scenario streamed( Inspection::Scenario scenario ) {
+   scenario.description.journalled = Simulator::SwitchDescription::Journalled::streamed;
+   return scenario;
+}
+
+// What the file says; a path that it leaves out is none for a database either.
+Paths baseOf( Inspection::Scenario const & scenario ) {
+   auto state = scenario.state;
+   std::erase_if( state, []( auto const & it ) { return it.second.isNull(); } );
+   return flattened( state );
+}
+
+std::string toldOf( StateDoor::Rejected const & rejected ) {
+   Rex::Value::Object told;
+   for ( auto const & [place, what] : rejected ) {
+      if ( told.size() == mostTold ) {
+         told["..."] = std::to_string( rejected.size() - mostTold ) + " more";
+         break;
+      }
+      told[place] = what;
+   }
+   return Rex::toText( told );
+}
+
+} // namespace
+
+SliceAgent::SliceAgent( EventLoop & loop, Database & database, Inspection::Scenario scenario, std::string version )
+   : loop_( loop ), database_( database ), scenario_( streamed( std::move( scenario ) ) ),
+     version_( std::move( version ) ), lastWords_( scenario_ ), sw_( scenario_.description ), door_( sw_ ),
+     base_( baseOf( scenario_ ) ), held_( base_ ) {
+   scenario_.prepare( sw_ );
+   lastWords_.follows( &sw_ );
+   sw_.journal().readerAdd( published_ );
+   database_.followerIs( this );
+}
+
+SliceAgent::~SliceAgent() {
+   end();
+   sw_.journal().readerDel( published_ );
+   lastWords_.follows( nullptr );
+}
+
+void SliceAgent::begin() {
+   phaseSince_ = Rex::now();
+   database_.snapshot();
+}
+
+void SliceAgent::end() {
+   if ( std::exchange( isOver_, true ) ) {
+      return;
+   }
+   retry_ = {};
+   waiting_.clear();
+   database_.stop();
+   database_.followerIs( nullptr );
+   sw_.journal().ends( Simulator::Ending::Kind::complete );
+   sw_.stop();
+}
+
+void SliceAgent::phaseIs( Phase phase, std::string reason ) {
+   if ( isFrozen_ && phase == Phase::running ) {
+      phase = Phase::frozen;
+   }
+   if ( phase == phase_ && reason == reason_ ) {
+      return;
+   }
+   phaseSince_ = phase == phase_ ? phaseSince_ : Rex::now();
+   phase_ = phase;
+   reason_ = std::move( reason );
+   for ( auto * const onlooker : onlookers_ ) {
+      onlooker->phaseIs( phase_, reason_ );
+   }
+}
+
+// ---- following
+
+void SliceAgent::follow() {
+   retry_ = {};
+   if ( isOver_ || isFrozen_ ) {
+      return;
+   }
+   needsSnapshot_ ? database_.snapshot() : database_.since( position_ );
+}
+
+void SliceAgent::again() {
+   auto const wait = std::min( firstWait * std::pow( 2, std::min( tries_++, 10 ) ), longestWait );
+   retry_ = loop_.timer( wait, [this] { follow(); } );
+}
+
+void SliceAgent::snapshotIs( Snapshot snapshot ) {
+   tries_ = 0;
+   waiting_.clear(); // older than this
+   phaseIs( Phase::reconciling );
+   door_.forget();
+   Paths wanted = overlaid( base_, std::move( snapshot.paths ) );
+   StateDoor::Rejected wrong;
+   auto changes = eventsBetween( held_, wanted, wrong );
+   for ( auto const & [place, what] : wrong ) {
+      door_.reject( place, what );
+   }
+   position_ = std::move( snapshot.position );
+   needsSnapshot_ = false;
+   held_ = std::move( wanted );
+   auto const begun = EventLoop::clock();
+   if ( !isStarted_ ) {
+      door_.prepare( changes );
+      isStarted_ = true;
+      sw_.start();
+   } else if ( !changes.empty() ) {
+      Transaction const differences{ .position = position_, .changes = std::move( changes ) };
+      door_.play( differences.changes );
+      for ( auto * const onlooker : onlookers_ ) {
+         onlooker->transactionPlayed( differences, EventLoop::clock() - begun );
+      }
+   }
+   for ( auto * const onlooker : onlookers_ ) {
+      onlooker->snapshotPlayed( position_, held_ );
+   }
+   phaseIs( Phase::running );
+   report( true );
+   follow();
+}
+
+void SliceAgent::transactionsAre( std::vector< Transaction > transactions ) {
+   tries_ = 0;
+   if ( isFrozen_ || needsSnapshot_ ) {
+      return; // they will be asked for once more
+   }
+   phaseIs( Phase::running );
+   for ( auto & transaction : transactions ) {
+      waiting_.push_back( std::move( transaction ) );
+   }
+   if ( !isPlaying_ ) {
+      playWaiting();
+   }
+}
+
+void SliceAgent::gapIs( std::string reason ) {
+   waiting_.clear(); // what was told may belong to another life
+   needsSnapshot_ = true;
+   for ( auto * const onlooker : onlookers_ ) {
+      onlooker->resyncs( reason );
+   }
+   if ( isStarted_ ) {
+      phaseIs( Phase::reconciling, std::move( reason ) );
+   }
+   tries_++ == 0 ? follow() : again(); // a database that tells of nothing but gaps is no reason to spin
+}
+
+void SliceAgent::unreachable( std::string reason ) {
+   phaseIs( isStarted_ ? Phase::disconnected : Phase::waiting, std::move( reason ) );
+   again();
+}
+
+void SliceAgent::withoutState( std::string reason ) {
+   waiting_.clear();
+   needsSnapshot_ = true;
+   phaseIs( Phase::waiting, std::move( reason ) );
+   again();
+}
+
+void SliceAgent::refused( std::string reason ) {
+   if ( !isStarted_ ) {
+      refusal_ = reason;
+      phaseIs( Phase::waiting, std::move( reason ) );
+      loop_.end( 2 );
+      return;
+   }
+   needsSnapshot_ = true; // somebody else may have acted meanwhile
+   phaseIs( Phase::disconnected, std::move( reason ) );
+   again();
+}
+
+void SliceAgent::freeze() {
+   if ( !std::exchange( isFrozen_, true ) ) {
+      waiting_.clear();
+      retry_ = {};
+      if ( phase_ == Phase::running ) {
+         phaseIs( Phase::frozen );
+         report( false );
+      }
+   }
+}
+
+void SliceAgent::thaw() {
+   if ( std::exchange( isFrozen_, false ) ) {
+      if ( phase_ == Phase::frozen ) {
+         phase_ = Phase::disconnected; // so that the next is told
+         phaseIs( Phase::running );
+         report( false );
+      }
+      follow();
+   }
+}
+
+// ---- playing
+
+void SliceAgent::playWaiting() {
+   isPlaying_ = false;
+   auto const begun = EventLoop::clock();
+   while ( !waiting_.empty() && !isFrozen_ && !isOver_ ) {
+      Transaction transaction = std::move( waiting_.front() );
+      waiting_.pop_front();
+      play( transaction );
+      if ( EventLoop::clock() - begun > longestTurn && !waiting_.empty() ) {
+         isPlaying_ = true;
+         loop_.soon( [this] {
+            if ( isPlaying_ ) {
+               playWaiting();
+            }
+         } );
+         break;
+      }
+   }
+   report( false );
+   if ( waiting_.empty() && !needsSnapshot_ ) {
+      follow();
+   }
+}
+
+// What is wrong with a transaction is listed by the place, or by the entry of the log where there is none.
+void SliceAgent::list( Transaction const & transaction ) {
+   for ( auto const & what : transaction.unreadable ) {
+      auto const colon = what.find( ": " );
+      door_.reject( what.substr( 0, colon ), colon == std::string::npos ? "can't be read" : what.substr( colon + 2 ) );
+   }
+}
+
+void SliceAgent::hold( Event const & change ) {
+   try {
+      for ( PathChange const & one : pathChangesOf( change, lookup_ ) ) {
+         apply( one, held_ );
+      }
+   } catch ( Rex::ValueError const & ) {
+      // The door lists it.
+   }
+}
+
+// A path that the file names, or one that is always there, becomes what it is without a database.
+std::vector< Event > SliceAgent::reset( Event const & removal ) {
+   Paths before;
+   for ( auto const & path : lookup_.below( removal.path ) ) {
+      before[path] = held_[path];
+   }
+   hold( removal );
+   Paths after;
+   for ( auto const & path : PathLookup( base_ ).below( removal.path ) ) {
+      after[path] = held_[path] = base_[path];
+   }
+   StateDoor::Rejected wrong; // the file was read before
+   return eventsBetween( before, after, wrong );
+}
+
+bool SliceAgent::isReset( Event const & change ) const {
+   if ( change.kind != Event::Kind::remove || change.attribute ) {
+      return false;
+   }
+   try {
+      return base_.contains( change.path ) || placeOf( change.path ).isRoot();
+   } catch ( Rex::ValueError const & ) {
+      return false;
+   }
+}
+
+// The changes as the switch is to play them, once what is held has followed.
+std::vector< Event > SliceAgent::taken( std::vector< Event > changes ) {
+   for ( std::size_t at = 0; at < changes.size(); ++at ) {
+      if ( isReset( changes[at] ) ) {
+         auto const instead = reset( changes[at] );
+         auto const place = changes.erase( changes.begin() + static_cast< std::ptrdiff_t >( at ) );
+         changes.insert( place, instead.begin(), instead.end() );
+         at += instead.size() - 1;
+      } else {
+         hold( changes[at] );
+      }
+   }
+   return changes;
+}
+
+void SliceAgent::play( Transaction & transaction ) {
+   auto const begun = EventLoop::clock();
+   position_ = transaction.position;
+   list( transaction );
+   transaction.changes = taken( std::move( transaction.changes ) );
+   door_.play( transaction.changes );
+   auto const duration = EventLoop::clock() - begun;
+   for ( auto * const onlooker : onlookers_ ) {
+      onlooker->transactionPlayed( transaction, duration );
+   }
+}
+
+void SliceAgent::report( bool isWhole ) {
+   Report report{ .applied = position_, .isWhole = isWhole };
+   report.fields = { { "phase", std::string( nameOf( phase_ ) ) },
+                     { "reason", reason_ },
+                     { "drift", "0" },
+                     { "rejected", rejected().empty() ? "{}" : toldOf( rejected() ) },
+                     { "version", version_ } };
+   if ( isWhole ) {
+      published_.takeChanged();
+      report.published = published_.all();
+   } else if ( published_.hasChanged() ) {
+      report.published = published_.takeChanged();
+   }
+   database_.publish( report );
+}
+
+} // namespace Live

@@ -1,0 +1,80 @@
+#include "agent/StateDoor.h"
+
+namespace Live {
+
+namespace {
+
+using Inspection::Event;
+using Rex::Value;
+
+std::string placeIn( Event const & change ) {
+   return change.path + ( change.attribute ? " " + *change.attribute : "" ) +
+          ( change.key ? "[" + *change.key + "]" : "" );
+}
+
+// Nothing stands at its path yet, and something could: what is set in a member of a collection makes it, and what is to
+// go is gone.
+void changeWhereNothingStands( Simulator::StateTree & state, Event const & event ) {
+   PathPlace const place = placeOf( event.path );
+   bool const isMember = !place.attribute.empty() && !place.key.empty();
+   if ( event.kind == Event::Kind::set && isMember ) {
+      Value const value = event.key ? Value::Object{ { *event.key, event.value } } : event.value;
+      state.entryIs( place.owner, place.attribute, place.key, Value::Object{ { *event.attribute, value } } );
+   } else if ( event.kind == Event::Kind::set ) {
+      event.change( state ); // which tells what is wrong
+   }
+}
+
+void change( Simulator::StateTree & state, Event const & event ) {
+   try {
+      event.change( state );
+   } catch ( Rex::ValueError const & error ) {
+      bool const isGone = event.kind == Event::Kind::remove && error.place() == "/key"; // as it is meant to be
+      if ( error.place() == "/path" ) {
+         changeWhereNothingStands( state, event );
+      } else if ( !isGone ) {
+         throw;
+      }
+   }
+}
+
+} // namespace
+
+void StateDoor::set( Event const & event ) {
+   try {
+      change( sw_.state(), event );
+   } catch ( Rex::ValueError const & error ) {
+      rejected_[placeIn( event )] = error.what();
+      return;
+   }
+   if ( !rejected_.empty() ) {
+      rejected_.erase( placeIn( event ) );
+      if ( event.kind == Event::Kind::remove && !event.attribute ) {
+         std::erase_if( rejected_, [&]( auto const & it ) { return it.first.starts_with( event.path ); } );
+      }
+   }
+}
+
+void StateDoor::prepare( std::vector< Event > const & changes ) {
+   sw_.change( [&] {
+      for ( Event const & one : changes ) {
+         set( one );
+      }
+   } );
+}
+
+void StateDoor::play( std::vector< Event > const & changes ) {
+   auto const all = [&] {
+      for ( Event const & one : changes ) {
+         set( one );
+      }
+   };
+   if ( changes.size() == 1 ) {
+      sw_.change( all, changes.front().cause(), valueOf( changes.front() ) );
+   } else if ( !changes.empty() ) {
+      Event const event{ .kind = Event::Kind::transaction, .changes = changes };
+      sw_.change( all, event.cause(), valueOf( event ) );
+   }
+}
+
+} // namespace Live

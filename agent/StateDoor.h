@@ -1,0 +1,41 @@
+// The door through which changes of state come to a switch: what fits is set, what doesn't is listed, and harms nothing
+// else.
+//
+//    StateDoor door( sw );
+//    door.play( transaction.changes );               // one event of the switch, whatever is wrong with some of it
+//    door.rejected();                                // "evpn/status vxlanEnabled" → "expected true or false, got 3"
+//
+// A value that doesn't fit leaves the last good one in place. It is listed until another comes for the same place, or
+// the entity goes.
+//
+// Threading: the agent's loop.
+#pragma once
+
+#include "agent/database/Paths.h"
+
+namespace Live {
+
+class StateDoor {
+ public:
+   using Rejected = std::map< std::string, std::string >; // "path attribute[key]" to what is wrong
+
+   explicit StateDoor( Simulator::SimulatedSwitch & sw ) : sw_( sw ) {}
+
+   // Before the switch is started.
+   void prepare( std::vector< Inspection::Event > const & changes );
+   // All of them at once, as one event.
+   void play( std::vector< Inspection::Event > const & changes );
+   // Something is wrong with what stands at a place, told by others.
+   void reject( std::string const & place, std::string const & what ) { rejected_[place] = what; }
+   Rejected const & rejected() const { return rejected_; }
+   // Everything is judged anew: a whole state follows.
+   void forget() { rejected_.clear(); }
+
+ private:
+   void set( Inspection::Event const & change );
+
+   Simulator::SimulatedSwitch & sw_;
+   Rejected rejected_;
+};
+
+} // namespace Live

@@ -1,0 +1,87 @@
+#include "agent/database/EmbeddedDatabase.h"
+
+#include <utility>
+
+namespace Live {
+
+using Inspection::Event;
+
+namespace {
+
+// Tries the value where it can harm nobody.
+void checkValue( Event const & event ) {
+   PathPlace const place = placeOf( event.path );
+   if ( event.kind != Event::Kind::set ) {
+      return;
+   }
+   auto const fresh = place.type->fresh();
+   auto const & attribute = Rex::attributeOf( *place.type, *event.attribute );
+   if ( fresh && event.key ) {
+      attribute.entryIs( *fresh, *event.key, event.value );
+   } else if ( fresh ) {
+      Rex::below( "value", [&] { attribute.valueIs( *fresh, event.value ); } );
+   }
+}
+
+} // namespace
+
+EmbeddedDatabase::EmbeddedDatabase( EventLoop & loop, Paths paths )
+   : loop_( loop ), paths_( std::move( paths ) ), isAsked_( std::make_shared< bool >( true ) ) {}
+
+Position EmbeddedDatabase::position() const {
+   return { "embedded", "embedded", std::to_string( entry_ ) };
+}
+
+void EmbeddedDatabase::answer( std::function< void() > what ) {
+   loop_.soon( [isAsked = isAsked_, does = std::move( what )] {
+      if ( *isAsked ) {
+         does();
+      }
+   } );
+}
+
+void EmbeddedDatabase::stop() {
+   *isAsked_ = false;
+   isAsked_ = std::make_shared< bool >( true );
+   isFollowed_ = false;
+}
+
+void EmbeddedDatabase::snapshot() {
+   answer( [this] {
+      waiting_.clear();
+      follower()->snapshotIs( { position(), paths_ } );
+   } );
+}
+
+void EmbeddedDatabase::since( Position const & ) {
+   isFollowed_ = true;
+   hand();
+}
+
+void EmbeddedDatabase::hand() {
+   if ( isFollowed_ && !waiting_.empty() ) {
+      answer( [this] {
+         if ( isFollowed_ && !waiting_.empty() ) {
+            isFollowed_ = false;
+            follower()->transactionsAre( std::exchange( waiting_, {} ) );
+         }
+      } );
+   }
+}
+
+void EmbeddedDatabase::transact( std::vector< Event > changes ) {
+   for ( Event const & event : changes ) {
+      pathChangesOf( event, PathLookup( paths_ ) );
+      checkValue( event );
+   }
+   for ( Event const & event : changes ) {
+      for ( PathChange const & change : pathChangesOf( event, PathLookup( paths_ ) ) ) {
+         apply( change, paths_ );
+      }
+   }
+   ++entry_;
+   waiting_.push_back( { .position = position(), .changes = std::move( changes ) } );
+   hand();
+}
+
+} // namespace Live
