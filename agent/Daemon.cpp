@@ -3,6 +3,7 @@
 #include "agent/Log.h"
 #include "agent/ServiceManager.h"
 #include "agent/database/EmbeddedDatabase.h"
+#include "agent/database/RedisDatabase.h"
 
 #include <csignal>
 
@@ -17,7 +18,8 @@ std::unique_ptr< Database > databaseAt( DaemonOptions const & options, EventLoop
    if ( options.database.empty() ) {
       return std::make_unique< EmbeddedDatabase >( loop );
    }
-   throw Inspection::InputError( "--database", "\"" + options.database + "\" is no database that is known" );
+   return std::make_unique< RedisDatabase >(
+      loop, RedisAddress::of( options.database ), options.cell, options.scenario.description.sliceName );
 }
 
 } // namespace

@@ -1,6 +1,7 @@
 #include "agent/EventLoop.h"
 
 #include <algorithm>
+#include <cerrno>
 #include <chrono>
 #include <csignal>
 #include <system_error>
@@ -14,8 +15,9 @@ namespace {
 
 constexpr double microseconds = 1e6; // in a second
 
+// A loop that has ended looks after nothing any more: what is asked of it then is fine, and never comes.
 int checked( int result, char const * what ) {
-   if ( result < 0 ) {
+   if ( result < 0 && result != -ESTALE ) {
       throw std::system_error( -result, std::generic_category(), what );
    }
    return result;

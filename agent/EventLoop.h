@@ -63,7 +63,7 @@ class EventLoop {
    // The machine's steady time: for measuring how long something takes, alone.
    static Rex::Seconds clock();
 
-   // Runs until somebody ends it; what end() was told.
+   // Runs until somebody ends it; what end() was told. A loop that has ended looks after nothing any more.
    int run();
    void end( int status );
    // Serves what is ready; waits so long for something to become ready. Whether something was served.

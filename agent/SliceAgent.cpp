@@ -25,6 +25,13 @@ Inspection::Scenario streamed( Inspection::Scenario scenario ) {
    return scenario;
 }
 
+// What the file says; a path that it leaves out is none for a database either.
+Paths baseOf( Inspection::Scenario const & scenario ) {
+   auto state = scenario.state;
+   std::erase_if( state, []( auto const & it ) { return it.second.isNull(); } );
+   return flattened( state );
+}
+
 std::string toldOf( StateDoor::Rejected const & rejected ) {
    Rex::Value::Object told;
    for ( auto const & [place, what] : rejected ) {
@@ -41,9 +48,10 @@ std::string toldOf( StateDoor::Rejected const & rejected ) {
 
 SliceAgent::SliceAgent( EventLoop & loop, Database & database, Inspection::Scenario scenario, std::string version )
    : loop_( loop ), database_( database ), scenario_( streamed( std::move( scenario ) ) ),
-     version_( std::move( version ) ), sw_( scenario_.description ), door_( sw_ ),
-     base_( flattened( scenario_.state ) ), held_( base_ ) {
+     version_( std::move( version ) ), lastWords_( scenario_ ), sw_( scenario_.description ), door_( sw_ ),
+     base_( baseOf( scenario_ ) ), held_( base_ ) {
    scenario_.prepare( sw_ );
+   lastWords_.follows( &sw_ );
    sw_.journal().readerAdd( published_ );
    database_.followerIs( this );
 }
@@ -51,6 +59,7 @@ SliceAgent::SliceAgent( EventLoop & loop, Database & database, Inspection::Scena
 SliceAgent::~SliceAgent() {
    end();
    sw_.journal().readerDel( published_ );
+   lastWords_.follows( nullptr );
 }
 
 void SliceAgent::begin() {
@@ -116,12 +125,12 @@ void SliceAgent::snapshotIs( Snapshot snapshot ) {
    held_ = std::move( wanted );
    auto const begun = EventLoop::clock();
    if ( !isStarted_ ) {
-      door_.play( std::move( changes ) );
+      door_.prepare( changes );
       isStarted_ = true;
       sw_.start();
    } else if ( !changes.empty() ) {
-      Transaction differences{ .position = position_, .changes = changes };
-      door_.play( std::move( changes ) );
+      Transaction const differences{ .position = position_, .changes = std::move( changes ) };
+      door_.play( differences.changes );
       for ( auto * const onlooker : onlookers_ ) {
          onlooker->transactionPlayed( differences, EventLoop::clock() - begun );
       }
@@ -239,51 +248,63 @@ void SliceAgent::list( Transaction const & transaction ) {
    }
 }
 
-// Where a path that the file names, or one that is always there, goes from the database, it becomes what it is without
-// one.
-std::vector< Event > SliceAgent::literal( std::vector< Event > changes ) {
-   std::vector< Event > played;
-   for ( Event & change : changes ) {
-      Paths before;
-      bool isReset = false;
-      try {
-         bool const isRemoved = change.kind == Event::Kind::remove && !change.attribute;
-         isReset = isRemoved && ( base_.contains( change.path ) || placeOf( change.path ).isRoot() );
-         if ( isReset ) {
-            for ( auto const & path : PathLookup( held_ ).below( change.path ) ) {
-               before[path] = held_[path];
-            }
-         }
-         for ( PathChange const & one : pathChangesOf( change, PathLookup( held_ ) ) ) {
-            apply( one, held_ );
-         }
-      } catch ( Rex::ValueError const & ) {
-         // The door lists it.
+void SliceAgent::hold( Event const & change ) {
+   try {
+      for ( PathChange const & one : pathChangesOf( change, lookup_ ) ) {
+         apply( one, held_ );
       }
-      if ( isReset ) {
-         Paths after;
-         for ( auto const & path : PathLookup( base_ ).below( change.path ) ) {
-            after[path] = held_[path] = base_[path];
-         }
-         StateDoor::Rejected wrong;
-         for ( Event & one : eventsBetween( before, after, wrong ) ) {
-            played.push_back( std::move( one ) );
-         }
+   } catch ( Rex::ValueError const & ) {
+      // The door lists it.
+   }
+}
+
+// A path that the file names, or one that is always there, becomes what it is without a database.
+std::vector< Event > SliceAgent::reset( Event const & removal ) {
+   Paths before;
+   for ( auto const & path : lookup_.below( removal.path ) ) {
+      before[path] = held_[path];
+   }
+   hold( removal );
+   Paths after;
+   for ( auto const & path : PathLookup( base_ ).below( removal.path ) ) {
+      after[path] = held_[path] = base_[path];
+   }
+   StateDoor::Rejected wrong; // the file was read before
+   return eventsBetween( before, after, wrong );
+}
+
+bool SliceAgent::isReset( Event const & change ) const {
+   if ( change.kind != Event::Kind::remove || change.attribute ) {
+      return false;
+   }
+   try {
+      return base_.contains( change.path ) || placeOf( change.path ).isRoot();
+   } catch ( Rex::ValueError const & ) {
+      return false;
+   }
+}
+
+// The changes as the switch is to play them, once what is held has followed.
+std::vector< Event > SliceAgent::taken( std::vector< Event > changes ) {
+   for ( std::size_t at = 0; at < changes.size(); ++at ) {
+      if ( isReset( changes[at] ) ) {
+         auto const instead = reset( changes[at] );
+         auto const place = changes.erase( changes.begin() + static_cast< std::ptrdiff_t >( at ) );
+         changes.insert( place, instead.begin(), instead.end() );
+         at += instead.size() - 1;
       } else {
-         played.push_back( std::move( change ) );
+         hold( changes[at] );
       }
    }
-   return played;
+   return changes;
 }
 
 void SliceAgent::play( Transaction & transaction ) {
    auto const begun = EventLoop::clock();
    position_ = transaction.position;
    list( transaction );
-   transaction.changes = literal( std::move( transaction.changes ) );
-   if ( !transaction.changes.empty() ) {
-      door_.play( transaction.changes );
-   }
+   transaction.changes = taken( std::move( transaction.changes ) );
+   door_.play( transaction.changes );
    auto const duration = EventLoop::clock() - begun;
    for ( auto * const onlooker : onlookers_ ) {
       onlooker->transactionPlayed( transaction, duration );

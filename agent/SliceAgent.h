@@ -23,6 +23,7 @@
 #pragma once
 
 #include "agent/EventLoop.h"
+#include "agent/LastWords.h"
 #include "agent/Phase.h"
 #include "agent/PublishedState.h"
 #include "agent/StateDoor.h"
@@ -98,13 +99,17 @@ class SliceAgent final : private Database::Follower {
    void playWaiting();
    void play( Transaction & transaction );
    void list( Transaction const & transaction );
-   std::vector< Inspection::Event > literal( std::vector< Inspection::Event > changes );
+   void hold( Inspection::Event const & change );
+   bool isReset( Inspection::Event const & change ) const;
+   std::vector< Inspection::Event > reset( Inspection::Event const & removal );
+   std::vector< Inspection::Event > taken( std::vector< Inspection::Event > changes );
    void report( bool isWhole );
 
    EventLoop & loop_;
    Database & database_;
    Inspection::Scenario scenario_;
    std::string version_;
+   LastWords lastWords_; // before the switch
    Simulator::SimulatedSwitch sw_;
    StateDoor door_;
    PublishedState published_;
@@ -119,6 +124,7 @@ class SliceAgent final : private Database::Follower {
    bool needsSnapshot_ = true;
    Paths base_; // what the file says
    Paths held_;
+   PathLookup const lookup_{ held_ };
    Position position_;
    std::deque< Transaction > waiting_;
    bool isPlaying_ = false; // playWaiting is on its way

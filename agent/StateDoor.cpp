@@ -12,75 +12,69 @@ std::string placeIn( Event const & change ) {
           ( change.key ? "[" + *change.key + "]" : "" );
 }
 
-Event eventOf( std::vector< Event > changes ) {
-   if ( changes.size() == 1 ) {
-      return std::move( changes.front() );
-   }
-   return { .kind = Event::Kind::transaction, .changes = std::move( changes ) };
-}
-
-// Nothing stands at its path yet, and something could.
-Corvo::Ptr< Rex::Entity > entityAt( Simulator::StateTree const & state, std::string const & path ) {
-   try {
-      return state.entity( path );
-   } catch ( Rex::ValueError const & ) {
-      return nullptr;
-   }
-}
-
-// What is set in a member of a collection that isn't there makes it.
-void change( Simulator::StateTree & state, Event const & event ) {
+// Nothing stands at its path yet, and something could: what is set in a member of a collection makes it, and what is to
+// go is gone.
+void changeWhereNothingStands( Simulator::StateTree & state, Event const & event ) {
    PathPlace const place = placeOf( event.path );
    bool const isMember = !place.attribute.empty() && !place.key.empty();
-   bool const isThere = entityAt( state, event.path ) != nullptr;
-   if ( event.kind == Event::Kind::set && isMember && !isThere ) {
+   if ( event.kind == Event::Kind::set && isMember ) {
       Value const value = event.key ? Value::Object{ { *event.key, event.value } } : event.value;
       state.entryIs( place.owner, place.attribute, place.key, Value::Object{ { *event.attribute, value } } );
-   } else if ( event.kind == Event::Kind::remove && !event.attribute && !isThere ) {
-      // It is as it is meant to be.
-   } else {
+   } else if ( event.kind == Event::Kind::set ) {
+      event.change( state ); // which tells what is wrong
+   }
+}
+
+void change( Simulator::StateTree & state, Event const & event ) {
+   try {
       event.change( state );
+   } catch ( Rex::ValueError const & error ) {
+      bool const isGone = event.kind == Event::Kind::remove && error.place() == "/key"; // as it is meant to be
+      if ( error.place() == "/path" ) {
+         changeWhereNothingStands( state, event );
+      } else if ( !isGone ) {
+         throw;
+      }
    }
 }
 
 } // namespace
 
-bool StateDoor::set( Event const & event ) {
-   auto const place = placeIn( event );
+void StateDoor::set( Event const & event ) {
    try {
       change( sw_.state(), event );
    } catch ( Rex::ValueError const & error ) {
-      bool const isGone = event.kind == Event::Kind::remove && error.place() == "/key"; // as it is meant to be
-      if ( !isGone ) {
-         rejected_[place] = error.what();
-         return false;
-      }
+      rejected_[placeIn( event )] = error.what();
+      return;
    }
    if ( !rejected_.empty() ) {
-      rejected_.erase( place );
+      rejected_.erase( placeIn( event ) );
       if ( event.kind == Event::Kind::remove && !event.attribute ) {
          std::erase_if( rejected_, [&]( auto const & it ) { return it.first.starts_with( event.path ); } );
       }
    }
-   return true;
 }
 
-void StateDoor::play( std::vector< Event > changes ) {
-   if ( changes.empty() ) {
-      return;
+void StateDoor::prepare( std::vector< Event > const & changes ) {
+   sw_.change( [&] {
+      for ( Event const & one : changes ) {
+         set( one );
+      }
+   } );
+}
+
+void StateDoor::play( std::vector< Event > const & changes ) {
+   auto const all = [&] {
+      for ( Event const & one : changes ) {
+         set( one );
+      }
+   };
+   if ( changes.size() == 1 ) {
+      sw_.change( all, changes.front().cause(), valueOf( changes.front() ) );
+   } else if ( !changes.empty() ) {
+      Event const event{ .kind = Event::Kind::transaction, .changes = changes };
+      sw_.change( all, event.cause(), valueOf( event ) );
    }
-   Event const event = eventOf( std::move( changes ) );
-   sw_.change(
-      [&] {
-         if ( event.changes.empty() ) {
-            set( event );
-         }
-         for ( Event const & one : event.changes ) {
-            set( one );
-         }
-      },
-      event.cause(),
-      valueOf( event ) );
 }
 
 } // namespace Live

@@ -21,9 +21,10 @@ class StateDoor {
 
    explicit StateDoor( Simulator::SimulatedSwitch & sw ) : sw_( sw ) {}
 
-   // All of them at once. Before the switch has started they are no event; what fits none of the switch is no event
-   // either.
-   void play( std::vector< Inspection::Event > changes );
+   // Before the switch is started.
+   void prepare( std::vector< Inspection::Event > const & changes );
+   // All of them at once, as one event.
+   void play( std::vector< Inspection::Event > const & changes );
    // Something is wrong with what stands at a place, told by others.
    void reject( std::string const & place, std::string const & what ) { rejected_[place] = what; }
    Rejected const & rejected() const { return rejected_; }
@@ -31,7 +32,7 @@ class StateDoor {
    void forget() { rejected_.clear(); }
 
  private:
-   bool set( Inspection::Event const & change );
+   void set( Inspection::Event const & change );
 
    Simulator::SimulatedSwitch & sw_;
    Rejected rejected_;

@@ -8,8 +8,6 @@ namespace {
 
 using Simulator::Row;
 
-constexpr std::size_t blockWords = 4096;
-
 std::string textAt( Rex::Value::Object const & what, char const * key ) {
    auto const found = what.find( key );
    return found == what.end() || !found->second.text() ? std::string() : *found->second.text();
@@ -27,26 +25,17 @@ RowCounts & RowCounts::operator+=( RowCounts const & more ) {
    return *this;
 }
 
-SharedTexts::Origin const & SharedTexts::origin( Row const & row ) {
-   if ( origins_.size() <= row.originNumber ) {
-      origins_.resize( row.originNumber + 1 );
-   }
-   auto & origin = origins_[row.originNumber];
-   if ( !origin ) {
-      origin = std::make_unique< Origin >( Origin{ std::string( row.function ), std::string( row.source ) } );
-   }
-   return *origin;
+SharedTexts::Origin const & SharedTexts::newOrigin( Row const & row ) {
+   origins_.resize( std::max< std::size_t >( origins_.size(), row.originNumber + 1 ) );
+   origins_[row.originNumber] =
+      std::make_unique< Origin >( Origin{ std::string( row.function ), std::string( row.source ) } );
+   return *origins_[row.originNumber];
 }
 
-std::string const & SharedTexts::cause( Row const & row ) {
-   if ( causes_.size() <= row.causeNumber ) {
-      causes_.resize( row.causeNumber + 1 );
-   }
-   auto & cause = causes_[row.causeNumber];
-   if ( !cause ) {
-      cause = std::make_unique< std::string >( row.cause );
-   }
-   return *cause;
+std::string const & SharedTexts::newCause( Row const & row ) {
+   causes_.resize( std::max< std::size_t >( causes_.size(), row.causeNumber + 1 ) );
+   causes_[row.causeNumber] = std::make_unique< std::string >( row.cause );
+   return *causes_[row.causeNumber];
 }
 
 void EventRows::begins( U32 event, Rex::Value const & what, EventReach const & reach ) {
@@ -56,27 +45,9 @@ void EventRows::begins( U32 event, Rex::Value const & what, EventReach const & r
    counts_ = {};
    isBroken_ = false;
    rows_.clear();
-   block_ = 0;
-   used_ = 0;
+   words_.forget();
    own_.clear();
    values_.clear();
-}
-
-U32 const * EventRows::kept( Simulator::WordView words ) {
-   if ( words.empty() ) {
-      return nullptr;
-   }
-   if ( !blocks_.empty() && used_ + words.size() > blockWords ) {
-      ++block_;
-      used_ = 0;
-   }
-   if ( block_ >= blocks_.size() ) {
-      blocks_.push_back( std::make_unique< U32[] >( blockWords ) );
-   }
-   U32 * const place = blocks_[block_].get() + used_;
-   std::ranges::copy( words, place );
-   used_ += words.size();
-   return place;
 }
 
 void EventRows::keep( Row const & row ) {
@@ -94,11 +65,12 @@ void EventRows::keep( Row const & row ) {
    mine.function = origin.function;
    mine.source = origin.source;
    if ( row.kind == Row::Kind::gate ) {
-      mine.reason = kept( row.reason );
+      mine.reason = own_.empty() || own_.back() != row.reason ? kept( row.reason ) : std::string_view( own_.back() );
    } else if ( row.kind != Row::Kind::control ) {
       mine.table = Catalogue::tables()[row.tableNumber].name;
-      mine.words = { kept( row.words ), row.words.size() };
-      mine.before = { kept( row.before ), row.before.size() };
+      U32 const * const words = words_.keep( row.words, row.before );
+      mine.words = { words, row.words.size() };
+      mine.before = { words + row.words.size(), row.before.size() };
    }
 }
 

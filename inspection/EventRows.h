@@ -9,6 +9,7 @@
 
 #include "inspection/EventReach.h"
 #include "simulator/Row.h"
+#include "simulator/WordStore.h"
 
 #include <deque>
 #include <map>
@@ -59,11 +60,20 @@ class SharedTexts {
       std::string function;
       std::string source;
    };
-   Origin const & origin( Simulator::Row const & row );
-   std::string const & cause( Simulator::Row const & row );
+   Origin const & origin( Simulator::Row const & row ) {
+      bool const isKnown = row.originNumber < origins_.size() && origins_[row.originNumber];
+      return isKnown ? *origins_[row.originNumber] : newOrigin( row );
+   }
+   std::string const & cause( Simulator::Row const & row ) {
+      bool const isKnown = row.causeNumber < causes_.size() && causes_[row.causeNumber];
+      return isKnown ? *causes_[row.causeNumber] : newCause( row );
+   }
    Origin const & origin( U32 number ) const { return *origins_[number]; }
 
  private:
+   Origin const & newOrigin( Simulator::Row const & row );
+   std::string const & newCause( Simulator::Row const & row );
+
    std::vector< std::unique_ptr< Origin > > origins_;
    std::vector< std::unique_ptr< std::string > > causes_;
 };
@@ -88,7 +98,6 @@ class EventRows {
    std::vector< Simulator::Row > const & rows() const { return rows_; }
 
  private:
-   U32 const * kept( Simulator::WordView words );
    std::string_view kept( std::string_view text ) { return own_.emplace_back( text ); }
 
    SharedTexts * texts_;
@@ -98,9 +107,7 @@ class EventRows {
    RowCounts counts_;
    bool isBroken_ = false;
    std::vector< Simulator::Row > rows_;
-   std::vector< std::unique_ptr< U32[] > > blocks_; // of words
-   std::size_t block_ = 0;                          // the one that is being filled
-   std::size_t used_ = 0;                           // words of it
+   Simulator::WordStore words_;
    std::deque< std::string > own_;
    std::deque< Rex::Value > values_;
 };

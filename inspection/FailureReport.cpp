@@ -49,16 +49,26 @@ FailureReport failureReportOf( Scenario const & scenario,
                                Simulator::SimulatedSwitch const & sw,
                                RunSummary const & summary,
                                bool isFollowed ) {
+   auto const event = summary.ending().events;
+   return failureReportOf(
+      scenario,
+      sw,
+      { .ending = summary.ending(),
+        .eventText = event == 0 || event > scenario.events.size() ? "start" : scenario.events[event - 1].text(),
+        .fap = !isFollowed         ? "unknown: --quiet follows no operation"
+               : summary.lastFap() ? std::to_string( *summary.lastFap() ) + ", the last that was worked on"
+                                   : "none was worked on in this event" } );
+}
+
+FailureReport
+failureReportOf( Scenario const & scenario, Simulator::SimulatedSwitch const & sw, FailurePlace const & place ) {
    FailureReport report;
-   report.event = summary.ending().events;
-   report.eventText =
-      report.event == 0 || report.event > scenario.events.size() ? "start" : scenario.events[report.event - 1].text();
-   report.fap = !isFollowed         ? "unknown: --quiet follows no operation"
-                : summary.lastFap() ? std::to_string( *summary.lastFap() ) + ", the last that was worked on"
-                                    : "none was worked on in this event";
-   report.function = summary.ending().function;
-   report.source = summary.ending().source;
-   report.text = summary.ending().text;
+   report.event = place.ending.events;
+   report.eventText = place.eventText;
+   report.fap = place.fap;
+   report.function = place.ending.function;
+   report.source = place.ending.source;
+   report.text = place.ending.text;
    if ( auto const * failure = Rex::failure() ) {
       report.message = failure->message;
    }

@@ -23,7 +23,17 @@ struct FailureReport {
    std::vector< std::string > lines() const;
 };
 
-// While the process fails: in a hook of Rex::atFailure. `isFollowed`: the summary has heard of the operations.
+// Where in its run a process has failed.
+struct FailurePlace {
+   Simulator::Ending ending;
+   std::string eventText;
+   std::string fap; // for people: the last that was worked on
+};
+
+// While the process fails: in a hook of Rex::atFailure.
+FailureReport
+failureReportOf( Scenario const & scenario, Simulator::SimulatedSwitch const & sw, FailurePlace const & place );
+// `isFollowed`: the summary has heard of the operations.
 FailureReport failureReportOf( Scenario const & scenario,
                                Simulator::SimulatedSwitch const & sw,
                                RunSummary const & summary,

@@ -66,8 +66,9 @@ void RunSummary::row( Row const & row ) {
    if ( keepsRows_ && ( row.kind != Row::Kind::read || wanted_.readsToo ) ) {
       current_->keep( row );
    }
-   if ( lastCause_ != row.cause ) {
+   if ( lastCause_.empty() || lastCauseNumber_ != row.causeNumber ) {
       lastCause_ = row.cause;
+      lastCauseNumber_ = row.causeNumber;
    }
 }
 

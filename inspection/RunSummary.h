@@ -117,6 +117,7 @@ class RunSummary final : public Simulator::RowReader {
    ServedFaps served_;
    std::optional< U16 > lastFap_;
    std::string lastCause_;
+   U32 lastCauseNumber_ = 0;
    Simulator::Ending ending_;
 };
 

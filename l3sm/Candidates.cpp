@@ -214,6 +214,35 @@ Candidates events( std::string const &, Before const & ) {
    return { .list = { { "all" }, { "last" } } };
 }
 
+Candidates stateActions( std::string const &, Before const & ) {
+   return { .list = { { "get", "what the database holds" },
+                      { "set", "an attribute, or with --key an entry of it" },
+                      { "delete", "an entity, or with --key an entry" },
+                      { "load", "a new life of the state, from a file" },
+                      { "apply", "the events of a file, one transaction each" },
+                      { "watch", "each change as it comes" },
+                      { "wait", "until the agents have applied what was written" } } };
+}
+
+// Behind an action: a file, a path, or an attribute of the path before.
+Candidates ofStateAction( std::string const & typed, Before const & before ) {
+   if ( !before.empty() && ( before[0] == "load" || before[0] == "apply" ) ) {
+      return { .files = true };
+   }
+   if ( before.size() < 2 ) {
+      return paths( typed, before );
+   }
+   List all;
+   for ( StatePath const & path : statePaths() ) {
+      if ( before.size() == 2 && path.isOf( before[1] ) ) {
+         for ( StateAttribute const & attribute : path.attributes ) {
+            all.push_back( { attribute.attribute->name, "attribute" } );
+         }
+      }
+   }
+   return { .list = all };
+}
+
 struct Place {
    std::string_view name;
    Candidates ( *candidates )( std::string const &, Before const & );
@@ -235,6 +264,8 @@ constexpr Place places[] = {
    { "PATH", paths },
    { "FACILITY", facilities },
    { "SUBJECT", subjects },
+   { "ACTION", stateActions },
+   { "ARGUMENT", ofStateAction },
    { "A", files },
    { "B", files },
    { "CHIPS", files },
@@ -242,6 +273,9 @@ constexpr Place places[] = {
    // the types of what is left
    { "UINT", nothing },
    { "INT", nothing },
+   { "URL", nothing },
+   { "KEY", nothing },
+   { "SLICE", nothing },
    { "N[,...]|all|last", events },
    { "FACILITY/LEVEL[,...]", facilitiesWithLevels },
    { "FILE:NAME=on|off", toggles },

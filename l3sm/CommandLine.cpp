@@ -57,6 +57,7 @@ constexpr Verb verbs[] = {
    { "serve",
      "be the agent of a slice: follow the state in a database, program the chips, until told to end",
      defineServe },
+   { "state", "the state in a central database that agents follow: look at it, change it, wait for them", defineState },
 };
 
 int failed( std::string const & text ) {

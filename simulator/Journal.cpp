@@ -8,34 +8,9 @@
 
 namespace Simulator {
 
-namespace {
-
-constexpr std::size_t blockWords = 1 << 15;
-
-} // namespace
-
 std::size_t Journal::OriginHash::operator()( OriginKey const & key ) const {
    std::hash< void const * > const hash;
    return hash( key.function ) ^ hash( key.file ) * 3 ^ key.line * std::size_t{ 0x9e3779b97f4a7c15 };
-}
-
-U32 const * Journal::WordStore::keep( std::span< U32 const > words, std::span< U32 const > before ) {
-   std::size_t const size = words.size() + before.size();
-   if ( blocks_.empty() || blocks_.back().capacity() - blocks_.back().size() < size ) {
-      blocks_.emplace_back().reserve( std::max( blockWords, size ) );
-   }
-   auto & block = blocks_.back();
-   U32 const * const kept = block.data() + block.size();
-   block.insert( block.end(), words.begin(), words.end() );
-   block.insert( block.end(), before.begin(), before.end() );
-   return kept;
-}
-
-void Journal::WordStore::forget() {
-   blocks_.resize( std::min< std::size_t >( blocks_.size(), 1 ) );
-   if ( !blocks_.empty() ) {
-      blocks_.front().clear();
-   }
 }
 
 Journal::Journal( Knowledge knowledge )
@@ -71,6 +46,7 @@ void Journal::hearsNoMore() {
 void Journal::eventBegins( U32 event, Rex::Value what ) {
    event_ = event;
    what_ = std::move( what );
+   causeIsAnother();
 }
 
 void Journal::eventIsDropped() {
@@ -92,8 +68,9 @@ void Journal::handOver() {
    if ( readers_.empty() ) {
       handedOver_ = records_.size();
    }
+   Row next{ .kind = Kind::read, .event = event_ };
    while ( handedOver_ < records_.size() ) {
-      Row const next = row( records_[handedOver_++] );
+      tell( records_[handedOver_++], next );
       for ( RowReader * const reader : readers_ ) {
          reader->row( next );
       }
@@ -143,19 +120,20 @@ void Journal::failed() {
 
 // ---- what is heard
 
-Journal::Record Journal::recordOf( Kind kind, U32 origin ) {
-   Record record{};
+Journal::Record & Journal::add( Kind kind, U32 origin ) {
+   U32 const cause = causeNumber();
+   Record & record = records_.emplace_back();
    record.kind = kind;
    record.event = event_;
    record.origin = origin;
-   record.cause = causeNumber( knowledge_.cause() );
+   record.cause = cause;
    return record;
 }
 
 void Journal::operation( DaceSal::Operation const & operation ) {
    using enum DaceSal::Operation::Kind;
    Kind const kind = operation.kind == read ? Kind::read : operation.kind == write ? Kind::write : Kind::control;
-   Record record = recordOf( kind, originNumber( operation.origin ) );
+   Record & record = add( kind, originNumber( operation.origin ) );
    record.seq = ++operations_;
    record.isOfFap = true;
    record.fap = operation.chip.value;
@@ -177,15 +155,16 @@ void Journal::operation( DaceSal::Operation const & operation ) {
       record.scope = operation.scope;
       record.core = operation.core;
    }
-   records_.push_back( record );
 }
 
 void Journal::gateClosed( Rex::ClosedGate const & gate ) {
-   Record record = recordOf( Kind::gate, originNumber( gate.origin ) );
-   record.reason = &reasons_.emplace_back( gate.reason );
+   Record & record = add( Kind::gate, originNumber( gate.origin ) );
+   if ( reasons_.empty() || reasons_.back() != gate.reason ) {
+      reasons_.emplace_back( gate.reason );
+   }
+   record.reason = &reasons_.back();
    record.isOfFap = gate.fap.has_value();
    record.fap = gate.fap.value_or( 0 );
-   records_.push_back( record );
 }
 
 bool Journal::follows( Rex::Entity const & entity ) {
@@ -194,18 +173,26 @@ bool Journal::follows( Rex::Entity const & entity ) {
 }
 
 void Journal::written( Rex::Write const & write ) {
-   Record record = recordOf( Kind::publish, 0 );
+   Record & record = add( Kind::publish, 0 );
    record.publication =
       &publications_.emplace_back( Publication{ .path = followed_,
                                                 .attribute = write.attribute.name,
                                                 .key = write.key.empty() ? std::nullopt : std::optional( write.key ),
                                                 .before = write.before,
                                                 .after = write.after } );
-   records_.push_back( record );
 }
 
 U32 Journal::originNumber( std::source_location const & at ) {
    OriginKey const key{ at.function_name(), at.file_name(), at.line() };
+   auto const place = reinterpret_cast< std::uintptr_t >( key.function ) / 16 + key.line;
+   LatestOrigin & latest = latestOrigins_[place % latestOrigins_.size()];
+   if ( latest.function != key.function || latest.line != key.line ) [[unlikely]] {
+      latest = { key.function, key.line, numberOf( key ) };
+   }
+   return latest.number;
+}
+
+U32 Journal::numberOf( OriginKey const & key ) {
    auto const [known, isNew] = originNumbers_.try_emplace( key, static_cast< U32 >( origins_.size() ) );
    if ( isNew ) {
       origins_.push_back( Origin{ functionName( key.function ),
@@ -214,7 +201,12 @@ U32 Journal::originNumber( std::source_location const & at ) {
    return known->second;
 }
 
-U32 Journal::causeNumber( std::string cause ) {
+U32 Journal::causeNumber() {
+   if ( latestAnnouncements_.areStill() ) {
+      return latestCause_;
+   }
+   latestAnnouncements_.remember();
+   std::string cause = knowledge_.cause();
    if ( latestCause_ < causes_.size() && *causes_[latestCause_] == cause ) {
       return latestCause_;
    }

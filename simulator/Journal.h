@@ -23,8 +23,11 @@
 #include "chip/ChipType.h"
 #include "rex/Gate.h"
 #include "rex/WriteListener.h"
+#include "simulator/LatestAnnouncements.h"
 #include "simulator/Row.h"
+#include "simulator/WordStore.h"
 
+#include <array>
 #include <deque>
 #include <functional>
 #include <map>
@@ -38,7 +41,7 @@ class Journal final : public DaceSal::OperationListener, public Rex::GateListene
    using Scope = Row::Scope;
 
    struct Knowledge {
-      std::function< std::string() > cause; // what is being dispatched; asked at each row
+      std::function< std::string() > cause; // what is being dispatched; asked where that may be another than before
       // The path of an entity whose values are published; empty for others. None: nothing is published.
       std::function< std::string( Rex::Entity const & ) > pathOf = {};
    };
@@ -63,6 +66,8 @@ class Journal final : public DaceSal::OperationListener, public Rex::GateListene
    void eventEnds();
    // As if it had never begun.
    void eventIsDropped();
+   // What comes from here on has another cause, whatever is being announced.
+   void causeIsAnother() { latestAnnouncements_.forget(); }
    U32 event() const { return event_; }
    U64 operationCount() const { return operations_; }
    // The run is over; idempotent.
@@ -128,21 +133,19 @@ class Journal final : public DaceSal::OperationListener, public Rex::GateListene
       bool hasBefore;
       bool isOfFap;
    };
-   // Words of rows, which stay where they are until all are forgotten.
-   class WordStore {
-    public:
-      U32 const * keep( std::span< U32 const > words, std::span< U32 const > before );
-      void forget();
-
-    private:
-      std::deque< std::vector< U32 > > blocks_;
+   // Where an operation came from, when it was asked last at a place like this one.
+   struct LatestOrigin {
+      char const * function = nullptr;
+      U32 line = 0;
+      U32 number = 0;
    };
    using Layouts = std::vector< Catalogue::Layout const * >; // of one kind of chip, by table and variant
 
-   Record recordOf( Kind kind, U32 origin );
+   Record & add( Kind kind, U32 origin );
    U32 originNumber( std::source_location const & at );
-   U32 causeNumber( std::string cause );
-   Row row( Record const & record ) const;
+   U32 numberOf( OriginKey const & key );
+   U32 causeNumber();
+   void tell( Record const & record, Row & row ) const;
    void handOver();
    void forget();
    void failed();
@@ -161,11 +164,13 @@ class Journal final : public DaceSal::OperationListener, public Rex::GateListene
    std::deque< std::string > reasons_;
    std::deque< Publication > publications_;
 
+   std::array< LatestOrigin, 256 > latestOrigins_; // by a few bits of the place
    std::deque< Origin > origins_;
    std::unordered_map< OriginKey, U32, OriginHash > originNumbers_;
    std::vector< std::string const * > causes_; // the keys of the numbers
    std::map< std::string, U32 > causeNumbers_;
    U32 latestCause_ = 0;
+   LatestAnnouncements latestAnnouncements_;
    std::vector< Layouts > layouts_; // by FAP
    std::string followed_;           // the path of the entity that was asked about last
    int failureHook_ = 0;

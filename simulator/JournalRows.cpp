@@ -27,8 +27,13 @@ void Journal::chipIs( U16 fap, Hardware::ChipType chipType ) {
    }
 }
 
-Row Journal::row( Record const & record ) const {
-   Row row{ .kind = record.kind, .event = record.event, .seq = record.seq };
+// A row that was told of a record of the same kind already is filled anew: all that such rows have is written here.
+void Journal::tell( Record const & record, Row & row ) const {
+   if ( row.kind != record.kind ) {
+      row = Row{ .kind = record.kind, .event = record.event };
+   }
+   row.event = record.event;
+   row.seq = record.seq;
    row.cause = *causes_[record.cause];
    row.causeNumber = record.cause;
    row.isOfFap = record.isOfFap;
@@ -40,11 +45,14 @@ Row Journal::row( Record const & record ) const {
       row.key = publication.key;
       row.publishedBefore = &publication.before;
       row.published = &publication.after;
-      return row;
+      return;
    }
-   row.function = origins_[record.origin].function;
-   row.source = origins_[record.origin].source;
-   row.originNumber = record.origin;
+   if ( row.originNumber != record.origin || row.function.empty() ) {
+      Origin const & origin = origins_[record.origin];
+      row.function = origin.function;
+      row.source = origin.source;
+      row.originNumber = record.origin;
+   }
    row.changed = record.changed;
    switch ( record.kind ) {
    case Kind::gate:
@@ -57,8 +65,10 @@ Row Journal::row( Record const & record ) const {
       break;
    case Kind::read:
    case Kind::write:
-      row.tableNumber = record.table;
-      row.table = Catalogue::tables()[record.table].name;
+      if ( row.tableNumber != record.table || row.table.empty() ) {
+         row.tableNumber = record.table;
+         row.table = Catalogue::tables()[record.table].name;
+      }
       row.layout = record.fap < layouts_.size() && !layouts_[record.fap].empty()
                       ? layouts_[record.fap][record.table * mostVariants + record.variant]
                       : nullptr;
@@ -73,14 +83,13 @@ Row Journal::row( Record const & record ) const {
    case Kind::publish:
       break;
    }
-   return row;
 }
 
 std::vector< Row > Journal::rows() const {
    std::vector< Row > all;
    all.reserve( records_.size() );
    for ( Record const & record : records_ ) {
-      all.push_back( row( record ) );
+      tell( record, all.emplace_back( Row{ .kind = record.kind, .event = record.event } ) );
    }
    return all;
 }

@@ -17,48 +17,6 @@ constexpr DaceFapNi::SliceState sliceUp{ 31 };
 // A state of a slice that nobody has told anything about.
 constexpr DaceFapNi::SliceState sliceDown{ 0 };
 
-// The cause that was told last. Most rows of an event share theirs, and to tell it takes a way through the state.
-class LatestCause {
- public:
-   // `tell` is asked where the moment or the announcements under way are others than before.
-   template< class Tell >
-   std::string const & of( std::pair< U32, bool > const & moment, Tell const & tell ) {
-      if ( moment != moment_ || !isAsBefore() ) {
-         moment_ = moment;
-         announced_.clear();
-         for ( auto const * it = Corvo::Publisher::current(); it; it = it->outer ) {
-            announced_.push_back( { it->publisher, it->attribute, it->key } );
-            if ( it->publisher && dynamic_cast< Rex::Dir const * >( &it->publisher->node() ) ) {
-               announced_.clear(); // it is told by name, and names may come one after the other in one place
-               break;
-            }
-         }
-         text_ = tell();
-      }
-      return text_;
-   }
-
- private:
-   struct Announced {
-      Corvo::Publisher const * publisher;
-      short attribute;
-      void const * key;
-   };
-   bool isAsBefore() const {
-      auto const * it = Corvo::Publisher::current();
-      for ( auto const & before : announced_ ) {
-         if ( !it || it->publisher != before.publisher || it->attribute != before.attribute || it->key != before.key ) {
-            return false;
-         }
-         it = it->outer;
-      }
-      return !it && !announced_.empty();
-   }
-   std::pair< U32, bool > moment_;      // the event, and whether chips are being initialised
-   std::vector< Announced > announced_; // the innermost first
-   std::string text_;
-};
-
 SwitchDescription checked( SwitchDescription description ) {
    if ( DaceSal::schanDriver() ) {
       throw std::logic_error( "there is a switch in this process already" );
@@ -111,10 +69,7 @@ void loadPlugin( std::string const & path ) {
 
 SimulatedSwitch::SimulatedSwitch( SwitchDescription description )
    : description_( checked( std::move( description ) ) ),
-     journal_( { .cause =
-                    [this, latest = LatestCause()]() mutable {
-                       return latest.of( { event_, phase_ == Phase::chipInit }, [this] { return cause(); } );
-                    },
+     journal_( { .cause = [this] { return cause(); },
                  .pathOf = [this]( Rex::Entity const & entity ) { return publishedPath( entity ); } } ),
      scheduler_( makePtr< Orb::TaskScheduler >() ),
      entityManager_( makePtr< Stordb::EntityManager >( state_.database(), scheduler_ ) ),
@@ -183,10 +138,12 @@ void SimulatedSwitch::initChips() {
       return;
    }
    phase_ = Phase::chipInit;
+   journal_.causeIsAnother();
    for ( auto const & [fapId, fapStatus] : cellStatus_->fapStatus() ) {
       configs->initChip( fapStatus );
    }
    phase_ = Phase::starting;
+   journal_.causeIsAnother();
 }
 
 void SimulatedSwitch::stop() {
@@ -273,8 +230,9 @@ std::string SimulatedSwitch::publishedPath( Rex::Entity const & entity ) const {
    if ( &entity == Interface::ManagedIntfStatusLocalDir::newest() ) {
       return "managed/intfStatusLocalDir";
    }
-   auto const path = state_.pathOf( entity );
-   return StateTree::isMachinery( path ) ? std::string() : path;
+   auto const * root = state_.rootAbove( entity );
+   bool const isSeen = root && root->kind != StateRoot::Kind::machinery; // by people
+   return isSeen ? state_.pathOf( entity ) : std::string();
 }
 
 std::string SimulatedSwitch::causeOf( Corvo::Notification const & notification ) const {

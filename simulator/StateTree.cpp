@@ -265,18 +265,28 @@ void StateTree::entityDel( std::string const & path ) {
    }
 }
 
+StateRoot const * StateTree::rootAbove( Rex::Entity const & entity ) const {
+   for ( auto const * at = &entity; at; at = at->parent() ) {
+      if ( auto const root = rootOfEntity_.find( at ); root != rootOfEntity_.end() ) {
+         return root->second;
+      }
+   }
+   return nullptr;
+}
+
 std::string StateTree::pathOf( Rex::Entity const & entity ) const {
    if ( auto const root = rootOfEntity_.find( &entity ); root != rootOfEntity_.end() ) {
       return root->second->path();
    }
    auto const * parent = entity.parent();
-   auto const above = parent ? pathOf( *parent ) : std::string();
-   auto const step = above.empty() ? std::string() : parent->stepTo( entity );
-   return step.empty() ? std::string() : above + "/" + step;
-}
-
-bool StateTree::isMachinery( std::string const & path ) {
-   return path.starts_with( "shared/" ) && rootOf( path ).kind == Kind::machinery; // all of it is shared
+   auto path = parent ? pathOf( *parent ) : std::string();
+   auto const step = path.empty() ? std::string() : parent->stepTo( entity );
+   if ( step.empty() ) {
+      return {};
+   }
+   path += '/';
+   path += step;
+   return path;
 }
 
 Rex::Value StateTree::value() const {

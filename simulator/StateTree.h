@@ -19,6 +19,7 @@
 #include "agent/Mounter.h"
 
 #include <span>
+#include <unordered_map>
 
 namespace Simulator {
 
@@ -74,8 +75,8 @@ class StateTree {
 
    // The path of an entity; empty if it isn't in the tree.
    std::string pathOf( Rex::Entity const & entity ) const;
-   // Whether the path lies where there is nothing to see for people.
-   static bool isMachinery( std::string const & path );
+   // The root that the entity is, or that it hangs below; null if there is none.
+   StateRoot const * rootAbove( Rex::Entity const & entity ) const;
 
    // Path to attributes, null for a path that was left out; and the managed interface directories that a plug-in
    // publishes, below "managed/".
@@ -103,7 +104,7 @@ class StateTree {
 
    Corvo::Ptr< Stordb::Database > database_;
    Corvo::Ptr< Agent::MounterPlugin::LocalSharedState > shared_;
-   std::map< Rex::Entity const *, StateRoot const * > rootOfEntity_;
+   std::unordered_map< Rex::Entity const *, StateRoot const * > rootOfEntity_;
 };
 
 } // namespace Simulator

@@ -1,5 +1,6 @@
 #include "agent/database/RedisConnection.h"
 
+#include <algorithm>
 #include <csignal>
 #include <hiredis/async.h>
 #include <sys/epoll.h>
@@ -42,6 +43,7 @@ struct RedisConnection::Impl : std::enable_shared_from_this< Impl > {
       Errors errors;
       Patience patience;
       bool isSubscription = false;
+      std::string about = {}; // for messages: "GET l3sm:{1}#epoch"
    };
 
    RedisConnection * owner = nullptr;     // null: nobody wants to hear anything any more
@@ -52,6 +54,7 @@ struct RedisConnection::Impl : std::enable_shared_from_this< Impl > {
    std::size_t asked = 0;
    std::size_t askedUsual = 0;
    Rex::Seconds heard = 0; // when the server answered last, or was asked while nothing was open
+   bool hasAnswered = false;
    std::exception_ptr thrown = nullptr;
 
    // The loop and hiredis.
@@ -119,12 +122,13 @@ struct RedisConnection::Impl : std::enable_shared_from_this< Impl > {
          askedUsual -= question.patience == Patience::usual ? 1 : 0;
       }
       heard = Rex::now();
+      hasAnswered = hasAnswered || reply.isThere();
       if ( !owner || !reply.isThere() ) {
          return;
       }
       calls( [&] {
          if ( reply.isError() && question.errors == Errors::endConnection ) {
-            owner->refused( std::string( reply.text() ) );
+            owner->refused( question.about + ": " + std::string( reply.text() ) );
          } else {
             question.answer( reply );
          }
@@ -136,13 +140,21 @@ namespace {
 
 // What the server's errors mean to people.
 std::string withRemedy( std::string const & error ) {
-   if ( error.starts_with( "NOAUTH" ) || error.starts_with( "WRONGPASS" ) ) {
+   auto const has = [&]( char const * code ) { return error.find( code ) != std::string::npos; };
+   if ( has( "NOAUTH" ) || has( "WRONGPASS" ) ) {
       return error + "; the password comes from the environment, " + redisPasswordVariable;
    }
-   if ( error.starts_with( "OOM" ) || error.find( " OOM" ) != std::string::npos ) {
+   if ( has( ": OOM" ) ) {
       return error + "; the server's maxmemory is used up";
    }
    return error;
+}
+
+// What was asked, and of which of our keys: nothing else of it is told, it may be a password.
+std::string aboutOf( RedisConnection::Words const & words ) {
+   std::string about( words[0] );
+   auto const key = std::ranges::find_if( words, []( std::string_view word ) { return word.starts_with( "l3sm:{" ); } );
+   return key == words.end() ? about : about + " " + std::string( *key );
 }
 
 } // namespace
@@ -202,6 +214,9 @@ void RedisConnection::ask( Words const & words, Answer answer, Errors errors, Pa
       lengths[at] = words[at].size();
    }
    auto question = std::make_unique< Impl::Question >( Impl::Question{ impl_, std::move( answer ), errors, patience } );
+   if ( errors == Errors::endConnection ) {
+      question->about = aboutOf( words );
+   }
    bool const isAsked = redisAsyncCommandArgv( impl_->context,
                                                Impl::answered,
                                                question.get(),
@@ -241,6 +256,10 @@ void RedisConnection::flush() {
 
 std::size_t RedisConnection::asked() const {
    return impl_->asked;
+}
+
+bool RedisConnection::hasAnswered() const {
+   return impl_->hasAnswered;
 }
 
 Rex::Seconds RedisConnection::silentFor() const {

@@ -52,6 +52,8 @@ class RedisConnection {
    std::size_t asked() const;
    // Since when the server hasn't answered, though it should have, in seconds.
    Rex::Seconds silentFor() const;
+   // Whether there is a server at all.
+   bool hasAnswered() const;
    RedisAddress const & address() const { return address_; }
 
    struct Impl;

@@ -45,6 +45,9 @@ void RedisDatabase::snapshot() {
 
 void RedisDatabase::since( Position const & position ) {
    snapshot_.reset();
+   if ( reader_ && reader_->more( position ) ) {
+      return;
+   }
    reader_.reset();
    withRight( [this, position] {
       reader_ = std::make_unique< RedisReader >(

@@ -8,7 +8,8 @@ RedisReader::RedisReader( EventLoop & loop,
                           RedisLayout const & layout,
                           Position position,
                           Answers answers )
-   : layout_( layout ), position_( std::move( position ) ), answers_( std::move( answers ) ),
+   : loop_( loop ), layout_( layout ), position_( std::move( position ) ), told_( position_ ),
+     answers_( std::move( answers ) ),
      connection_( loop, address, clientName, [this]( std::string const & reason ) { answers_.lost( reason ); } ) {
    begin();
 }
@@ -34,11 +35,33 @@ void RedisReader::next() {
       if ( !page.transactions.empty() ) {
          position_ = page.transactions.back().position;
       }
-      next();
-      if ( !page.transactions.empty() ) {
-         answers_.are( std::move( page.transactions ) );
+      if ( page.transactions.empty() ) {
+         next();
+      } else if ( isAsked_ ) {
+         tell( std::move( page.transactions ) );
+      } else {
+         kept_ = std::move( page.transactions );
       }
    } );
+}
+
+void RedisReader::tell( std::vector< Transaction > transactions ) {
+   isAsked_ = false;
+   told_ = position_;
+   next();
+   answers_.are( std::move( transactions ) );
+}
+
+bool RedisReader::more( Position const & position ) {
+   if ( !( position == told_ ) ) {
+      return false;
+   }
+   if ( kept_.empty() ) {
+      isAsked_ = true;
+   } else {
+      loop_.soon( tether_.of( [this] { tell( std::exchange( kept_, {} ) ); } ) );
+   }
+   return true;
 }
 
 std::function< void( LogState const & ) > RedisReader::judge() {

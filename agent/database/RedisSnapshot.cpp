@@ -13,8 +13,11 @@ constexpr unsigned mostTries = 8;
 
 } // namespace
 
-RedisSnapshot::RedisSnapshot( RedisConnection & connection, RedisLayout const & layout, Answers answers )
-   : connection_( connection ), layout_( layout ), answers_( std::move( answers ) ) {
+RedisSnapshot::RedisSnapshot( RedisConnection & connection,
+                              RedisLayout const & layout,
+                              Answers answers,
+                              std::function< bool( std::string const & path ) > wanted )
+   : connection_( connection ), layout_( layout ), answers_( std::move( answers ) ), wanted_( std::move( wanted ) ) {
    begin();
 }
 
@@ -41,9 +44,12 @@ void RedisSnapshot::pathsAre( RedisReply names ) {
       answers_.without( "the database has lost its state: there is not one path; load it again: l3sm state load FILE" );
       return;
    }
+   if ( wanted_ ) {
+      std::erase_if( names_, [this]( std::string const & path ) { return !wanted_( path ); } );
+   }
    std::ranges::sort( names_ );
    asked_ = open_ = 0;
-   readMore();
+   names_.empty() ? applyRest() : readMore();
 }
 
 void RedisSnapshot::readMore() {

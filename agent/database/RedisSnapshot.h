@@ -22,7 +22,11 @@ class RedisSnapshot {
       std::function< void( std::string const & ) > fails;
    };
 
-   RedisSnapshot( RedisConnection & connection, RedisLayout const & layout, Answers answers );
+   // Only the wanted paths are read, where somebody wants some; what lies between may tell of others.
+   RedisSnapshot( RedisConnection & connection,
+                  RedisLayout const & layout,
+                  Answers answers,
+                  std::function< bool( std::string const & path ) > wanted = {} );
 
  private:
    void begin();
@@ -36,6 +40,7 @@ class RedisSnapshot {
    RedisConnection & connection_;
    RedisLayout layout_;
    Answers answers_;
+   std::function< bool( std::string const & path ) > wanted_;
    unsigned tries_ = 0;
    Snapshot snapshot_;
    std::vector< std::string > names_;

@@ -14,8 +14,8 @@ namespace {
 using Simulator::Row;
 using Simulator::WordView;
 
-constexpr std::size_t wordSize = 14;  // `"0x00000000", `
-constexpr std::size_t fewBytes = 512; // of all that a line has beside its words and texts
+constexpr std::size_t wordSize = 14;      // `"0x00000000", `
+constexpr std::size_t fewBytes = 512;     // of all that a line has beside its words and texts
 
 // Puts one text behind the other where there is room for them.
 class Put {
@@ -68,11 +68,13 @@ Put & Put::operator<<( WordView words ) {
 }
 
 // As JSON has it; most texts are the same there, but for their quotation marks.
-std::string jsonOf( std::string_view text ) {
-   bool const isPlain = std::ranges::none_of( text, []( char letter ) {
+bool isPlain( std::string_view text ) {
+   return std::ranges::none_of( text, []( char letter ) {
       return letter == '"' || letter == '\\' || static_cast< unsigned char >( letter ) < 0x20;
    } );
-   return isPlain ? '"' + std::string( text ) + '"' : quoted( std::string( text ) );
+}
+std::string jsonOf( std::string_view text ) {
+   return isPlain( text ) ? '"' + std::string( text ) + '"' : quoted( std::string( text ) );
 }
 std::string jsonOfValue( Rex::Value const & value ) {
    return value.text() ? jsonOf( *value.text() ) : toJson( value, 0 );
@@ -99,11 +101,11 @@ std::string_view scopeOf( Row const & row ) {
 }
 
 void putAccess( Put & put, Row const & row ) {
-   put << unsigned{ row.variant } << ", \"array\": " << row.array;
+   put << unsigned{ row.variant } << ", \"array\": " << row.array << ", \"entry\": ";
    if ( row.entry ) {
-      put << ", \"entry\": " << *row.entry;
+      put << *row.entry;
    } else {
-      put << ", \"entry\": null";
+      put << "null";
    }
    put << scopeOf( row );
    if ( row.scope == Row::Scope::core ) {
@@ -111,7 +113,7 @@ void putAccess( Put & put, Row const & row ) {
    }
    put << ", \"words\": " << row.words;
    if ( row.kind == Row::Kind::write ) {
-      put << ", \"changed\": " << row.changed;
+      put << ( row.changed ? std::string_view( ", \"changed\": true" ) : ", \"changed\": false" );
       if ( row.changed && !row.before.empty() ) {
          put << ", \"before\": " << row.before;
       }
@@ -146,18 +148,37 @@ char * RowLines::room( std::size_t bytes ) {
    return buffer_.get() + size_;
 }
 
-std::string_view RowLines::origin( Row const & row ) {
-   return known( origins_, row.originNumber, [&] {
-      return ", \"function\": " + jsonOf( row.function ) + ", \"source\": " + jsonOf( row.source );
-   } );
-}
-
-std::string_view RowLines::cause( Row const & row ) {
-   return known( causes_, row.causeNumber, [&] { return ", \"cause\": " + jsonOf( row.cause ) + "}\n"; } );
+std::string_view RowLines::tail( Row const & row ) {
+   std::size_t const origin = row.kind == Row::Kind::publish ? 0 : row.originNumber + std::size_t{ 1 };
+   if ( tails_.size() <= origin ) {
+      tails_.resize( origin + 1 );
+   }
+   Tail & tail = tails_[origin];
+   if ( tail.text.empty() || tail.cause != row.causeNumber ) {
+      tail.cause = row.causeNumber;
+      tail.text = origin == 0 ? std::string()
+                              : ", \"function\": " + jsonOf( row.function ) + ", \"source\": " + jsonOf( row.source );
+      tail.text += ", \"cause\": " + jsonOf( row.cause ) + "}\n";
+   }
+   return tail.text;
 }
 
 std::string_view RowLines::table( Row const & row ) {
    return known( tables_, row.tableNumber, [&] { return ", \"table\": " + jsonOf( row.table ) + ", \"variant\": "; } );
+}
+
+std::string_view RowLines::event( Row const & row ) {
+   if ( event_.text.empty() || event_.number != row.event ) {
+      event_ = { row.event, std::to_string( row.event ) };
+   }
+   return event_.text;
+}
+
+std::string_view RowLines::reason( Row const & row ) {
+   if ( reason_.text.empty() || reason_.of != row.reason ) {
+      reason_ = { std::string( row.reason ), ", \"reason\": " + jsonOf( row.reason ) };
+   }
+   return reason_.text;
 }
 
 void RowLines::add( Row const & row ) {
@@ -168,23 +189,19 @@ void RowLines::add( Row const & row ) {
       "{\"op\": \"gate\", \"event\": ",
       "{\"op\": \"publish\", \"event\": ",
    };
-   auto const ofCause = cause( row );
-   auto const ofOrigin = row.kind == Row::Kind::publish ? std::string_view() : origin( row );
+   bool const isPublication = row.kind == Row::Kind::publish;
+   auto const published = isPublication ? publicationOf( row ) : std::string();
+   auto const ofTail = tail( row );
    auto const ofTable = row.words.empty() ? std::string_view() : table( row );
-   std::string own; // of rows that aren't operations
-   if ( row.kind == Row::Kind::gate ) {
-      own = ", \"reason\": " + jsonOf( row.reason );
-   } else if ( row.kind == Row::Kind::publish ) {
-      own = publicationOf( row );
-   }
+   auto const own = row.kind == Row::Kind::gate ? reason( row ) : std::string_view( published );
    Put put( room( fewBytes + wordSize * ( row.words.size() + row.before.size() ) + own.size() + ofTable.size() +
-                  ofOrigin.size() + ofCause.size() ) );
+                  ofTail.size() ) );
    put << begins[static_cast< std::size_t >( row.kind )];
    if ( row.isOperation() ) {
       put << row.seq << ", \"event\": ";
    }
-   put << row.event;
-   if ( row.isOfFap && row.kind != Row::Kind::publish ) {
+   put << event( row );
+   if ( row.isOfFap && !isPublication ) {
       put << ", \"fap\": " << row.fap;
    }
    if ( row.kind == Row::Kind::control ) {
@@ -193,7 +210,7 @@ void RowLines::add( Row const & row ) {
       put << ofTable;
       putAccess( put, row );
    }
-   put << own << ofOrigin << ofCause;
+   put << own << ofTail;
    size_ = static_cast< std::size_t >( put.at() - buffer_.get() );
 }
 

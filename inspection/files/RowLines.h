@@ -28,17 +28,32 @@ class RowLines {
  private:
    // The lines' end, with room for as many bytes.
    char * room( std::size_t bytes );
-   std::string_view origin( Simulator::Row const & row );
-   std::string_view cause( Simulator::Row const & row );
+   std::string_view tail( Simulator::Row const & row );
    std::string_view table( Simulator::Row const & row );
+   std::string_view event( Simulator::Row const & row );
+   std::string_view reason( Simulator::Row const & row );
+
+   // How the lines of one origin end, as long as their cause is the same.
+   struct Tail {
+      U32 cause = 0;
+      std::string text{};
+   };
+   struct Event {
+      U32 number = 0;
+      std::string text{};
+   };
+   struct Reason {
+      std::string of{};
+      std::string text{};
+   };
 
    std::unique_ptr< char[] > buffer_;
    std::size_t size_ = 0;
    std::size_t capacity_ = 0;
-   // By the number that the row has for it.
-   std::vector< std::string > origins_;
-   std::vector< std::string > causes_;
-   std::vector< std::string > tables_;
+   std::vector< Tail > tails_;         // by the origin's number and 1; 0: of publications
+   std::vector< std::string > tables_; // by number
+   Event event_;                       // of the latest row
+   Reason reason_;                     // likewise
 };
 
 } // namespace Inspection

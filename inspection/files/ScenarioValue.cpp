@@ -36,25 +36,30 @@ Value valueOf( Toggle::Settings const & toggles ) {
 
 } // namespace
 
+// Put together without copies: an agent does it for each of its events.
 Value valueOf( Event const & event ) {
+   Value::Object what;
    if ( event.kind == Event::Kind::transaction ) {
       Value::List changes;
       for ( Event const & change : event.changes ) {
          changes.push_back( valueOf( change ) );
       }
-      return Value::Object{ { event.word(), std::move( changes ) } };
+      what.emplace( event.word(), std::move( changes ) );
+      return what;
    }
-   Value::Object object{ { "path", event.path } };
+   Value::Object change;
+   change.emplace( "path", event.path );
    for ( auto const & [name, member] :
          { std::pair( "attribute", &event.attribute ), std::pair( "key", &event.key ) } ) {
       if ( *member ) {
-         object[name] = **member;
+         change.emplace( name, **member );
       }
    }
    if ( event.kind == Event::Kind::set ) {
-      object["value"] = event.value;
+      change.emplace( "value", event.value );
    }
-   return Value::Object{ { event.word(), std::move( object ) } };
+   what.emplace( event.word(), std::move( change ) );
+   return what;
 }
 
 Value valueOf( Scenario const & scenario, Parts parts ) {

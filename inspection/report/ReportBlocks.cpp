@@ -68,7 +68,7 @@ void ReportBlocks::close() {
 }
 
 std::string deflated( std::string_view bytes ) {
-   constexpr int quick = 3; // a run waits for it; better ones save a tenth
+   constexpr int quick = 1; // a run waits for it; better ones save a tenth
    uLongf size = compressBound( bytes.size() );
    std::string out( size, '\0' );
    auto const * const from = reinterpret_cast< Bytef const * >( bytes.data() );

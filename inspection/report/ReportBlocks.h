@@ -15,7 +15,7 @@
 
 #include "corvo/Types.h"
 
-#include <set>
+#include <algorithm>
 #include <span>
 #include <string>
 #include <string_view>
@@ -33,7 +33,18 @@ struct ReportBlock {
    U32 firstRow;
    U64 firstOperation; // its number in the run
    U32 publications = 0;
-   std::set< U32 > tables = {}; // that are written here
+   std::vector< U32 > tables = {}; // that are written here, ascending
+
+   void tableAdd( U32 table ) {
+      if ( table != latestTable ) {
+         auto const at = std::ranges::lower_bound( tables, table );
+         if ( at == tables.end() || *at != table ) {
+            tables.insert( at, table );
+         }
+         latestTable = table;
+      }
+   }
+   U32 latestTable = ~U32{ 0 };
 };
 
 class ReportBlocks {
@@ -48,6 +59,7 @@ class ReportBlocks {
    // `text`: a value of JSON, or several with commas between them.
    void rowAdd( RowOf const & row, std::string_view text = {} );
    void wordAdd( U32 word ) { words_.push_back( word ); }
+   void wordsAdd( std::span< U32 const > words ) { words_.insert( words_.end(), words.begin(), words.end() ); }
    // Before a row is added; `operation`: the number of the next one.
    ReportBlock & under( U64 operation );
    U32 rowCount() const { return rows_; }

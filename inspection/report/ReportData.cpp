@@ -115,7 +115,7 @@ RowKey ReportData::keyOf( Row const & row ) {
    key.fill( -1 );
    key[0] = static_cast< int >( row.kind );
    if ( row.kind == Row::Kind::publish ) {
-      key[2] = number( row.path );
+      key[2] = static_cast< int >( latestPath_.number( texts_, row.path ) );
       key[4] = number( row.attribute );
       key[5] = row.key ? number( *row.key ) : -1;
       return key;
@@ -131,7 +131,7 @@ RowKey ReportData::keyOf( Row const & row ) {
    key[8] = static_cast< int >( function );
    key[9] = static_cast< int >( source );
    if ( row.kind == Row::Kind::gate ) {
-      key[2] = number( row.reason );
+      key[2] = static_cast< int >( latestReason_.number( texts_, row.reason ) );
    } else if ( row.kind == Row::Kind::control ) {
       key[4] = static_cast< int >( row.control );
    } else {
@@ -155,9 +155,7 @@ void ReportData::wordsOf( Row const & row ) {
          blocks_.wordAdd( *row.valueBefore );
       }
    } else if ( row.kind == Row::Kind::write ) {
-      for ( U32 const word : row.words ) {
-         blocks_.wordAdd( word );
-      }
+      blocks_.wordsAdd( row.words );
       if ( row.changed && row.before.size() == row.words.size() ) {
          for ( std::size_t index = 0; index < row.words.size(); ++index ) {
             blocks_.wordAdd( row.words[index] ^ row.before[index] );
@@ -187,9 +185,8 @@ void ReportData::met( Row const & row, RowKey const & key, U32 cause ) {
          tables_.add( table );
       }
    } else if ( row.kind == Row::Kind::control ) {
-      U32 const controls = texts_.number( "controls" );
-      byTable_[controls].add( row );
-      tables_.add( controls );
+      byTable_[controls()].add( row );
+      tables_.add( controls() );
    }
 }
 
@@ -217,10 +214,10 @@ void ReportData::row( Row const & row ) {
       ++published.count;
       text += "," + Rex::toText( *row.publishedBefore );
    } else if ( row.kind == Row::Kind::write ) {
-      block.tables.insert( static_cast< U32 >( key[2] ) );
+      block.tableAdd( static_cast< U32 >( key[2] ) );
       flags |= row.changed && row.before.size() == row.words.size() ? RowFlags::hasBefore : 0;
    } else if ( row.kind == Row::Kind::control ) {
-      block.tables.insert( texts_.number( "controls" ) );
+      block.tableAdd( controls() );
       flags |= row.valueBefore ? RowFlags::hasBefore : 0;
    }
    wordsOf( row );

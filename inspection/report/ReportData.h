@@ -124,6 +124,10 @@ class ReportData : public Simulator::RowReader {
       U32 table;
    };
    std::vector< LayoutOf > layouts_;
+   U32 controls() { return latestControls_.number( texts_, "controls" ); }
+   ReportTexts::Latest latestPath_;
+   ReportTexts::Latest latestReason_;
+   ReportTexts::Latest latestControls_;
    std::vector< std::pair< U32, U32 > > origins_; // function and source, by the row's number
    std::vector< U32 > causeNumbers_;
    Tallies byFunction_;

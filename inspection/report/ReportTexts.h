@@ -16,6 +16,21 @@ namespace Inspection {
 
 class ReportTexts {
  public:
+   // The same where a text often comes several times, one behind the other: it is compared with the one before.
+   class Latest {
+    public:
+      U32 number( ReportTexts & texts, std::string_view text ) {
+         if ( !isKnown_ || texts.all_[number_] != text ) {
+            number_ = texts.number( text );
+            isKnown_ = true;
+         }
+         return number_;
+      }
+
+    private:
+      bool isKnown_ = false;
+      U32 number_ = 0;
+   };
    U32 number( std::string_view text ) {
       auto const known = numbers_.find( text );
       if ( known != numbers_.end() ) {
@@ -36,14 +51,18 @@ class ReportTexts {
 // or attribute; entry or key; core; words; function; source. -1: none.
 using RowKey = std::array< int, 10 >;
 
+// Rows mostly come in the order in which they came before: what came behind the latest is looked at first.
 class ReportRowKeys {
  public:
    U32 number( RowKey const & key ) {
-      auto const [known, isNew] = numbers_.try_emplace( key, static_cast< U32 >( all_.size() ) );
-      if ( isNew ) {
-         all_.push_back( key );
+      if ( latest_ < next_.size() && next_[latest_] < all_.size() && all_[next_[latest_]] == key ) {
+         return latest_ = next_[latest_];
       }
-      return known->second;
+      U32 const number = find( key );
+      if ( latest_ < next_.size() ) {
+         next_[latest_] = number;
+      }
+      return latest_ = number;
    }
    std::vector< RowKey > const & all() const { return all_; }
 
@@ -58,8 +77,20 @@ class ReportRowKeys {
          return hash;
       }
    };
+
+   U32 find( RowKey const & key ) {
+      auto const [known, isNew] = numbers_.try_emplace( key, static_cast< U32 >( all_.size() ) );
+      if ( isNew ) {
+         all_.push_back( key );
+         next_.push_back( known->second + 1 ); // first they come one behind the other
+      }
+      return known->second;
+   }
+
    std::unordered_map< RowKey, U32, Hash > numbers_;
    std::vector< RowKey > all_;
+   std::vector< U32 > next_; // by number: the one that came behind it last
+   U32 latest_ = 0;
 };
 
 // Sets of numbers, ascending. Most events touch the same FAPs and tables as others.

@@ -3,8 +3,10 @@
 #include "inspection/files/Json.h"
 #include "simulator/ChipContents.h"
 
+#include <algorithm>
 #include <array>
 #include <charconv>
+#include <utility>
 
 namespace Inspection {
 
@@ -33,7 +35,10 @@ U64 hashOf( Simulator::Row const & row ) {
    std::hash< std::string_view > const ofText;
    if ( row.kind == Kind::publish ) {
       auto const * const number = row.published->integer();
-      U64 const value = number ? static_cast< U64 >( *number ) : ofText( Rex::toText( *row.published ) );
+      auto const * const text = row.published->text();
+      U64 const value = number ? static_cast< U64 >( *number )
+                        : text ? ofText( *text )
+                               : ofText( Rex::toText( *row.published ) );
       return mixed( mixed( mixed( 2, ofText( row.path ) ), ofText( row.attribute ) ), value );
    }
    // Mixed before the words come, which else could undo what tells one table from another.
@@ -45,6 +50,37 @@ U64 hashOf( Simulator::Row const & row ) {
 }
 
 } // namespace
+
+bool SearchableValues::Hashes::add( U64 hash ) {
+   hash += hash == 0; // which a free place holds
+   if ( 2 * ++size_ > places_.size() ) {
+      grow();
+   }
+   for ( std::size_t at = hash;; ++at ) {
+      U64 & place = places_[at & ( places_.size() - 1 )];
+      if ( place == hash ) {
+         --size_;
+         return false;
+      }
+      if ( place == 0 ) {
+         place = hash;
+         return true;
+      }
+   }
+}
+
+void SearchableValues::Hashes::grow() {
+   auto const before = std::exchange( places_, std::vector< U64 >( std::max( fewest, 2 * places_.size() ) ) );
+   for ( U64 const hash : before ) {
+      std::size_t at = hash;
+      while ( hash != 0 && places_[at & ( places_.size() - 1 )] != 0 ) {
+         ++at;
+      }
+      if ( hash != 0 ) {
+         places_[at & ( places_.size() - 1 )] = hash;
+      }
+   }
+}
 
 void SearchableValues::add( Values & values, std::string value, Simulator::Row const & row ) {
    if ( values.size() < valuesEach ) {
@@ -65,7 +101,7 @@ void SearchableValues::follow( Simulator::Row const & row ) {
       isWhole_ = false;
       return;
    }
-   if ( !seen_.insert( hashOf( row ) ).second ) {
+   if ( !seen_.add( hashOf( row ) ) ) {
       return;
    }
    if ( isWrite ) {

@@ -12,7 +12,7 @@
 
 #include <map>
 #include <string>
-#include <unordered_set>
+#include <vector>
 
 namespace Inspection {
 
@@ -28,11 +28,24 @@ class SearchableValues {
       int fap;
    };
    using Values = std::map< std::string, First >;
+   // A set of hashes, side by side; the next place in turn on collision.
+   class Hashes {
+    public:
+      // False where it is there already.
+      bool add( U64 hash );
+      std::size_t size() const { return size_; }
+
+    private:
+      static constexpr std::size_t fewest = 1 << 10; // places; a power of two
+      void grow();
+      std::vector< U64 > places_; // 0: free
+      std::size_t size_ = 0;
+   };
 
    void add( Values & values, std::string value, Simulator::Row const & row );
 
    std::map< std::pair< std::string, std::string >, Values > all_; // by table and field, or path and attribute
-   std::unordered_set< U64 > seen_;                                // contents of entries, as a hash
+   Hashes seen_;                                                   // contents of entries
    bool isWhole_ = true;
 };
 

@@ -32,5 +32,6 @@ Action defineSchema( VerbOptions & verb );
 Action defineToggles( VerbOptions & verb );
 Action defineFacilities( VerbOptions & verb );
 Action defineServe( VerbOptions & verb );
+Action defineState( VerbOptions & verb );
 
 } // namespace Cli

@@ -2,7 +2,6 @@
 #include "netka/IntfId.h"
 
 #include <charconv>
-#include <cstdio>
 #include <deque>
 #include <unordered_map>
 
@@ -48,16 +47,12 @@ EthAddr::EthAddr( std::string const & text ) {
 }
 
 std::string EthAddr::stringValue() const {
-   char text[18];
-   std::snprintf( text,
-                  sizeof text,
-                  "%02x:%02x:%02x:%02x:%02x:%02x",
-                  bytes_[0],
-                  bytes_[1],
-                  bytes_[2],
-                  bytes_[3],
-                  bytes_[4],
-                  bytes_[5] );
+   constexpr char digits[] = "0123456789abcdef";
+   std::string text( 3 * bytes_.size() - 1, ':' );
+   for ( std::size_t i = 0; i < bytes_.size(); ++i ) {
+      text[3 * i] = digits[bytes_[i] >> 4];
+      text[3 * i + 1] = digits[bytes_[i] & 15];
+   }
    return text;
 }
 

@@ -63,6 +63,10 @@ Corvo::Ptr< Entity > Attribute::child( Entity const &, std::string const & ) con
 
 void Attribute::forEachChild( Entity const &, std::function< void( Entity & ) > const & ) const {}
 
+bool Attribute::holds( Entity const &, Entity const & ) const {
+   return false;
+}
+
 std::string Attribute::keyText( void const * ) const {
    return {};
 }
@@ -103,6 +107,16 @@ Attribute const * TypeData::attribute( short id ) const {
       }
    }
    return base_ ? base_->attribute( id ) : nullptr;
+}
+
+Attribute const * TypeData::holderOf( Entity const & of, Entity const & child ) const {
+   for ( auto const & attribute : own_ ) {
+      auto const * element = attribute->elementType();
+      if ( element && child.typeData().isA( *element ) && attribute->holds( of, child ) ) {
+         return attribute.get();
+      }
+   }
+   return base_ ? base_->holderOf( of, child ) : nullptr;
 }
 
 static std::string unknownAttribute( TypeData const & type, std::string const & name ) {
@@ -146,23 +160,11 @@ void Entity::attributesIs( Value const & value ) {
 }
 
 Corvo::String Entity::stepTo( Entity const & child ) const {
-   auto const isA = [&]( TypeData const * wanted ) {
-      auto const * type = &child.typeData();
-      while ( type && type != wanted ) {
-         type = type->base();
-      }
-      return type != nullptr;
-   };
-   for ( auto const * attribute : typeData().attributes() ) {
-      if ( !attribute->elementType() || !isA( attribute->elementType() ) ) {
-         continue;
-      }
-      bool const isKeyed = attribute->kind == Attribute::Kind::collection;
-      if ( attribute->child( *this, isKeyed ? child.name() : "" ).get() == &child ) {
-         return isKeyed ? std::string( attribute->name ) + "/" + child.name() : attribute->name;
-      }
+   auto const * holder = typeData().holderOf( *this, child );
+   if ( !holder ) {
+      return {};
    }
-   return {};
+   return holder->kind == Attribute::Kind::collection ? std::string( holder->name ) + "/" + child.name() : holder->name;
 }
 
 } // namespace Rex

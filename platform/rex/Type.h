@@ -55,6 +55,8 @@ class Attribute {
    virtual Corvo::Ptr< Entity > child( Entity const & of, std::string const & key ) const;
    // Visits the entities that it holds.
    virtual void forEachChild( Entity const & of, std::function< void( Entity & ) > const & visit ) const;
+   // Whether it holds `child`, an entity of the element type.
+   virtual bool holds( Entity const & of, Entity const & child ) const;
    // The text of a notification's key.
    virtual std::string keyText( void const * key ) const;
 };
@@ -70,6 +72,9 @@ class TypeData : public Corvo::NodeType {
    // Null if the type has none of this name or number.
    Attribute const * attribute( std::string_view name ) const;
    Attribute const * attribute( short id ) const;
+   // The one in which `of`, an entity of this type, holds `child`; null if none does.
+   Attribute const * holderOf( Entity const & of, Entity const & child ) const;
+   bool isA( TypeData const & type ) const { return this == &type || ( base_ && base_->isA( type ) ); }
 
    // An entity of this type, each attribute at its default, in a collection under the first of all keys. Null where one
    // can't be made from nothing.
