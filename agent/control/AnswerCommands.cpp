@@ -32,11 +32,11 @@ void writeWanted( std::ostream & out, Simulator::SimulatedSwitch const & sw, Wan
    }
    ChipsFile chips;
    for ( auto const & fap : sw.description().faps ) {
-      if ( wanted.fap && *wanted.fap != fap.fapId.value ) {
+      if ( wanted.fap && *wanted.fap != fap.fapId.value() ) {
          continue;
       }
-      auto const chipType = fap.revision.chipType;
-      auto & kept = chips[static_cast< U16 >( fap.fapId.value )];
+      auto const chipType = fap.revision.chipType();
+      auto & kept = chips[fap.fapId.value()];
       kept = { chipType, contentsOf( sw.chip( fap.fapId ), chipType ) };
       std::erase_if( kept.contents.tables, [&]( auto const & table ) {
          return !wanted.tables.empty() && std::ranges::find( wanted.tables, table.first ) == wanted.tables.end();
