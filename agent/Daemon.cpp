@@ -13,6 +13,8 @@
 #include "agent/recording/RecordCommands.h"
 
 #include <csignal>
+#include <sys/stat.h>
+#include <unistd.h>
 
 namespace Live {
 
@@ -29,8 +31,18 @@ std::unique_ptr< Database > databaseAt( DaemonOptions const & options, EventLoop
       loop, RedisAddress::of( options.database ), options.cell, options.scenario.description.sliceName );
 }
 
-std::string socketOf( DaemonOptions const & options ) {
-   return options.socket.empty() ? controlPath( options.scenario.description.sliceName ) : options.socket;
+// Where to listen. Nobody has named a place, and the usual one can't be had: told, and the agent does without.
+std::string controlOf( DaemonOptions const & options ) {
+   if ( !options.socket.empty() ) {
+      return options.socket;
+   }
+   ::mkdir( controlFolder, 0755 ); // which a service manager has made before
+   if ( ::access( controlFolder, W_OK ) == 0 ) {
+      return controlPath( options.scenario.description.sliceName );
+   }
+   say( Level::warning,
+        "no control socket: " + std::string( controlFolder ) + " can't be written; name another with --socket" );
+   return {};
 }
 
 } // namespace
@@ -40,17 +52,12 @@ struct Daemon::Parts {
    explicit Parts( DaemonOptions const & options )
       : begun( EventLoop::clock() ), database( databaseAt( options, loop ) ),
         agent( loop, *database, options.scenario, options.version ), counts( agent, metrics ),
-        recorder( agent.sw(),
-                  agent.scenario(),
-                  { .folder = options.record, .plugin = options.plugin },
-                  [this] { return agent.position(); },
-                  &metrics ),
-        server( loop,
-                commands,
-                { .path = socketOf( options ),
-                  .changed = [this]( std::string const & name,
-                                     Rex::Value const & given ) { recorder.command( name, given ); },
-                  .log = []( std::string const & line ) { say( Level::warning, line ); } } ) {
+        recorder(
+           agent.sw(),
+           agent.scenario(),
+           { .folder = options.record, .plugin = options.plugin },
+           [this] { return agent.position(); },
+           &metrics ) {
       metrics.is( Metric::buildInfo, 1, { options.version, options.plugin } );
       auto & journal = agent.sw().journal();
       for ( Simulator::RowReader * const reader :
@@ -68,6 +75,15 @@ struct Daemon::Parts {
                           .metrics = [this] { return metrics.text(); },
                           .begun = begun } );
       addRecordCommands( commands, recorder );
+      if ( auto const path = controlOf( options ); !path.empty() ) {
+         control.emplace(
+            loop,
+            commands,
+            ControlServer::Options{ .path = path,
+                                    .changed = [this]( std::string const & name,
+                                                       Rex::Value const & given ) { recorder.command( name, given ); },
+                                    .log = []( std::string const & line ) { say( Level::warning, line ); } } );
+      }
       if ( MetricsServer::isAddress( options.metrics ) ) {
          metricsServer.emplace( loop, options.metrics, metrics );
       } else if ( !options.metrics.empty() ) {
@@ -97,7 +113,7 @@ struct Daemon::Parts {
    AgentMetrics counts;
    Recorder recorder;
    Commands commands;
-   ControlServer server;
+   std::optional< ControlServer > control;
    std::optional< MetricsServer > metricsServer;
    std::optional< MetricsFile > metricsFile;
 };
@@ -113,6 +129,7 @@ int Daemon::run() {
    it.loop.watchdog( tickPeriod, [&] { it.tick(); } );
    it.agent.begin();
    int const status = it.loop.run();
+   it.control.reset();
    it.manager.stops();
    it.agent.end();
    if ( it.metricsFile ) {
