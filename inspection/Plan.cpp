@@ -68,12 +68,14 @@ bool isAlike( Catalogue::Field const & field, A const & a, B const & b ) {
 
 class Planner final : public Simulator::RowReader {
  public:
-   Planner( Plan & plan, Scenario const & scenario, StagedDriver & staged )
-      : plan_( plan ), scenario_( scenario ), staged_( staged ) {}
+   // `before`: how many events the switch has had.
+   Planner( Plan & plan, std::vector< Event > const & events, StagedDriver & staged, U32 before = 0 )
+      : plan_( plan ), events_( events ), staged_( staged ), before_( before ) {}
 
-   void eventBegins( U32 event, Rex::Value const & ) override {
+   void eventBegins( U32 number, Rex::Value const & ) override {
+      U32 const event = number - before_;
       plan_.events.push_back(
-         { .event = event, .what = event == 0 ? "start" : scenario_.events[event - 1].text(), .changes = {} } );
+         { .event = event, .what = event == 0 ? "start" : events_[event - 1].text(), .changes = {} } );
       places_.clear();
       writings_.clear();
       rows_.clear();
@@ -214,8 +216,9 @@ class Planner final : public Simulator::RowReader {
    }
 
    Plan & plan_;
-   Scenario const & scenario_;
+   std::vector< Event > const & events_;
    StagedDriver & staged_;
+   U32 before_;
    // Of the event under way: what was written where, by whom.
    std::unordered_map< Address, Place, AddressHash > places_;
    std::vector< Writing > writings_;
@@ -248,6 +251,24 @@ bool Plan::isEmpty() const {
    return std::ranges::all_of( events, []( PlannedEvent const & event ) { return event.changes.empty(); } );
 }
 
+Plan planOn( Simulator::SimulatedSwitch & sw, std::string const & name, std::vector< Event > const & events ) {
+   Plan plan{ .name = name, .events = {} };
+   StagedDriver staged( *DaceSal::schanDriver() );
+   DaceSal::schanDriverIs( &staged );
+   Planner planner( plan, events, staged, sw.event() );
+   sw.journal().readerAdd( planner );
+   for ( Event const & event : events ) {
+      Rex::below( std::to_string( event.number - 1 ), [&] {
+         Rex::below( event.word(), [&] {
+            sw.change( [&] { event.change( sw.state() ); }, event.cause(), valueOf( event ) );
+         } );
+      } );
+   }
+   sw.journal().readerDel( planner );
+   DaceSal::schanDriverIs( &sw.driver() );
+   return plan;
+}
+
 Plan planOf( Scenario const & scenario, std::string const & plugin, PlanOptions const & options ) {
    Plan plan{ .name = scenario.name.empty() ? scenario.file : scenario.name, .events = {} };
    loadPlugin( plugin );
@@ -266,7 +287,7 @@ Plan planOf( Scenario const & scenario, std::string const & plugin, PlanOptions 
    }
    StagedDriver staged( sw.driver() );
    DaceSal::schanDriverIs( &staged );
-   Planner planner( plan, scenario, staged );
+   Planner planner( plan, scenario.events, staged );
    sw.journal().readerAdd( planner );
    for ( auto * const other : options.others ) {
       sw.journal().readerAdd( *other );

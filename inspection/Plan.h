@@ -49,6 +49,10 @@ struct PlanOptions {
    std::vector< Simulator::StagedDriver::Change > chips = {};
 };
 
+// What events would change on a switch that runs, one after the other. They are played on it: this is for a copy of the
+// process (agent/control/AnsweringCopies.h). Rex::ValueError where one doesn't fit, its place seen from their list.
+Plan planOn( Simulator::SimulatedSwitch & sw, std::string const & name, std::vector< Event > const & events );
+
 // Plays the scenario. InputError where it doesn't fit, or the library can't be loaded.
 Plan planOf( Scenario const & scenario, std::string const & plugin, PlanOptions const & options = {} );
 

@@ -60,6 +60,9 @@ JournalWriter::JournalWriter( std::string path, Begin const & begin ) : sink_( s
    add( line, "format", 2 );
    add( line, "l3sm", versionNumber() );
    add( line, "plugin", std::string_view( begin.plugin ) );
+   if ( begin.reachesBackTo ) {
+      add( line, "reachesBackTo", *begin.reachesBackTo );
+   }
    add( line, "scenario", begin.scenario );
    sink_.append( line + "}\n" );
    sink_.bringToDisk();

@@ -19,6 +19,8 @@ class JournalWriter final : public Simulator::RowReader {
    struct Begin {
       Rex::Value scenario;  // without its events
       std::string plugin{}; // what tells one build of it from another
+      // Of what is only the end of a run: the first event that it has.
+      std::optional< U32 > reachesBackTo{};
    };
 
    JournalWriter( std::string path, Begin const & begin );
