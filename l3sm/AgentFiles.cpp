@@ -2,6 +2,7 @@
 
 #include "agent/control/MemoryFile.h"
 #include "agent/database/StateFile.h"
+#include "inspection/files/ByteStreams.h"
 #include "inspection/files/InputFile.h"
 #include "inspection/files/InputNames.h"
 #include "inspection/files/Json.h"

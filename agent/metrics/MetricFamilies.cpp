@@ -36,16 +36,10 @@ constexpr MetricFamily families[] = {
      { "version", "plugin" } },
 };
 
-constexpr char const * phases[] = { "waiting", "reconciling", "running", "disconnected", "held", "frozen", "degraded" };
-
 } // namespace
 
 std::span< MetricFamily const > metricFamilies() {
    return families;
-}
-
-std::span< char const * const > phaseNames() {
-   return phases;
 }
 
 } // namespace Live

@@ -150,7 +150,7 @@ Metrics::Metrics() {
          values_[metric][{}] = 0;
       }
    }
-   phaseIs( "" );
+   phaseIs( Phase::waiting );
 }
 
 void Metrics::add( Metric metric, Labels const & labels, U64 more ) {
@@ -167,9 +167,9 @@ void Metrics::is( Metric metric, double value, Labels const & labels ) {
    values_[metric][labels] = value;
 }
 
-void Metrics::phaseIs( std::string const & phase ) {
-   for ( char const * name : phaseNames() ) {
-      is( Metric::phase, phase == name ? 1 : 0, { name } );
+void Metrics::phaseIs( Phase phase ) {
+   for ( std::string_view const name : phaseNames ) {
+      is( Metric::phase, name == nameOf( phase ) ? 1 : 0, { std::string( name ) } );
    }
 }
 
@@ -192,6 +192,14 @@ void Metrics::row( Row const & row ) {
       auto const known = gates_.find( row.function );
       ++( known == gates_.end() ? gates_[std::string( row.function )] : known->second );
    }
+}
+
+U64 Metrics::changingWrites() const {
+   U64 all = 0;
+   for ( Operations const & of : operations_ ) {
+      all += of.counts[static_cast< std::size_t >( Row::Kind::write )][1];
+   }
+   return all;
 }
 
 std::string Metrics::text() const {

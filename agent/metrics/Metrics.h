@@ -4,7 +4,7 @@
 //    sw.journal().readerAdd( metrics );              // operations, gates and events, as they happen
 //    metrics.add( Metric::resyncs, { "gap in the log" } );
 //    metrics.is( Metric::rejectedEntries, 3 );
-//    metrics.phaseIs( "running" );
+//    metrics.phaseIs( Phase::running );
 //    metrics.eventTook( 0.0004 );
 //    out << metrics.text();
 //
@@ -14,6 +14,7 @@
 // Threading: the agent's loop.
 #pragma once
 
+#include "agent/Phase.h"
 #include "rex/Clock.h"
 #include "simulator/Row.h"
 
@@ -54,8 +55,6 @@ struct MetricFamily {
 
 // By Metric.
 std::span< MetricFamily const > metricFamilies();
-// Between them, the agent's phases; one of them is 1.
-std::span< char const * const > phaseNames();
 
 class Metrics final : public Simulator::RowReader {
  public:
@@ -67,10 +66,12 @@ class Metrics final : public Simulator::RowReader {
    void add( Metric metric, Labels const & labels = {}, U64 more = 1 );
    // Gauges.
    void is( Metric metric, double value, Labels const & labels = {} );
-   void phaseIs( std::string const & phase );
+   void phaseIs( Phase phase );
    void eventTook( Rex::Seconds time );
 
    std::string text() const;
+   // Of all FAPs, controls left aside.
+   U64 changingWrites() const;
 
    void eventBegins( U32 event, Rex::Value const & what ) override;
    void row( Simulator::Row const & row ) override;

@@ -79,7 +79,9 @@ void ByteSink::put( std::string_view bytes ) {
       if ( written < 0 && errno != EINTR ) {
          giveUp();
       }
-      bytes.remove_prefix( written < 0 ? 0 : static_cast< std::size_t >( written ) );
+      std::size_t const size = written < 0 ? 0 : static_cast< std::size_t >( written );
+      bytes.remove_prefix( size );
+      written_ += size;
    }
 }
 

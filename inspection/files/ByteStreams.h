@@ -38,6 +38,8 @@ class ByteSink {
    void bringToDisk();
    // Brings the rest to the file and ends it. Idempotent.
    void close();
+   // How many bytes the file has got so far.
+   std::size_t written() const { return written_; }
 
  private:
    struct Compressor;
@@ -47,6 +49,7 @@ class ByteSink {
 
    std::string path_;
    int file_;
+   std::size_t written_ = 0;
    std::string pending_;
    std::unique_ptr< Compressor > compressor_;
 };

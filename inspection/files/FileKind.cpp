@@ -52,6 +52,10 @@ FileKind kindOfObject( std::string_view text ) {
    auto kind = FileKind::otherJson;
    bool hasSeq = false;
    eachOuterKey( text, [&]( std::string_view key ) {
+      if ( kind == FileKind::journal ) { // the key behind "op" tells
+         kind = key == "recording" ? FileKind::recording : kind;
+         return false;
+      }
       if ( key == "op" || ( key == "event" && hasSeq ) ) {
          kind = FileKind::journal;
       } else if ( key == "faps" ) {
@@ -62,7 +66,7 @@ FileKind kindOfObject( std::string_view text ) {
          kind = FileKind::state;
       }
       hasSeq = hasSeq || key == "seq";
-      return kind == FileKind::otherJson;
+      return kind == FileKind::otherJson || key == "op";
    } );
    return kind;
 }
@@ -117,7 +121,8 @@ std::string_view nameOf( FileKind kind ) {
                                           "a JSON file of another kind",
                                           "a text of another kind",
                                           "a binary file of another kind",
-                                          "empty" };
+                                          "empty",
+                                          "a recording" };
    return names[static_cast< std::size_t >( kind )];
 }
 

@@ -15,7 +15,7 @@
 
 namespace Inspection {
 
-enum class FileKind : U8 { journal, chips, scenario, state, page, otherJson, otherText, binary, empty };
+enum class FileKind : U8 { journal, chips, scenario, state, page, otherJson, otherText, binary, empty, recording };
 
 // `text`: the file's beginning, decompressed; the more of it, the surer.
 FileKind kindOf( std::string_view text );

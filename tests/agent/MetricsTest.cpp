@@ -127,8 +127,8 @@ TEST( Metrics, PutEachDurationIntoItsBuckets ) {
 
 TEST( Metrics, AreInOnePhase ) {
    Metrics metrics;
-   metrics.phaseIs( "running" );
-   metrics.phaseIs( "held" );
+   metrics.phaseIs( Phase::running );
+   metrics.phaseIs( Phase::held );
    std::set< std::string > in;
    for ( auto const & [sample, value] : samples( metrics, "l3sm_phase" ) ) {
       if ( value != 0 ) {

@@ -28,7 +28,7 @@ class RedisFollower : public Live::Database::Follower {
          if ( std::chrono::steady_clock::now() - start > std::chrono::seconds( 10 ) ) {
             return false;
          }
-         loop.turn( 1 );
+         loop.turn( 0.01 );
       }
       return true;
    }
@@ -102,7 +102,7 @@ class RedisFollower : public Live::Database::Follower {
       isFollowing = false;
    }
    void later() {
-      again_ = loop.timer( 0.02, [this] {
+      again_ = loop.timer( 0.002, [this] {
          if ( takesUpWhereItWas && !position.server.empty() ) {
             isFollowing = true;
             database.since( position );

@@ -22,6 +22,7 @@ class RedisServer {
    using Words = std::vector< std::string >;
 
    explicit RedisServer( Words options = {} ) : options_( std::move( options ) ) { starts(); }
+   void optionsAre( Words options ) { options_ = std::move( options ); }
    ~RedisServer() { dies(); }
    RedisServer( RedisServer const & ) = delete;
    RedisServer & operator=( RedisServer const & ) = delete;
@@ -118,6 +119,16 @@ class RedisServer {
          answer();
       }
       return answer();
+   }
+   // How often a command was served since it started.
+   std::size_t served( std::string const & command ) {
+      std::string const text( ask( { "INFO", "commandstats" } ).text() );
+      std::string const name = "cmdstat_" + command + ":calls=";
+      auto const at = text.find( name );
+      return at == std::string::npos ? 0 : std::stoul( text.substr( at + name.size() ) );
+   }
+   void cutsConnections( std::string const & kind = "normal" ) {
+      ask( { "CLIENT", "KILL", "TYPE", kind, "SKIPME", "yes" } );
    }
    std::string socket() const { return folder_ / "redis.sock"; }
    Folder const & folder() const { return folder_; }

@@ -29,6 +29,38 @@ inline void writeByHand( RedisServer & server, std::string const & attribute, st
                     { "XADD", logKey, "*", "changes", changesByHand( attribute, value ), "epoch", "e1" } } );
 }
 
+// So many sub-interfaces on top.
+inline void loadManyByHand( RedisServer & server, std::size_t count ) {
+   loadByHand( server );
+   for ( std::size_t at = 0; at < count; ++at ) {
+      std::string const path = "interface/status/subintf/intfStatus/Ethernet1." + std::to_string( at );
+      server.tell( { "SADD", pathsKey, path } );
+      server.tell( { "HSET", "l3sm:{1}:" + path, "mtu", std::to_string( at % 9000 ) } );
+   }
+   for ( std::size_t at = 0; at < 2 * count; ++at ) {
+      server.answer();
+   }
+}
+
+// Many transactions in one go.
+inline void writeManyByHand( RedisServer & server, std::size_t count, std::size_t from = 0 ) {
+   for ( std::size_t at = from; at < from + count; ++at ) {
+      std::string const attribute = at % 2 == 0 ? "vxlanEnabled" : "mplsEnabled";
+      std::string const value = at % 3 == 0 ? "true" : "false";
+      server.tell( { "MULTI" } );
+      server.tell( { "HSET", evpnKey, attribute, value } );
+      server.tell( { "XADD", logKey, "*", "changes", changesByHand( attribute, value ), "epoch", "e1" } );
+      server.tell( { "EXEC" } );
+   }
+   for ( std::size_t at = 0; at < 4 * count; ++at ) {
+      server.answer();
+   }
+}
+
+inline std::string lastEntry( RedisServer & server ) {
+   return std::string( server.ask( { "XREVRANGE", logKey, "+", "-", "COUNT", "1" } )[0][0].text() );
+}
+
 // What is there.
 inline Live::Paths stateIn( RedisServer & server ) {
    Live::Paths paths;

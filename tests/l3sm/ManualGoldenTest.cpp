@@ -90,12 +90,15 @@ TEST( ManualGolden, tellsOfEveryVerbAndOptionWhatTheProgramDoes ) {
    EXPECT_EQ( after, before ) << "To write docs/l3sm.1 anew: ./dev golden";
 }
 
+std::vector< std::string > const pages{
+   "l3sm.1", "l3sm-scenario.5", "l3sm-journal.5", "l3sm-chips.5", "l3sm-serve.8", "l3sm-ctl.8" };
+
 // What troff says of a page; nothing, where all is well.
 TEST( Manual, isWellFormed ) {
    if ( std::system( "command -v groff > /dev/null" ) != 0 ) {
       GTEST_SKIP() << "left out: groff is missing";
    }
-   for ( char const * page : { "l3sm.1", "l3sm-scenario.5", "l3sm-journal.5", "l3sm-chips.5" } ) {
+   for ( std::string const & page : pages ) {
       Command const groff( "--version >/dev/null; groff -man -Tutf8 -ww -z '" + ( docs / page ).string() + "'" );
       EXPECT_EQ( groff.errors, "" ) << page;
    }
@@ -103,15 +106,34 @@ TEST( Manual, isWellFormed ) {
 
 // Each page is named where the others are, so that a reader finds it.
 TEST( Manual, pagesNameOneAnother ) {
-   for ( std::string const page : { "l3sm.1", "l3sm-scenario.5", "l3sm-journal.5", "l3sm-chips.5" } ) {
+   for ( std::string const & page : pages ) {
       std::string const text = contentsOf( docs / page );
-      for ( std::string const other : { "l3sm (1)", "l3sm-scenario (5)", "l3sm-journal (5)", "l3sm-chips (5)" } ) {
-         std::string const name = other.substr( 0, other.find( ' ' ) );
-         bool const isItself = page.starts_with( name + "." );
-         std::string const reference =
-            std::regex_replace( name, std::regex( "-" ), R"(\-)" ) + " " + other.substr( other.find( '(' ) );
-         EXPECT_TRUE( isItself || text.find( ".BR " + reference ) != std::string::npos )
+      for ( std::string const & other : pages ) {
+         auto const dot = other.find( '.' );
+         std::string const reference = std::regex_replace( other.substr( 0, dot ), std::regex( "-" ), R"(\-)" ) + " (" +
+                                       other.substr( dot + 1 ) + ")";
+         EXPECT_TRUE( page == other || text.find( ".BR " + reference ) != std::string::npos )
             << page << " lacks " << reference;
+      }
+   }
+}
+
+// What an agent is started with is told in its own page, too.
+TEST( Manual, tellsEveryOptionOfAnAgent ) {
+   CLI::App app;
+   std::function< int() > action;
+   Cli::defineCommandLine( app, action );
+   for ( auto const * verb : Cli::verbsOf( app ) ) {
+      if ( verb->get_name() != "serve" && verb->get_name() != "ctl" ) {
+         continue;
+      }
+      std::string const page = "l3sm-" + verb->get_name() + ".8";
+      std::string const text = contentsOf( docs / page );
+      for ( auto const * option : Cli::optionsOf( *verb ) ) {
+         std::string const name = option->get_lnames().front();
+         bool const isEverywhere = name == "help" || name == "no-pager" || name == "json";
+         EXPECT_TRUE( isEverywhere || text.find( R"(\-\-)" + roff( name ) ) != std::string::npos )
+            << page << " lacks --" << name;
       }
    }
 }
