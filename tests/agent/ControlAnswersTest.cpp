@@ -128,8 +128,12 @@ TEST( ControlAnswers, PlanEventsWithoutDoingThem ) {
 
    auto const text = agent.ask( "plan whole.json" );
    auto const asked = agent.ask( "plan --agent ./a.ctl events.json" );
-   auto const afterStart = asked.substr( asked.find( "event 1" ) );
-   EXPECT_NE( text.find( afterStart.substr( 0, afterStart.find( '\n' ) ) ), std::string::npos ) << asked;
+   auto const ofEvents = []( std::string const & all ) {
+      return all.substr( std::min( all.find( "Event 1:" ), all.size() ) );
+   };
+   EXPECT_NE( ofEvents( asked ), "" );
+   EXPECT_NE( asked.find( "by 3 of 3 events" ), std::string::npos ) << asked;
+   EXPECT_EQ( ofEvents( asked ).substr( 0, 200 ), ofEvents( text ).substr( 0, 200 ) ); // of which some are not shown
 }
 
 TEST( ControlAnswers, RefuseWhatDoesNotFit ) {
@@ -152,7 +156,7 @@ TEST( ControlAnswers, FollowWhatTheAgentIsTold ) {
    EXPECT_EQ( agent.ask( "ctl --socket a.ctl freeze" ), "frozen\n" );
    EXPECT_EQ( agent.ask( "ctl --socket a.ctl state set evpn/status vxlanEnabled true" ), "1 change\n" );
    EXPECT_NE( agent.ask( "ctl --socket a.ctl status" ).find( "frozen" ), std::string::npos );
-   EXPECT_NE( agent.ask( "ctl --socket a.ctl state evpn/status" ).find( "vxlanEnabled        no" ), std::string::npos )
+   EXPECT_NE( agent.ask( "ctl --socket a.ctl state evpn/status" ).find( "vxlanEnabled    no" ), std::string::npos )
       << agent.folder.text( ".out" );
    EXPECT_EQ( agent.ask( "ctl --socket a.ctl thaw" ), "running\n" );
    for ( int tries = 0;
