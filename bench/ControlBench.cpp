@@ -1,5 +1,6 @@
 // What a long answer costs the agent that gives it: the fork of a copy of the process, and the pages that an event
-// changes while the copy has them too. For an agent with 1 FAP and with 64, the plug-in started on each.
+// changes while the copy has them too. For an agent with 1 FAP and with 64, the plug-in started on each, and with so
+// many MB more of state and rows that it remembers.
 #include "agent/control/AnsweringCopies.h"
 #include "inspection/Play.h"
 #include "inspection/files/ChipsWriter.h"
@@ -51,6 +52,7 @@ void longAnswers( benchmark::State & state ) {
    Simulator::SimulatedSwitch sw( agent.description );
    agent.prepare( sw );
    sw.start();
+   std::vector< char > const more( static_cast< std::size_t >( state.range( 1 ) ) << 20, 1 );
    EventLoop loop;
    AnsweringCopies copies( loop, {} );
    int ends[2];
@@ -101,6 +103,12 @@ void longAnswers( benchmark::State & state ) {
       state.SkipWithError( "the agent stands still for more than 5 ms" );
    }
 }
-BENCHMARK( longAnswers )->Arg( 1 )->Arg( 64 )->Iterations( 10 )->Unit( benchmark::kMillisecond );
+BENCHMARK( longAnswers )
+   ->ArgNames( { "faps", "MB" } )
+   ->Args( { 1, 0 } )
+   ->Args( { 64, 0 } )
+   ->Args( { 64, 256 } )
+   ->Iterations( 10 )
+   ->Unit( benchmark::kMillisecond );
 
 } // namespace
