@@ -1,11 +1,20 @@
 #include "agent/Daemon.h"
 
 #include "agent/Log.h"
+#include "agent/RowRing.h"
 #include "agent/ServiceManager.h"
+#include "agent/control/AgentCommands.h"
+#include "agent/control/ControlServer.h"
 #include "agent/database/EmbeddedDatabase.h"
 #include "agent/database/RedisDatabase.h"
+#include "agent/metrics/AgentMetrics.h"
+#include "agent/metrics/MetricsFile.h"
+#include "agent/metrics/MetricsServer.h"
+#include "agent/recording/RecordCommands.h"
 
 #include <csignal>
+#include <sys/stat.h>
+#include <unistd.h>
 
 namespace Live {
 
@@ -22,43 +31,112 @@ std::unique_ptr< Database > databaseAt( DaemonOptions const & options, EventLoop
       loop, RedisAddress::of( options.database ), options.cell, options.scenario.description.sliceName );
 }
 
+// Where to listen. Nobody has named a place, and the usual one can't be had: told, and the agent does without.
+std::string controlOf( DaemonOptions const & options ) {
+   if ( !options.socket.empty() ) {
+      return options.socket;
+   }
+   ::mkdir( controlFolder, 0755 ); // which a service manager has made before
+   if ( ::access( controlFolder, W_OK ) == 0 ) {
+      return controlPath( options.scenario.description.sliceName );
+   }
+   say( Level::warning,
+        "no control socket: " + std::string( controlFolder ) + " can't be written; name another with --socket" );
+   return {};
+}
+
 } // namespace
 
+// In the order in which they need each other.
 struct Daemon::Parts {
-   explicit Parts( DaemonOptions options )
-      : database( databaseAt( options, loop ) ),
-        agent( loop, *database, std::move( options.scenario ), std::move( options.version ) ) {
+   explicit Parts( DaemonOptions const & options )
+      : begun( EventLoop::clock() ), database( databaseAt( options, loop ) ),
+        agent( loop, *database, options.scenario, options.version ), counts( agent, metrics ),
+        recorder(
+           agent.sw(),
+           agent.scenario(),
+           { .folder = options.record, .plugin = options.plugin },
+           [this] { return agent.position(); },
+           &metrics ) {
+      metrics.is( Metric::buildInfo, 1, { options.version, options.plugin } );
+      auto & journal = agent.sw().journal();
+      for ( Simulator::RowReader * const reader :
+            std::initializer_list< Simulator::RowReader * >{ &metrics, &ring, &recorder } ) {
+         journal.readerAdd( *reader );
+      }
+      agent.onlookerAdd( counts );
       agent.onlookerAdd( manager );
+      addAgentCommands( commands,
+                        { .agent = agent,
+                          .ring = ring,
+                          .embedded = dynamic_cast< EmbeddedDatabase * >( database.get() ),
+                          .version = options.version,
+                          .plugin = options.plugin,
+                          .metrics = [this] { return metrics.text(); },
+                          .begun = begun } );
+      addRecordCommands( commands, recorder );
+      if ( auto const path = controlOf( options ); !path.empty() ) {
+         control.emplace(
+            loop,
+            commands,
+            ControlServer::Options{ .path = path,
+                                    .changed = [this]( std::string const & name,
+                                                       Rex::Value const & given ) { recorder.command( name, given ); },
+                                    .log = []( std::string const & line ) { say( Level::warning, line ); } } );
+      }
+      if ( MetricsServer::isAddress( options.metrics ) ) {
+         metricsServer.emplace( loop, options.metrics, metrics );
+      } else if ( !options.metrics.empty() ) {
+         metricsFile.emplace( options.metrics, metrics );
+      }
+      if ( !options.record.empty() ) {
+         recorder.begin();
+      }
    }
 
+   // What is looked after now and then.
+   void tick() {
+      database->tick();
+      recorder.tick();
+      if ( auto const trouble = metricsFile ? metricsFile->write() : std::nullopt ) {
+         say( Level::warning, *trouble );
+      }
+   }
+
+   Rex::Seconds begun;
    EventLoop loop;
+   Metrics metrics;
+   RowRing ring;
    std::unique_ptr< Database > database;
-   ServiceManager manager;
    SliceAgent agent;
+   ServiceManager manager;
+   AgentMetrics counts;
+   Recorder recorder;
+   Commands commands;
+   std::optional< ControlServer > control;
+   std::optional< MetricsServer > metricsServer;
+   std::optional< MetricsFile > metricsFile;
 };
 
-Daemon::Daemon( DaemonOptions options ) : parts_( std::make_unique< Parts >( std::move( options ) ) ) {}
+Daemon::Daemon( DaemonOptions const & options ) : parts_( std::make_unique< Parts >( options ) ) {}
 Daemon::~Daemon() = default;
 
-EventLoop & Daemon::loop() {
-   return parts_->loop;
-}
-SliceAgent & Daemon::agent() {
-   return parts_->agent;
-}
-
 int Daemon::run() {
-   auto & [loop, database, manager, agent] = *parts_;
-   auto const ends = [&] { loop.end( 0 ); };
-   auto const terminate = loop.signal( SIGTERM, ends );
-   auto const interrupt = loop.signal( SIGINT, ends );
-   loop.watchdog( tickPeriod, [&] { database->tick(); } );
-   agent.begin();
-   int const status = loop.run();
-   manager.stops();
-   agent.end();
-   if ( !agent.refusal().empty() ) {
-      say( Level::error, agent.refusal() );
+   Parts & it = *parts_;
+   auto const ends = [&] { it.loop.end( 0 ); };
+   auto const terminate = it.loop.signal( SIGTERM, ends );
+   auto const interrupt = it.loop.signal( SIGINT, ends );
+   it.loop.watchdog( tickPeriod, [&] { it.tick(); } );
+   it.agent.begin();
+   int const status = it.loop.run();
+   it.control.reset();
+   it.manager.stops();
+   it.agent.end();
+   if ( it.metricsFile ) {
+      it.metricsFile->write();
+   }
+   if ( !it.agent.refusal().empty() ) {
+      say( Level::error, it.agent.refusal() );
    }
    return status;
 }

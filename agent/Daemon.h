@@ -15,21 +15,22 @@ struct DaemonOptions {
    Inspection::Scenario scenario; // without events; its slice is the agent's
    U32 cell = 1;
    std::string database = {}; // an URL; empty: the process itself
+   std::string socket = {};   // empty: the usual one of the slice
+   std::string record = {};   // a folder; empty: nothing is recorded
+   std::string metrics = {};  // a file or an address; empty: they can be asked for
    std::string version = {};
+   std::string plugin = {}; // which build of it is loaded
 };
 
 class Daemon {
  public:
-   explicit Daemon( DaemonOptions options );
+   explicit Daemon( DaemonOptions const & options );
    ~Daemon();
    Daemon( Daemon const & ) = delete;
    Daemon & operator=( Daemon const & ) = delete;
 
    // The exit status.
    int run();
-
-   EventLoop & loop();
-   SliceAgent & agent();
 
  private:
    struct Parts;

@@ -259,9 +259,8 @@ Plan planOn( Simulator::SimulatedSwitch & sw, std::string const & name, std::vec
    sw.journal().readerAdd( planner );
    for ( Event const & event : events ) {
       Rex::below( std::to_string( event.number - 1 ), [&] {
-         Rex::below( event.word(), [&] {
-            sw.change( [&] { event.change( sw.state() ); }, event.cause(), valueOf( event ) );
-         } );
+         Rex::below( event.word(),
+                     [&] { sw.change( [&] { event.change( sw.state() ); }, event.cause(), valueOf( event ) ); } );
       } );
    }
    sw.journal().readerDel( planner );

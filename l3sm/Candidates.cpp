@@ -1,5 +1,6 @@
 #include "l3sm/Candidates.h"
 
+#include "agent/control/ControlSocket.h"
 #include "chip/ChipType.h"
 #include "generated/Catalogue.h"
 #include "inspection/Facilities.h"
@@ -243,6 +244,41 @@ Candidates ofStateAction( std::string const & typed, Before const & before ) {
    return { .list = all };
 }
 
+// What an agent takes first, and behind it what that takes.
+Candidates ofAgentCommand( std::string const & typed, Before const & before ) {
+   if ( !before.empty() ) {
+      bool const isState = before[0] == "state";
+      bool const isOfFile = before[0] == "plan" || ( isState && before.size() > 1 && before[1] == "apply" );
+      bool const isBegun = before.size() == 1;
+      return isOfFile                          ? Candidates{ .files = true }
+             : isState && isBegun              ? Candidates{ .list = { { "set" }, { "delete" }, { "apply" } } }
+             : isState                         ? paths( typed, before )
+             : before[0] == "trace" && isBegun ? Candidates{ .list = { { "list" }, { "set" } } }
+             : before[0] == "trace"            ? facilities( typed, before )
+                                               : Candidates{};
+   }
+   return { .list = { { "list", "every command with its arguments" },
+                      { "status", "how the agent is doing" },
+                      { "show", "what is on the chips" },
+                      { "why", "which operation wrote it" },
+                      { "diff", "the chips or the state against a file" },
+                      { "plan", "what events would change" },
+                      { "state", "what stands at a path; set, delete, apply" },
+                      { "trace", "list, set: the levels of the facilities" },
+                      { "freeze", "act on nothing" },
+                      { "thaw", "act again" },
+                      { "metrics", "what it has counted" },
+                      { "exit", "end the agent" } } };
+}
+
+Candidates slices( std::string const &, Before const & ) {
+   List all;
+   for ( auto const & slice : Live::slicesThere() ) {
+      all.push_back( { slice, "agent" } );
+   }
+   return { .list = all };
+}
+
 struct Place {
    std::string_view name;
    Candidates ( *candidates )( std::string const &, Before const & );
@@ -258,6 +294,7 @@ constexpr Place places[] = {
    { "--against", files },
    { "--with", scenarioSubjects },
    { "--at", nothing },
+   { "--socket", files },
    // places
    { "TABLE", tablesAndFields },
    { "CONDITION", tablesAndFields },
@@ -266,6 +303,7 @@ constexpr Place places[] = {
    { "SUBJECT", subjects },
    { "ACTION", stateActions },
    { "ARGUMENT", ofStateAction },
+   { "COMMAND", ofAgentCommand },
    { "A", files },
    { "B", files },
    { "CHIPS", files },
@@ -275,7 +313,7 @@ constexpr Place places[] = {
    { "INT", nothing },
    { "URL", nothing },
    { "KEY", nothing },
-   { "SLICE", nothing },
+   { "SLICE", slices },
    { "N[,...]|all|last", events },
    { "FACILITY/LEVEL[,...]", facilitiesWithLevels },
    { "FILE:NAME=on|off", toggles },

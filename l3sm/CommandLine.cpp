@@ -58,6 +58,7 @@ constexpr Verb verbs[] = {
      "be the agent of a slice: follow the state in a database, program the chips, until told to end",
      defineServe },
    { "state", "the state in a central database that agents follow: look at it, change it, wait for them", defineState },
+   { "ctl", "ask a running agent how it is doing, and tell it what to do", defineCtl },
 };
 
 int failed( std::string const & text ) {
@@ -78,9 +79,12 @@ int unknownVerb( std::string const & word ) {
 constexpr char const * completeVerb = "complete";
 
 // `l3sm help VERB` is `l3sm VERB --help`, and `l3sm help` is `l3sm --help`.
-std::vector< char const * > withoutHelpVerb( int argc, char const * const * argv ) {
-   std::vector< char const * > words( argv, argv + argc );
-   if ( argc > 1 && std::string_view( argv[1] ) == "help" ) {
+std::vector< char const * > withoutHelpVerb( std::vector< std::string > const & typed ) {
+   std::vector< char const * > words;
+   for ( auto const & word : typed ) {
+      words.push_back( word.c_str() );
+   }
+   if ( typed.size() > 1 && typed[1] == "help" ) {
       words.erase( words.begin() + 1 );
       words.resize( std::min< std::size_t >( words.size(), 2 ) );
       words.push_back( "--help" );
@@ -127,7 +131,14 @@ void defineCommandLine( CLI::App & app, Action & action ) {
 }
 
 int commandLine( int argumentCount, char const * const * arguments ) {
-   auto const words = withoutHelpVerb( argumentCount, arguments );
+   std::vector< std::string > typed( arguments, arguments + argumentCount );
+   try {
+      typed = withoutCtl( typed );
+   } catch ( InputError const & error ) {
+      std::ranges::for_each( error.lines(), failed );
+      return wrongUsage;
+   }
+   auto const words = withoutHelpVerb( typed );
    int const argc = static_cast< int >( words.size() );
    char const * const * const argv = words.data();
    CLI::App app;

@@ -2,10 +2,10 @@
 #include "agent/control/AgentCommands.h"
 #include "agent/control/MemoryFile.h"
 #include "inspection/Plan.h"
-#include "inspection/files/ChipsWriter.h"
 #include "inspection/files/ChipsFile.h"
-#include "inspection/files/Json.h"
+#include "inspection/files/ChipsWriter.h"
 #include "inspection/files/JournalWriter.h"
+#include "inspection/files/Json.h"
 #include "inspection/views/PlanText.h"
 
 #include <algorithm>
@@ -32,11 +32,11 @@ void writeWanted( std::ostream & out, Simulator::SimulatedSwitch const & sw, Wan
    }
    ChipsFile chips;
    for ( auto const & fap : sw.description().faps ) {
-      if ( wanted.fap && *wanted.fap != fap.fapId.value ) {
+      if ( wanted.fap && *wanted.fap != fap.fapId.value() ) {
          continue;
       }
-      auto const chipType = fap.revision.chipType;
-      auto & kept = chips[static_cast< U16 >( fap.fapId.value )];
+      auto const chipType = fap.revision.chipType();
+      auto & kept = chips[fap.fapId.value()];
       kept = { chipType, contentsOf( sw.chip( fap.fapId ), chipType ) };
       std::erase_if( kept.contents.tables, [&]( auto const & table ) {
          return !wanted.tables.empty() && std::ranges::find( wanted.tables, table.first ) == wanted.tables.end();
@@ -56,16 +56,14 @@ void writeRows( std::ostream & out, AgentSubjects const & subjects ) {
       scenario.object()->erase( "state" );
    }
    auto const first = subjects.ring.firstEvent();
-   auto const isTrimmed = first.value_or( subjects.agent.isStarted() ? subjects.agent.sw().event() + 1 : 0 );
+   auto const reaches = first.value_or( subjects.agent.isStarted() ? subjects.agent.sw().event() + 1 : 0 );
    JournalWriter writer( file.path(),
                          { .scenario = std::move( scenario ),
                            .plugin = subjects.plugin,
-                           .reachesBackTo = isTrimmed > 0 ? std::optional( isTrimmed ) : std::nullopt } );
+                           .reachesBackTo = reaches > 0 ? std::optional( reaches ) : std::nullopt } );
    subjects.ring.play( writer );
    char before = '[';
-   file.eachLine( [&]( std::string_view line ) {
-      out << std::exchange( before, ',' ) << line;
-   } );
+   file.eachLine( [&]( std::string_view line ) { out << std::exchange( before, ',' ) << line; } );
    out << ']';
 }
 
@@ -89,8 +87,8 @@ void writePlan( std::ostream & out,
    }
    std::ostringstream text;
    showPlan( text, plan, shown, Style( shown.colour ) );
-   Value const answer = Value::Object{
-      { "isEmpty", plan.isEmpty() }, { "plan", planValue( plan, shown.fap ) }, { "text", text.str() } };
+   Value const answer =
+      Value::Object{ { "isEmpty", plan.isEmpty() }, { "plan", planValue( plan, shown.fap ) }, { "text", text.str() } };
    out << toJson( answer, 0 );
 }
 

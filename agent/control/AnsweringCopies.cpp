@@ -70,6 +70,7 @@ AnsweringCopies::~AnsweringCopies() {
       if ( copy.process != 0 ) {
          end( copy );
          ::waitpid( copy.process, nullptr, 0 );
+         copy.ended = {};
          ::close( copy.descriptor );
          ::munmap( copy.told, sizeof( Told ) );
       }
@@ -169,6 +170,8 @@ void AnsweringCopies::ended( Number number ) {
                               : WIFSIGNALED( status )
                                  ? "the answer was ended by signal " + std::to_string( WTERMSIG( status ) )
                                  : "the client reads nothing" };
+   // In this order: a file that a younger copy has inherited and not closed yet stays with the loop when it is closed.
+   copy->ended = {};
    ::close( copy->descriptor );
    ::munmap( copy->told, sizeof( Told ) );
    --running_;

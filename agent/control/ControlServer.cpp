@@ -90,6 +90,9 @@ void ControlServer::call( Place client, Request const & request ) {
                              std::to_string( client->connection->peer().user ) );
    }
    Answer answer = command.answer( Arguments( command, request.params ) );
+   if ( command.changes ) {
+      options_.changed( command.name, request.params );
+   }
    if ( !request.id ) {
       return;
    }

@@ -3,6 +3,7 @@
 
 #include "inspection/files/InputError.h"
 
+#include <algorithm>
 #include <chrono>
 #include <memory>
 
@@ -49,7 +50,7 @@ Value statusOf( AgentSubjects const & subjects, Lag const & lag ) {
       { "slice", agent.scenario().description.sliceName },
       { "phase", std::string( nameOf( agent.phase() ) ) },
       { "reason", agent.reason() },
-      { "since", seconds( Rex::now() - agent.phaseSince() ) },
+      { "since", seconds( Rex::now() - std::max( agent.phaseSince(), subjects.begun ) ) },
       { "database", subjects.agent.database().name() },
       { "position", agent.position().entry },
       { "epoch", agent.position().epoch },

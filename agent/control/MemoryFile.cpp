@@ -2,10 +2,12 @@
 
 #include "inspection/files/InputError.h"
 
+#include <algorithm>
 #include <cerrno>
 #include <cstring>
 #include <sys/mman.h>
 #include <unistd.h>
+#include <utility>
 
 namespace Live {
 

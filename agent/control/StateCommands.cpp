@@ -76,22 +76,21 @@ void addStateCommands( Commands & commands, AgentSubjects const & subjects ) {
                    .answer = [subjects]( Arguments const & given ) {
                       return stateAt( subjects.agent, given.optional< std::string >( "path" ) );
                    } } );
-   commands.add(
-      { .name = "state set",
-        .does = "set an attribute, where the agent has no other database",
-        .arguments = { { .name = "path", .what = "a path of the state" },
-                       { .name = "attribute", .what = "an attribute there" },
-                       { .name = "value", .type = Argument::Type::value, .what = "as JSON" },
-                       { .name = "key", .isOptional = true, .what = "of a member of the attribute" } },
-        .changes = true,
-        .answer = [subjects]( Arguments const & given ) -> Answer {
-           Event event{ .number = 1,
-                        .path = given.required< std::string >( "path" ),
-                        .attribute = given.required< std::string >( "attribute" ),
-                        .key = given.optional< std::string >( "key" ),
-                        .value = given.value( "value" ) };
-           return transacted( subjects, { std::move( event ) } );
-        } } );
+   commands.add( { .name = "state set",
+                   .does = "set an attribute, where the agent has no other database",
+                   .arguments = { { .name = "path", .what = "a path of the state" },
+                                  { .name = "attribute", .what = "an attribute there" },
+                                  { .name = "value", .type = Argument::Type::value, .what = "as JSON" },
+                                  { .name = "key", .isOptional = true, .what = "of a member of the attribute" } },
+                   .changes = true,
+                   .answer = [subjects]( Arguments const & given ) -> Answer {
+                      Event event{ .number = 1,
+                                   .path = given.required< std::string >( "path" ),
+                                   .attribute = given.required< std::string >( "attribute" ),
+                                   .key = given.optional< std::string >( "key" ),
+                                   .value = given.value( "value" ) };
+                      return transacted( subjects, { std::move( event ) } );
+                   } } );
    commands.add( { .name = "state delete",
                    .does = "delete what is at a path, or a member of an attribute there",
                    .arguments = { { .name = "path", .what = "a path of the state" },

@@ -45,7 +45,8 @@ int levelOf( std::string const & text ) {
    if ( text.size() == 1 && text[0] >= '0' && text[0] <= '9' ) {
       return text[0] - '0';
    }
-   throw CommandError( CommandError::wrongArguments, "level: expected a level from 0 to 9, or off; got \"" + text + "\"" );
+   throw CommandError( CommandError::wrongArguments,
+                       "level: expected a level from 0 to 9, or off; got \"" + text + "\"" );
 }
 
 } // namespace

@@ -57,23 +57,29 @@ Paths stateOfFile( std::string const & path ) {
    return paths;
 }
 
+// Whether an event fits is judged by the state that it comes to, not by the file's.
 std::vector< Event > eventsOfFile( std::string const & path ) {
-   if ( path != "-" && kindOfFile( path ) == FileKind::scenario ) {
-      return readScenario( path ).events;
-   }
-   Value value = readJson( path );
-   if ( !value.list() ) {
-      return scenarioOf( std::move( value ), inputName( path ) ).events;
-   }
+   JsonText text( inputName( path ), readFile( path ) );
+   Value const value = text.take();
    std::vector< Event > events;
-   inFile( inputName( path ), [&] {
+   auto const read = [&]( Value const & list ) {
       Rex::ValueErrors errors;
-      for ( Value const & each : *value.list() ) {
+      for ( Value const & each : listOf( list ) ) {
          Event & event = events.emplace_back();
          event.number = static_cast< U32 >( events.size() );
          errors.below( std::to_string( events.size() - 1 ), [&] { readEvent( each, event ); } );
       }
       errors.end();
+   };
+   text.reading( [&] {
+      auto const * const object = value.object();
+      if ( value.list() ) {
+         read( value );
+      } else if ( object && object->contains( "events" ) ) {
+         Rex::below( "events", [&] { read( object->at( "events" ) ); } );
+      } else {
+         throw Rex::ValueError( "", "expected a scenario with \"events\", or a list of events" );
+      }
    } );
    return events;
 }

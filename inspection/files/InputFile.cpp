@@ -1,12 +1,14 @@
 #include "inspection/files/InputFile.h"
 
 #include "inspection/files/InputError.h"
+#include "inspection/files/InputNames.h"
 #include "inspection/files/StandardInput.h"
 
 #include <algorithm>
 #include <cerrno>
 #include <cstring>
 #include <fcntl.h>
+#include <map>
 #include <sys/stat.h>
 #include <unistd.h>
 #include <utility>
@@ -42,10 +44,20 @@ class Descriptor {
                         " MB that are read; a scenario need only name what differs from the defaults" );
 }
 
+std::map< std::string, std::string > & otherNames() {
+   static std::map< std::string, std::string > names;
+   return names;
+}
+
 } // namespace
 
+void inputIsCalled( std::string const & path, std::string name ) {
+   otherNames()[path] = std::move( name );
+}
+
 std::string inputName( std::string const & path ) {
-   return path == "-" ? "standard input" : path;
+   auto const other = otherNames().find( path );
+   return path == "-" ? "standard input" : other == otherNames().end() ? path : other->second;
 }
 
 std::string & readAheadOfStandardInput() {

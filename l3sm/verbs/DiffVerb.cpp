@@ -1,8 +1,11 @@
 // The verb `diff`: two files that tell of chips or of state, entry by entry and field by field.
 #include "inspection/FileDifferences.h"
+#include "inspection/files/FileKind.h"
 #include "inspection/views/DifferencesText.h"
+#include "l3sm/AgentFiles.h"
 #include "l3sm/verbs/Verbs.h"
 
+#include <algorithm>
 #include <iostream>
 #include <memory>
 
@@ -17,6 +20,8 @@ constexpr std::size_t mostEvents = 2;
 struct Options {
    std::string a;
    std::string b;
+   std::vector< std::string > agents;
+   AgentOptions agent; // how they are asked
    std::vector< std::string > at;
    std::vector< std::string > tables;
    TypedPlace place;
@@ -34,7 +39,38 @@ U32 eventNamed( std::string const & typed ) {
    }
 }
 
-int answer( Options const & options ) {
+// Agents come before files. What one is asked for is what the other side tells of.
+void askAgents( Options & options ) {
+   if ( options.agents.empty() ) {
+      if ( options.a.empty() ) {
+         missing( "diff", "A" );
+      }
+      return;
+   }
+   std::vector< std::string > files;
+   std::ranges::copy_if( std::vector{ options.a, options.b }, std::back_inserter( files ), [&]( auto const & file ) {
+      return !file.empty();
+   } );
+   if ( options.agents.size() + files.size() != 2 ) {
+      throw InputError( "there are two sides; an agent, by --agent, is one of them" );
+   }
+   if ( !options.at.empty() && ( files.empty() || kindOfFile( files[0] ) != FileKind::journal ) ) {
+      throw InputError( "--at asks for an event of a journal; an agent tells of what stands there now" );
+   }
+   bool const isState = !files.empty() && kindOfFile( files[0] ) == FileKind::state;
+   ContentsFilter const filter( options.tables, options.place, options.fap );
+   std::vector< std::string > sides;
+   for ( auto const & agent : options.agents ) {
+      AgentOptions const asked{ agent, options.agent.timeout };
+      sides.push_back( isState ? asked.state() : asked.chips( filter ) );
+   }
+   sides.insert( sides.end(), files.begin(), files.end() );
+   options.a = sides[0];
+   options.b = sides[1];
+}
+
+int answer( Options options ) {
+   askAgents( options );
    DiffQuestion question{ .a = options.a,
                           .b = options.b,
                           .filter = ContentsFilter( options.tables, options.place, options.fap ),
@@ -63,9 +99,11 @@ int answer( Options const & options ) {
 
 Action defineDiff( VerbOptions & verb ) {
    auto const options = std::make_shared< Options >();
-   verb.required(
+   verb.text(
       "A", options->a, "a file that `l3sm run` wrote with --chips, --journal, --state or --save; `-`: standard input" );
    verb.text( "B", options->b, "another; of a journal alone, two of its events are compared: --at EVENT --at EVENT" );
+   verb.repeated( "--agent", options->agents, "a running agent as the first side; given twice: as both", "SLICE" );
+   verb.number( "--timeout", options->agent.timeout, "of an agent: seconds in which it says nothing; 10 without it" );
    verb.repeated( "--at",
                   options->at,
                   "of a journal: what stood there when this event was over, not at its end; given twice: of each side",

@@ -1,5 +1,8 @@
 // The verb `plan`: what a start on these chips and this state, or a scenario's events, would change, without a change.
+#include "inspection/files/InputFile.h"
+#include "inspection/files/Json.h"
 #include "inspection/views/PlanText.h"
+#include "l3sm/AgentFiles.h"
 #include "l3sm/ScenarioToPlay.h"
 #include "l3sm/verbs/Verbs.h"
 
@@ -9,6 +12,7 @@
 namespace Cli {
 
 using namespace Inspection;
+using Rex::Value;
 
 namespace {
 
@@ -16,12 +20,43 @@ constexpr int hasSomethingToChange = 1;
 
 struct Options : PlanTextOptions {
    std::string scenario;
+   AgentOptions agent;
    std::string plugin;
    std::vector< std::string > toggles;
    bool json = false;
 };
 
+// The agent plans on a copy of itself, and tells it as text and as a value.
+int askAgent( Options const & options ) {
+   if ( options.scenario.empty() ) {
+      missing( "plan", "SCENARIO.json, whose events are planned," );
+   }
+   if ( !options.plugin.empty() || !options.toggles.empty() ) {
+      throw InputError( "an agent has its plug-in and its toggles already; leave out --plugin and --toggle" );
+   }
+   Value::Object params{ { "events", eventsIn( options.scenario ) },
+                         { "name", inputName( options.scenario ) },
+                         { "stat", options.stat },
+                         { "all", options.all },
+                         { "width", lineWidth() },
+                         { "colour", !Style::of( std::cout ).strong( "" ).empty() } };
+   if ( options.fap ) {
+      params["fap"] = *options.fap;
+   }
+   Value const plan = options.agent.call( "plan", params ).value();
+   Fields fields( plan );
+   if ( options.json ) {
+      std::cout << toJson( fields.required( "plan" ), 4 ) << '\n';
+   } else {
+      std::cout << fields.required< std::string >( "text" );
+   }
+   return fields.required< bool >( "isEmpty" ) ? 0 : hasSomethingToChange;
+}
+
 int answer( Options const & options ) {
+   if ( options.agent.isGiven() ) {
+      return askAgent( options );
+   }
    Scenario const scenario = scenarioToPlay( options.scenario, options.toggles, options.plugin );
    if ( options.fap ) {
       scenario.fap( *options.fap );
@@ -41,6 +76,7 @@ Action definePlan( VerbOptions & verb ) {
    auto const options = std::make_shared< Options >();
    verb.text(
       "scenario", options->scenario, "the scenario to plan; without one, the built-in example", "SCENARIO.json" );
+   options->agent.declare( verb );
    verb.flag( "--stat", options->stat, "count by table" );
    verb.number( "--fap", options->fap, "only this FAP" );
    verb.flag( "--all", options->all, "every entry that would change" );

@@ -1,4 +1,5 @@
 #include "agent/Daemon.h"
+#include "inspection/Play.h"
 #include "inspection/Version.h"
 #include "l3sm/ScenarioToPlay.h"
 #include "l3sm/verbs/Verbs.h"
@@ -16,6 +17,9 @@ struct Options {
    std::string slice;
    std::optional< U32 > cell;
    std::string database;
+   std::string socket;
+   std::string record;
+   std::string metrics;
    std::vector< std::string > toggles;
    std::string plugin;
 };
@@ -29,10 +33,15 @@ int serve( Options const & options ) {
    if ( !options.slice.empty() ) {
       scenario.description.sliceName = options.slice;
    }
+   std::string const plugin = options.plugin.empty() ? pluginBeside() : options.plugin;
    Live::Daemon daemon( { .scenario = std::move( scenario ),
                           .cell = options.cell.value_or( 1 ),
                           .database = options.database,
-                          .version = std::string( versionNumber() ) } );
+                          .socket = options.socket,
+                          .record = options.record,
+                          .metrics = options.metrics,
+                          .version = std::string( versionNumber() ),
+                          .plugin = libraryId( plugin ).value_or( "" ) } );
    return daemon.run();
 }
 
@@ -45,6 +54,12 @@ Action defineServe( VerbOptions & verb ) {
    verb.number( "--cell", options->cell, "whose state it follows; the default is 1" );
    verb.text(
       "--database", options->database, "where the state is; without one, the file's, changed by `l3sm ctl`", "URL" );
+   verb.text( "--socket", options->socket, "where it is controlled; the default is /run/l3sm/SLICE.ctl", "PATH" );
+   verb.text( "--record", options->record, "record what it is told there, so that it can be played again", "DIR" );
+   verb.text( "--metrics",
+              options->metrics,
+              "tell its metrics in a file for the node exporter, or over HTTP on a loopback address",
+              "PATH|ADDRESS:PORT" );
    verb.repeated( "--toggle", options->toggles, "set a toggle; may be given several times", "FILE:NAME=on|off" );
    verb.text( "--plugin", options->plugin, "the plug-in's library; the default lies beside this program", "PATH" );
    return [options] { return serve( *options ); };

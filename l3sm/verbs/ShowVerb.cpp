@@ -2,6 +2,7 @@
 #include "inspection/FileContents.h"
 #include "inspection/views/ContentsText.h"
 #include "inspection/views/ReplayText.h"
+#include "l3sm/AgentFiles.h"
 #include "l3sm/verbs/Verbs.h"
 
 #include <iostream>
@@ -17,6 +18,7 @@ using Rex::Value;
 
 struct Options {
    std::string file;
+   AgentOptions agent;
    std::vector< std::string > parts;
    std::vector< std::string > tables; // likewise
    TypedPlace place;
@@ -64,9 +66,17 @@ int showJson( ContentsQuestion const & question, bool all ) {
 
 int answer( Options const & options ) {
    auto parts = options.parts;
+   if ( options.agent.isGiven() && !options.file.empty() ) {
+      parts.insert( parts.begin(), options.file ); // the first place is no file then
+   } else if ( !options.agent.isGiven() && options.file.empty() ) {
+      missing( "show", "FILE" );
+   }
    parts.insert( parts.end(), options.tables.begin(), options.tables.end() );
-   ContentsQuestion const question{
+   ContentsQuestion question{
       .file = options.file, .event = options.at, .filter = ContentsFilter( parts, options.place, options.fap ) };
+   if ( options.agent.isGiven() ) {
+      question.file = options.agent.chips( question.filter );
+   }
    return options.json ? showJson( question, options.all ) : showText( question, options.all );
 }
 
@@ -74,7 +84,7 @@ int answer( Options const & options ) {
 
 Action defineShow( VerbOptions & verb ) {
    auto const options = std::make_shared< Options >();
-   verb.required( "FILE", options->file, "a file that `l3sm run --chips` or `--journal` wrote; `-`: standard input" );
+   verb.text( "FILE", options->file, "a file that `l3sm run --chips` or `--journal` wrote; `-`: standard input" );
    verb.texts( "TABLE", options->parts, "only these: TABLE, TABLE.FIELD, `controls` or control.NUMBER" );
    verb.texts( "--table", options->tables, "the same", "TABLE" );
    verb.number( "--fap", options->fap, "only this FAP" );
@@ -82,6 +92,7 @@ Action defineShow( VerbOptions & verb ) {
    verb.number( "--array", options->place.array, "only this array index" );
    verb.number( "--entry", options->place.entry, "only this entry" );
    verb.number( "--at", options->at, "from a journal: what stood there when this event was over, not at its end" );
+   options->agent.declare( verb );
    verb.flag( "--all", options->all, "unset fields too" );
    verb.flag( "--json", options->json, "for programs" );
    return [options] { return answer( *options ); };

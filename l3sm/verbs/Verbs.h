@@ -33,5 +33,10 @@ Action defineToggles( VerbOptions & verb );
 Action defineFacilities( VerbOptions & verb );
 Action defineServe( VerbOptions & verb );
 Action defineState( VerbOptions & verb );
+Action defineCtl( VerbOptions & verb );
+
+// `l3sm ctl … show …` is `l3sm show --agent … …`, and so with the other verbs that a running agent answers.
+// InputError where no agent is named and there isn't one alone.
+std::vector< std::string > withoutCtl( std::vector< std::string > const & words );
 
 } // namespace Cli

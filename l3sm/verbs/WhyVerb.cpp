@@ -1,12 +1,15 @@
 // The verb `why`: which input led over which function to a write, a publication or a gate.
 #include "inspection/Why.h"
+#include "inspection/files/InputFile.h"
 #include "inspection/files/Json.h"
 #include "inspection/views/WhyText.h"
+#include "l3sm/AgentFiles.h"
 #include "l3sm/verbs/Verbs.h"
 
 #include <iostream>
 #include <limits>
 #include <memory>
+#include <utility>
 
 namespace Cli {
 
@@ -16,6 +19,7 @@ namespace {
 
 struct Options {
    std::string journal;
+   AgentOptions agent;
    std::string subject;
    WhyFilter filter;
    std::optional< U32 > last;
@@ -24,7 +28,28 @@ struct Options {
    bool json = false;
 };
 
-int answer( Options const & options ) {
+// What an agent has forgotten can't be told.
+void tellOfForgotten( WhyAnswer & answer, std::string const & journal ) {
+   if ( auto const first = AgentOptions::reachesBackTo( journal ) ) {
+      answer.remarks.insert( answer.remarks.begin(),
+                             inputName( journal ) + ": remembers back to event " + std::to_string( *first ) +
+                                "; what was before isn't told" );
+   }
+}
+
+int answer( Options options ) {
+   if ( options.agent.isGiven() && options.subject.empty() ) {
+      options.subject = std::exchange( options.journal, {} ); // the first place is no journal then
+   }
+   if ( options.journal.empty() != options.agent.isGiven() ) {
+      if ( options.agent.isGiven() ) {
+         throw InputError( options.journal, "is one place too many: --agent stands for the journal" );
+      }
+      missing( "why", "JOURNAL" );
+   }
+   if ( options.subject.empty() ) {
+      throw InputError( "SUBJECT is required; l3sm why --help tells what there is" );
+   }
    WhySubject const subject = whySubjectOf( options.subject );
    TypedPlace const & place = options.filter.place;
    if ( subject.kind == WhySubject::Kind::part ) {
@@ -37,9 +62,15 @@ int answer( Options const & options ) {
       filter.table = tableNamed( filter.table ).name;
    }
    filter.events = options.all ? std::numeric_limits< std::size_t >::max() : options.last.value_or( filter.events );
+   if ( options.agent.isGiven() ) {
+      options.journal = options.agent.journal();
+   }
    JournalReader journal( options.journal );
    WhyReader reader( subject, filter );
-   WhyAnswer const answer = whyOf( journal, reader );
+   WhyAnswer answer = whyOf( journal, reader );
+   if ( options.agent.isGiven() ) {
+      tellOfForgotten( answer, options.journal );
+   }
    if ( options.json ) {
       std::cout << toJson( whyValue( answer ), 4 ) << '\n';
    } else {
@@ -53,12 +84,12 @@ int answer( Options const & options ) {
 
 Action defineWhy( VerbOptions & verb ) {
    auto const options = std::make_shared< Options >();
-   verb.required( "JOURNAL", options->journal, "a file that `l3sm run --journal` wrote" );
-   verb.required(
-      "SUBJECT",
-      options->subject,
-      "TABLE, TABLE.FIELD, TABLE.FIELD:BIT, control.NUMBER, PATH or PATH.ATTRIBUTE of the state, a function, "
-      "or an interface" );
+   verb.text( "JOURNAL", options->journal, "a file that `l3sm run --journal` wrote" );
+   verb.text( "SUBJECT",
+              options->subject,
+              "TABLE, TABLE.FIELD, TABLE.FIELD:BIT, control.NUMBER, PATH or PATH.ATTRIBUTE of the state, a function, "
+              "or an interface" );
+   options->agent.declare( verb );
    verb.number( "--fap", options->filter.fap, "only this FAP" );
    verb.number( "--variant", options->filter.place.variant, "only this variant" );
    verb.number( "--array", options->filter.place.array, "only this array index" );

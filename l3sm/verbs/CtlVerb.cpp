@@ -1,0 +1,202 @@
+// The verb `ctl`: asks and tells a running agent at its control socket.
+#include "agent/database/Paths.h"
+#include "inspection/files/Json.h"
+#include "inspection/views/ValueText.h"
+#include "l3sm/AgentFiles.h"
+#include "l3sm/verbs/Verbs.h"
+
+#include <algorithm>
+#include <iostream>
+#include <memory>
+
+namespace Cli {
+
+using namespace Inspection;
+
+namespace {
+
+using Rex::Value;
+
+struct Options {
+   std::string agent;
+   std::string socket;
+   std::optional< U32 > timeout;
+   std::vector< std::string > words;
+   bool json = false;
+};
+
+struct Known {
+   std::string name;
+   Value::List arguments;
+};
+
+// The command that the line begins with: the longest one.
+Known commandOf( Value const & commands, std::vector< std::string > const & words ) {
+   Known found;
+   for ( Value const & command : listOf( commands ) ) {
+      auto const & fields = objectOf( command );
+      std::string const & name = *fields.at( "name" ).text();
+      auto const twoWords = words.size() > 1 ? words[0] + " " + words[1] : words[0];
+      if ( ( name == words[0] || name == twoWords ) && name.size() > found.name.size() ) {
+         found = { name, listOf( fields.at( "arguments" ) ) };
+      }
+   }
+   return found;
+}
+
+// What a person has typed, as the command takes it.
+Value typed( Value const & argument, std::string const & text ) {
+   auto const & fields = objectOf( argument );
+   std::string const & type = *fields.at( "type" ).text();
+   std::string const & name = *fields.at( "name" ).text();
+   if ( type == "number" ) {
+      return inFile( name, [&] { return Value( Rex::Codec< U32 >::fromKey( text ) ); } );
+   }
+   if ( type == "flag" ) {
+      return text == "true" || text == "yes" || text == "on";
+   }
+   if ( type == "texts" ) {
+      return Value::List{ text };
+   }
+   if ( type != "value" ) {
+      return text;
+   }
+   // Of a file of events, those.
+   if ( name == "events" ) {
+      return eventsIn( text );
+   }
+   try {
+      return Live::valueOfText( text );
+   } catch ( Rex::ValueError const & ) {
+      return text; // what is no JSON is a text
+   }
+}
+
+Value paramsOf( Known const & command, std::vector< std::string > const & words ) {
+   std::size_t const first = 1 + static_cast< std::size_t >( std::ranges::count( command.name, ' ' ) );
+   if ( words.size() > first + command.arguments.size() ) {
+      std::string all;
+      for ( Value const & argument : command.arguments ) {
+         all += ( all.empty() ? "; it takes " : ", " ) + *objectOf( argument ).at( "name" ).text();
+      }
+      throw InputError( words[first + command.arguments.size()], "is one argument too many for " + command.name + all );
+   }
+   Value::Object params;
+   for ( std::size_t at = first; at < words.size(); ++at ) {
+      Value const & argument = command.arguments[at - first];
+      params[*objectOf( argument ).at( "name" ).text()] = typed( argument, words[at] );
+   }
+   return params;
+}
+
+// Never the name of a slice.
+std::string pathOf( std::string const & socket ) {
+   return socket.find( '/' ) == std::string::npos ? "./" + socket : socket;
+}
+
+// A line for each command.
+void writeCommands( std::ostream & out, Value const & commands, Style const & style ) {
+   Columns columns;
+   for ( Value const & command : listOf( commands ) ) {
+      auto const & fields = objectOf( command );
+      std::string line = *fields.at( "name" ).text();
+      for ( Value const & argument : listOf( fields.at( "arguments" ) ) ) {
+         auto const & of = objectOf( argument );
+         std::string const & name = *of.at( "name" ).text();
+         line += *of.at( "optional" ).boolean() ? " [" + name + "]" : " " + name;
+      }
+      columns.row( { style.strong( line ),
+                     *fields.at( "does" ).text() + ( *fields.at( "changes" ).boolean() ? " (owner and root)" : "" ) } );
+   }
+   columns.print( out );
+}
+
+int ctl( Options const & options ) {
+   if ( !options.agent.empty() && !options.socket.empty() ) {
+      throw InputError( "-t and --socket both name an agent; leave one out" );
+   }
+   AgentOptions const agent{ .name = !options.socket.empty()  ? pathOf( options.socket )
+                                     : !options.agent.empty() ? options.agent
+                                                              : theOnlyAgent(),
+                             .timeout = options.timeout };
+   Value const commands = agent.call( "list" ).value();
+   Known command = commandOf( commands, options.words );
+   if ( command.name.empty() ) {
+      command.name = options.words[0]; // which the agent refuses, with a remedy
+   }
+   bool const isList = command.name == "list";
+   Value const result = isList ? commands : agent.call( command.name, paramsOf( command, options.words ) ).value();
+   if ( options.json ) {
+      std::cout << toJson( result, 2 ) << '\n';
+   } else if ( isList ) {
+      writeCommands( std::cout, result, Style::of( std::cout ) );
+   } else {
+      writeValue( std::cout, result, Style::of( std::cout ) );
+   }
+   return 0;
+}
+
+} // namespace
+
+Action defineCtl( VerbOptions & verb ) {
+   auto const options = std::make_shared< Options >();
+   verb.text( "-t,--agent", options->agent, "which agent; not needed where there is one", "SLICE" );
+   verb.text( "--socket", options->socket, "the same, by its socket", "PATH" );
+   verb.number( "--timeout", options->timeout, "seconds in which the agent says nothing; 10 without it" );
+   verb.texts( "COMMAND", options->words, "what to ask or tell it, with its arguments; `list` tells what there is" );
+   verb.flag( "--json", options->json, "for programs" );
+   verb.footer( "`ctl show`, `why`, `diff` and `plan` take what those verbs take: l3sm ctl show --fap 0." );
+   return [options] {
+      if ( options->words.empty() ) {
+         throw InputError( "say what to ask the agent; l3sm ctl list tells what there is" );
+      }
+      return ctl( *options );
+   };
+}
+
+namespace {
+
+bool isOption( std::string const & word, std::string const & name ) {
+   return word == name || word.starts_with( name + "=" );
+}
+
+} // namespace
+
+std::vector< std::string > withoutCtl( std::vector< std::string > const & words ) {
+   static constexpr std::string_view verbs[] = { "show", "why", "diff", "plan" };
+   if ( words.size() < 2 || words[1] != "ctl" ) {
+      return words;
+   }
+   std::string agent;
+   std::vector< std::string > others;
+   std::size_t at = 2;
+   for ( ; at < words.size() && words[at].starts_with( "-" ); ++at ) {
+      std::string const & word = words[at];
+      bool const isAgent = isOption( word, "-t" ) || isOption( word, "--agent" ) || isOption( word, "--socket" );
+      if ( !isAgent && !isOption( word, "--timeout" ) ) {
+         others.push_back( word );
+         continue;
+      }
+      auto const equals = word.find( '=' );
+      std::string value;
+      if ( equals != std::string::npos ) {
+         value = word.substr( equals + 1 );
+      } else if ( at + 1 < words.size() ) {
+         value = words[++at];
+      }
+      if ( isAgent ) {
+         agent = isOption( word, "--socket" ) ? pathOf( value ) : value;
+      } else {
+         others.insert( others.end(), { "--timeout", value } );
+      }
+   }
+   if ( at == words.size() || std::ranges::find( verbs, words[at] ) == std::end( verbs ) ) {
+      return words;
+   }
+   std::vector< std::string > verb{ words[0], words[at], "--agent", agent.empty() ? theOnlyAgent() : agent };
+   verb.insert( verb.end(), others.begin(), others.end() );
+   verb.insert( verb.end(), words.begin() + static_cast< std::ptrdiff_t >( at ) + 1, words.end() );
+   return verb;
+}
+
+} // namespace Cli

@@ -1,0 +1,171 @@
+// A real agent, asked as a person would: it answers as the files do that a run of the same scenario writes.
+#include "Folder.h"
+#include "inspection/files/Json.h"
+
+#include <csignal>
+#include <regex>
+#include <sys/wait.h>
+#include <unistd.h>
+
+namespace {
+
+using Rex::Value;
+
+// `l3sm serve` in a folder of its own, with what a run of the whole example has left beside it.
+class ServedExample {
+ public:
+   explicit ServedExample( std::string const & example ) {
+      Value scenario = Inspection::readJson( L3SM_SOURCE_DIR "/examples/" + example );
+      events_ = *( *scenario.object() )["events"].list();
+      folder.file( "whole.json", Inspection::toJson( scenario, 2 ) );
+      folder.file( "events.json", Inspection::toJson( Value::Object{ { "events", events_ } }, 2 ) );
+      scenario.object()->erase( "events" );
+      folder.file( "switch.json", Inspection::toJson( scenario, 2 ) );
+      agent_ = ::fork();
+      if ( agent_ == 0 ) {
+         std::string const line =
+            "cd '" + folder / "" + "' && exec '" L3SM_BINARY_DIR "/bin/l3sm' serve switch.json --socket a.ctl 2>log";
+         ::execl( "/bin/sh", "sh", "-c", line.c_str(), nullptr );
+         ::_exit( 127 );
+      }
+      until( [&] {
+         return ask( "ctl --socket a.ctl status --json" ).find( "\"phase\": \"running\"" ) != std::string::npos;
+      } );
+   }
+   ~ServedExample() {
+      if ( agent_ > 0 ) {
+         ::kill( agent_, SIGKILL );
+         wait();
+      }
+   }
+   ServedExample( ServedExample const & ) = delete;
+   ServedExample & operator=( ServedExample const & ) = delete;
+
+   // What it says, on both outputs, and its exit status.
+   std::string ask( std::string const & arguments ) {
+      std::string const line = "cd '" + folder / "" + "' && COLUMNS=100 '" L3SM_BINARY_DIR "/bin/l3sm' " + arguments +
+                               " </dev/null >.out 2>&1";
+      status = WEXITSTATUS( std::system( line.c_str() ) );
+      return folder.text( ".out" );
+   }
+   // All events of the example, on the agent and in files.
+   void play() {
+      EXPECT_EQ( ask( "ctl --socket a.ctl state apply events.json" ),
+                 std::to_string( events_.size() ) + ( events_.size() == 1 ? " event\n" : " events\n" ) );
+      auto const count = "\"events\": " + std::to_string( events_.size() ) + ",";
+      until( [&] { return ask( "ctl --socket a.ctl status --json" ).find( count ) != std::string::npos; } );
+      EXPECT_EQ( ask( "run whole.json --quiet --chips chips.json --journal run.jsonl --state state.json" ), "" );
+      EXPECT_EQ( ask( "run switch.json --quiet --chips before.json" ), "" );
+   }
+   int wait() {
+      int ended = 0;
+      ::waitpid( std::exchange( agent_, 0 ), &ended, 0 );
+      return WEXITSTATUS( ended );
+   }
+
+   Folder const folder;
+   int status = 0;
+
+ private:
+   template< class Condition >
+   void until( Condition const & holds ) {
+      for ( int tries = 0; !holds(); ++tries ) {
+         ASSERT_LT( tries, 1000 ) << folder.text( ".out" ) << folder.text( "log" );
+         ::usleep( 10'000 );
+      }
+   }
+   Value::List events_;
+   pid_t agent_ = 0;
+};
+
+constexpr char const * example = "urpf-and-ip-traps.json";
+
+TEST( ControlAnswers, AreThoseOfTheFilesOfARun ) {
+   ServedExample agent( example );
+   agent.play();
+   for ( std::string const question :
+         { "", "--json", "--all", "--fap 0 IppdFerTrapCfg", "--json --table IppdFerTrapCfg" } ) {
+      auto const fromFile = agent.ask( "show chips.json " + question );
+      EXPECT_EQ( agent.status, 0 ) << fromFile;
+      EXPECT_EQ( agent.ask( "show --agent ./a.ctl " + question ), fromFile ) << question;
+      EXPECT_EQ( agent.ask( "ctl --socket a.ctl show " + question ), fromFile ) << question;
+   }
+   for ( std::string const question : { "IppdFerTrapCfg",
+                                        "IppdFerTrapCfg --json",
+                                        "routing/hardware/config.urpfLooseFailForward --all",
+                                        "IppdFerTrapCfg --event 1" } ) {
+      auto const fromFile = agent.ask( "why run.jsonl " + question );
+      EXPECT_EQ( agent.status, 0 ) << fromFile;
+      EXPECT_EQ( agent.ask( "why --agent ./a.ctl " + question ), fromFile ) << question;
+   }
+   EXPECT_EQ( agent.ask( "ctl --socket a.ctl state --json" ), agent.folder.text( "state.json" ) );
+
+   EXPECT_EQ( agent.ask( "diff --agent ./a.ctl chips.json --json" ), agent.ask( "diff chips.json chips.json --json" ) );
+   agent.ask( "diff --agent ./a.ctl state.json" );
+   EXPECT_EQ( agent.status, 0 );
+   auto const fromFiles = agent.ask( "diff chips.json before.json" );
+   EXPECT_EQ( agent.status, 1 );
+   EXPECT_EQ( std::regex_replace(
+                 agent.ask( "ctl --socket a.ctl diff before.json" ), std::regex( "agent ./a.ctl" ), "chips.json" ),
+              fromFiles );
+   EXPECT_EQ( agent.status, 1 );
+}
+
+TEST( ControlAnswers, PlanEventsWithoutDoingThem ) {
+   ServedExample agent( example );
+   auto const before = agent.ask( "show --agent ./a.ctl --json" );
+   auto const planned = agent.ask( "plan --agent ./a.ctl events.json --json" );
+   EXPECT_EQ( agent.status, 1 ) << planned;
+   EXPECT_EQ( agent.ask( "show --agent ./a.ctl --json" ), before );
+
+   auto const fromFile = agent.ask( "plan whole.json --json" );
+   auto const eventsOf = []( std::string const & json ) {
+      return *Inspection::objectOf( Inspection::parseJson( json, "plan" ) ).at( "events" ).list();
+   };
+   auto wanted = eventsOf( fromFile );
+   wanted.erase( wanted.begin() ); // the start
+   EXPECT_EQ( Value( eventsOf( planned ) ), Value( wanted ) );
+
+   auto const text = agent.ask( "plan whole.json" );
+   auto const asked = agent.ask( "plan --agent ./a.ctl events.json" );
+   auto const afterStart = asked.substr( asked.find( "event 1" ) );
+   EXPECT_NE( text.find( afterStart.substr( 0, afterStart.find( '\n' ) ) ), std::string::npos ) << asked;
+}
+
+TEST( ControlAnswers, RefuseWhatDoesNotFit ) {
+   ServedExample agent( example );
+   EXPECT_EQ( agent.ask( "ctl --socket a.ctl stat" ),
+              "l3sm: agent ./a.ctl: there is no command \"stat\"; did you mean \"state\"?\n" );
+   EXPECT_EQ( agent.status, 2 );
+   EXPECT_EQ( agent.ask( "ctl --socket a.ctl trace set DaceFapNiL3Sm 11" ),
+              "l3sm: agent ./a.ctl: level: expected a level from 0 to 9, or off; got \"11\"\n" );
+   EXPECT_EQ( agent.ask( "ctl --socket a.ctl state set evpn/status vxlanEnabled 3" ),
+              "l3sm: agent ./a.ctl: /value: expected true or false, got 3\n" );
+   EXPECT_EQ( agent.ask( "ctl --socket a.ctl freeze now" ), "l3sm: now: is one argument too many for freeze\n" );
+   EXPECT_EQ( agent.ask( "show --agent ./a.ctl --fap 7" ), "l3sm: agent ./a.ctl: fap: there is no FAP 7\n" );
+   EXPECT_EQ( agent.ask( "show --agent ./b.ctl" ), "l3sm: ./b.ctl: no agent listens there; `l3sm serve` starts one\n" );
+   EXPECT_EQ( agent.status, 2 );
+}
+
+TEST( ControlAnswers, FollowWhatTheAgentIsTold ) {
+   ServedExample agent( example );
+   EXPECT_EQ( agent.ask( "ctl --socket a.ctl freeze" ), "frozen\n" );
+   EXPECT_EQ( agent.ask( "ctl --socket a.ctl state set evpn/status vxlanEnabled true" ), "1 change\n" );
+   EXPECT_NE( agent.ask( "ctl --socket a.ctl status" ).find( "frozen" ), std::string::npos );
+   EXPECT_NE( agent.ask( "ctl --socket a.ctl state evpn/status" ).find( "vxlanEnabled        no" ), std::string::npos )
+      << agent.folder.text( ".out" );
+   EXPECT_EQ( agent.ask( "ctl --socket a.ctl thaw" ), "running\n" );
+   for ( int tries = 0;
+         tries < 500 && agent.ask( "ctl --socket a.ctl status --json" ).find( "\"events\": 1," ) == std::string::npos;
+         ++tries ) {
+      ::usleep( 10'000 );
+   }
+   EXPECT_NE( agent.ask( "ctl --socket a.ctl state evpn/status --json" ).find( "\"vxlanEnabled\": true" ),
+              std::string::npos );
+   EXPECT_NE( agent.ask( "ctl --socket a.ctl trace set DaceFapNiL3Sm 9" ).find( "DaceFapNiL3Sm" ), std::string::npos );
+   EXPECT_EQ( agent.ask( "ctl --socket a.ctl exit" ), "the agent ends\n" );
+   EXPECT_EQ( agent.wait(), 0 );
+   EXPECT_FALSE( std::filesystem::exists( agent.folder / "a.ctl" ) );
+}
+
+} // namespace
