@@ -19,10 +19,11 @@ RecordedSegments::RecordedSegments( std::string const & path ) {
    std::set< std::string > slices;
    for ( auto const & segment : segmentsIn( path ) ) {
       slices.insert( segment.slice );
-      paths_.push_back( segment.path );
-   }
-   if ( paths_.empty() ) {
-      throw InputError( path, "there is no recording in this folder" );
+      if ( std::filesystem::file_size( segment.path ) == 0 ) {
+         remarks_.push_back( segment.path + ": is empty: its agent was killed before it had a state" );
+      } else {
+         paths_.push_back( segment.path );
+      }
    }
    if ( slices.size() > 1 ) {
       std::string all;
@@ -30,6 +31,9 @@ RecordedSegments::RecordedSegments( std::string const & path ) {
          all += ( all.empty() ? "" : ", " ) + slice;
       }
       throw InputError( path, "there are recordings of several slices, " + all + "; name one of their segments" );
+   }
+   if ( paths_.empty() ) {
+      throw InputError( path, "there is no recording in this folder" );
    }
    nextSegment();
 }

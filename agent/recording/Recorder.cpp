@@ -35,7 +35,7 @@ std::string textOf( Position const & position ) {
 
 } // namespace
 
-Recorder::Recorder( Simulator::SimulatedSwitch const & sw,
+Recorder::Recorder( Simulator::SimulatedSwitch & sw,
                     Inspection::Scenario const & begun,
                     RecordingOptions options,
                     PositionNow position,
@@ -55,6 +55,7 @@ Recorder::Recorder( Simulator::SimulatedSwitch const & sw,
 
 Recorder::~Recorder() {
    stop();
+   sw_.journal().readerDel( *this );
 }
 
 // ---- beginning, ending

@@ -48,9 +48,9 @@ class Recorder final : public Simulator::RowReader {
  public:
    using PositionNow = std::function< Position() >;
 
-   // `begun`: what the switch was made from. All that is referred to outlives the recorder, which
-   // hears of the switch from its start on, whether or not it records.
-   Recorder( Simulator::SimulatedSwitch const & sw,
+   // `begun`: what the switch was made from. All that is referred to outlives the recorder, which hears of the switch
+   // from its start on, whether or not it records.
+   Recorder( Simulator::SimulatedSwitch & sw,
              Inspection::Scenario const & begun,
              RecordingOptions options,
              PositionNow position = {},
@@ -89,7 +89,7 @@ class Recorder final : public Simulator::RowReader {
    template< class Write >
    void writing( Write const & write );
 
-   Simulator::SimulatedSwitch const & sw_;
+   Simulator::SimulatedSwitch & sw_;
    Inspection::Scenario const & begun_;
    RecordingOptions options_;
    PositionNow positionNow_;

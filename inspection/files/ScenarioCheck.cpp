@@ -95,8 +95,12 @@ Scenario readScenario( std::string const & path ) {
    try {
       return scenarioFrom( { inputName( path ), std::move( text ) } );
    } catch ( InputError const & ) {
-      for ( auto const other :
-            { FileKind::journal, FileKind::chips, FileKind::state, FileKind::page, FileKind::binary } ) {
+      for ( auto const other : { FileKind::journal,
+                                 FileKind::chips,
+                                 FileKind::state,
+                                 FileKind::page,
+                                 FileKind::binary,
+                                 FileKind::recording } ) {
          if ( kind == other ) { // which has nothing of a scenario
             throw InputError( inputName( path ), another );
          }

@@ -80,7 +80,9 @@ TEST( RecordingReplay, RefusesWhatIsNone ) {
             Case{ "replay .",
                   { { "a-1.rec.jsonl", "" }, { "b-1.rec.jsonl", "" } },
                   "l3sm: .: there are recordings of several slices, a, b; name one of their segments\n" },
-            Case{ "replay .", { { "a-1.rec.jsonl", "" } }, "l3sm: ./a-1.rec.jsonl: is empty, no recording\n" },
+            Case{ "replay .", { { "a-1.rec.jsonl", "" } }, "l3sm: .: there is no recording in this folder\n" },
+            Case{
+               "replay a-1.rec.jsonl", { { "a-1.rec.jsonl", "" } }, "l3sm: a-1.rec.jsonl: is empty, no recording\n" },
             Case{ "replay .",
                   { { "a-1.rec.jsonl", R"({"op": "begin", "format": 2})" } },
                   "l3sm: ./a-1.rec.jsonl: is a journal, no recording; `l3sm serve --record DIR` writes one\n" },
