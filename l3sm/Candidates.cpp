@@ -295,6 +295,8 @@ constexpr Place places[] = {
    { "--with", scenarioSubjects },
    { "--at", nothing },
    { "--socket", files },
+   { "--record", files },
+   { "--metrics", files },
    // places
    { "TABLE", tablesAndFields },
    { "CONDITION", tablesAndFields },
@@ -313,6 +315,7 @@ constexpr Place places[] = {
    { "INT", nothing },
    { "URL", nothing },
    { "KEY", nothing },
+   { "NAME", nothing },
    { "SLICE", slices },
    { "N[,...]|all|last", events },
    { "FACILITY/LEVEL[,...]", facilitiesWithLevels },

@@ -112,7 +112,11 @@ class ControlWorld {
    void during( std::function< void() > const & goesOn ) {
       std::atomic< bool > isOver = false;
       std::thread other( [&] {
-         goesOn();
+         try {
+            goesOn();
+         } catch ( std::exception const & error ) {
+            ADD_FAILURE() << error.what();
+         }
          isOver = true;
       } );
       while ( !isOver ) {
