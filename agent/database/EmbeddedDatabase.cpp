@@ -1,5 +1,7 @@
 #include "agent/database/EmbeddedDatabase.h"
 
+#include <algorithm>
+#include <iterator>
 #include <utility>
 
 namespace Live {
@@ -53,7 +55,9 @@ void EmbeddedDatabase::snapshot() {
    } );
 }
 
-void EmbeddedDatabase::since( Position const & ) {
+void EmbeddedDatabase::since( Position const & position ) {
+   auto const known = std::ranges::find( waiting_, position, &Transaction::position );
+   waiting_.erase( waiting_.begin(), known == waiting_.end() ? waiting_.begin() : std::next( known ) );
    isFollowed_ = true;
    hand();
 }
@@ -63,7 +67,7 @@ void EmbeddedDatabase::hand() {
       answer( [this] {
          if ( isFollowed_ && !waiting_.empty() ) {
             isFollowed_ = false;
-            follower()->transactionsAre( std::exchange( waiting_, {} ) );
+            follower()->transactionsAre( waiting_ ); // until it asks for what comes behind them
          }
       } );
    }

@@ -33,7 +33,7 @@ class EmbeddedDatabase final : public Database {
    EventLoop & loop_;
    Paths paths_;
    U64 entry_ = 0;
-   std::vector< Transaction > waiting_; // that nobody has been told of
+   std::vector< Transaction > waiting_; // that nobody has asked beyond
    bool isFollowed_ = false;
    std::shared_ptr< bool > isAsked_; // false: what was asked for is off
 };

@@ -135,19 +135,21 @@ struct Totals {
          changing += changes;
          ofStart = ofStart || ( changes && event.event == 0 );
       }
-      all = plan.events.size();
+      hasStart = !plan.events.empty() && plan.events.front().event == 0;
+      all = plan.events.size() - hasStart;
    }
    // "by the start and 3 of 6 events"
    std::string text() const {
       std::size_t const events = changing - ofStart;
-      std::string const ofEvents = std::to_string( events ) + " of " + counted( all - 1, "event", "events" );
-      return "by " + std::string( ofStart ? "the start" : "" ) + ( ofStart && all > 1 ? " and " : "" ) +
-             ( all > 1 ? ofEvents : "" );
+      std::string const ofEvents = std::to_string( events ) + " of " + counted( all, "event", "events" );
+      return "by " + std::string( ofStart ? "the start" : "" ) + ( ofStart && all > 0 ? " and " : "" ) +
+             ( all > 0 ? ofEvents : "" );
    }
    std::size_t entries = 0;
    std::size_t controls = 0;
    std::size_t changing = 0;
-   std::size_t all = 0;
+   std::size_t all = 0; // events, without the start
+   bool hasStart = false;
    bool ofStart = false;
 };
 
@@ -183,8 +185,8 @@ void showPlan( std::ostream & out, Plan const & plan, PlanTextOptions const & op
    Totals const totals( plan, options.fap );
    out << style.title( printable( plan.name ) ) << "\n\n";
    if ( totals.changing == 0 ) {
-      out << "Nothing would change: the chips hold what the start and "
-          << counted( plan.events.size() - 1, "event", "events" ) << " would write.\n";
+      out << "Nothing would change: the chips hold what " << ( totals.hasStart ? "the start and " : "" )
+          << counted( totals.all, "event", "events" ) << " would write.\n";
       return;
    }
    out << style.strong( counts( totals.entries, totals.controls ) + " would change" ) << ": " << totals.text()

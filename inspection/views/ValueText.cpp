@@ -18,7 +18,8 @@ bool isLong( Value const & value ) {
 }
 
 std::string shortText( Value const & value ) {
-   if ( value.isNull() ) {
+   bool const isEmpty = value.text() && value.text()->empty();
+   if ( value.isNull() || isEmpty ) {
       return "-";
    }
    if ( auto const * flag = value.boolean() ) {
@@ -42,12 +43,25 @@ void writeText( std::ostream & out, std::string const & text ) {
    out << text << ( text.ends_with( '\n' ) ? "" : "\n" );
 }
 
-void write( std::ostream & out, Value const & value, Style const & style, std::size_t indent ) {
+using Names = std::vector< std::string >;
+
+void write(
+   std::ostream & out, Value const & value, Style const & style, std::size_t indent, Names const & first = {} ) {
    if ( auto const * object = value.object() ) {
       Columns columns;
-      for ( auto const & [name, part] : *object ) {
+      auto const put = [&]( std::string const & name, Value const & part ) {
          if ( !isLong( part ) ) {
             columns.row( { style.strong( printable( name ) ), shortText( part ) } );
+         }
+      };
+      for ( auto const & name : first ) {
+         if ( auto const found = object->find( name ); found != object->end() ) {
+            put( name, found->second );
+         }
+      }
+      for ( auto const & [name, part] : *object ) {
+         if ( std::ranges::find( first, name ) == first.end() ) {
+            put( name, part );
          }
       }
       columns.print( out, indent );
@@ -69,12 +83,12 @@ void write( std::ostream & out, Value const & value, Style const & style, std::s
 
 } // namespace
 
-void writeValue( std::ostream & out, Value const & value, Style const & style ) {
+void writeValue( std::ostream & out, Value const & value, Style const & style, Names const & first ) {
    if ( auto const * text = value.text(); text && text->find( '\n' ) != std::string::npos ) {
       writeText( out, *text ); // lines that are meant for programs, too
       return;
    }
-   write( out, value, style, 0 );
+   write( out, value, style, 0, first );
 }
 
 } // namespace Inspection

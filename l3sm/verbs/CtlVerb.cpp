@@ -8,6 +8,7 @@
 #include <algorithm>
 #include <iostream>
 #include <memory>
+#include <utility>
 
 namespace Cli {
 
@@ -94,21 +95,41 @@ std::string pathOf( std::string const & socket ) {
    return socket.find( '/' ) == std::string::npos ? "./" + socket : socket;
 }
 
-// A line for each command.
+// A line for each command; its arguments in full are for programs.
 void writeCommands( std::ostream & out, Value const & commands, Style const & style ) {
+   constexpr std::size_t mostOptional = 2; // that are named
    Columns columns;
    for ( Value const & command : listOf( commands ) ) {
       auto const & fields = objectOf( command );
       std::string line = *fields.at( "name" ).text();
+      std::string optional;
+      std::size_t count = 0;
       for ( Value const & argument : listOf( fields.at( "arguments" ) ) ) {
          auto const & of = objectOf( argument );
          std::string const & name = *of.at( "name" ).text();
-         line += *of.at( "optional" ).boolean() ? " [" + name + "]" : " " + name;
+         bool const isOptional = *of.at( "optional" ).boolean();
+         count += isOptional ? 1 : 0;
+         ( isOptional ? optional : line ) += isOptional ? " [" + name + "]" : " " + name;
       }
-      columns.row( { style.strong( line ),
-                     *fields.at( "does" ).text() + ( *fields.at( "changes" ).boolean() ? " (owner and root)" : "" ) } );
+      columns.row( { style.strong( line + ( count > mostOptional ? " […]" : optional ) ),
+                     *fields.at( "changes" ).boolean() ? "*" : "",
+                     *fields.at( "does" ).text() } );
    }
    columns.print( out );
+   out << "\n* for the agent's owner and root alone; --json tells each argument\n";
+}
+
+// What a person reads first, and in which unit.
+void writeStatus( std::ostream & out, Value status, Style const & style ) {
+   static constexpr std::pair< char const *, char const * > units[] = {
+      { "since", " s" }, { "uptime", " s" }, { "lag", " ms" } };
+   for ( auto const & [name, unit] : units ) {
+      auto & value = ( *status.object() )[name];
+      if ( value.integer() ) {
+         value = std::to_string( *value.integer() ) + unit;
+      }
+   }
+   writeValue( out, status, style, { "slice", "phase", "reason", "since", "database", "epoch", "position", "events" } );
 }
 
 int ctl( Options const & options ) {
@@ -130,6 +151,8 @@ int ctl( Options const & options ) {
       std::cout << toJson( result, 2 ) << '\n';
    } else if ( isList ) {
       writeCommands( std::cout, result, Style::of( std::cout ) );
+   } else if ( command.name == "status" && result.object() ) {
+      writeStatus( std::cout, result, Style::of( std::cout ) );
    } else {
       writeValue( std::cout, result, Style::of( std::cout ) );
    }
