@@ -3,6 +3,7 @@
 #include "agent/Log.h"
 #include "agent/RowRing.h"
 #include "agent/ServiceManager.h"
+#include "agent/TraceFile.h"
 #include "agent/control/AgentCommands.h"
 #include "agent/control/ControlServer.h"
 #include "agent/database/EmbeddedDatabase.h"
@@ -50,7 +51,7 @@ std::string controlOf( DaemonOptions const & options ) {
 // In the order in which they need each other.
 struct Daemon::Parts {
    explicit Parts( DaemonOptions const & options )
-      : begun( EventLoop::clock() ), database( databaseAt( options, loop ) ),
+      : traceFile( options.trace, commands ), begun( EventLoop::clock() ), database( databaseAt( options, loop ) ),
         agent( loop, *database, options.scenario, options.version ), counts( agent, metrics ),
         recorder(
            agent.sw(),
@@ -75,6 +76,7 @@ struct Daemon::Parts {
                           .metrics = [this] { return metrics.text(); },
                           .begun = begun } );
       addRecordCommands( commands, recorder );
+      traceFile.read();
       if ( auto const path = controlOf( options ); !path.empty() ) {
          control.emplace(
             loop,
@@ -103,6 +105,18 @@ struct Daemon::Parts {
       }
    }
 
+   // What can be changed without a new start.
+   void rereads() {
+      try {
+         traceFile.read();
+         say( Level::notice, "trace levels are read again" );
+      } catch ( Inspection::InputError const & error ) {
+         say( Level::warning, error.what() );
+      }
+   }
+
+   Commands commands;
+   TraceFile traceFile;
    Rex::Seconds begun;
    EventLoop loop;
    Metrics metrics;
@@ -112,7 +126,6 @@ struct Daemon::Parts {
    ServiceManager manager;
    AgentMetrics counts;
    Recorder recorder;
-   Commands commands;
    std::optional< ControlServer > control;
    std::optional< MetricsServer > metricsServer;
    std::optional< MetricsFile > metricsFile;
@@ -126,6 +139,7 @@ int Daemon::run() {
    auto const ends = [&] { it.loop.end( 0 ); };
    auto const terminate = it.loop.signal( SIGTERM, ends );
    auto const interrupt = it.loop.signal( SIGINT, ends );
+   auto const reread = it.loop.signal( SIGHUP, [&] { it.rereads(); } );
    it.loop.watchdog( tickPeriod, [&] { it.tick(); } );
    it.agent.begin();
    int const status = it.loop.run();

@@ -18,6 +18,7 @@ struct DaemonOptions {
    std::string socket = {};   // empty: the usual one of the slice
    std::string record = {};   // a folder; empty: nothing is recorded
    std::string metrics = {};  // a file or an address; empty: they can be asked for
+   std::string trace = {};    // a file (TraceFile.h); empty: nothing is traced before `trace set`
    std::string version = {};
    std::string plugin = {}; // which build of it is loaded
 };

@@ -20,6 +20,7 @@ struct Options {
    std::string socket;
    std::string record;
    std::string metrics;
+   std::string trace;
    std::vector< std::string > toggles;
    std::string plugin;
 };
@@ -40,6 +41,7 @@ int serve( Options const & options ) {
                           .socket = options.socket,
                           .record = options.record,
                           .metrics = options.metrics,
+                          .trace = options.trace,
                           .version = std::string( versionNumber() ),
                           .plugin = libraryId( plugin ).value_or( "" ) } );
    return daemon.run();
@@ -60,6 +62,8 @@ Action defineServe( VerbOptions & verb ) {
               options->metrics,
               "tell its metrics in a file for the node exporter, or over HTTP on a loopback address",
               "PATH|ADDRESS:PORT" );
+   verb.text(
+      "--trace", options->trace, "which facilities to trace, FACILITY/LEVEL a line; SIGHUP has it read again", "FILE" );
    verb.repeated( "--toggle", options->toggles, "set a toggle; may be given several times", "FILE:NAME=on|off" );
    verb.text( "--plugin", options->plugin, "the plug-in's library; the default lies beside this program", "PATH" );
    return [options] { return serve( *options ); };

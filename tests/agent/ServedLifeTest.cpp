@@ -1,0 +1,95 @@
+// Agents as processes of their own: how they begin, what signals do, and how they end.
+#include "Served.h"
+#include "agent/RedisState.h"
+
+#include <gtest/gtest.h>
+
+namespace {
+
+constexpr char const * oneFap =
+   R"({"switch": {"faps": [{"fapId": 0, "revision": {"chipType": "BCM88690_B0", "sdkVersion": 7}}]},
+ "toggles": {"Dace.json": {"ArmOrderedSwTable": false}}})";
+
+bool has( std::string const & text, std::string const & part ) {
+   return text.find( part ) != std::string::npos;
+}
+
+// Turns until it is so; false after 10 s.
+template< class Condition >
+bool soon( Condition const & holds ) {
+   for ( int tries = 0; tries < 1000; ++tries ) {
+      if ( holds() ) {
+         return true;
+      }
+      ::usleep( 10'000 );
+   }
+   return false;
+}
+
+TEST( ServedLife, endsCleanlyWhenItIsToldTo ) {
+   Folder const folder;
+   ServedAgent agent( folder, "Linecard3", oneFap, "" );
+   ASSERT_TRUE( agent.isSoon( "running" ) ) << agent.log();
+   EXPECT_TRUE( has( agent.ctl( "show" ), "\"IppdFerTrapCfg\"" ) );
+   EXPECT_EQ( agent.endsBy( SIGTERM ), 0 ) << agent.log();
+   EXPECT_FALSE( std::filesystem::exists( agent.socket() ) );
+}
+
+TEST( ServedLife, readsItsTraceLevelsAgainOnSighup ) {
+   Folder const folder;
+   auto const file = folder.file( "trace", "# none yet\n" );
+   ServedAgent agent( folder, "Linecard3", oneFap, "", { "--trace", file } );
+   ASSERT_TRUE( agent.isSoon( "running" ) ) << agent.log();
+   EXPECT_FALSE( has( agent.ctl( "trace list" ), "\"8\"" ) );
+   folder.file( "trace", "DaceFapNiL3Sm/8\n" );
+   ::kill( agent.process(), SIGHUP );
+   EXPECT_TRUE( soon( [&] { return has( agent.ctl( "trace list" ), "\"DaceFapNiL3Sm\": \"8\"" ); } ) ) << agent.log();
+   folder.file( "trace", "DaceFapNiL3Sm\n" );
+   ::kill( agent.process(), SIGHUP );
+   EXPECT_TRUE( soon( [&] { return has( agent.log(), "trace:1: expected FACILITY/LEVEL" ); } ) ) << agent.log();
+   EXPECT_TRUE( has( agent.ctl( "trace list" ), "\"DaceFapNiL3Sm\": \"8\"" ) ) << "the levels stay as they were";
+}
+
+TEST( ServedLife, saysWhatItWasAtWhenAnAssertionEndsIt ) {
+   Folder const folder;
+   ServedAgent agent( folder,
+                      "Linecard3",
+                      R"({"switch": {"faps": [{"fapId": 0, "revision": {"chipType": "BCM88690_B0", "sdkVersion": 7}}]},
+                          "state": {"evpn/status": null}})",
+                      "" );
+   EXPECT_EQ( agent.ended(), 128 + SIGABRT );
+   EXPECT_TRUE( has( agent.log(), "event 0: start" ) ) << agent.log();
+   EXPECT_TRUE( has( agent.log(), "suspicious: the state leaves out evpn/status (null)" ) ) << agent.log();
+}
+
+TEST( ServedLife, refusesToServeASliceThatIsServed ) {
+   Folder const folder;
+   Folder const other;
+   RedisServer server;
+   loadByHand( server );
+   ServedAgent agent( folder, "Linecard3", oneFap, server.url() );
+   ASSERT_TRUE( agent.isSoon( "running" ) ) << agent.log();
+   ServedAgent second( other, "Linecard3", oneFap, server.url() );
+   EXPECT_EQ( second.ended(), 2 ) << second.log();
+   EXPECT_TRUE( has( second.log(), std::to_string( agent.process() ) ) ) << second.log();
+   EXPECT_EQ( agent.phase(), "running" );
+
+   // One that was killed is followed at once by another on the same machine.
+   agent.dies();
+   agent.starts();
+   EXPECT_TRUE( agent.isSoon( "running" ) ) << agent.log();
+}
+
+TEST( ServedLife, takesNoEventsAndNoDatabaseThatItDoesntKnow ) {
+   Folder const folder;
+   std::string const events =
+      R"(, "events": [{"set": {"path": "evpn/status", "attribute": "vxlanEnabled", "value": true}}]})";
+   ServedAgent agent( folder, "Linecard3", std::string( oneFap, std::string( oneFap ).size() - 1 ) + events, "" );
+   EXPECT_EQ( agent.ended(), 2 );
+   EXPECT_TRUE( has( agent.log(), "an agent's events come from its database" ) ) << agent.log();
+   ServedAgent other( folder, "Linecard4", oneFap, "mysql://here" );
+   EXPECT_EQ( other.ended(), 2 );
+   EXPECT_TRUE( has( other.log(), "mysql://here" ) ) << other.log();
+}
+
+} // namespace
