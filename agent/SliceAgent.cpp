@@ -114,6 +114,12 @@ void SliceAgent::snapshotIs( Snapshot snapshot ) {
    waiting_.clear(); // older than this
    phaseIs( Phase::reconciling );
    door_.forget();
+   for ( auto const & [place, what] : snapshot.unreadable ) {
+      door_.reject( place, what );
+      if ( auto const had = held_.find( place ); had != held_.end() ) {
+         snapshot.paths.insert( *had );
+      }
+   }
    Paths wanted = overlaid( base_, std::move( snapshot.paths ) );
    StateDoor::Rejected wrong;
    auto changes = eventsBetween( held_, wanted, wrong );
@@ -141,6 +147,15 @@ void SliceAgent::snapshotIs( Snapshot snapshot ) {
    phaseIs( Phase::running );
    report( true );
    follow();
+}
+
+// While nothing is written nobody else tells that the database can be reached again.
+void SliceAgent::follows() {
+   if ( phase_ == Phase::disconnected ) {
+      tries_ = 0;
+      phaseIs( Phase::running );
+      report( true );
+   }
 }
 
 void SliceAgent::transactionsAre( std::vector< Transaction > transactions ) {

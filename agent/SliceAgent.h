@@ -87,6 +87,7 @@ class SliceAgent final : private Database::Follower {
 
  private:
    void snapshotIs( Snapshot snapshot ) override;
+   void follows() override;
    void transactionsAre( std::vector< Transaction > transactions ) override;
    void gapIs( std::string reason ) override;
    void unreachable( std::string reason ) override;

@@ -73,6 +73,9 @@ class Database {
       virtual void withoutState( std::string reason ) = 0;
       // Another agent serves this slice.
       virtual void refused( std::string reason ) = 0;
+      // What comes behind the position that since() was asked for will be told. Only where it was begun anew: after a
+      // snapshot, or when the database could not be reached.
+      virtual void follows() {}
    };
 
    virtual ~Database() = default;

@@ -57,6 +57,7 @@ void RedisDatabase::since( Position const & position ) {
          layout_,
          position,
          RedisReader::Answers{
+            .begins = [this] { follower()->follows(); },
             .are = [this]( std::vector< Transaction > all ) { follower()->transactionsAre( std::move( all ) ); },
             .gap =
                [this]( std::string const & reason ) {

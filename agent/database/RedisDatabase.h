@@ -11,8 +11,7 @@
 // Nothing is asked before the agent has the right to serve its slice (RedisLease.h). Who stands still for longer than
 // it lasts, and finds it taken, is refused.
 //
-// Transactions come in pages of up to 1,000, the next one not before what was told is played, if it is played at once:
-// what waits meanwhile is in the log.
+// Transactions come in pages of up to 1,000. One more is read ahead; what waits behind it is in the log.
 //
 // Threading: the agent's loop. Answers come from the loop, never from within a call.
 #pragma once

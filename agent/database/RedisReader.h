@@ -1,9 +1,10 @@
 // Reads the log from a place on, on a connection of its own, on which it waits.
 //
 //    RedisReader reader( loop, address, "l3sm:Linecard3", layout, position, { … } );
+//    reader.more( position );                        // when what it has told is done: the next page
 //
-// The next page is asked for before one is told, so the server reads while it is played; it is told when more() asks for
-// it, and none is asked for behind it before. So who plays slowly finds the rest in the log. It ends with a gap, with a state that is gone, or with its connection. From within the answers it may be
+// A page is asked for before it is wanted, so the server reads while the one before is played; more than one never
+// waits here. It ends with a gap, with a state that is gone, or with its connection. From within the answers it may be
 // destroyed.
 //
 // Threading: the agent's loop.
@@ -17,6 +18,7 @@ namespace Live {
 class RedisReader {
  public:
    struct Answers {
+      std::function< void() > begins; // what comes behind the place will come
       std::function< void( std::vector< Transaction > ) > are;
       std::function< void( std::string const & ) > gap;
       std::function< void( std::string const & ) > without;
@@ -39,18 +41,20 @@ class RedisReader {
  private:
    void begin();
    void next();
-   void tell( std::vector< Transaction > transactions );
    // Whether it goes on.
    bool goesOn( Position const & from, LogState const & state );
+   void endsWith( std::function< void( std::string const & ) > const & answer, std::string const & reason );
+   void tell();
 
    EventLoop & loop_;
    RedisLayout layout_;
-   Position position_; // up to which was read
-   Position told_;
-   bool isAsked_ = true;               // for the next page
-   std::vector< Transaction > kept_{}; // a page that nobody has asked for yet
+   Position told_; // up to here
+   Position read_; // and up to here it was read
    Answers answers_;
    std::string server_;
+   bool isWanted_ = true;
+   std::vector< Transaction > page_{}; // read, not told
+   std::function< void() > end_;       // likewise, behind it
    RedisConnection connection_;
    Tether tether_;
 };

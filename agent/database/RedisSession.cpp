@@ -32,8 +32,8 @@ void RedisSession::until( std::function< bool() > const & holds ) {
    }
    if ( lost_ ) {
       bool const wasThere = connection_.hasAnswered();
-      throw Inspection::InputError( *lost_ +
-                                    ( wasThere ? "" : "; --database URL or L3SM_DATABASE says where the database is" ) );
+      throw Inspection::InputError(
+         *lost_ + ( wasThere ? "" : "; --database URL or L3SM_DATABASE says where the database is" ) );
    }
 }
 

@@ -26,11 +26,13 @@ void StateWatch::begin() {
                     "l3sm-state",
                     layout_,
                     placeNow( session_, layout_ ),
-                    RedisReader::Answers{ .are =
+                    RedisReader::Answers{ .begins = [] {},
+                                          .are =
                                              [this]( std::vector< Transaction > const & all ) {
                                                 for ( Transaction const & each : all ) {
                                                    is_( each );
                                                 }
+                                                reader_->more( all.back().position );
                                              },
                                           .gap = [this]( std::string const & reason ) { gap_ = reason; },
                                           .without = [this]( std::string const & reason ) { failed_ = reason; },

@@ -67,9 +67,7 @@ class RedisFollower : public Live::Database::Follower {
          position = transaction.position;
       }
       count += transactions.size();
-      if ( onTransactions ) {
-         onTransactions();
-      }
+      database.since( position );
    }
    void gapIs( std::string reason ) override {
       ends( "gap: " + reason );
@@ -94,7 +92,6 @@ class RedisFollower : public Live::Database::Follower {
    std::vector< std::string > told;
    bool isFollowing = false;
    bool takesUpWhereItWas = false; // after a broken connection: from its position on, not with a snapshot
-   std::function< void() > onTransactions;
 
  private:
    void ends( std::string const & text ) {

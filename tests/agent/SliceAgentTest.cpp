@@ -187,6 +187,28 @@ TEST_F( SliceAgentTest, leavesTheChipsAsTheyAreWhileNobodyCanBeAsked ) {
    EXPECT_EQ( contents(), before );
 }
 
+TEST_F( SliceAgentTest, runsAgainWhenItFollowsAgainThoughNothingIsWritten ) {
+   started();
+   database.hears().unreachable( "cut" );
+   database.reports.clear();
+   database.hears().follows();
+   EXPECT_EQ( agent->phase(), Phase::running );
+   ASSERT_EQ( database.reports.size(), 1u );
+   EXPECT_TRUE( database.reports[0].isWhole ) << "what was told while it was cut is lost";
+   database.hears().follows();
+   EXPECT_EQ( database.reports.size(), 1u );
+}
+
+TEST_F( SliceAgentTest, keepsWhatItHasOfAPathThatCannotBeRead ) {
+   started();
+   auto const before = contents();
+   database.hears().gapIs( "the log was trimmed" );
+   database.hears().snapshotIs( { at( "2" ), {}, { { "routing/hardware/config", "is no hash" } } } );
+   EXPECT_EQ( contents(), before );
+   EXPECT_EQ( state( "routing/hardware/config", "urpfLooseFailForward" ), Value( true ) );
+   EXPECT_EQ( agent->rejected().at( "routing/hardware/config" ), "is no hash" );
+}
+
 TEST_F( SliceAgentTest, stopsActingWhileItIsFrozen ) {
    started();
    auto const before = contents();

@@ -1,0 +1,146 @@
+// `l3sm state`, as a person types it.
+#include "agent/RedisFollower.h"
+#include "agent/RedisState.h"
+#include "l3sm/Running.h"
+
+#include <gmock/gmock.h>
+
+namespace {
+
+using testing::HasSubstr;
+using testing::StartsWith;
+
+// Within 10 s.
+bool isSoSoon( std::function< bool() > const & holds ) {
+   auto const end = std::chrono::steady_clock::now() + std::chrono::seconds( 10 );
+   while ( !holds() && std::chrono::steady_clock::now() < end ) {
+      ::usleep( 1000 );
+   }
+   return holds();
+}
+
+struct StateVerb : testing::Test {
+   RedisServer server;
+   Command l3sm( std::string const & words, Command::Files const & files = {} ) const {
+      return Command( "state " + words + " --database " + server.url(), files );
+   }
+   void SetUp() override {
+      Command const loaded( "state load s.json --database " + server.url(),
+                            { { "s.json", scenarioWith( R"(, "state": {"evpn/status": {"vxlanEnabled": true}})" ) } } );
+      ASSERT_EQ( loaded.status, 0 ) << loaded.errors;
+      ASSERT_THAT( loaded.output, StartsWith( "a new life of the state: " ) );
+   }
+};
+
+TEST_F( StateVerb, getsWhatWasSet ) {
+   EXPECT_EQ( l3sm( "get evpn" ).output, "evpn/status vxlanEnabled = true\n" );
+   EXPECT_EQ( l3sm( "set evpn/status mplsEnabled true" ).output, "set evpn/status mplsEnabled = true\n" );
+   EXPECT_EQ( l3sm( "get evpn/status --json" ).output,
+              "{\n \"evpn/status\": {\n  \"mplsEnabled\": true,\n  \"vxlanEnabled\": true}}\n" );
+   EXPECT_EQ(
+      l3sm( "set interface/status/subintf intfStatus '{\"parentIntfId\": \"Ethernet1\"}' --key Ethernet1.7" ).status,
+      0 );
+   EXPECT_EQ( l3sm( "set interface/status/subintf/intfStatus/Ethernet1.7 parentIntfId Ethernet2" ).status,
+              0 ); // a bare word
+   EXPECT_EQ( l3sm( "get interface/status/subintf/intfStatus" ).output,
+              "interface/status/subintf/intfStatus/Ethernet1.7 parentIntfId = \"Ethernet2\"\n" );
+   EXPECT_EQ( l3sm( "delete interface/status/subintf intfStatus --key Ethernet1.7" ).status, 0 );
+   auto const gone = l3sm( "get interface/status/subintf/intfStatus/Ethernet1.7" );
+   EXPECT_EQ( gone.status, 1 );
+   EXPECT_EQ( gone.output, "nothing stands at interface/status/subintf/intfStatus/Ethernet1.7\n" );
+}
+
+TEST_F( StateVerb, refusesWithOneLine ) {
+   auto const refusalOf = [&]( std::string const & words ) {
+      auto const refused = l3sm( words );
+      EXPECT_EQ( refused.status, 2 ) << words;
+      EXPECT_EQ( refused.output, "" ) << words;
+      return refused.errors;
+   };
+   EXPECT_EQ( refusalOf( "set evpn/status mplsEnabled 3" ),
+              "l3sm: set evpn/status mplsEnabled = 3: expected true or false, got 3\n" );
+   EXPECT_EQ( refusalOf( "get nowhere" ), "l3sm: state get: there is no path \"nowhere\"; `l3sm paths` lists them\n" );
+   EXPECT_EQ( refusalOf( "put evpn/status" ),
+              "l3sm: state put: is none of get, set, delete, load, apply, watch, wait\n" );
+   EXPECT_EQ( refusalOf( "set evpn/status" ), "l3sm: state set: takes PATH ATTRIBUTE VALUE [--key KEY]\n" );
+   EXPECT_EQ( refusalOf( "delete evpn/status mplsEnabled" ),
+              "l3sm: state delete: an entry takes ATTRIBUTE and --key, an entity neither\n" );
+   server.dies();
+   EXPECT_EQ( refusalOf( "get" ),
+              "l3sm: " + server.url() +
+                 ": Connection refused; --database URL or L3SM_DATABASE says where the database is\n" );
+}
+
+TEST_F( StateVerb, takesTheDatabaseFromTheEnvironment ) {
+   ::setenv( "L3SM_DATABASE", server.url().c_str(), 1 );
+   EXPECT_EQ( Command( "state get evpn" ).output, "evpn/status vxlanEnabled = true\n" );
+   EXPECT_EQ( Command( "state get evpn --cell 2" ).errors,
+              "l3sm: " + server.url() + ": the database holds no state yet; load one: l3sm state load FILE\n" );
+   ::unsetenv( "L3SM_DATABASE" );
+}
+
+TEST_F( StateVerb, appliesTheEventsOfAScenario ) {
+   std::string const events = R"([{"set": {"path": "evpn/status", "attribute": "vxlanEnabled", "value": false}},
+      {"set": {"path": "evpn/status", "attribute": "mplsEnabled", "value": true}}])";
+   EXPECT_EQ( l3sm( "apply s.json", { { "s.json", scenarioWith( ", \"events\": " + events ) } } ).output,
+              "2 events written\n" );
+   EXPECT_EQ( l3sm( "get evpn" ).output, "evpn/status mplsEnabled = true\nevpn/status vxlanEnabled = false\n" );
+   EXPECT_EQ( l3sm( "apply events.json", { { "events.json", events } } ).output, "2 events written\n" );
+   auto const wrong =
+      l3sm( "apply events.json", { { "events.json", R"([{"set": {"path": "evpn/status", "attribute": "mplsEnabled",
+                                                            "value": false}}, {"set": {}}])" } } );
+   EXPECT_EQ( wrong.status, 2 );
+   EXPECT_THAT( wrong.errors, HasSubstr( ": /1/set: " ) );
+   EXPECT_EQ( l3sm( "get evpn" ).output, "evpn/status mplsEnabled = true\nevpn/status vxlanEnabled = false\n" );
+}
+
+TEST_F( StateVerb, loadsWhatARunHasLeft ) {
+   Command const run( "run s.json --quiet --state state.json && '" L3SM_BINARY_DIR
+                      "/bin/l3sm' state load state.json --database " +
+                         server.url(),
+                      { { "s.json", scenarioWith( R"(, "state": {"evpn/status": {"mplsEnabled": true}})" ) } } );
+   EXPECT_EQ( run.status, 0 ) << run.errors;
+   EXPECT_THAT( l3sm( "get evpn" ).output, HasSubstr( "evpn/status mplsEnabled = true\n" ) );
+   auto const wrong = l3sm( "load state.json", { { "state.json", R"({"evpn/status": {"mplsEnabled": 7}})" } } );
+   EXPECT_EQ( wrong.status, 2 );
+   EXPECT_EQ( wrong.errors, "l3sm: state.json:1:33: /evpn~1status/mplsEnabled: expected true or false, got 7\n" );
+}
+
+TEST_F( StateVerb, watchesEachChangeUntilItIsInterrupted ) {
+   Running watch( "state watch evpn --database " + server.url(), {} );
+   ASSERT_TRUE( isSoSoon( [&] { return server.served( "xread" ) > 0; } ) ) << "it waits for the next entry";
+   l3sm( "set routing/hardware/config urpfLooseFailForward true" );
+   l3sm( "set evpn/status mplsEnabled true" );
+   ASSERT_TRUE( isSoSoon( [&] { return watch.output().find( '\n' ) != std::string::npos; } ) );
+   watch.kill( SIGINT );
+   EXPECT_EQ( watch.wait(), 128 + SIGINT );
+   EXPECT_EQ( watch.output().substr( 12 ), "  set evpn/status mplsEnabled = true\n" );
+}
+
+TEST_F( StateVerb, waitsForAgents ) {
+   auto const none = l3sm( "wait --timeout 0" );
+   EXPECT_EQ( none.status, 1 );
+   EXPECT_EQ( none.output, "no agent follows this database\n" );
+
+   RedisFollower agent( server );
+   ASSERT_TRUE( agent.untilFollowing() );
+   agent.database.publish( { .applied = agent.position, .fields = { { "phase", "reconciling" } }, .isWhole = true } );
+   ASSERT_TRUE( agent.until( [&] { return server.ask( { "EXISTS", "l3sm:{1}#agent:Linecard3" } ).number() == 1; } ) );
+   EXPECT_EQ( l3sm( "wait --timeout 0" ).output, "Linecard3  reconciling\n" );
+
+   auto const before = agent.position.entry;
+   l3sm( "set evpn/status mplsEnabled true" );
+   auto const late = l3sm( "wait --timeout 0 --slice Linecard3" );
+   EXPECT_EQ( late.status, 1 );
+   EXPECT_EQ( late.output, "Linecard3  reconciling, at " + before + " of " + lastEntry( server ) + "\n" );
+
+   Running waiting( "state wait --database " + server.url(), {} );
+   ASSERT_TRUE( agent.until( [&] { return agent.position.entry == lastEntry( server ); } ) );
+   agent.database.publish( { .applied = agent.position, .fields = { { "phase", "running" } } } );
+   ASSERT_TRUE( agent.until( [&] { return server.served( "exec" ) >= 4; } ) );
+   EXPECT_EQ( waiting.wait(), 0 );
+   EXPECT_EQ( waiting.output(), "Linecard3  has applied it\n" );
+   EXPECT_EQ( l3sm( "wait --timeout 0 --slice Linecard9" ).output, "Linecard9  no agent serves this slice\n" );
+}
+
+} // namespace
