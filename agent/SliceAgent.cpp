@@ -145,6 +145,7 @@ void SliceAgent::snapshotIs( Snapshot snapshot ) {
 
 void SliceAgent::transactionsAre( std::vector< Transaction > transactions ) {
    tries_ = 0;
+   gaps_ = 0;
    if ( isFrozen_ || needsSnapshot_ ) {
       return; // they will be asked for once more
    }
@@ -166,7 +167,7 @@ void SliceAgent::gapIs( std::string reason ) {
    if ( isStarted_ ) {
       phaseIs( Phase::reconciling, std::move( reason ) );
    }
-   tries_++ == 0 ? follow() : again(); // a database that tells of nothing but gaps is no reason to spin
+   gaps_++ == 0 ? follow() : again(); // a database that tells of nothing but gaps is no reason to spin
 }
 
 void SliceAgent::unreachable( std::string reason ) {

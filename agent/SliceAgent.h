@@ -128,7 +128,8 @@ class SliceAgent final : private Database::Follower {
    Position position_;
    std::deque< Transaction > waiting_;
    bool isPlaying_ = false; // playWaiting is on its way
-   int tries_ = 0;
+   int tries_ = 0; // since the database answered
+   int gaps_ = 0;  // since it told of a transaction
    EventLoop::Source retry_;
    std::string refusal_;
 };

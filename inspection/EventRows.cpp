@@ -46,26 +46,38 @@ void EventRows::begins( U32 event, Rex::Value const & what, EventReach const & r
    isBroken_ = false;
    rows_.clear();
    words_.forget();
-   own_.clear();
-   values_.clear();
+   own_.forget();
+   latestPath_ = {};
+   latestReason_ = {};
+   valueCount_ = 0;
+}
+
+Rex::Value const * EventRows::kept( Rex::Value const * value ) {
+   if ( !value ) {
+      return nullptr;
+   }
+   if ( valueCount_ == values_.size() ) {
+      values_.emplace_back();
+   }
+   return &( values_[valueCount_++] = *value );
 }
 
 void EventRows::keep( Row const & row ) {
    Row & mine = rows_.emplace_back( row );
    mine.cause = texts_->cause( row );
    if ( row.kind == Row::Kind::publish ) {
-      mine.path = kept( row.path );
-      mine.key = row.key ? std::optional( kept( *row.key ) ) : std::nullopt;
-      mine.attribute = kept( row.attribute );
-      mine.published = row.published ? &values_.emplace_back( *row.published ) : nullptr;
-      mine.publishedBefore = row.publishedBefore ? &values_.emplace_back( *row.publishedBefore ) : nullptr;
+      mine.path = kept( row.path, latestPath_ );
+      mine.key = row.key ? std::optional( own_.keep( *row.key ) ) : std::nullopt;
+      mine.attribute = own_.keep( row.attribute );
+      mine.published = kept( row.published );
+      mine.publishedBefore = kept( row.publishedBefore );
       return;
    }
    auto const & origin = texts_->origin( row );
    mine.function = origin.function;
    mine.source = origin.source;
    if ( row.kind == Row::Kind::gate ) {
-      mine.reason = own_.empty() || own_.back() != row.reason ? kept( row.reason ) : std::string_view( own_.back() );
+      mine.reason = kept( row.reason, latestReason_ );
    } else if ( row.kind != Row::Kind::control ) {
       mine.table = Catalogue::tables()[row.tableNumber].name;
       U32 const * const words = words_.keep( row.words, row.before );

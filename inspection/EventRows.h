@@ -9,7 +9,7 @@
 
 #include "inspection/EventReach.h"
 #include "simulator/Row.h"
-#include "simulator/WordStore.h"
+#include "simulator/UnitStore.h"
 
 #include <deque>
 #include <map>
@@ -69,6 +69,7 @@ class SharedTexts {
       return isKnown ? *causes_[row.causeNumber] : newCause( row );
    }
    Origin const & origin( U32 number ) const { return *origins_[number]; }
+   std::string const & cause( U32 number ) const { return *causes_[number]; }
 
  private:
    Origin const & newOrigin( Simulator::Row const & row );
@@ -98,7 +99,11 @@ class EventRows {
    std::vector< Simulator::Row > const & rows() const { return rows_; }
 
  private:
-   std::string_view kept( std::string_view text ) { return own_.emplace_back( text ); }
+   // A text that often comes several times, one behind the other.
+   std::string_view kept( std::string_view text, std::string_view & latest ) {
+      return latest == text ? latest : latest = own_.keep( text );
+   }
+   Rex::Value const * kept( Rex::Value const * value );
 
    SharedTexts * texts_;
    U32 event_ = 0;
@@ -107,9 +112,12 @@ class EventRows {
    RowCounts counts_;
    bool isBroken_ = false;
    std::vector< Simulator::Row > rows_;
-   Simulator::WordStore words_;
-   std::deque< std::string > own_;
-   std::deque< Rex::Value > values_;
+   Simulator::UnitStore< U32 > words_;
+   Simulator::TextStore own_;
+   std::string_view latestPath_;
+   std::string_view latestReason_;
+   std::deque< Rex::Value > values_; // those of earlier events are overwritten
+   std::size_t valueCount_ = 0;
 };
 
 // "set evpn/status evpnDciEnabled = true"; of event 0 "start".

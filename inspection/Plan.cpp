@@ -5,9 +5,8 @@
 #include "simulator/TableMap.h"
 
 #include <algorithm>
-#include <set>
 #include <tuple>
-#include <unordered_map>
+#include <vector>
 
 namespace Inspection {
 
@@ -15,37 +14,34 @@ namespace {
 
 using Simulator::Row;
 using Simulator::StagedDriver;
-using Words = std::vector< U32 >;
 
 constexpr U32 none = ~U32{ 0 };
 
-// Who wrote to a place in the event: a row of it, and the next who did.
+// A write of the event that changed something, or a control: where, by whom, and what was written.
+struct Written {
+   Catalogue::Layout const * layout; // null: a control
+   U32 const * words;
+   U32 entryOrControl;
+   int array;
+   U32 origin;
+   U32 cause;
+   U16 fap;
+   U16 table;
+   U8 variant;
+   bool isRegister;
+};
+
+// Who wrote to a place in the event, and the next who did.
 struct Writing {
-   U32 row;
+   U32 written;
    U32 next = none;
 };
 
 // A copy of an entry, or a control.
 struct Place {
-   U32 copy;
-   U32 first; // of the writings
-   U32 last;
-};
-
-// A copy of an entry on its bus; of a control its number, with selectors that no block has.
-struct Address {
-   U16 chip;
-   U32 selectorA;
-   U32 selectorB;
-   U32 address;
-   bool operator==( Address const & ) const = default;
-};
-
-struct AddressHash {
-   std::size_t operator()( Address const & at ) const {
-      U64 const block = U64{ at.chip } << 32 ^ U64 { at.selectorA } << 48 ^ U64 { at.selectorB } << 40;
-      return ( block ^ at.address ) * 0x9e3779b97f4a7c15 >> 7;
-   }
+   U32 copy = 0;
+   U32 first = none; // of the writings
+   U32 last = none;
 };
 
 // Visits the words that a field lies in, each with the field's bits there.
@@ -76,11 +72,10 @@ class Planner final : public Simulator::RowReader {
       U32 const event = number - before_;
       plan_.events.push_back(
          { .event = event, .what = event == 0 ? "start" : events_[event - 1].text(), .changes = {} } );
-      places_.clear();
+      places_.assign( staged_.placeCount(), {} );
       writings_.clear();
-      rows_.clear();
-      words_.clear();
-      firstWords_.clear();
+      written_.clear();
+      words_.forget();
    }
 
    void row( Row const & row ) override {
@@ -88,61 +83,62 @@ class Planner final : public Simulator::RowReader {
       event.operations += row.isOperation();
       event.writes += row.kind == Row::Kind::write;
       event.changingWrites += row.isOperation() && row.changed;
+      bool const counts = row.kind == Row::Kind::control || ( row.kind == Row::Kind::write && row.changed );
+      if ( !counts ) {
+         return;
+      }
+      keep( row );
+      DaceSal::ChipId const chip{ row.fap };
       if ( row.kind == Row::Kind::control ) {
-         keep( row );
-         wrote( atControl( row.fap, row.control ), 0 );
-      } else if ( row.kind == Row::Kind::write ) {
-         keep( row );
-         bool const isCore = row.scope == Row::Scope::core;
-         auto const copies = static_cast< U32 >( row.layout->selectors.size() );
-         for ( U32 copy = isCore ? static_cast< U32 >( row.core ) : 0; copy < copies; ++copy ) {
-            auto const at =
-               Simulator::addressOf( *row.layout, static_cast< U32 >( row.array ), row.entry.value_or( 0 ), copy );
-            wrote( { row.fap, at.selectorA, at.selectorB, at.address }, copy );
-            if ( isCore ) {
-               break;
-            }
-         }
+         wrote( *staged_.placeOf( chip, row.control ), 0 );
+         return;
+      }
+      bool const isCore = row.scope == Row::Scope::core;
+      auto const first = isCore ? static_cast< U32 >( row.core ) : 0;
+      auto const end = isCore ? first + 1 : static_cast< U32 >( row.layout->selectors.size() );
+      for ( U32 copy = first; copy < end; ++copy ) {
+         auto const at =
+            Simulator::addressOf( *row.layout, static_cast< U32 >( row.array ), row.entry.value_or( 0 ), copy );
+         wrote( *staged_.placeOf( chip, at ), copy );
       }
    }
 
    void eventEnds( U32 ) override {
-      staged_.eachChange( [this]( StagedDriver::Change const & change ) { take( change ); } );
-      foldCopies( plan_.events.back().changes );
+      staged_.eachChange( [this]( StagedDriver::ChangeView const & change ) { take( change ); } );
       staged_.commit();
    }
 
  private:
-   static Address atControl( U16 chip, U32 control ) { return { chip, none, none, control }; }
-
    void keep( Row const & row ) {
-      auto const & origin = plan_.texts.origin( row );
-      Row & kept = rows_.emplace_back( row );
-      kept.function = origin.function;
-      kept.source = origin.source;
-      kept.cause = plan_.texts.cause( row );
-      kept.changed = true;
-      firstWords_.push_back( words_.size() );
-      words_.insert( words_.end(), row.words.begin(), row.words.end() );
+      plan_.texts.origin( row );
+      plan_.texts.cause( row );
+      written_.push_back( { .layout = row.layout,
+                            .words = words_.keep( row.words ),
+                            .entryOrControl = row.kind == Row::Kind::control ? row.control : row.entry.value_or( 0 ),
+                            .array = row.array,
+                            .origin = row.originNumber,
+                            .cause = row.causeNumber,
+                            .fap = row.fap,
+                            .table = row.tableNumber,
+                            .variant = row.variant,
+                            .isRegister = !row.entry } );
    }
 
-   // The row that was kept last.
-   void wrote( Address const & at, U32 copy ) {
+   // What was kept last.
+   void wrote( U32 number, U32 copy ) {
       auto const writing = static_cast< U32 >( writings_.size() );
-      writings_.push_back( { static_cast< U32 >( rows_.size() - 1 ) } );
-      auto const [place, isNew] = places_.try_emplace( at, Place{ copy, writing, writing } );
-      if ( !isNew ) {
-         writings_[place->second.last].next = writing;
-         place->second.last = writing;
-      }
+      writings_.push_back( { static_cast< U32 >( written_.size() - 1 ) } );
+      Place & place = places_[number];
+      ( place.last == none ? place.first : writings_[place.last].next ) = writing;
+      place.last = writing;
+      place.copy = copy;
    }
 
-   U32 const * wordsOf( Writing const & writing ) const { return words_.data() + firstWords_[writing.row]; }
+   U32 const * wordsOf( Writing const & writing ) const { return written_[writing.written].words; }
 
    // The last who made a field become another than it was.
-   Writing const & setterOf( Catalogue::Field const & field, Place const & place, Words const & begun ) const {
+   Writing const & setterOf( Catalogue::Field const & field, Place const & place, U32 const * before ) const {
       Writing const * setter = &writings_[place.first];
-      U32 const * before = begun.data();
       for ( U32 at = place.first; at != none; at = writings_[at].next ) {
          U32 const * const after = wordsOf( writings_[at] );
          if ( !isAlike( field, before, after ) ) {
@@ -153,66 +149,86 @@ class Planner final : public Simulator::RowReader {
       return *setter;
    }
 
-   void take( StagedDriver::Change const & change ) {
+   void take( StagedDriver::ChangeView const & change ) {
+      Place const & place = places_[change.place];
       if ( change.isControl ) {
-         Place const & place = places_.at( atControl( change.chip.value, change.control ) );
          Row & row = add( writings_[place.last] );
          row.value = change.after.front();
          row.valueBefore = change.before.empty() ? std::nullopt : std::optional( change.before.front() );
          return;
       }
-      Place const & place =
-         places_.at( { change.chip.value, change.at.selectorA, change.at.selectorB, change.at.address } );
       // For each writing that counts, the words as they would be with its fields alone.
-      std::vector< std::pair< Writing const *, Words > > parts;
-      for ( auto const & field : rows_[writings_[place.first].row].layout->fields ) {
+      parts_.clear();
+      for ( auto const & field : written_[writings_[place.first].written].layout->fields ) {
          if ( isAlike( field, change.before, change.after ) ) {
             continue;
          }
-         Writing const * const by = &setterOf( field, place, change.before );
-         auto part = std::ranges::find( parts, by, &std::pair< Writing const *, Words >::first );
-         if ( part == parts.end() ) {
-            part = parts.insert( part, { by, change.before } );
+         Writing const * const by =
+            place.first == place.last ? &writings_[place.first] : &setterOf( field, place, change.before.data() );
+         auto part = std::ranges::find( parts_, by, &Part::by );
+         if ( part == parts_.end() ) {
+            U32 * const words = plan_.words.room( change.before.size() );
+            std::ranges::copy( change.before, words );
+            part = parts_.insert( part, { by, words } );
          }
          eachWord( field, [&]( std::size_t word, U32 mask ) {
-            part->second[word] = ( part->second[word] & ~mask ) | ( change.after[word] & mask );
+            part->words[word] = ( part->words[word] & ~mask ) | ( change.after[word] & mask );
          } );
       }
-      for ( auto & [writing, words] : parts ) {
-         Row & row = add( *writing );
-         row.words = plan_.words.emplace_back( std::move( words ) );
-         row.before = plan_.words.emplace_back( change.before );
-         row.scope = Row::Scope::core;
+      U32 const * const before = parts_.empty() ? nullptr : plan_.words.keep( change.before );
+      for ( auto const & [by, words] : parts_ ) {
+         Row & row = add( *by );
+         row.words = { words, change.before.size() };
+         row.before = { before, change.before.size() };
          row.core = static_cast< int >( place.copy );
+         bool const isAlone = row.layout->selectors.size() == 1;
+         row.scope = isAlone ? Row::Scope::all : Row::Scope::core;
+         if ( !isAlone && isOtherCopyOfAChange( row ) ) {
+            plan_.events.back().changes.pop_back();
+         }
       }
    }
 
-   Row & add( Writing const & by ) { return plan_.events.back().changes.emplace_back( rows_[by.row] ); }
+   Row & add( Writing const & by ) {
+      Written const & written = written_[by.written];
+      auto const & origin = plan_.texts.origin( written.origin );
+      Row & row = plan_.events.back().changes.emplace_back(
+         Row{ .kind = written.layout ? Row::Kind::write : Row::Kind::control, .event = plan_.events.back().event } );
+      row.function = origin.function;
+      row.source = origin.source;
+      row.cause = plan_.texts.cause( written.cause );
+      row.originNumber = written.origin;
+      row.causeNumber = written.cause;
+      row.fap = written.fap;
+      row.changed = true;
+      if ( !written.layout ) {
+         row.control = written.entryOrControl;
+         return row;
+      }
+      row.table = Catalogue::tables()[written.table].name;
+      row.tableNumber = written.table;
+      row.layout = written.layout;
+      row.variant = written.variant;
+      row.array = written.array;
+      row.entry = written.isRegister ? std::nullopt : std::optional( written.entryOrControl );
+      return row;
+   }
 
-   // Copies that would change alike are one change of all.
-   static void foldCopies( std::vector< Row > & rows ) {
-      std::vector< Row > folded;
-      for ( Row const & row : rows ) {
-         auto const isOtherCopy = [&]( Row const & other ) {
-            return other.entry == row.entry && other.array == row.array && other.layout == row.layout &&
-                   other.fap == row.fap && row.kind == Row::Kind::write && other.kind == Row::Kind::write &&
-                   other.core != row.core && other.source == row.source && other.words == row.words &&
-                   other.before == row.before;
-         };
-         // They stand close together, mostly side by side.
-         auto const near = folded.size() > 64 ? folded.end() - 64 : folded.begin();
-         bool const isAlone = row.kind == Row::Kind::control || row.layout->selectors.size() == 1;
-         auto const other = isAlone ? folded.end() : std::find_if( near, folded.end(), isOtherCopy );
-         if ( other != folded.end() ) {
-            other->scope = Row::Scope::all;
-         } else {
-            folded.push_back( row );
-            if ( row.kind == Row::Kind::write && row.layout->selectors.size() == 1 ) {
-               folded.back().scope = Row::Scope::all;
-            }
+   // Copies that would change alike are one change of all: that of another copy stands close by, mostly right before.
+   bool isOtherCopyOfAChange( Row const & row ) {
+      constexpr std::size_t close = 64;
+      auto & rows = plan_.events.back().changes;
+      std::size_t const last = rows.size() - 1; // the row itself
+      for ( std::size_t at = last; at > 0 && last - at < close; --at ) {
+         Row & other = rows[at - 1];
+         if ( other.entry == row.entry && other.array == row.array && other.layout == row.layout &&
+              other.fap == row.fap && other.kind == Row::Kind::write && other.core != row.core &&
+              other.originNumber == row.originNumber && other.words == row.words && other.before == row.before ) {
+            other.scope = Row::Scope::all;
+            return true;
          }
       }
-      rows = std::move( folded );
+      return false;
    }
 
    Plan & plan_;
@@ -220,21 +236,30 @@ class Planner final : public Simulator::RowReader {
    StagedDriver & staged_;
    U32 before_;
    // Of the event under way: what was written where, by whom.
-   std::unordered_map< Address, Place, AddressHash > places_;
+   std::vector< Place > places_; // by the number of what is staged
    std::vector< Writing > writings_;
-   std::vector< Row > rows_;
-   Words words_;
-   std::vector< std::size_t > firstWords_; // of each row, in words_
+   std::vector< Written > written_;
+   Simulator::UnitStore< U32 > words_;
+   struct Part {
+      Writing const * by;
+      U32 * words;
+   };
+   std::vector< Part > parts_; // of the change that is looked at
 };
 
+// How many entries, or controls, the rows are of.
 std::size_t countOf( std::vector< Row > const & rows, Row::Kind kind ) {
-   std::set< std::tuple< U16, U16, U8, int, std::optional< U32 >, U32 > > places;
+   std::vector< std::tuple< U64, U64 > > places;
+   places.reserve( rows.size() );
    for ( Row const & row : rows ) {
       if ( row.kind == kind ) {
-         places.emplace( row.fap, row.tableNumber, row.variant, row.array, row.entry, row.control );
+         U64 const table = U64{ row.fap } << 32 | U64{ row.tableNumber } << 16 | row.variant;
+         U64 const place = static_cast< U64 >( row.array ) << 32 | ( row.entry ? *row.entry : row.control );
+         places.emplace_back( table, place );
       }
    }
-   return places.size();
+   std::ranges::sort( places );
+   return places.size() - std::ranges::unique( places ).size();
 }
 
 } // namespace

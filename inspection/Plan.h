@@ -14,8 +14,7 @@
 #include "inspection/files/Scenario.h"
 #include "simulator/Row.h"
 #include "simulator/StagedDriver.h"
-
-#include <deque>
+#include "simulator/UnitStore.h"
 
 namespace Inspection {
 
@@ -40,7 +39,7 @@ struct Plan {
    bool isEmpty() const;
    // What the rows refer to.
    SharedTexts texts = {};
-   std::deque< std::vector< U32 > > words = {};
+   Simulator::UnitStore< U32 > words = {};
 };
 
 struct PlanOptions {

@@ -57,6 +57,12 @@ WhyReader::WhyReader( WhySubject subject, WhyFilter filter ) : filter_( std::mov
 }
 
 RowFilter WhyReader::rows() const {
+   RowFilter filter = rowsOfSubject();
+   filter.last = filter_.at;
+   return filter;
+}
+
+RowFilter WhyReader::rowsOfSubject() const {
    WhySubject const & subject = answer_.subject;
    std::vector< std::string > const tables( filter_.table.empty() ? 0 : 1, filter_.table );
    switch ( subject.kind ) {
@@ -85,6 +91,9 @@ void WhyReader::beginsWith( Rex::Value const & scenario ) {
 }
 
 void WhyReader::eventBegins( U32 event, Rex::Value const & what ) {
+   if ( isTooLate( event ) ) {
+      return;
+   }
    event_ = event;
    input_ = EventInput::of( what );
    WhySubject const & subject = answer_.subject;
@@ -156,6 +165,9 @@ bool WhyReader::isAbout( Row const & row ) const {
 }
 
 void WhyReader::row( Row const & row ) {
+   if ( isTooLate( row.event ) ) {
+      return;
+   }
    if ( model_ && row.kind == Row::Kind::publish ) {
       model_->published( row );
    }
@@ -250,8 +262,10 @@ void WhyReader::stopped( Row const & row ) {
    }
 }
 
-void WhyReader::eventEnds( U32 ) {
-   eventIsOver();
+void WhyReader::eventEnds( U32 event ) {
+   if ( !isTooLate( event ) ) {
+      eventIsOver();
+   }
 }
 
 void WhyReader::eventIsOver() {

@@ -23,8 +23,9 @@ struct WhyFilter {
    std::optional< U16 > fap = {};
    TypedPlace place = {};
    std::optional< U32 > event = {};
-   std::string function = {}; // a part of its name
-   std::string cause = {};    // likewise
+   std::optional< U32 > at = {}; // as if the run had ended with this event
+   std::string function = {};    // a part of its name
+   std::string cause = {};       // likewise
    std::string table = {};
    std::size_t events = 8; // how many of the chain to keep, the newest
 };
@@ -97,6 +98,8 @@ class WhyReader final : public Simulator::RowReader {
    WhyAnswer take();
 
  private:
+   RowFilter rowsOfSubject() const;
+   bool isTooLate( U32 event ) const { return filter_.at && event > *filter_.at; }
    bool isWanted( Simulator::Row const & row ) const;
    bool isAbout( Simulator::Row const & row ) const;
    bool isAboutInterface( Simulator::Row const & row ) const;

@@ -110,10 +110,12 @@ WhyAnswer whyOf( JournalReader & journal, WhyReader & reader ) {
    if ( reader.filter().fap ) {
       checkFap( journal, reader, *reader.filter().fap );
    }
-   if ( auto const event = reader.filter().event; event && *event > ending.events ) {
-      throw InputError( journal.path(),
-                        "there is no event " + std::to_string( *event ) + "; the last is " +
-                           std::to_string( ending.events ) );
+   for ( auto const & event : { reader.filter().event, reader.filter().at } ) {
+      if ( event && *event > ending.events ) {
+         throw InputError( journal.path(),
+                           "there is no event " + std::to_string( *event ) + "; the last is " +
+                              std::to_string( ending.events ) );
+      }
    }
    auto const interfaces = reader.interfaces();
    WhyAnswer answer = reader.take();

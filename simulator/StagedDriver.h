@@ -16,8 +16,8 @@
 #pragma once
 
 #include "sal/Driver.h"
+#include "simulator/UnitStore.h"
 
-#include <unordered_map>
 #include <vector>
 
 namespace Simulator {
@@ -36,6 +36,16 @@ class StagedDriver final : public DaceSal::SchanDriver {
       std::vector< U32 > before; // a control: one word, or none where it has no value
       std::vector< U32 > after;
    };
+   // The same where it stands.
+   struct ChangeView {
+      U32 place; // its number, as placeOf() tells it
+      ChipId chip;
+      bool isControl;
+      SchanAddress at;
+      U32 control;
+      std::span< U32 const > before;
+      std::span< U32 const > after;
+   };
 
    // `under` outlives this.
    explicit StagedDriver( DaceSal::SchanDriver & under ) : under_( under ) {}
@@ -47,12 +57,18 @@ class StagedDriver final : public DaceSal::SchanDriver {
    bool control( ChipId chip, U32 control, U32 value ) override;
    std::optional< U32 > controlValue( ChipId chip, U32 control ) const override;
 
+   // Places that were written to have numbers, in the order of the first write. None: it wasn't written to.
+   std::size_t placeCount() const { return places_.size(); }
+   std::optional< U32 > placeOf( ChipId chip, SchanAddress const & at ) const { return find( keyOf( chip, at ) ); }
+   std::optional< U32 > placeOf( ChipId chip, U32 control ) const { return find( keyOf( chip, control ) ); }
+
    // Visits what a commit would change, in its order.
    template< class Visit >
    void eachChange( Visit const & visit ) const {
-      for ( Change const & change : staged_ ) {
-         if ( change.before != change.after ) {
-            visit( change );
+      for ( U32 number = 0; number < places_.size(); ++number ) {
+         Place const & place = places_[number];
+         if ( !place.hasBefore || !std::ranges::equal( place.before(), place.after() ) ) {
+            visit( viewOf( number ) );
          }
       }
    }
@@ -67,21 +83,32 @@ class StagedDriver final : public DaceSal::SchanDriver {
       U32 block; // the selectors; of a control a number that no block has
       U32 address;
       bool operator==( Key const & ) const = default;
-   };
-   struct KeyHash {
-      std::size_t operator()( Key const & key ) const {
-         return ( U64{ key.chip } << 32 ^ U64{ key.block } << 40 ^ key.address ) * 0x9e3779b97f4a7c15 >> 7;
+      std::size_t hash() const {
+         U64 const mixed = ( U64{ chip } << 32 ^ U64{ block } << 40 ^ address ) * 0x9e3779b97f4a7c15;
+         return mixed ^ mixed >> 32;
       }
+   };
+   struct Place {
+      Key key;
+      U16 width;
+      bool hasBefore; // false: a control that has no value yet
+      U32 * words;    // what stood there and, behind it, what would
+      std::span< U32 > before() const { return { words, width }; }
+      std::span< U32 > after() const { return { words + width, width }; }
    };
    static Key keyOf( ChipId chip, SchanAddress const & at );
    static Key keyOf( ChipId chip, U32 control );
-   Change * find( Key const & key );
-   Change const * find( Key const & key ) const;
-   Change & staged( ChipId chip, SchanAddress const & at, std::size_t width );
+   std::optional< U32 > find( Key const & key ) const;
+   // The place, which is made where there is none: `begin( place )` tells what stood there then.
+   template< class Begin >
+   Place & placeAt( Key const & key, std::size_t width, Begin const & begin );
+   void grow();
+   ChangeView viewOf( U32 number ) const;
 
    DaceSal::SchanDriver & under_;
-   std::vector< Change > staged_; // in the order of the first write
-   std::unordered_map< Key, std::size_t, KeyHash > places_;
+   std::vector< Place > places_; // in the order of the first write
+   UnitStore< U32 > words_;
+   std::vector< U32 > table_; // by hash, the next one in turn on collision: a place's number plus 1, or 0
 };
 
 } // namespace Simulator

@@ -1,11 +1,14 @@
 #include "agent/database/StateModel.h"
 
+#include "simulator/SwitchDescription.h"
+
 namespace Live {
 
 using Inspection::Event;
 using Rex::ValueError;
 
 StateModel::StateModel( Paths paths ) : paths_( std::move( paths ) ) {
+   tell( Simulator::SwitchDescription(), tree_ ); // the directories that interfaces stand in
    std::map< std::string, std::string > wrong;
    for ( Event const & event : eventsBetween( {}, paths_, wrong ) ) {
       try {

@@ -168,7 +168,10 @@ bool JournalReader::readQuickly( Line const & line, Reading & reading ) {
    if ( !line.isWhole || format_ == 1 || !written.isKnown() ) {
       return false;
    }
-   if ( !reading.wanted.mayBe( written ) ) {
+   if ( reading.wanted.isKind( written ) && !written.readPlace() ) {
+      return false;
+   }
+   if ( !reading.wanted.isKind( written ) || !reading.wanted.mayBe( written ) ) {
       reading.operations = written.isOperation() ? written.seq : reading.operations;
       return true;
    }

@@ -19,7 +19,7 @@ bool isSpace( char letter ) {
 }
 
 // Where the bytes of a block are `letter`, once those of `fold` are set.
-std::uint64_t whereIs( __m128i const ( &block )[4], char letter, char fold = 0 ) {
+inline std::uint64_t whereIs( __m128i const ( &block )[4], char letter, char fold = 0 ) {
    std::uint64_t mask = 0;
    for ( int part = 0; part < 4; ++part ) {
       auto const folded = _mm_or_si128( block[part], _mm_set1_epi8( fold ) );
@@ -29,8 +29,15 @@ std::uint64_t whereIs( __m128i const ( &block )[4], char letter, char fold = 0 )
    return mask;
 }
 
+inline bool has( __m128i const ( &block )[4], char letter ) {
+   auto const wanted = _mm_set1_epi8( letter );
+   auto const first = _mm_or_si128( _mm_cmpeq_epi8( block[0], wanted ), _mm_cmpeq_epi8( block[1], wanted ) );
+   auto const second = _mm_or_si128( _mm_cmpeq_epi8( block[2], wanted ), _mm_cmpeq_epi8( block[3], wanted ) );
+   return _mm_movemask_epi8( _mm_or_si128( first, second ) ) != 0;
+}
+
 // Each bit: whether an odd number of bits stands up to there.
-std::uint64_t parity( std::uint64_t bits ) {
+inline std::uint64_t parity( std::uint64_t bits ) {
    for ( unsigned const by : { 1u, 2u, 4u, 8u, 16u, 32u } ) {
       bits ^= bits << by;
    }
@@ -221,7 +228,7 @@ char const * JsonStream::endOf( char const * from, char const * to, Scan & scan 
       auto const inside = parity( whereIs( block, '"' ) ) ^ ( scan.isInString ? ~std::uint64_t{ 0 } : 0 );
       auto const closes = whereIs( block, '}', ' ' ) & ~inside;
       auto const closed = static_cast< std::size_t >( std::popcount( closes ) );
-      if ( scan.isEscaped || closed >= scan.depth || whereIs( block, '\\' ) != 0 ) {
+      if ( scan.isEscaped || closed >= scan.depth || has( block, '\\' ) ) {
          if ( auto const * end = endOfBytes( from, from + 64, scan ) ) {
             return end;
          }

@@ -29,9 +29,10 @@ class RowsWanted {
    explicit RowsWanted( RowFilter const & filter )
       : filter_( filter ), function_( "\"function\": \"" + filter.function + "\"" ) {}
 
-   // By how the line begins.
+   bool isKind( WrittenRow const & row ) const { return isKind( row.kind ); }
+   // By how the line begins, of a wanted kind.
    bool mayBe( WrittenRow const & row ) const {
-      return isKind( row.kind ) && isEvent( row.event ) &&
+      return isEvent( row.event ) &&
              ( !row.isOperation() ||
                ( isFap( row.fap ) && ( row.kind == Simulator::Row::Kind::control || isTable( row.table ) ) ) ) &&
              ( !row.isOperation() || filter_.function.empty() || row.rest.find( function_ ) != std::string_view::npos );

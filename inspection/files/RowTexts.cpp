@@ -41,7 +41,12 @@ std::size_t RowTexts::TailHash::operator()( std::string_view text ) const {
 }
 
 RowTexts::Tail const * RowTexts::tailOf( std::string_view text ) {
+   auto & latest = latest_[text.size() % latest_.size()];
+   if ( latest && latest->first == text ) {
+      return &latest->second;
+   }
    if ( auto const known = tails_.find( text ); known != tails_.end() ) {
+      latest = &*known;
       return &known->second;
    }
    FormCursor at( text );

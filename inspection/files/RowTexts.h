@@ -8,6 +8,7 @@
 
 #include "corvo/Types.h"
 
+#include <array>
 #include <deque>
 #include <string>
 #include <string_view>
@@ -41,7 +42,9 @@ class RowTexts {
 
    std::deque< std::string > texts_;
    std::unordered_map< std::string_view, U32 > numbers_;
-   std::unordered_map< std::string, Tail, TailHash, std::equal_to<> > tails_;
+   using Tails = std::unordered_map< std::string, Tail, TailHash, std::equal_to<> >;
+   Tails tails_;
+   std::array< Tails::value_type const *, 32 > latest_{}; // by a text's length: most lines end as one before did
 };
 
 } // namespace Inspection

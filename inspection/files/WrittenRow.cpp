@@ -63,48 +63,58 @@ bool FormCursor::words( std::vector< U32 > & into ) {
    return false;
 }
 
-WrittenRow::WrittenRow( std::string_view line ) : isKnown_( head( line ) ) {}
-
-bool WrittenRow::head( std::string_view line ) {
+bool WrittenRow::begin( std::string_view line ) {
    constexpr std::size_t shortest = 32;
-   FormCursor at( line );
-   if ( line.size() < shortest || !at.goesOn( "{\"op\": \"" ) ) {
+   constexpr std::size_t kindAt = 8;
+   if ( line.size() < shortest ) {
       return false;
    }
-   switch ( *at.rest().data() ) {
+   FormCursor at( line );
+   bool isRight = false;
+   switch ( line[kindAt] ) {
    case 'r':
       kind = Kind::read;
-      isOfFap = at.goesOn( "read\", \"seq\": " );
+      isRight = at.goesOn( "{\"op\": \"read\", \"seq\": " ) && at.number( seq );
       break;
    case 'w':
       kind = Kind::write;
-      isOfFap = at.goesOn( "write\", \"seq\": " );
+      isRight = at.goesOn( "{\"op\": \"write\", \"seq\": " ) && at.number( seq );
       break;
    case 'c':
       kind = Kind::control;
-      isOfFap = at.goesOn( "control\", \"seq\": " );
+      isRight = at.goesOn( "{\"op\": \"control\", \"seq\": " ) && at.number( seq );
       break;
    case 'g':
       kind = Kind::gate;
-      if ( !at.goesOn( "gate\", \"event\": " ) || !at.number( event ) ) {
-         return false;
-      }
-      isOfFap = at.goesOn( ", \"fap\": " );
-      rest = at.rest();
-      if ( isOfFap && !at.number( fap ) ) {
-         return false;
-      }
-      rest = at.rest();
-      return at.goesOn( ", \"reason\": \"" );
+      isRight = at.goesOn( "{\"op\": \"gate\"" );
+      break;
    case 'p':
       kind = Kind::publish;
-      return at.goesOn( "publish\", \"event\": " ) && at.number( event ) && at.goesOn( ", \"path\": \"" );
+      isRight = at.goesOn( "{\"op\": \"publish\"" );
+      break;
    default:
+      break;
+   }
+   rest = at.rest();
+   return isRight;
+}
+
+bool WrittenRow::readPlace() {
+   FormCursor at( rest );
+   if ( !at.goesOn( ", \"event\": " ) || !at.number( event ) ) {
       return false;
    }
-   if ( !isOfFap || !at.number( seq ) || !at.goesOn( ", \"event\": " ) || !at.number( event ) ||
-        !at.goesOn( ", \"fap\": " ) || !at.number( fap ) ) {
+   if ( kind == Kind::publish ) {
+      rest = at.rest();
+      return at.goesOn( ", \"path\": \"" );
+   }
+   isOfFap = at.goesOn( ", \"fap\": " );
+   if ( isOfFap ? !at.number( fap ) : kind != Kind::gate ) {
       return false;
+   }
+   if ( kind == Kind::gate ) {
+      rest = at.rest();
+      return at.goesOn( ", \"reason\": \"" );
    }
    if ( kind != Kind::control && !( at.goesOn( ", \"table\": \"" ) && at.name( table ) ) ) {
       return false;

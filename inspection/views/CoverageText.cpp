@@ -57,10 +57,14 @@ std::string headOf( Coverage const & coverage ) {
    auto const pairs = coverage.pairs();
    std::size_t const unwritable =
       tablesOf( []( Coverage const &, Catalogue::Table const & table ) { return isUnwritable( table ); }, coverage );
+   std::size_t const whole =
+      tablesOf( []( Coverage const & of,
+                    Catalogue::Table const & table ) { return isWhole( of, table ) && !isUnwritable( table ); },
+                coverage );
    return percentText( pairs.percent() ) + ": " + std::to_string( pairs.written ) + " of " +
           std::to_string( pairs.writable ) + " pairs of table and chip that the plug-in can write, " +
-          std::to_string( pairs.changed ) + " with a change; " + std::to_string( tablesOf( isWhole, coverage ) ) +
-          " of " + std::to_string( Catalogue::tables().size() - unwritable ) + " tables on every chip that has them";
+          std::to_string( pairs.changed ) + " with a change; " + std::to_string( whole ) + " of " +
+          std::to_string( Catalogue::tables().size() - unwritable ) + " tables on every chip that has them";
 }
 
 std::string escaped( std::string const & text ) {

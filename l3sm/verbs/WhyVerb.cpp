@@ -95,6 +95,7 @@ Action defineWhy( VerbOptions & verb ) {
    verb.number( "--array", options->filter.place.array, "only this array index" );
    verb.number( "--entry", options->filter.place.entry, "only this entry" );
    verb.number( "--event", options->filter.event, "only this event, in full" );
+   verb.number( "--at", options->filter.at, "as it stood when this event was over, not at the journal's end" );
    verb.text( "--function", options->filter.function, "only functions with this in their name" );
    verb.text( "--cause", options->filter.cause, "only causes with this in them" );
    verb.text( "--table", options->filter.table, "only what was done to this table" );

@@ -21,7 +21,7 @@ std::string recording() {
    Inspection::loadPlugin( L3SM_BINARY_DIR "/lib/libL3SmPlugin.so" );
    EventLoop loop;
    EmbeddedDatabase database( loop );
-   SliceAgent agent( loop, database, Inspection::scenarioOf( Inspection::parseJson( scenarioWith( "}" ), "s" ), "s" ) );
+   SliceAgent agent( loop, database, Inspection::scenarioOf( Inspection::parseJson( scenarioWith( "" ), "s" ), "s" ) );
    Recorder recorder( agent.sw(), agent.scenario(), { .folder = folder / "", .isCompressed = false } );
    agent.sw().journal().readerAdd( recorder );
    recorder.begin();

@@ -62,6 +62,15 @@ TEST( Why, keepsTheNewestEventsAndCountsTheOthers ) {
    EXPECT_EQ( answer.earlier, 2u );
 }
 
+TEST( Why, atAnEventKnowsNothingOfLaterOnes ) {
+   Played const played( "urpf-and-ip-traps" );
+   EXPECT_EQ( eventsOf( played.why( "IppdFerTrapCfg.cpuStrengthN", { .at = U32{ 2 } } ) ),
+              ( std::vector< U32 >{ 2, 1, 0 } ) );
+   EXPECT_EQ( eventsOf( played.why( "routing/hardware/config.urpfLooseFailForward", { .at = U32{ 2 } } ) ),
+              std::vector< U32 >{ 1 } );
+   EXPECT_THROW( played.why( "IppdFerTrapCfg.cpuStrengthN", { .at = U32{ 9 } } ), InputError );
+}
+
 TEST( Why, foldsWritesThatLeaveTheSame ) {
    Played const played( "urpf-and-ip-traps" );
    auto const answer = played.why( "FlpKapsStrengthMapping", { .fap = U16{ 0 } } );

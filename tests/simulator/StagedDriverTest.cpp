@@ -113,6 +113,21 @@ TEST_F( StagedDriverTest, tellsWhatWouldChangeAndFromWhat ) {
    EXPECT_TRUE( changes[1].before.empty() );
 }
 
+TEST_F( StagedDriverTest, findsEachOfManyPlacesAgainAndNoneAfterTheyAreDropped ) {
+   for ( U32 round = 1; round <= 2; ++round ) {
+      for ( U32 number = 0; number < 5000; ++number ) {
+         EXPECT_TRUE( staged.control( fap, number, number + round ) );
+      }
+      for ( U32 number = 0; number < 5000; ++number ) {
+         EXPECT_EQ( staged.controlValue( fap, number ), number + round );
+         EXPECT_EQ( staged.placeOf( fap, number ), number );
+      }
+      staged.drop();
+      EXPECT_EQ( staged.placeCount(), 0u );
+      EXPECT_EQ( staged.controlValue( fap, 17 ), std::nullopt );
+   }
+}
+
 TEST_F( StagedDriverTest, handsOverWhatStoodThereBeforeAsStaged ) {
    write( first, 9 );
    U32 const now = 10;
