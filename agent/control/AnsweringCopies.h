@@ -7,10 +7,10 @@
 //    copies.forget( number );                        // the client is gone: so is the copy
 //
 // What it costs the agent is the fork, which grows with the memory that it has in use, and a copy of each page that it
-// changes while the answer is computed. As bench/ControlBench.cpp measured it on two busy cores: with 64 FAPs (22 MB) the
-// agent stands still for 1 ms, with 128 MB more for 5 to 6, and an event changes 140 pages (of 1 FAP: 0.5 ms, 12 pages).
-// Where malloc asks for large pages (GLIBC_TUNABLES=glibc.malloc.hugetlb=1, as the unit file does), it is 1 ms with 256
-// MB more, too.
+// changes while the answer is computed. As bench/ControlBench.cpp measured it on two busy cores: with 64 FAPs (22 MB)
+// the agent stands still for 1 ms, with 128 MB more for 5 to 6, and an event changes 140 pages (of 1 FAP: 0.5 ms, 12
+// pages). Where malloc asks for large pages (GLIBC_TUNABLES=glibc.malloc.hugetlb=1, as the unit file does), it is 1 ms
+// with 256 MB more, too.
 //
 // A copy has no file of the agent's but the client's socket, runs no destructor and no hook of the agent's, and leaves
 // the processor to the agent. So many run at once, others wait for their turn. One that takes too long is ended.

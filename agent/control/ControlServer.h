@@ -30,8 +30,8 @@ class ControlServer {
       AnsweringCopies::Limits copies = {};
       std::function< Peer( int socket ) > peerOf = Live::peerOf;
       // Hears of each command that has changed something.
-      std::function< void( std::string const & name, Rex::Value const & given ) > changed =
-         []( std::string const &, Rex::Value const & ) {};
+      std::function< void( std::string const & name, Rex::Value const & given ) > changed = []( std::string const &,
+                                                                                                Rex::Value const & ) {};
       // Hears of who was dropped, and why.
       std::function< void( std::string const & line ) > log = []( std::string const & ) {};
    };
