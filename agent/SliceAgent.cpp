@@ -151,6 +151,7 @@ void SliceAgent::snapshotIs( Snapshot snapshot ) {
 
 // While nothing is written nobody else tells that the database can be reached again.
 void SliceAgent::follows() {
+   gaps_ = 0;
    if ( phase_ == Phase::disconnected ) {
       tries_ = 0;
       phaseIs( Phase::running );
