@@ -3,6 +3,7 @@
 #include "assert/Assert.h"
 #include "inspection/files/InputError.h"
 
+#include <algorithm>
 #include <dirent.h>
 
 namespace {
