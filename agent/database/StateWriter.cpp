@@ -73,7 +73,7 @@ void StateWriter::writeEach( std::vector< Event > const & events, std::string co
    for ( std::size_t at = 0; at < events.size(); ++at ) {
       Event const & event = events[at];
       for ( unsigned tries = 0;; ++tries ) {
-         if ( now.epoch != position.epoch || now.last != position.entry ) {
+         if ( !model || now.epoch != position.epoch || now.last != position.entry ) {
             bringUpToDate( model, position );
          }
          StateChange const change = [&] {

@@ -2,7 +2,9 @@
 #include "agent/database/StateWriter.h"
 #include "agent/RedisFollower.h"
 #include "agent/RedisState.h"
+#include "agent/database/LogEntry.h"
 #include "inspection/files/InputError.h"
+#include "l3sm/Running.h"
 
 namespace {
 
@@ -43,7 +45,8 @@ TEST_F( StateWriterTest, writesHashesPathsAndLogTogether ) {
               ( Paths{ { "evpn/status", { { "vxlanEnabled", "true" } } },
                        { "interface/status/eth/vxlan", {} },
                        { vxlan1Path, { { "udpPort", "4789" } } } } ) );
-   auto const last = server.ask( { "XREVRANGE", logKey, "+", "-", "COUNT", "1" } )[0];
+   auto const answer = server.ask( { "XREVRANGE", logKey, "+", "-", "COUNT", "1" } );
+   auto const last = answer[0];
    EXPECT_EQ( last[0].text(), entry );
    EXPECT_EQ( last[1][1].text(),
               R"([{"set": {"attribute": "vtiStatus", "key": "Vxlan1", "path": "interface/status/eth/vxlan", )"
@@ -129,8 +132,7 @@ TEST_F( StateWriterTest, takesTurnsWithOthers ) {
    RedisFollower follower( server );
    ASSERT_TRUE( follower.untilFollowing() );
    constexpr std::size_t each = 200;
-   auto const writes = [&]( std::string const & name ) {
-      StateWriter one( server.address(), 1 );
+   auto const eventsOf = [&]( std::string const & name ) {
       std::vector< Event > events;
       for ( std::size_t at = 0; at < each; ++at ) {
          events.push_back( setEntry( "interface/status/eth/vxlan",
@@ -138,17 +140,12 @@ TEST_F( StateWriterTest, takesTurnsWithOthers ) {
                                      name + std::to_string( at % 7 ),
                                      Value::Object{ { "udpPort", at } } ) );
       }
-      one.writeEach( events, name );
+      return events;
    };
-   pid_t const other = ::fork(); // each process has one loop and one clock
-   if ( other == 0 ) {
-      writes( "Vxlan" );
-      ::_exit( 0 );
-   }
-   writes( "Other" );
-   int status = 1;
-   ::waitpid( other, &status, 0 );
-   EXPECT_EQ( status, 0 );
+   Running other( "state apply events.json --database " + server.url(),
+                  { { "events.json", changesText( eventsOf( "Vxlan" ) ) } } );
+   writer.writeEach( eventsOf( "Other" ), "other" );
+   EXPECT_EQ( other.wait(), 0 ) << other.errors();
    ASSERT_TRUE( follower.until( [&] { return follower.position.entry == lastEntry( server ); } ) );
    EXPECT_EQ( follower.count, 2 * each );
    EXPECT_EQ( follower.paths, stateIn( server ) );
