@@ -14,7 +14,10 @@ using Rex::Value;
 // `l3sm serve` in a folder of its own, with what a run of the whole example has left beside it.
 class ServedExample {
  public:
-   explicit ServedExample( std::string const & example ) {
+   // Serves once it is in the phase.
+   explicit ServedExample( std::string const & example,
+                           std::string const & options = "",
+                           std::string const & phase = "running" ) {
       Value scenario = Inspection::readJson( L3SM_SOURCE_DIR "/examples/" + example );
       events_ = *( *scenario.object() )["events"].list();
       folder.file( "whole.json", Inspection::toJson( scenario, 2 ) );
@@ -23,13 +26,14 @@ class ServedExample {
       folder.file( "switch.json", Inspection::toJson( scenario, 2 ) );
       agent_ = ::fork();
       if ( agent_ == 0 ) {
-         std::string const line =
-            "cd '" + folder / "" + "' && exec '" L3SM_BINARY_DIR "/bin/l3sm' serve switch.json --socket a.ctl 2>log";
+         std::string const line = "cd '" + folder / "" +
+                                  "' && exec '" L3SM_BINARY_DIR "/bin/l3sm' serve switch.json --socket a.ctl " +
+                                  options + " 2>log";
          ::execl( "/bin/sh", "sh", "-c", line.c_str(), nullptr );
          ::_exit( 127 );
       }
       until( [&] {
-         return ask( "ctl --socket a.ctl status --json" ).find( "\"phase\": \"running\"" ) != std::string::npos;
+         return ask( "ctl --socket a.ctl status --json" ).find( "\"phase\": \"" + phase + "\"" ) != std::string::npos;
       } );
    }
    ~ServedExample() {
@@ -149,6 +153,21 @@ TEST( ControlAnswers, RefuseWhatDoesNotFit ) {
    EXPECT_EQ( agent.ask( "show --agent ./a.ctl --fap 7" ), "l3sm: agent ./a.ctl: fap: there is no FAP 7\n" );
    EXPECT_EQ( agent.ask( "show --agent ./b.ctl" ), "l3sm: ./b.ctl: no agent listens there; `l3sm serve` starts one\n" );
    EXPECT_EQ( agent.status, 2 );
+}
+
+TEST( ControlAnswers, OfAnAgentWithoutAStateTellWhatItWaitsFor ) {
+   ServedExample agent( example, "--database redis+unix:///nowhere/redis.sock", "waiting" );
+   std::string const reason = "redis+unix:///nowhere/redis.sock: No such file or directory";
+   EXPECT_NE( agent.ask( "ctl --socket a.ctl status" ).find( "reason    " + reason ), std::string::npos )
+      << agent.folder.text( ".out" );
+   EXPECT_EQ( agent.ask( "ctl --socket a.ctl plan events.json" ),
+              "l3sm: agent ./a.ctl: nothing is on the chips yet: " + reason + "\n" );
+   EXPECT_EQ( agent.status, 2 );
+   EXPECT_EQ(
+      agent.ask( "ctl --socket a.ctl state set evpn/status vxlanEnabled true" ),
+      "l3sm: agent ./a.ctl: the agent follows redis+unix:///nowhere/redis.sock, where its state is changed: l3sm "
+      "state\n" );
+   EXPECT_EQ( agent.ask( "ctl --socket a.ctl why IppdFerTrapCfg" ).find( "l3sm:" ), std::string::npos );
 }
 
 TEST( ControlAnswers, FollowWhatTheAgentIsTold ) {
