@@ -110,7 +110,7 @@ TEST( WrittenRow, KnowsNoLineWhoseWordsAreNoneOfItsForm ) {
       std::string with = line;
       with.replace( with.find( "09afAF00" ), 8, digits );
       WrittenRow written( with );
-      EXPECT_TRUE( written.isKnown() );
+      EXPECT_TRUE( written.isKnown() && written.readPlace() );
       Simulator::Row row{ .kind = Simulator::Row::Kind::read, .event = 0 };
       std::vector< U32 > words;
       std::vector< U32 > before;
