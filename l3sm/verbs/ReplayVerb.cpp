@@ -5,6 +5,7 @@
 #include "inspection/Version.h"
 #include "inspection/files/FileKind.h"
 #include "inspection/files/OutputFile.h"
+#include "inspection/files/RecordingFolder.h"
 #include "inspection/files/ScenarioText.h"
 #include "inspection/views/ReplayText.h"
 #include "l3sm/verbs/Verbs.h"
@@ -28,7 +29,7 @@ struct Options {
 };
 
 bool isRecording( std::string const & path ) {
-   return std::filesystem::is_directory( path ) || kindOfFile( path ) == FileKind::recording;
+   return std::filesystem::is_directory( path ) || segmentOf( path ) || kindOfFile( path ) == FileKind::recording;
 }
 
 int toScenario( Options const & options, std::string const & recording ) {
