@@ -52,6 +52,7 @@ SliceAgent::SliceAgent( EventLoop & loop, Database & database, Inspection::Scena
      base_( baseOf( scenario_ ) ), held_( base_ ) {
    scenario_.prepare( sw_ );
    lastWords_.follows( &sw_ );
+   sw_.journal().causesAreForgotten();
    sw_.journal().readerAdd( published_ );
    database_.followerIs( this );
 }

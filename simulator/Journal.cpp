@@ -8,6 +8,12 @@
 
 namespace Simulator {
 
+namespace {
+
+constexpr std::size_t mostCauses = 1 << 12; // that a run without an end remembers
+
+} // namespace
+
 std::size_t Journal::OriginHash::operator()( OriginKey const & key ) const {
    std::hash< void const * > const hash;
    return hash( key.function ) ^ hash( key.file ) * 3 ^ key.line * std::size_t{ 0x9e3779b97f4a7c15 };
@@ -86,6 +92,12 @@ void Journal::forget() {
    reasons_.clear();
    publications_.clear();
    handedOver_ = 0;
+   if ( forgetsCauses_ && causes_.size() > mostCauses ) {
+      causes_.clear();
+      causeNumbers_.clear();
+      latestCause_ = 0;
+      latestAnnouncements_.forget();
+   }
 }
 
 void Journal::ends( Ending::Kind kind ) {

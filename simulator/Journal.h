@@ -75,6 +75,9 @@ class Journal final : public DaceSal::OperationListener, public Rex::GateListene
 
    // Rows are kept from now on.
    void rowsAreKept() { isKept_ = true; }
+   // Now and then causes get other numbers: for a run without an end, whose state has ever new names. Readers may hold on
+   // to a number for one event only.
+   void causesAreForgotten() { forgetsCauses_ = true; }
    // The rows that are kept, or those of the event under way.
    std::vector< Row > rows() const;
    // Those of them that are driver operations.
@@ -155,6 +158,7 @@ class Journal final : public DaceSal::OperationListener, public Rex::GateListene
    U64 operations_ = 0;
    std::vector< RowReader * > readers_;
    bool isKept_ = false;
+   bool forgetsCauses_ = false;
    bool hasEnded_ = false;
    Rex::Value what_;            // the event under way
    std::size_t handedOver_ = 0; // rows of events that are over

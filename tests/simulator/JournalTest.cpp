@@ -245,3 +245,28 @@ TEST_F( JournalTest, tellsWhatStoodThereBefore ) {
 }
 
 } // namespace
+
+// Given a run without an end, whose state has ever new names.
+TEST( JournalForEver, tellsEachCauseAndRemembersFew ) {
+   std::string cause;
+   Journal journal{ { .cause = [&] { return cause; } } };
+   journal.causesAreForgotten();
+   struct Reader : RowReader {
+      void row( Row const & row ) override {
+         last = row.cause;
+         highest = std::max( highest, row.causeNumber );
+      }
+      std::string last;
+      U32 highest = 0;
+   } reader;
+   journal.readerAdd( reader );
+   std::vector< U32 > const words{ 1 };
+   for ( U32 event = 1; event <= 20'000; ++event ) {
+      cause = "interface/status/subintf intfStatus/Ethernet" + std::to_string( event );
+      journal.eventBegins( event, {} );
+      journal.operation( DaceFapNi::readTrap( words ) );
+      journal.eventEnds();
+      ASSERT_EQ( reader.last, cause );
+   }
+   EXPECT_LT( reader.highest, 5'000u );
+}
