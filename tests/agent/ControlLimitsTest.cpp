@@ -101,7 +101,7 @@ TEST( ControlLimits, DropAClientThatReadsNothingAndServeTheOthersMeanwhile ) {
 
 TEST( ControlLimits, LetAClientTakeItsTimeAsLongAsItReads ) {
    ControlWorld world;
-   world.options.connection.patience = 0.2;
+   world.options.connection.patience = 1;
    world.commands.add( { .name = "much", .does = "", .answer = []( Arguments const & ) -> Answer {
                            return std::string( 4'000'000, 'x' );
                         } } );
@@ -112,7 +112,7 @@ TEST( ControlLimits, LetAClientTakeItsTimeAsLongAsItReads ) {
       slow.send( request( "much" ) + "\n" );
       std::vector< char > some( 500'000 );
       while ( got < 4'000'000 ) {
-         ::usleep( 50'000 );
+         ::usleep( 200'000 ); // in all longer than its patience
          auto const more = ::recv( slow.number(), some.data(), some.size(), 0 );
          if ( more < 0 && errno == EAGAIN ) {
             continue; // the answer isn't made yet
