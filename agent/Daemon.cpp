@@ -6,8 +6,8 @@
 #include "agent/TraceFile.h"
 #include "agent/control/AgentCommands.h"
 #include "agent/control/ControlServer.h"
+#include "agent/database/Databases.h"
 #include "agent/database/EmbeddedDatabase.h"
-#include "agent/database/RedisDatabase.h"
 #include "agent/metrics/AgentMetrics.h"
 #include "agent/metrics/MetricsFile.h"
 #include "agent/metrics/MetricsServer.h"
@@ -23,14 +23,6 @@ namespace {
 
 // How often the agent looks after itself where no service manager asks for it, in seconds.
 constexpr Rex::Seconds tickPeriod = 5;
-
-std::unique_ptr< Database > databaseAt( DaemonOptions const & options, EventLoop & loop ) {
-   if ( options.database.empty() ) {
-      return std::make_unique< EmbeddedDatabase >( loop );
-   }
-   return std::make_unique< RedisDatabase >(
-      loop, RedisAddress::of( options.database ), options.cell, options.scenario.description.sliceName );
-}
 
 // Where to listen. Nobody has named a place, and the usual one can't be had: told, and the agent does without.
 std::string controlOf( DaemonOptions const & options ) {
@@ -51,7 +43,9 @@ std::string controlOf( DaemonOptions const & options ) {
 // In the order in which they need each other.
 struct Daemon::Parts {
    explicit Parts( DaemonOptions const & options )
-      : traceFile( options.trace, commands ), begun( EventLoop::clock() ), database( databaseAt( options, loop ) ),
+      : traceFile( options.trace, commands ), begun( EventLoop::clock() ),
+        database( databaseAt(
+           loop, options.database, options.credentials, options.cell, options.scenario.description.sliceName ) ),
         agent( loop, *database, options.scenario, options.version ), counts( agent, metrics ),
         recorder(
            agent.sw(),

@@ -8,6 +8,7 @@
 #pragma once
 
 #include "agent/SliceAgent.h"
+#include "agent/database/EtcdAddress.h"
 
 namespace Live {
 
@@ -15,10 +16,11 @@ struct DaemonOptions {
    Inspection::Scenario scenario; // without events; its slice is the agent's
    U32 cell = 1;
    std::string database = {}; // an URL; empty: the process itself
-   std::string socket = {};   // empty: the usual one of the slice
-   std::string record = {};   // a folder; empty: nothing is recorded
-   std::string metrics = {};  // a file or an address; empty: they can be asked for
-   std::string trace = {};    // a file (TraceFile.h); empty: nothing is traced before `trace set`
+   DatabaseCredentials credentials = {};
+   std::string socket = {};  // empty: the usual one of the slice
+   std::string record = {};  // a folder; empty: nothing is recorded
+   std::string metrics = {}; // a file or an address; empty: they can be asked for
+   std::string trace = {};   // a file (TraceFile.h); empty: nothing is traced before `trace set`
    std::string version = {};
    std::string plugin = {}; // which build of it is loaded
 };

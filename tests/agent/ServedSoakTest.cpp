@@ -5,6 +5,7 @@
 #include "Served.h"
 #include "agent/RedisServer.h"
 #include "agent/database/StateFile.h"
+#include "agent/database/Databases.h"
 #include "agent/database/StateWriter.h"
 #include "inspection/FileDifferences.h"
 #include "inspection/KnownMemories.h"
@@ -126,8 +127,8 @@ TEST( ServedSoak, endsWithTheChipsOfAFreshStart ) {
    Scenario const told = toldScenario( switches, count );
    Folder const folder;
    RedisServer server;
-   std::optional< Live::StateWriter > writer( std::in_place, server.address(), 1 );
-   writer->load( Live::stateOfFile( folder.file( "state.json", toJson( told.state, 1 ) ) ) );
+   auto store = Live::stateStoreAt( server.url(), {}, 1 );
+   store->load( Live::stateOfFile( folder.file( "state.json", toJson( told.state, 1 ) ) ) );
    std::map< std::string, std::unique_ptr< ServedAgent > > agents;
    for ( auto const & [slice, theSwitch] : switches ) {
       agents[slice] = std::make_unique< ServedAgent >( folder, slice, theSwitch, server.url() );
@@ -135,7 +136,7 @@ TEST( ServedSoak, endsWithTheChipsOfAFreshStart ) {
    }
    auto const choose = chanceOf( 7 );
    for ( Event const & event : told.events ) {
-      writer->write( event );
+      Live::StateWriter( *store ).write( event );
       auto & one = *std::next( agents.begin(), static_cast< std::ptrdiff_t >( choose( agents.size() ) ) )->second;
       if ( choose( 40 ) == 0 ) {
          one.dies();
@@ -143,7 +144,7 @@ TEST( ServedSoak, endsWithTheChipsOfAFreshStart ) {
       }
       if ( choose( 30 ) == 0 ) {
          server.ask( { "CLIENT", "KILL", "TYPE", "normal", "SKIPME", "yes" } );
-         writer.emplace( server.address(), 1 );
+         store = Live::stateStoreAt( server.url(), {}, 1 );
       }
    }
    std::string const waited = agents.begin()->second->output( "state wait --timeout 30 --database " + server.url() );

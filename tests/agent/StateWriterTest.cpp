@@ -3,6 +3,7 @@
 #include "agent/RedisFollower.h"
 #include "agent/RedisState.h"
 #include "agent/database/LogEntry.h"
+#include "agent/database/RedisStore.h"
 #include "inspection/files/InputError.h"
 #include "l3sm/Running.h"
 
@@ -26,7 +27,8 @@ std::string const vxlan1Path = "interface/status/eth/vxlan/vtiStatus/Vxlan1";
 
 struct StateWriterTest : testing::Test {
    RedisServer server;
-   StateWriter writer{ server.address(), 1 };
+   RedisStore store{ server.address(), 1 };
+   StateWriter writer{ store };
 
    std::string refusalOf( std::function< void() > const & what ) {
       try {
@@ -39,7 +41,7 @@ struct StateWriterTest : testing::Test {
 };
 
 TEST_F( StateWriterTest, writesHashesPathsAndLogTogether ) {
-   writer.load( { { "evpn/status", { { "vxlanEnabled", "true" } } }, { "interface/status/eth/vxlan", {} } } );
+   store.load( { { "evpn/status", { { "vxlanEnabled", "true" } } }, { "interface/status/eth/vxlan", {} } } );
    auto const entry = writer.write( vxlan1 );
    EXPECT_EQ( stateIn( server ),
               ( Paths{ { "evpn/status", { { "vxlanEnabled", "true" } } },
@@ -59,7 +61,7 @@ TEST_F( StateWriterTest, writesHashesPathsAndLogTogether ) {
 }
 
 TEST_F( StateWriterTest, isFollowedToTheSameState ) {
-   writer.load( { { "evpn/status", {} }, { "interface/status/eth/vxlan", {} } } );
+   store.load( { { "evpn/status", {} }, { "interface/status/eth/vxlan", {} } } );
    RedisFollower follower( server );
    ASSERT_TRUE( follower.untilFollowing() );
    writer.writeEach( { vxlan1,
@@ -82,7 +84,7 @@ TEST_F( StateWriterTest, writesNothingWithoutAnEpoch ) {
 }
 
 TEST_F( StateWriterTest, refusesAtTheDoorWhatAnAgentWouldRefuse ) {
-   writer.load( { { "evpn/status", {} } } );
+   store.load( { { "evpn/status", {} } } );
    auto const before = lastEntry( server );
    EXPECT_EQ( refusalOf( [&] { writer.write( set( "evpn/status", "mplsEnabled", 3 ) ); } ),
               "set evpn/status mplsEnabled = 3: expected true or false, got 3" );
@@ -97,7 +99,7 @@ TEST_F( StateWriterTest, refusesAtTheDoorWhatAnAgentWouldRefuse ) {
 }
 
 TEST_F( StateWriterTest, writesNoneOfManyWhereOneIsWrong ) {
-   writer.load( { { "evpn/status", {} } } );
+   store.load( { { "evpn/status", {} } } );
    auto const before = lastEntry( server );
    std::vector< Event > events{ set( "evpn/status", "mplsEnabled", true ), set( "evpn/status", "mplsEnabled", "x" ) };
    events[0].number = 1;
@@ -108,11 +110,11 @@ TEST_F( StateWriterTest, writesNoneOfManyWhereOneIsWrong ) {
 }
 
 TEST_F( StateWriterTest, beginsANewLifeOfWhateverLiesThere ) {
-   writer.load( { { "evpn/status", { { "mplsEnabled", "true" } } }, { vxlan1Path, {} } } );
+   store.load( { { "evpn/status", { { "mplsEnabled", "true" } } }, { vxlan1Path, {} } } );
    auto const before = lastEntry( server );
    auto const epoch = std::string( server.ask( { "GET", epochKey } ).text() );
    server.ask( { "HSET", "l3sm:{1}:vxlan/ecnConfig", "stale", "1" } ); // no path of the state
-   writer.load( { { "evpn/status", {} }, { "vxlan/ecnConfig", {} } } );
+   store.load( { { "evpn/status", {} }, { "vxlan/ecnConfig", {} } } );
    EXPECT_EQ( stateIn( server ), ( Paths{ { "evpn/status", {} }, { "vxlan/ecnConfig", {} } } ) );
    EXPECT_EQ( server.ask( { "EXISTS", "l3sm:{1}:" + vxlan1Path } ).number(), 0 );
    EXPECT_NE( server.ask( { "GET", epochKey } ).text(), epoch );
@@ -123,12 +125,12 @@ TEST_F( StateWriterTest, beginsANewLifeOfWhateverLiesThere ) {
       server.ask( { "DEL", key } );
       server.ask( { key == epochKey ? "SADD" : "SET", key, "of a wrong kind" } );
    }
-   writer.load( { { "evpn/status", {} } } );
+   store.load( { { "evpn/status", {} } } );
    EXPECT_EQ( stateIn( server ), ( Paths{ { "evpn/status", {} } } ) );
 }
 
 TEST_F( StateWriterTest, takesTurnsWithOthers ) {
-   writer.load( { { "evpn/status", {} }, { "interface/config/global", {} }, { "interface/status/eth/vxlan", {} } } );
+   store.load( { { "evpn/status", {} }, { "interface/config/global", {} }, { "interface/status/eth/vxlan", {} } } );
    RedisFollower follower( server );
    ASSERT_TRUE( follower.untilFollowing() );
    constexpr std::size_t each = 200;
@@ -158,9 +160,9 @@ TEST_F( StateWriterTest, loadsAsManyInterfacesAsThereCanBe ) {
    for ( std::size_t at = 0; at < many; ++at ) {
       paths["interface/status/subintf/intfStatus/Ethernet1." + std::to_string( at )] = { { "mtu", "1500" } };
    }
-   writer.load( paths );
+   store.load( paths );
    EXPECT_EQ( server.ask( { "SCARD", pathsKey } ).number(), many + 1 );
-   EXPECT_EQ( writer.snapshot().paths, paths );
+   EXPECT_EQ( store.snapshot( "" ).paths, paths );
 }
 
 } // namespace
