@@ -17,10 +17,6 @@ using Rex::ValueError;
 constexpr unsigned mostTries = 1000;
 constexpr char const * longestLog = "100000";
 
-bool isBelow( std::string const & path, std::string const & owner ) {
-   return path.size() > owner.size() && path.starts_with( owner ) && path[owner.size()] == '/';
-}
-
 std::string saidOf( ValueError const & error ) {
    std::string all;
    for ( auto const & fault : error.faults() ) {
@@ -152,7 +148,7 @@ Paths StateWriter::pathsAbout( std::string const & path ) {
    session_.ask( { "SMEMBERS", layout_.paths() }, [&]( RedisReply reply ) {
       for ( RedisReply const name : reply ) {
          std::string const text( name.text() );
-         if ( text == path || isBelow( text, path ) || isBelow( path, text ) ) {
+         if ( isAtOrBelow( text, path ) || isAtOrBelow( path, text ) ) {
             names.push_back( text );
          }
       }
@@ -160,11 +156,8 @@ Paths StateWriter::pathsAbout( std::string const & path ) {
    session_.wait();
    Paths paths;
    for ( auto const & name : names ) {
-      session_.ask( { "HGETALL", layout_.hash( name ) }, [&attributes = paths[name]]( RedisReply fields ) {
-         for ( std::size_t at = 0; at + 1 < fields.size(); at += 2 ) {
-            attributes.emplace( fields[at].text(), fields[at + 1].text() );
-         }
-      } );
+      session_.ask( { "HGETALL", layout_.hash( name ) },
+                    [&attributes = paths[name]]( RedisReply fields ) { attributes = attributesOf( fields ); } );
    }
    session_.wait();
    return paths;

@@ -41,10 +41,6 @@ struct Options {
    std::optional< std::string > keyIfAny() const { return key.empty() ? std::nullopt : std::optional( key ); }
 };
 
-bool isAtOrBelow( std::string const & path, std::string const & owner ) {
-   return path.starts_with( owner ) && ( path.size() == owner.size() || path[owner.size()] == '/' );
-}
-
 // What is no JSON is a text.
 Rex::Value valueOfWord( std::string const & text ) {
    try {
