@@ -79,6 +79,8 @@ class SliceAgent final : private Database::Follower {
    // The state that the chips are to follow, wrong values included.
    Paths const & held() const { return held_; }
    StateDoor::Rejected const & rejected() const { return door_.rejected(); }
+   // The first of them.
+   Rex::Value rejectedTold() const { return door_.told(); }
    // Transactions that were taken and not played yet.
    std::size_t waiting() const { return waiting_.size(); }
    Paths const & published() const { return published_.all(); }

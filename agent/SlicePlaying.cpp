@@ -10,21 +10,6 @@ using Inspection::Event;
 // So long transactions are played before others have their turn.
 constexpr Rex::Seconds longestTurn = 0.005;
 
-// How many rejected places are told in the database; all of them can be asked for.
-constexpr std::size_t mostTold = 100;
-
-std::string toldOf( StateDoor::Rejected const & rejected ) {
-   Rex::Value::Object told;
-   for ( auto const & [place, what] : rejected ) {
-      if ( told.size() == mostTold ) {
-         told["..."] = std::to_string( rejected.size() - mostTold ) + " more";
-         break;
-      }
-      told[place] = what;
-   }
-   return Rex::toText( told );
-}
-
 } // namespace
 
 void SliceAgent::playWaiting() {
@@ -126,7 +111,7 @@ void SliceAgent::report( bool isWhole ) {
    report.fields = { { "phase", std::string( nameOf( phase_ ) ) },
                      { "reason", reason_ },
                      { "drift", "0" },
-                     { "rejected", rejected().empty() ? "{}" : toldOf( rejected() ) },
+                     { "rejected", rejected().empty() ? "{}" : Rex::toText( door_.told() ) },
                      { "version", version_ } };
    if ( isWhole ) {
       published_.takeChanged();

@@ -5,7 +5,6 @@ namespace Live {
 namespace {
 
 using Inspection::Event;
-using Rex::Value;
 
 std::string placeIn( Event const & change ) {
    return change.path + ( change.attribute ? " " + *change.attribute : "" ) +
@@ -16,10 +15,8 @@ std::string placeIn( Event const & change ) {
 // go is gone.
 void changeWhereNothingStands( Simulator::StateTree & state, Event const & event ) {
    PathPlace const place = placeOf( event.path );
-   bool const isMember = !place.attribute.empty() && !place.key.empty();
-   if ( event.kind == Event::Kind::set && isMember ) {
-      Value const value = event.key ? Value::Object{ { *event.key, event.value } } : event.value;
-      state.entryIs( place.owner, place.attribute, place.key, Value::Object{ { *event.attribute, value } } );
+   if ( event.kind == Event::Kind::set && place.isMember() ) {
+      makingItsMember( event, place ).change( state );
    } else if ( event.kind == Event::Kind::set ) {
       event.change( state ); // which tells what is wrong
    }
@@ -38,7 +35,22 @@ void change( Simulator::StateTree & state, Event const & event ) {
    }
 }
 
+// How many rejected places are told; all of them can be asked for.
+constexpr std::size_t mostTold = 100;
+
 } // namespace
+
+Rex::Value StateDoor::told() const {
+   Rex::Value::Object told;
+   for ( auto const & [place, what] : rejected_ ) {
+      if ( told.size() == mostTold ) {
+         told["..."] = std::to_string( rejected_.size() - mostTold ) + " more";
+         break;
+      }
+      told[place] = what;
+   }
+   return told;
+}
 
 void StateDoor::set( Event const & event ) {
    try {
@@ -50,25 +62,25 @@ void StateDoor::set( Event const & event ) {
    if ( !rejected_.empty() ) {
       rejected_.erase( placeIn( event ) );
       if ( event.kind == Event::Kind::remove && !event.attribute ) {
-         std::erase_if( rejected_, [&]( auto const & it ) { return it.first.starts_with( event.path ); } );
+         std::erase_if( rejected_, [&]( auto const & it ) {
+            return isAtOrBelow( it.first.substr( 0, it.first.find( ' ' ) ), event.path );
+         } );
       }
    }
 }
 
+void StateDoor::set( std::vector< Event > const & changes ) {
+   for ( Event const & one : changes ) {
+      set( one );
+   }
+}
+
 void StateDoor::prepare( std::vector< Event > const & changes ) {
-   sw_.change( [&] {
-      for ( Event const & one : changes ) {
-         set( one );
-      }
-   } );
+   sw_.change( [&] { set( changes ); } );
 }
 
 void StateDoor::play( std::vector< Event > const & changes ) {
-   auto const all = [&] {
-      for ( Event const & one : changes ) {
-         set( one );
-      }
-   };
+   auto const all = [&] { set( changes ); };
    if ( changes.size() == 1 ) {
       sw_.change( all, changes.front().cause(), valueOf( changes.front() ) );
    } else if ( !changes.empty() ) {

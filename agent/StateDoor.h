@@ -28,11 +28,14 @@ class StateDoor {
    // Something is wrong with what stands at a place, told by others.
    void reject( std::string const & place, std::string const & what ) { rejected_[place] = what; }
    Rejected const & rejected() const { return rejected_; }
+   // The first hundred of them, and how many more there are.
+   Rex::Value told() const;
    // Everything is judged anew: a whole state follows.
    void forget() { rejected_.clear(); }
 
  private:
    void set( Inspection::Event const & change );
+   void set( std::vector< Inspection::Event > const & changes );
 
    Simulator::SimulatedSwitch & sw_;
    Rejected rejected_;

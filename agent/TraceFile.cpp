@@ -1,5 +1,6 @@
 #include "agent/TraceFile.h"
 
+#include "agent/control/AgentCommands.h"
 #include "inspection/files/InputFile.h"
 
 #include <sstream>
@@ -11,6 +12,7 @@ namespace {
 using Inspection::InputError;
 
 struct Wanted {
+   std::size_t line;
    std::string facility;
    std::string level;
 };
@@ -33,7 +35,7 @@ std::vector< Wanted > wantedIn( std::string const & path ) {
          if ( slash == std::string::npos || slash == 0 || slash + 1 == part.size() ) {
             throw InputError( path + ":" + std::to_string( number ), "expected FACILITY/LEVEL, got \"" + part + "\"" );
          }
-         all.push_back( { part.substr( 0, slash ), part.substr( slash + 1 ) } );
+         all.push_back( { number, part.substr( 0, slash ), part.substr( slash + 1 ) } );
       }
    }
    return all;
@@ -47,15 +49,18 @@ void TraceFile::read() const {
    }
    auto const wanted = wantedIn( path_ );
    Command const & set = commands_.named( "trace set" );
-   auto const to = [&]( std::string const & facility, std::string const & level ) {
+   for ( auto const & [line, facility, level] : wanted ) {
       try {
-         set.answer( Arguments( set, Rex::Value::List{ facility, level } ) );
+         checkTrace( facility, level );
       } catch ( CommandError const & error ) {
-         throw InputError( path_, error.what() );
+         throw InputError( path_ + ":" + std::to_string( line ), error.what() );
       }
+   }
+   auto const to = [&]( std::string const & facility, std::string const & level ) {
+      set.answer( Arguments( set, Rex::Value::List{ facility, level } ) );
    };
    to( "*", "off" );
-   for ( auto const & [facility, level] : wanted ) {
+   for ( auto const & [line, facility, level] : wanted ) {
       to( facility, level );
    }
 }

@@ -19,10 +19,6 @@ using namespace Live;
 
 namespace {
 
-bool isAtOrBelow( std::string const & path, std::string const & owner ) {
-   return path.starts_with( owner ) && ( path.size() == owner.size() || path[owner.size()] == '/' );
-}
-
 // Whether an event touches what stands at a path, or below it.
 bool touches( Event const & event, std::string const & path ) {
    std::string const place =

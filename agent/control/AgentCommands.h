@@ -31,6 +31,9 @@ struct AgentSubjects {
 // A list of events, as a scenario has them. CommandError names the argument "events" and the place in it.
 std::vector< Inspection::Event > eventsOf( Rex::Value const & list );
 
+// Throws CommandError for a facility or a level that "trace set" refuses.
+void checkTrace( std::string const & facility, std::string const & level );
+
 // All groups.
 void addAgentCommands( Commands & commands, AgentSubjects const & subjects );
 

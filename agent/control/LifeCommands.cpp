@@ -4,7 +4,6 @@
 #include "inspection/files/InputError.h"
 
 #include <algorithm>
-#include <chrono>
 #include <memory>
 
 namespace Live {
@@ -13,17 +12,14 @@ namespace {
 
 using Rex::Value;
 
-constexpr std::size_t mostRejected = 100; // that are told; the number of all is too
-constexpr double milliseconds = 1000;     // in a second
+constexpr double milliseconds = 1000; // in a second
 
 // How long the last transaction took from its writer to the chips, by the clock that both have.
 class Lag final : public AgentOnlooker {
  public:
    void transactionPlayed( Transaction const & transaction, Rex::Seconds ) override {
-      using namespace std::chrono;
-      if ( transaction.written > 0 ) {
-         auto const now = duration< double >( system_clock::now().time_since_epoch() ).count();
-         last_ = static_cast< std::int64_t >( ( now - transaction.written ) * milliseconds );
+      if ( auto const lag = transaction.lag() ) {
+         last_ = static_cast< std::int64_t >( *lag * milliseconds );
       }
    }
    Value value() const { return last_ ? Value( *last_ ) : Value(); }
@@ -31,17 +27,6 @@ class Lag final : public AgentOnlooker {
  private:
    std::optional< std::int64_t > last_;
 };
-
-Value rejectedOf( SliceAgent const & agent ) {
-   Value::Object told;
-   for ( auto const & [place, what] : agent.rejected() ) {
-      if ( told.size() == mostRejected ) {
-         break;
-      }
-      told[place] = what;
-   }
-   return told;
-}
 
 Value statusOf( AgentSubjects const & subjects, Lag const & lag ) {
    SliceAgent const & agent = subjects.agent;
@@ -64,7 +49,7 @@ Value statusOf( AgentSubjects const & subjects, Lag const & lag ) {
       { "uptime", seconds( Rex::now() - subjects.begun ) },
    };
    if ( !agent.rejected().empty() ) {
-      status["rejectedPlaces"] = rejectedOf( agent );
+      status["rejectedPlaces"] = agent.rejectedTold();
    }
    return status;
 }

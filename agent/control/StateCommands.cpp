@@ -31,7 +31,7 @@ Answer transacted( AgentSubjects const & subjects, std::vector< Event > changes 
 
 // What of the state lies at a path and below it, of all of it.
 Value::Object below( Value::Object all, std::string const & path ) {
-   std::erase_if( all, [&]( auto const & it ) { return it.first != path && !it.first.starts_with( path + "/" ); } );
+   std::erase_if( all, [&]( auto const & it ) { return !isAtOrBelow( it.first, path ); } );
    return all;
 }
 
@@ -58,15 +58,7 @@ Answer stateAt( SliceAgent const & agent, std::optional< std::string > const & p
 } // namespace
 
 std::vector< Event > eventsOf( Value const & list ) {
-   return Arguments::reading( "events", [&] {
-      std::vector< Event > events;
-      for ( Value const & value : Inspection::listOf( list ) ) {
-         Event & event = events.emplace_back();
-         event.number = static_cast< U32 >( events.size() );
-         Rex::below( std::to_string( event.number - 1 ), [&] { Inspection::readEvent( value, event ); } );
-      }
-      return events;
-   } );
+   return Arguments::reading( "events", [&] { return Inspection::eventsIn( list ); } );
 }
 
 void addStateCommands( Commands & commands, AgentSubjects const & subjects ) {

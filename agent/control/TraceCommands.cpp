@@ -51,6 +51,11 @@ int levelOf( std::string const & text ) {
 
 } // namespace
 
+void checkTrace( std::string const & facility, std::string const & level ) {
+   check( facility );
+   levelOf( level );
+}
+
 void addTraceCommands( Commands & commands ) {
    auto const levels = std::make_shared< std::map< std::string, int > >();
    auto const list = [levels]() -> Value {

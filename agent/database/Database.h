@@ -45,6 +45,9 @@ struct Transaction {
    std::vector< std::string > unreadable = {};
    // When it was written, in seconds since the epoch of Unix as the database's clock has it; 0: it doesn't tell.
    double written = 0;
+
+   // How long ago that was by our clock, in seconds; what lies ahead of it is no lag. None where it isn't told.
+   std::optional< Rex::Seconds > lag() const;
 };
 
 // What an agent tells of itself, whole: the fields that others read beside the state.

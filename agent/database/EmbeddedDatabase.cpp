@@ -27,32 +27,22 @@ void checkValue( Event const & event ) {
 
 } // namespace
 
-EmbeddedDatabase::EmbeddedDatabase( EventLoop & loop, Paths paths )
-   : loop_( loop ), paths_( std::move( paths ) ), isAsked_( std::make_shared< bool >( true ) ) {}
+EmbeddedDatabase::EmbeddedDatabase( EventLoop & loop, Paths paths ) : loop_( loop ), paths_( std::move( paths ) ) {}
 
 Position EmbeddedDatabase::position() const {
    return { "embedded", "embedded", std::to_string( entry_ ) };
 }
 
-void EmbeddedDatabase::answer( std::function< void() > what ) {
-   loop_.soon( [isAsked = isAsked_, does = std::move( what )] {
-      if ( *isAsked ) {
-         does();
-      }
-   } );
-}
-
 void EmbeddedDatabase::stop() {
-   *isAsked_ = false;
-   isAsked_ = std::make_shared< bool >( true );
+   tether_.cut();
    isFollowed_ = false;
 }
 
 void EmbeddedDatabase::snapshot() {
-   answer( [this] {
+   loop_.soon( tether_.of( [this] {
       waiting_.clear();
       follower()->snapshotIs( { position(), paths_ } );
-   } );
+   } ) );
 }
 
 void EmbeddedDatabase::since( Position const & position ) {
@@ -64,12 +54,12 @@ void EmbeddedDatabase::since( Position const & position ) {
 
 void EmbeddedDatabase::hand() {
    if ( isFollowed_ && !waiting_.empty() ) {
-      answer( [this] {
+      loop_.soon( tether_.of( [this] {
          if ( isFollowed_ && !waiting_.empty() ) {
             isFollowed_ = false;
             follower()->transactionsAre( waiting_ ); // until it asks for what comes behind them
          }
-      } );
+      } ) );
    }
 }
 

@@ -8,6 +8,7 @@
 
 #include "agent/EventLoop.h"
 #include "agent/database/Database.h"
+#include "agent/database/Tether.h"
 
 namespace Live {
 
@@ -28,14 +29,13 @@ class EmbeddedDatabase final : public Database {
  private:
    Position position() const;
    void hand();
-   void answer( std::function< void() > what );
 
    EventLoop & loop_;
    Paths paths_;
    U64 entry_ = 0;
    std::vector< Transaction > waiting_; // that nobody has asked beyond
    bool isFollowed_ = false;
-   std::shared_ptr< bool > isAsked_; // false: what was asked for is off
+   Tether tether_; // of what was asked for
 };
 
 } // namespace Live

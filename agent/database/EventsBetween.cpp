@@ -11,17 +11,7 @@ using Rex::TypeData;
 using Rex::Value;
 using Rex::ValueError;
 
-std::string const none = "null"; // an attribute that holds no entity
-
-bool isBelow( std::string const & path, std::string const & owner ) {
-   return path.size() > owner.size() && path.starts_with( owner ) && path[owner.size()] == '/';
-}
-
-void checkAttribute( TypeData const & type, std::string const & name ) {
-   if ( !Rex::attributeOf( type, name ).canBeSet() ) {
-      throw ValueError( "", name + " only refers to entities that stand elsewhere" );
-   }
-}
+constexpr char const * noEntity = "null"; // the text of an attribute that holds none
 
 // The way from one state to the other.
 class Way {
@@ -31,7 +21,7 @@ class Way {
 
    std::vector< Event > events() {
       for ( auto const & [path, attributes] : from_ ) {
-         if ( !to_.contains( path ) && !isBelow( path, gone_ ) ) {
+         if ( !to_.contains( path ) && !isAtOrBelow( path, gone_ ) ) {
             looking( path, [&, at = path, was = &attributes] { goes( at, *was ); } );
          }
       }
@@ -90,8 +80,8 @@ class Way {
          return;
       }
       PathPlace const place = placeOf( path );
-      bool const isNew = had == from_.end() && !place.isRoot() && !place.attribute.empty() && !place.key.empty();
-      if ( had == from_.end() && held( place.owner, place.attribute ) == none ) {
+      bool const isNew = had == from_.end() && place.isMember();
+      if ( had == from_.end() && held( place.owner, place.attribute ) == noEntity ) {
          events_.push_back( { .path = place.owner, .attribute = place.attribute, .value = Value::Object() } );
       }
       if ( had == from_.end() && !place.isRoot() && place.attribute.empty() ) {
@@ -106,7 +96,7 @@ class Way {
             }
          }
          try {
-            checkAttribute( *place.type, name );
+            settableAttribute( *place.type, name );
             Value value = valueOfText( text );
             if ( isNew ) {
                all[name] = std::move( value );

@@ -40,9 +40,7 @@ std::vector< Root > const & roots() {
 Root const & rootOf( std::string const & path ) {
    Root const * longest = nullptr;
    for ( Root const & root : roots() ) {
-      bool const leads =
-         path.starts_with( root.path ) && ( path.size() == root.path.size() || path[root.path.size()] == '/' );
-      if ( leads && ( !longest || root.path.size() > longest->path.size() ) ) {
+      if ( isAtOrBelow( path, root.path ) && ( !longest || root.path.size() > longest->path.size() ) ) {
          longest = &root;
       }
    }
@@ -76,6 +74,28 @@ std::size_t endOfKey( TypeData const & type, std::string const & path, std::size
 
 } // namespace
 
+bool isAtOrBelow( std::string const & path, std::string const & owner ) {
+   return path.starts_with( owner ) && ( path.size() == owner.size() || path[owner.size()] == '/' );
+}
+
+Attribute const & settableAttribute( TypeData const & type, std::string const & name ) {
+   auto const & attribute = Rex::attributeOf( type, name );
+   if ( !attribute.canBeSet() ) {
+      throw ValueError( "", name + " only refers to entities that stand elsewhere" );
+   }
+   return attribute;
+}
+
+Inspection::Event makingItsMember( Inspection::Event const & event, PathPlace const & place ) {
+   Rex::Value const value = event.key ? Rex::Value::Object{ { *event.key, event.value } } : event.value;
+   Inspection::Event making = event;
+   making.path = place.owner;
+   making.attribute = place.attribute;
+   making.key = place.key;
+   making.value = Rex::Value::Object{ { *event.attribute, value } };
+   return making;
+}
+
 PathPlace placeOf( std::string const & path ) {
    Root const & root = rootOf( path );
    PathPlace place{ .type = root.type, .entries = root.entries };
@@ -103,7 +123,7 @@ PathPlace placeOf( std::string const & path ) {
             place.key = path.substr( key, at - key );
          }
       }
-      if ( from == path.size() || ( !place.key.empty() ? false : place.attribute.empty() ) ) {
+      if ( from == path.size() || ( place.key.empty() && place.attribute.empty() ) ) {
          refuse( "\"" + path + "\" ends in a slash" );
       }
    }

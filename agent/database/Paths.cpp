@@ -15,19 +15,6 @@ using Rex::ValueError;
 using Kind = PathChange::Kind;
 using PathChanges = std::vector< PathChange >;
 
-Attribute const & attributeAt( TypeData const & type, std::string const & name ) {
-   auto const & attribute =
-      Rex::below( "attribute", [&]() -> Attribute const & { return Rex::attributeOf( type, name ); } );
-   if ( !attribute.canBeSet() ) {
-      throw ValueError( "/attribute", name + " only refers to entities that stand elsewhere" );
-   }
-   return attribute;
-}
-
-bool isBelow( std::string const & path, std::string const & owner ) {
-   return path.size() > owner.size() && path.starts_with( owner ) && path[owner.size()] == '/';
-}
-
 // Takes entities apart into paths.
 class Flattening {
  public:
@@ -75,7 +62,8 @@ class Changing {
       } else if ( place.entries ) {
          throw ValueError( "/path", event_.path + " is a directory: name one of its entries in the path" );
       } else {
-         Attribute const & attribute = attributeAt( *place.type, *event_.attribute );
+         Attribute const & attribute = Rex::below(
+            "attribute", [&]() -> Attribute const & { return settableAttribute( *place.type, *event_.attribute ); } );
          event_.key ? entry( attribute ) : whole( attribute );
       }
       return std::move( changes_ );
@@ -145,7 +133,7 @@ PathLookup::PathLookup( Paths const & paths )
         if ( paths.contains( path ) ) {
            found.push_back( path );
         }
-        for ( auto at = paths.lower_bound( path + "/" ); at != paths.end() && isBelow( at->first, path ); ++at ) {
+        for ( auto at = paths.lower_bound( path + "/" ); at != paths.end() && isAtOrBelow( at->first, path ); ++at ) {
            found.push_back( at->first );
         }
         return found;

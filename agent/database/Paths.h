@@ -8,8 +8,7 @@
 //    for ( PathChange const & change : pathChangesOf( event, paths ) ) {          // what an event does to them
 //       apply( change, paths );
 //    }
-//    eventsBetween( held, wanted, base );                                         // and back: events that lead from
-//    one to the other
+//    eventsBetween( held, wanted, wrong );                                        // events that lead to another state
 //
 // A path may stand there without attributes: an entity whose attributes are all at their defaults. An attribute that
 // holds an entity stands at its owner's path only where it holds none: as `null`.
@@ -42,10 +41,16 @@ struct PathPlace {
    std::string key = {};       // of a member of a collection, or the name in a directory
 
    bool isRoot() const { return owner.empty(); }
+   bool isMember() const { return !attribute.empty() && !key.empty(); }
 };
 
 // Throws Rex::ValueError, its place "/path", for a path at which nothing can stand, or that others can't set.
 PathPlace placeOf( std::string const & path );
+bool isAtOrBelow( std::string const & path, std::string const & owner );
+// Throws Rex::ValueError for a name that the type doesn't have, or that others can't set.
+Rex::Attribute const & settableAttribute( Rex::TypeData const & type, std::string const & name );
+// How what is set in a member of a collection makes a member that isn't there.
+Inspection::Event makingItsMember( Inspection::Event const & event, PathPlace const & place );
 
 // What is done to one path.
 struct PathChange {

@@ -41,14 +41,16 @@ Position RecordedDatabase::positionOf( RecordedEvent const & event ) const {
 }
 
 void RecordedDatabase::snapshot() {
-   answer( [this] {
+   stop();
+   loop_.soon( tether_.of( [this] {
       rewind();
       follower()->snapshotIs( begun_ );
-   } );
+   } ) );
 }
 
 void RecordedDatabase::since( Position const & position ) {
-   answer( [this, position] { hand( position ); } );
+   stop();
+   loop_.soon( tether_.of( [this, position] { hand( position ); } ) );
 }
 
 void RecordedDatabase::hand( Position const & position ) {
@@ -60,12 +62,7 @@ void RecordedDatabase::hand( Position const & position ) {
    while ( ahead_ && !ahead_->isBegin && next.size() < atOnce ) {
       Event event;
       inFile( path_, [&] { readEvent( ahead_->what, event ); } );
-      Transaction transaction{ .position = positionOf( *ahead_ ), .changes = {} };
-      if ( event.kind == Event::Kind::transaction ) {
-         transaction.changes = std::move( event.changes );
-      } else {
-         transaction.changes.push_back( std::move( event ) );
-      }
+      Transaction transaction{ .position = positionOf( *ahead_ ), .changes = changesOf( std::move( event ) ) };
       told_ = transaction.position;
       next.push_back( std::move( transaction ) );
       ahead_ = segments_->next();
@@ -73,22 +70,6 @@ void RecordedDatabase::hand( Position const & position ) {
    isAtEnd_ = next.empty();
    if ( !next.empty() ) {
       follower()->transactionsAre( std::move( next ) );
-   }
-}
-
-void RecordedDatabase::answer( std::function< void() > what ) {
-   stop();
-   isAsked_ = std::make_shared< bool >( true );
-   loop_.soon( [isAsked = isAsked_, does = std::move( what )] {
-      if ( std::exchange( *isAsked, false ) ) {
-         does();
-      }
-   } );
-}
-
-void RecordedDatabase::stop() {
-   if ( isAsked_ ) {
-      *isAsked_ = false;
    }
 }
 

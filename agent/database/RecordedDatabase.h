@@ -11,6 +11,7 @@
 
 #include "agent/EventLoop.h"
 #include "agent/database/Database.h"
+#include "agent/database/Tether.h"
 #include "agent/recording/RecordedSegments.h"
 
 namespace Live {
@@ -23,14 +24,13 @@ class RecordedDatabase final : public Database {
    void snapshot() override;
    void since( Position const & position ) override;
    void publish( Report const & ) override {}
-   void stop() override;
+   void stop() override { tether_.cut(); }
 
    // Everything was told.
    bool isAtEnd() const { return isAtEnd_; }
 
  private:
    void rewind();
-   void answer( std::function< void() > what );
    void hand( Position const & position );
    Position positionOf( Inspection::RecordedEvent const & event ) const;
 
@@ -41,7 +41,7 @@ class RecordedDatabase final : public Database {
    Snapshot begun_;
    Position told_; // behind what was told
    bool isAtEnd_ = false;
-   std::shared_ptr< bool > isAsked_; // false: what was asked for is off
+   Tether tether_; // of what was asked for
 };
 
 } // namespace Live

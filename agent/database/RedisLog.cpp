@@ -7,7 +7,7 @@ namespace Live {
 namespace {
 
 constexpr std::size_t pageSize = 1000;
-constexpr char const * pageSizeText = "1000";
+std::string const pageSizeText = std::to_string( pageSize );
 
 std::optional< EntryId > idOf( RedisReply entries ) {
    return entries.size() == 0 ? std::nullopt : std::optional( EntryId::of( entries[0][0].text() ) );

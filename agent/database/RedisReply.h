@@ -9,6 +9,8 @@
 
 #include <cstddef>
 #include <hiredis/hiredis.h>
+#include <map>
+#include <string>
 #include <string_view>
 
 namespace Live {
@@ -56,5 +58,14 @@ class RedisReply {
  private:
    redisReply const * reply_ = nullptr;
 };
+
+// A hash, told as name, text, name, text.
+inline std::map< std::string, std::string > attributesOf( RedisReply fields ) {
+   std::map< std::string, std::string > attributes;
+   for ( std::size_t at = 0; at + 1 < fields.size(); at += 2 ) {
+      attributes.emplace( fields[at].text(), fields[at + 1].text() );
+   }
+   return attributes;
+}
 
 } // namespace Live

@@ -68,10 +68,7 @@ void RedisSnapshot::pathIs( std::string const & path, RedisReply fields ) {
    if ( fields.isError() ) {
       snapshot_.unreadable[path] = layout_.hash( path ) + " is no hash: " + std::string( fields.text() );
    } else {
-      auto & attributes = snapshot_.paths.emplace_hint( snapshot_.paths.end(), path, Attributes{} )->second;
-      for ( std::size_t at = 0; at + 1 < fields.size(); at += 2 ) {
-         attributes.emplace( fields[at].text(), fields[at + 1].text() );
-      }
+      snapshot_.paths.emplace_hint( snapshot_.paths.end(), path, attributesOf( fields ) );
    }
    --open_;
    if ( asked_ == names_.size() && open_ == 0 ) {

@@ -11,18 +11,6 @@ namespace {
 
 constexpr char const * longestLog = "100000";
 
-bool isAtOrBelow( std::string const & path, std::string const & owner ) {
-   return path.starts_with( owner ) && ( path.size() == owner.size() || path[owner.size()] == '/' );
-}
-
-Attributes attributesOf( RedisReply fields ) {
-   Attributes attributes;
-   for ( std::size_t at = 0; at + 1 < fields.size(); at += 2 ) {
-      attributes.emplace( fields[at].text(), fields[at + 1].text() );
-   }
-   return attributes;
-}
-
 } // namespace
 
 // ---- looking

@@ -62,21 +62,12 @@ std::vector< Event > eventsOfFile( std::string const & path ) {
    JsonText text( inputName( path ), readFile( path ) );
    Value const value = text.take();
    std::vector< Event > events;
-   auto const read = [&]( Value const & list ) {
-      Rex::ValueErrors errors;
-      for ( Value const & each : listOf( list ) ) {
-         Event & event = events.emplace_back();
-         event.number = static_cast< U32 >( events.size() );
-         errors.below( std::to_string( events.size() - 1 ), [&] { readEvent( each, event ); } );
-      }
-      errors.end();
-   };
    text.reading( [&] {
       auto const * const object = value.object();
       if ( value.list() ) {
-         read( value );
+         events = eventsIn( value );
       } else if ( object && object->contains( "events" ) ) {
-         Rex::below( "events", [&] { read( object->at( "events" ) ); } );
+         Rex::below( "events", [&] { events = eventsIn( object->at( "events" ) ); } );
       } else {
          throw Rex::ValueError( "", "expected a scenario with \"events\", or a list of events" );
       }

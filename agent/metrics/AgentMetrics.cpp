@@ -1,8 +1,5 @@
 #include "agent/metrics/AgentMetrics.h"
 
-#include <algorithm>
-#include <chrono>
-
 namespace Live {
 
 void AgentMetrics::phaseIs( Phase phase, std::string const & ) {
@@ -20,10 +17,8 @@ void AgentMetrics::snapshotPlayed( Position const &, Paths const & ) {
 void AgentMetrics::transactionPlayed( Transaction const & transaction, Rex::Seconds duration ) {
    metrics_.eventTook( duration );
    metrics_.is( Metric::rejectedEntries, static_cast< double >( agent_.rejected().size() ) );
-   if ( transaction.written > 0 ) {
-      // The database's clock is another machine's: what lies ahead of ours is no lag.
-      std::chrono::duration< double > const now = std::chrono::system_clock::now().time_since_epoch();
-      metrics_.is( Metric::databaseLag, std::max( now.count() - transaction.written, 0.0 ) );
+   if ( auto const lag = transaction.lag() ) {
+      metrics_.is( Metric::databaseLag, *lag );
    }
 }
 

@@ -23,10 +23,10 @@ class LastEvent final : public Simulator::RowReader {
    OperationHash hash;
 };
 
-std::vector< Event > changesOf( Value const & what, std::string const & file ) {
+std::vector< Event > changesIn( Value const & what, std::string const & file ) {
    Event event;
    inFile( file, [&] { readEvent( what, event ); } );
-   return event.kind == Event::Kind::transaction ? std::move( event.changes ) : std::vector< Event >{ event };
+   return changesOf( std::move( event ) );
 }
 
 // Puts in zeros where nothing is to stand: what a start has written that the agent's chips don't have.
@@ -72,7 +72,7 @@ class Replayed {
       if ( event.what.object() && event.what.object()->contains( "start" ) ) {
          sw_.start();
       } else {
-         door_.play( changesOf( event.what, scenario_.file ) );
+         door_.play( changesIn( event.what, scenario_.file ) );
       }
       return last_.hash;
    }

@@ -30,12 +30,8 @@ class State {
          if ( event.kind == Event::Kind::remove && !event.attribute && !isThere ) {
             return std::nullopt;
          }
-         if ( event.kind == Event::Kind::set && !place.attribute.empty() && !place.key.empty() && !isThere ) {
-            Value const value = event.key ? Value::Object{ { *event.key, event.value } } : event.value;
-            event.value = Value::Object{ { *event.attribute, value } };
-            event.path = place.owner;
-            event.attribute = place.attribute;
-            event.key = place.key;
+         if ( event.kind == Event::Kind::set && place.isMember() && !isThere ) {
+            event = makingItsMember( event, place );
          }
          event.change( tree_ );
          return event;
@@ -81,9 +77,8 @@ Value scenarioOfRecording( std::string const & path, std::vector< std::string > 
       }
       Event read;
       inFile( segments.path(), [&] { readEvent( event->what, read ); } );
-      auto const all = read.kind == Event::Kind::transaction ? std::move( read.changes ) : std::vector< Event >{ read };
       Event out{ .kind = Event::Kind::transaction };
-      for ( Event const & change : all ) {
+      for ( Event const & change : changesOf( std::move( read ) ) ) {
          if ( auto taken = state->taken( change ) ) {
             out.changes.push_back( std::move( *taken ) );
          }

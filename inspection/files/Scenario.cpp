@@ -31,6 +31,14 @@ std::string Event::text() const {
    return out;
 }
 
+std::vector< Event > changesOf( Event event ) {
+   std::vector< Event > all = std::move( event.changes );
+   if ( event.kind != Event::Kind::transaction ) {
+      all.push_back( std::move( event ) );
+   }
+   return all;
+}
+
 void Event::change( Simulator::StateTree & state ) const {
    if ( kind == Kind::transaction ) {
       for ( std::size_t at = 0; at < changes.size(); ++at ) {

@@ -41,6 +41,9 @@ struct Event {
    void change( Simulator::StateTree & state ) const;
 };
 
+// One by one: a transaction's, or itself.
+std::vector< Event > changesOf( Event event );
+
 // Something in a scenario that no switch would be like.
 struct Warning {
    std::string place; // "scenario.json:7:31"

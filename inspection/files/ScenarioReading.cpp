@@ -122,6 +122,18 @@ void readParts( Value & value, Scenario & scenario ) {
    errors.end();
 }
 
+std::vector< Event > eventsIn( Value const & list ) {
+   std::vector< Event > events;
+   ValueErrors errors;
+   for ( Value const & value : listOf( list ) ) {
+      Event & event = events.emplace_back();
+      event.number = static_cast< U32 >( events.size() );
+      errors.below( std::to_string( events.size() - 1 ), [&] { readEvent( value, event ); } );
+   }
+   errors.end();
+   return events;
+}
+
 void readEvent( Value const & value, Event & event ) {
    Fields kinds( value );
    if ( kinds.find( "fault" ) ) {

@@ -9,5 +9,7 @@ namespace Inspection {
 // Everything but the events, which stay in the value. The state is taken out of it.
 void readParts( Rex::Value & value, Scenario & scenario );
 void readEvent( Rex::Value const & value, Event & event );
+// Of a list, numbered from 1; all or none.
+std::vector< Event > eventsIn( Rex::Value const & list );
 
 } // namespace Inspection

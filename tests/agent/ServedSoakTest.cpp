@@ -4,8 +4,8 @@
 // L3SM_SOAK=N writes N transactions instead of 150.
 #include "Served.h"
 #include "agent/RedisServer.h"
-#include "agent/database/StateFile.h"
 #include "agent/database/Databases.h"
+#include "agent/database/StateFile.h"
 #include "agent/database/StateWriter.h"
 #include "inspection/FileDifferences.h"
 #include "inspection/KnownMemories.h"
