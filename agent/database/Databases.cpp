@@ -17,9 +17,10 @@ RedisAddress redisAddressOf( std::string const & url, DatabaseCredentials const 
                                     "etcds://" );
    }
    if ( credentials != DatabaseCredentials() ) {
-      throw Inspection::InputError( std::string( "--database-… is for etcd; the password of a Redis comes from the "
-                                                 "environment, " ) +
-                                    redisPasswordVariable );
+      throw Inspection::InputError(
+         std::string( "--database-user and its like are for etcd; the password of a Redis comes from the "
+                      "environment, " ) +
+         redisPasswordVariable );
    }
    return RedisAddress::of( url );
 }

@@ -163,23 +163,18 @@ EtcdStore::commit( StateChange const & change, Paths const & after, Inspection::
    return mark.entry;
 }
 
+// Without an answer it may have been done, or may be yet. With one that says no, too: what carries the question repeats
+// it, where a connection was gone before it could tell. Another one's write stands there then, or its own.
 U64 EtcdStore::written( EtcdTransaction const & transaction, std::string const & token, U64 before ) {
    auto const body = transaction.text();
-   bool isKnown = true;
    for ( ;; ) {
-      if ( auto const reply = session_.tell( "kv/txn", body ) ) {
-         if ( reply->succeeded ) {
-            return reply->revision;
-         }
-         if ( isKnown ) {
-            return 0;
-         }
+      auto const reply = session_.tell( "kv/txn", body );
+      if ( reply && reply->succeeded ) {
+         return reply->revision;
       }
-      // It may have been done, or may be yet; another one's write stands before it then, or its own.
-      isKnown = false;
       try {
          auto const [revision, by] = writtenBehind( before );
-         if ( revision != 0 ) {
+         if ( reply || revision != 0 ) {
             return by == token ? revision : 0;
          }
       } catch ( Inspection::InputError const & error ) {
