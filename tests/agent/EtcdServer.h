@@ -198,8 +198,35 @@ class EtcdServer {
    void compacts( U64 revision ) {
       askText( "kv/compaction", R"({"revision":)" + std::to_string( revision ) + R"(,"physical":true})" );
    }
-   // Which one of them leads.
-   std::size_t leader();
+   // Which one of them leads; asked until one says so.
+   std::size_t leader() const {
+      for ( ;; ::usleep( 10'000 ) ) {
+         for ( std::size_t at = 0; at < members.size(); ++at ) {
+            auto const status = askMember( at, "maintenance/status" );
+            auto const id = wordIn( status, "member_id" );
+            if ( !id.empty() && id == wordIn( status, "leader" ) ) {
+               return at;
+            }
+         }
+      }
+   }
+   // What one of them, and no other, answers within a second; empty: nothing.
+   std::string askMember( std::size_t member, std::string const & what, std::string const & body = "{}" ) const {
+      std::string const line = "curl -s -m 1 http://" + members[member]->host() + "/v3/" + what + " -d '" + body + "'";
+      std::unique_ptr< FILE, int ( * )( FILE * ) > const pipe( ::popen( line.c_str(), "r" ), ::pclose );
+      std::string all;
+      char part[4096];
+      for ( std::size_t size = 0; ( size = ::fread( part, 1, sizeof part, pipe.get() ) ) > 0; ) {
+         all.append( part, size );
+      }
+      return all;
+   }
+   // `"name":"word"`
+   static std::string wordIn( std::string const & json, std::string const & name ) {
+      auto const at = json.find( "\"" + name + "\":\"" );
+      auto const from = at + name.size() + 4;
+      return at == std::string::npos ? std::string() : json.substr( from, json.find( '"', from ) - from );
+   }
 
    std::vector< std::unique_ptr< EtcdMember > > members;
 
