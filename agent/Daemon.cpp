@@ -4,6 +4,7 @@
 #include "agent/RowRing.h"
 #include "agent/ServiceManager.h"
 #include "agent/TraceFile.h"
+#include "agent/audit/Auditor.h"
 #include "agent/control/AgentCommands.h"
 #include "agent/control/ControlServer.h"
 #include "agent/database/EmbeddedDatabase.h"
@@ -12,6 +13,8 @@
 #include "agent/metrics/MetricsFile.h"
 #include "agent/metrics/MetricsServer.h"
 #include "agent/recording/RecordCommands.h"
+
+#include "simulator/RandomFaults.h"
 
 #include <csignal>
 #include <sys/stat.h>
@@ -58,7 +61,14 @@ struct Daemon::Parts {
            agent.scenario(),
            { .folder = options.record, .plugin = options.plugin },
            [this] { return agent.position(); },
-           &metrics ) {
+           &metrics ),
+        auditor( agent.sw(),
+                 metrics,
+                 { .period = options.audit, .log = []( std::string const & line ) { say( Level::warning, line ); } } ),
+        auditedAt( begun ) {
+      if ( options.faultSeed ) {
+         faults.emplace( *options.faultSeed );
+      }
       metrics.is( Metric::buildInfo, 1, { options.version, options.plugin } );
       auto & journal = agent.sw().journal();
       for ( Simulator::RowReader * const reader :
@@ -71,6 +81,7 @@ struct Daemon::Parts {
                         { .agent = agent,
                           .ring = ring,
                           .embedded = dynamic_cast< EmbeddedDatabase * >( database.get() ),
+                          .auditor = &auditor,
                           .version = options.version,
                           .plugin = options.plugin,
                           .metrics = [this] { return metrics.text(); },
@@ -100,9 +111,22 @@ struct Daemon::Parts {
    void tick() {
       database->tick();
       recorder.tick();
+      auto const now = EventLoop::clock();
+      audits( now - std::exchange( auditedAt, now ) );
+      if ( faults && agent.isStarted() ) {
+         agent.sw().fault( faults->next() );
+      }
       if ( auto const trouble = metricsFile ? metricsFile->write() : std::nullopt ) {
          say( Level::warning, *trouble );
       }
+   }
+
+   // A slice, and what is due beyond it once others have had their turn.
+   void audits( Rex::Seconds time ) {
+      if ( auditor.works( time ) ) {
+         loop.soon( [this] { audits( 0 ); } );
+      }
+      agent.chipsAreAnother();
    }
 
    // What can be changed without a new start.
@@ -126,6 +150,9 @@ struct Daemon::Parts {
    ServiceManager manager;
    AgentMetrics counts;
    Recorder recorder;
+   Auditor auditor;
+   Rex::Seconds auditedAt;
+   std::optional< Simulator::RandomFaults > faults;
    std::optional< ControlServer > control;
    std::optional< MetricsServer > metricsServer;
    std::optional< MetricsFile > metricsFile;

@@ -9,8 +9,9 @@ namespace Live {
 void ServiceManager::phaseIs( Phase phase, std::string const & reason ) {
    std::string const status = std::string( nameOf( phase ) ) + ( reason.empty() ? "" : ": " + reason );
    say( phase == Phase::running || phase == Phase::reconciling ? Level::notice : Level::warning, status );
-   bool const isFirst = phase == Phase::running && !isReady_;
-   isReady_ = isReady_ || phase == Phase::running;
+   bool const isReady = phase == Phase::running || phase == Phase::degraded;
+   bool const isFirst = isReady && !isReady_;
+   isReady_ = isReady_ || isReady;
    sd_notify( 0, ( std::string( isFirst ? "READY=1\n" : "" ) + "STATUS=" + status ).c_str() );
 }
 

@@ -3,6 +3,7 @@
 #include "assert/Assert.h"
 
 #include <algorithm>
+#include <bit>
 #include <new>
 
 namespace Simulator {
@@ -50,6 +51,30 @@ void Chip::fill( SchanAddress const & at, std::span< U32 const > words ) {
       std::memcpy( wordsOf( found.range, found.index, copy ), words.data(), words.size_bytes() );
    }
    mark( found.range, found.index );
+}
+
+U32 Chip::nextValued( U32 from ) const {
+   for ( std::size_t at = from / 64; at < valued_.size(); ++at ) {
+      U64 const here = valued_[at] & ( at == from / 64 ? ~U64{ 0 } << from % 64 : ~U64{ 0 } );
+      if ( here != 0 ) {
+         return static_cast< U32 >( at * 64 + static_cast< unsigned >( std::countr_zero( here ) ) );
+      }
+   }
+   return map_.entries();
+}
+
+void Chip::takeContents( Chip const & other ) {
+   for ( U32 entry = other.nextValued( 0 ); entry < map_.entries(); entry = other.nextValued( entry + 1 ) ) {
+      AddressMap::Range const & range = map_.rangeOf( entry );
+      for ( U32 copy = 0; copy < range.copies; ++copy ) {
+         U32 const index = entry - range.firstEntry;
+         std::memcpy( wordsOf( range, index, copy ), other.wordsOf( range, index, copy ), range.width * sizeof( U32 ) );
+      }
+      mark( range, entry - range.firstEntry );
+   }
+   for ( auto const & [control, value] : other.controls() ) {
+      controlIs( control, value );
+   }
 }
 
 Chip::Entry Chip::entry( SchanAddress const & at ) const {

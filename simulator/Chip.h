@@ -73,6 +73,11 @@ class Chip {
    // Contents that no program wrote: gives every copy of the entry at `at` (in any of its blocks) the words.
    void fill( SchanAddress const & at, std::span< U32 const > words );
 
+   // The first entry that was ever given a value, from a number on (AddressMap.h); map().entries() where there is none.
+   U32 nextValued( U32 from ) const;
+   // Becomes what another chip with the same map is.
+   void takeContents( Chip const & other );
+
    // Whether the chip has the address in the block.
    bool has( SchanAddress const & at ) const { return map_.find( at.selectorA, at.selectorB, at.address ) != nullptr; }
    // The entry at `at`, in any of its blocks.

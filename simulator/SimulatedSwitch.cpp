@@ -179,6 +179,16 @@ void SimulatedSwitch::change( std::function< void() > const & what, std::string 
    }
 }
 
+SupervisedChips & SimulatedSwitch::supervise( Supervision supervision ) {
+   supervised_ = std::make_unique< SupervisedChips >( driver_, description_, journal_, std::move( supervision ) );
+   return *supervised_;
+}
+
+void SimulatedSwitch::fault( Fault const & fault ) {
+   SupervisedChips & chips = supervised_ ? *supervised_ : supervise();
+   change( [&] { chips.arm( fault ); }, "fault", eventOf( "fault", *valueOf( fault ).object() ) );
+}
+
 void SimulatedSwitch::set( std::string const & path, std::string const & attribute, Rex::Value const & value ) {
    change( [&] { state_.attributeIs( path, attribute, value ); },
            path + " " + attribute,

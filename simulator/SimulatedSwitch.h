@@ -26,8 +26,7 @@
 // Threading: the agent's scheduler thread.
 #pragma once
 
-#include "simulator/ChipDriver.h"
-#include "simulator/Journal.h"
+#include "simulator/SupervisedChips.h"
 #include "simulator/SwitchDescription.h"
 
 #include <stdexcept>
@@ -84,6 +83,14 @@ class SimulatedSwitch {
    // `event` tells of it as a scenario does.
    void change( std::function< void() > const & what, std::string const & cause = "change", Rex::Value event = {} );
 
+   // A fault is armed, as an event: what isn't supervised yet is so from now on. Throws Rex::ValueError.
+   void fault( Fault const & fault );
+   // Keeps beside the chips what they are expected to hold, from here on. Once, and not while something is staged.
+   SupervisedChips & supervise( Supervision supervision = {} );
+   // Null: nobody has asked for it.
+   SupervisedChips * supervised() { return supervised_.get(); }
+   SupervisedChips const * supervised() const { return supervised_.get(); }
+
    // The number of the event under way or, between events, of the last one.
    U32 event() const { return event_; }
    // What an operation made now is the consequence of: "chip-init"; "<path> <attribute>" of the innermost change that
@@ -117,6 +124,7 @@ class SimulatedSwitch {
    Corvo::Ptr< Stordb::EntityManager > entityManager_;
    Corvo::Ptr< Agent::MounterPlugin::MounterContext > context_;
    Corvo::Ptr< Hardware::Dace::Cell::CellStatus > cellStatus_;
+   std::unique_ptr< SupervisedChips > supervised_;
    Phase phase_ = Phase::made;
    U32 event_ = 0;
    std::string eventCause_;

@@ -12,6 +12,8 @@ using namespace Inspection;
 
 namespace {
 
+constexpr U32 auditPeriod = 60; // seconds
+
 struct Options {
    std::string file;
    std::string slice;
@@ -21,11 +23,17 @@ struct Options {
    std::string record;
    std::string metrics;
    std::string trace;
+   std::optional< U32 > audit;
+   std::string onDrift;
+   std::optional< U32 > faultSeed;
    std::vector< std::string > toggles;
    std::string plugin;
 };
 
 int serve( Options const & options ) {
+   if ( !options.onDrift.empty() && options.onDrift != "commit" && options.onDrift != "hold" ) {
+      throw InputError( "--on-drift", "expected commit or hold, got \"" + options.onDrift + "\"" );
+   }
    Scenario scenario = scenarioToPlay( options.file, options.toggles, options.plugin );
    if ( !scenario.events.empty() ) {
       throw InputError( scenario.file + ": /events",
@@ -42,6 +50,9 @@ int serve( Options const & options ) {
                           .record = options.record,
                           .metrics = options.metrics,
                           .trace = options.trace,
+                          .audit = static_cast< double >( options.audit.value_or( auditPeriod ) ),
+                          .isDriftHeld = options.onDrift == "hold",
+                          .faultSeed = options.faultSeed,
                           .version = std::string( versionNumber() ),
                           .plugin = libraryId( plugin ).value_or( "" ) } );
    return daemon.run();
@@ -64,6 +75,14 @@ Action defineServe( VerbOptions & verb ) {
               "PATH|ADDRESS:PORT" );
    verb.text(
       "--trace", options->trace, "which facilities to trace, FACILITY/LEVEL a line; SIGHUP has it read again", "FILE" );
+   verb.number( "--audit",
+                options->audit,
+                "seconds in which all that the chips hold is compared with what was written; 60, and 0 for never" );
+   verb.text( "--on-drift",
+              options->onDrift,
+              "what a start does with chips that it would program otherwise: commit, the default, or hold",
+              "commit|hold" );
+   verb.number( "--fault-seed", options->faultSeed, "let the chips fail now and then, by this seed" );
    verb.repeated( "--toggle", options->toggles, "set a toggle; may be given several times", "FILE:NAME=on|off" );
    verb.text( "--plugin", options->plugin, "the plug-in's library; the default lies beside this program", "PATH" );
    return [options] { return serve( *options ); };
