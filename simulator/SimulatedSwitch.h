@@ -34,6 +34,8 @@
 
 namespace Simulator {
 
+class ChipsMapping;
+
 // A library that can't be loaded. what() says which and why.
 class LibraryError : public std::runtime_error {
  public:
@@ -47,7 +49,8 @@ class SimulatedSwitch {
  public:
    // Throws std::logic_error if there is a switch already, if two FAPs have one number, or if a toggle was read in this
    // process with another outcome.
-   explicit SimulatedSwitch( SwitchDescription description );
+   // With `chips`, which were made for the same description, its chips stand in that memory, as they are there.
+   explicit SimulatedSwitch( SwitchDescription description, ChipsMapping const * chips = nullptr );
    ~SimulatedSwitch();
    SimulatedSwitch( SimulatedSwitch const & ) = delete;
    SimulatedSwitch & operator=( SimulatedSwitch const & ) = delete;
@@ -103,7 +106,7 @@ class SimulatedSwitch {
  private:
    enum class Phase : U8 { made, chipInit, starting, running, stopped };
 
-   void makeChips();
+   void makeChips( ChipsMapping const * chips );
    void shareObjects();
    void initChips();
    std::string publishedPath( Rex::Entity const & entity ) const;
