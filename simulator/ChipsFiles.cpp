@@ -4,12 +4,14 @@
 
 #include <algorithm>
 #include <cerrno>
+#include <chrono>
 #include <cstring>
 #include <fcntl.h>
 #include <filesystem>
 #include <sys/file.h>
 #include <sys/mman.h>
 #include <sys/stat.h>
+#include <thread>
 #include <unistd.h>
 
 namespace Simulator {
@@ -82,12 +84,18 @@ bool isTheOneAt( std::string const & path, int file ) {
           there.st_ino == opened.st_ino;
 }
 
+// A copy that an agent had just begun to make of itself when it was killed still has its files until it is scheduled.
 void lock( int file ) {
-   if ( ::flock( file, LOCK_EX | LOCK_NB ) != 0 ) {
-      if ( errno == EWOULDBLOCK ) {
+   constexpr auto patience = std::chrono::milliseconds( 500 );
+   auto const begun = std::chrono::steady_clock::now();
+   while ( ::flock( file, LOCK_EX | LOCK_NB ) != 0 ) {
+      if ( errno != EWOULDBLOCK ) {
+         refuseBySystem( "can't be locked" );
+      }
+      if ( std::chrono::steady_clock::now() - begun > patience ) {
          throw ChipsInUse( "is in use: another agent has these chips" );
       }
-      refuseBySystem( "can't be locked" );
+      std::this_thread::sleep_for( std::chrono::milliseconds( 5 ) );
    }
 }
 
