@@ -14,6 +14,7 @@
 #include "agent/metrics/MetricsServer.h"
 #include "agent/recording/RecordCommands.h"
 
+#include "inspection/views/Terminal.h"
 #include "simulator/RandomFaults.h"
 
 #include <csignal>
@@ -27,12 +28,50 @@ namespace {
 // How often the agent looks after itself where no service manager asks for it, in seconds.
 constexpr Rex::Seconds tickPeriod = 5;
 
+constexpr char const * keptChips = "chips"; // the name under which the service manager keeps them
+
 std::unique_ptr< Database > databaseAt( DaemonOptions const & options, EventLoop & loop ) {
    if ( options.database.empty() ) {
       return std::make_unique< EmbeddedDatabase >( loop );
    }
    return std::make_unique< RedisDatabase >(
       loop, RedisAddress::of( options.database ), options.cell, options.scenario.description.sliceName );
+}
+
+std::optional< Simulator::ChipsMapping > newChips( DaemonOptions const & options ) {
+   auto const fill = [&options]( Simulator::ChipDriver & chips ) { options.scenario.fillChips( chips ); };
+   auto const & description = options.scenario.description;
+   if ( !options.chipsFile.empty() ) {
+      return Simulator::ChipsMapping::make( options.chipsFile, description, fill );
+   }
+   auto chips = Simulator::ChipsMapping::makeInMemory( description, fill );
+   return ServiceManager::keeps( keptChips, chips.file() ) ? std::optional( std::move( chips ) ) : std::nullopt;
+}
+
+std::optional< Simulator::ChipsMapping > leftChips( DaemonOptions const & options ) {
+   auto const & description = options.scenario.description;
+   if ( !options.chipsFile.empty() ) {
+      return Simulator::ChipsMapping::open( options.chipsFile, description );
+   }
+   auto const kept = ServiceManager::keptFile( keptChips );
+   return kept ? std::optional( Simulator::ChipsMapping::of( kept.number(), description ) ) : std::nullopt;
+}
+
+// Chips that outlive the agent: those that the one before has left, or new ones. None: nobody keeps them.
+std::optional< Simulator::ChipsMapping > chipsOf( DaemonOptions const & options ) {
+   if ( options.chipsFile.empty() && !std::getenv( "NOTIFY_SOCKET" ) ) {
+      return std::nullopt;
+   }
+   try {
+      if ( auto chips = leftChips( options ) ) {
+         return chips;
+      }
+   } catch ( Simulator::ChipsInUse const & ) {
+      throw;
+   } catch ( Simulator::ChipsRefused const & refused ) {
+      say( Level::warning, std::string( refused.what() ) + "; the chips begin anew" );
+   }
+   return newChips( options );
 }
 
 // Where to listen. Nobody has named a place, and the usual one can't be had: told, and the agent does without.
@@ -55,17 +94,25 @@ std::string controlOf( DaemonOptions const & options ) {
 struct Daemon::Parts {
    explicit Parts( DaemonOptions const & options )
       : traceFile( options.trace, commands ), begun( EventLoop::clock() ), database( databaseAt( options, loop ) ),
-        agent( loop, *database, options.scenario, options.version ), counts( agent, metrics ),
-        recorder(
-           agent.sw(),
-           agent.scenario(),
-           { .folder = options.record, .plugin = options.plugin },
-           [this] { return agent.position(); },
-           &metrics ),
+        chips( chipsOf( options ) ),
+        agent( loop, *database, options.scenario, options.version, chips ? &*chips : nullptr ),
+        counts( agent, metrics ), recorder(
+                                     agent.sw(),
+                                     agent.scenario(),
+                                     { .folder = options.record, .plugin = options.plugin },
+                                     [this] { return agent.position(); },
+                                     &metrics ),
         auditor( agent.sw(),
                  metrics,
                  { .period = options.audit, .log = []( std::string const & line ) { say( Level::warning, line ); } } ),
         auditedAt( begun ) {
+      agent.driftIsHeld( options.isDriftHeld );
+      if ( agent.isWarm() ) {
+         auto const found = auditor.runs();
+         say( Level::notice,
+              "the chips are those that " + Inspection::counted( chips->generation() - 1, "agent", "agents" ) +
+                 " had before; " + Inspection::counted( found.mismatches, "place was", "places were" ) + " wrong" );
+      }
       if ( options.faultSeed ) {
          faults.emplace( *options.faultSeed );
       }
@@ -146,6 +193,7 @@ struct Daemon::Parts {
    Metrics metrics;
    RowRing ring;
    std::unique_ptr< Database > database;
+   std::optional< Simulator::ChipsMapping > chips;
    SliceAgent agent;
    ServiceManager manager;
    AgentMetrics counts;

@@ -31,11 +31,19 @@ Paths baseOf( Inspection::Scenario const & scenario ) {
 
 } // namespace
 
-SliceAgent::SliceAgent( EventLoop & loop, Database & database, Inspection::Scenario scenario, std::string version )
+SliceAgent::SliceAgent( EventLoop & loop,
+                        Database & database,
+                        Inspection::Scenario scenario,
+                        std::string version,
+                        Simulator::ChipsMapping const * chips )
    : loop_( loop ), database_( database ), scenario_( streamed( std::move( scenario ) ) ),
-     version_( std::move( version ) ), lastWords_( scenario_ ), sw_( scenario_.description ), door_( sw_ ),
-     base_( baseOf( scenario_ ) ), held_( base_ ) {
-   scenario_.prepare( sw_ );
+     version_( std::move( version ) ), lastWords_( scenario_ ), isWarm_( chips && chips->generation() > 1 ),
+     sw_( scenario_.description, chips ), door_( sw_ ), base_( baseOf( scenario_ ) ), held_( base_ ) {
+   Inspection::Scenario prepared = scenario_;
+   if ( isWarm_ ) {
+      prepared.chips.clear(); // what they began with is there, or was programmed since
+   }
+   prepared.prepare( sw_ );
    sw_.supervise( { .delays = []( Rex::Seconds time ) { ::usleep( static_cast< useconds_t >( time * microseconds ) ); },
                     .degraded =
                        [this]( DaceSal::ChipId chip, std::string const & why ) {

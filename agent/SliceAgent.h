@@ -28,6 +28,7 @@
 #include "agent/PublishedState.h"
 #include "agent/StateDoor.h"
 #include "agent/database/Database.h"
+#include "simulator/ChipsMapping.h"
 #include "simulator/StagedDriver.h"
 
 #include <deque>
@@ -53,15 +54,18 @@ class SliceAgent final : private Database::Follower {
  public:
    // The plug-in's library is loaded already. Throws InputError where state or chips of the scenario don't fit. The
    // database and the loop outlive the agent.
-   SliceAgent( EventLoop & loop, Database & database, Inspection::Scenario scenario, std::string version = {} );
+   // `chips` outlive it, too; where an agent had them before this one, they are as that one left them.
+   SliceAgent( EventLoop & loop,
+               Database & database,
+               Inspection::Scenario scenario,
+               std::string version = {},
+               Simulator::ChipsMapping const * chips = nullptr );
    ~SliceAgent() override;
 
-   // How it starts on chips that were programmed already: what would change is staged, and brought to them when it is
-   // known, or held until commits() is called. Before begin().
-   void startsOnProgrammedChips( bool isHeld ) {
-      isWarm_ = true;
-      isHeld_ = isHeld;
-   }
+   // A start on chips that were programmed already is staged: what it would change is brought to them when it is known,
+   // or held until commits() is called. Before begin().
+   void driftIsHeld( bool isHeld ) { isHeld_ = isHeld; }
+   bool isWarm() const { return isWarm_; }
    void onlookerAdd( AgentOnlooker & onlooker ) { onlookers_.push_back( &onlooker ); }
    void begin();
    // Tells the database that it goes, and stops the plug-in. Idempotent.
@@ -130,6 +134,7 @@ class SliceAgent final : private Database::Follower {
    Inspection::Scenario scenario_;
    std::string version_;
    LastWords lastWords_; // before the switch
+   bool const isWarm_;   // the chips were programmed before
    Simulator::SimulatedSwitch sw_;
    StateDoor door_;
    PublishedState published_;
@@ -142,7 +147,6 @@ class SliceAgent final : private Database::Follower {
    std::optional< Simulator::StagedDriver > staged_; // while a start is held, or under way on chips that stand already
    std::size_t drift_ = 0;
    std::optional< std::size_t > startChangingWrites_;
-   bool isWarm_ = false;
    bool isHeld_ = false;
    std::string failure_; // of a chip
    bool isFrozen_ = false;

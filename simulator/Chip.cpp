@@ -4,7 +4,6 @@
 
 #include <algorithm>
 #include <bit>
-#include <new>
 
 namespace Simulator {
 
@@ -29,20 +28,13 @@ bool Chip::Entry::copiesDiffer() const {
 }
 
 Chip::Chip( ChipId id, std::string name, AddressMap const & map )
-   : map_( map ), memory_( static_cast< U32 * >( std::calloc( std::max( map.words(), 1u ), sizeof( U32 ) ) ) ),
-     valued_( map.entries() / 64 + 1 ), id_( id ), name_( std::move( name ) ) {
+   : Chip( id, std::move( name ), map, ChipMemory::own( map ) ) {}
+
+Chip::Chip( ChipId id, std::string name, AddressMap const & map, ChipMemory memory )
+   : map_( map ), memory_( std::move( memory ) ), id_( id ), name_( std::move( name ) ) {
    static constexpr AddressMap::Range nowhere{};
    latest_ = map.ranges().empty() ? &nowhere : map.ranges().data();
-   if ( !memory_ ) {
-      throw std::bad_alloc();
-   }
-}
-
-bool Chip::controlIs( U32 control, U32 value ) {
-   auto const [at, isNew] = controls_.try_emplace( control, value );
-   bool const changed = isNew || at->second != value;
-   at->second = value;
-   return changed;
+   Rex::sassert( memory_.words.size() == map.words(), "memory.words.size() == map.words()" );
 }
 
 void Chip::fill( SchanAddress const & at, std::span< U32 const > words ) {
@@ -54,8 +46,8 @@ void Chip::fill( SchanAddress const & at, std::span< U32 const > words ) {
 }
 
 U32 Chip::nextValued( U32 from ) const {
-   for ( std::size_t at = from / 64; at < valued_.size(); ++at ) {
-      U64 const here = valued_[at] & ( at == from / 64 ? ~U64{ 0 } << from % 64 : ~U64{ 0 } );
+   for ( std::size_t at = from / 64; at < memory_.valued.size(); ++at ) {
+      U64 const here = memory_.valued[at] & ( at == from / 64 ? ~U64{ 0 } << from % 64 : ~U64{ 0 } );
       if ( here != 0 ) {
          return static_cast< U32 >( at * 64 + static_cast< unsigned >( std::countr_zero( here ) ) );
       }
@@ -80,7 +72,7 @@ void Chip::takeContents( Chip const & other ) {
 Chip::Entry Chip::entry( SchanAddress const & at ) const {
    Found const found = find( at );
    U32 const number = found.range.firstEntry + found.index;
-   return Entry( found.range, wordsOf( found.range, found.index, 0 ), valued_[number / 64] >> number % 64 & 1 );
+   return Entry( found.range, wordsOf( found.range, found.index, 0 ), memory_.valued[number / 64] >> number % 64 & 1 );
 }
 
 void Chip::refuseAddress( SchanAddress const & at ) const {

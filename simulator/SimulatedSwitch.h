@@ -33,6 +33,8 @@
 
 namespace Simulator {
 
+class ChipsMapping;
+
 // A library that can't be loaded. what() says which and why.
 class LibraryError : public std::runtime_error {
  public:
@@ -46,7 +48,9 @@ class SimulatedSwitch {
  public:
    // Throws std::logic_error if there is a switch already, if two FAPs have one number, or if a toggle was read in this
    // process with another outcome.
-   explicit SimulatedSwitch( SwitchDescription description );
+   // With `chips`, which outlive the switch and were made for the same description, its chips stand in that memory, as
+   // they are there.
+   explicit SimulatedSwitch( SwitchDescription description, ChipsMapping const * chips = nullptr );
    ~SimulatedSwitch();
    SimulatedSwitch( SimulatedSwitch const & ) = delete;
    SimulatedSwitch & operator=( SimulatedSwitch const & ) = delete;
@@ -110,7 +114,7 @@ class SimulatedSwitch {
  private:
    enum class Phase : U8 { made, chipInit, starting, running, stopped };
 
-   void makeChips();
+   void makeChips( ChipsMapping const * chips );
    void shareObjects();
    void initChips();
    std::string publishedPath( Rex::Entity const & entity ) const;
@@ -124,6 +128,7 @@ class SimulatedSwitch {
    Corvo::Ptr< Stordb::EntityManager > entityManager_;
    Corvo::Ptr< Agent::MounterPlugin::MounterContext > context_;
    Corvo::Ptr< Hardware::Dace::Cell::CellStatus > cellStatus_;
+   ChipsMapping const * mapping_; // null: the chips have memory of their own
    std::unique_ptr< SupervisedChips > supervised_;
    Phase phase_ = Phase::made;
    U32 event_ = 0;

@@ -1,17 +1,25 @@
 #include "simulator/SupervisedChips.h"
 
+#include "simulator/ChipsMapping.h"
 #include "simulator/TableMap.h"
 
 namespace Simulator {
 
 namespace {
 
-ChipDriver imagesOf( ChipDriver & chips, SwitchDescription const & description ) {
+ChipDriver imagesOf( ChipDriver & chips, SwitchDescription const & description, ChipsMapping const * mapping ) {
    ChipDriver images;
    for ( auto const & fap : description.faps ) {
       auto const chipType = fap.revision.chipType();
-      images.chipIs( ChipId{ fap.fapId.value() }, Hardware::chipTypeName( chipType ), addressMap( chipType ) )
-         .takeContents( *chips.chip( fap.fapId ) );
+      AddressMap const & map = addressMap( chipType );
+      bool const isWarm = mapping && mapping->generation() > 1;
+      auto & image = images.chipIs( ChipId{ fap.fapId.value() },
+                                    Hardware::chipTypeName( chipType ),
+                                    map,
+                                    mapping ? mapping->expected( fap.fapId ) : ChipMemory::own( map ) );
+      if ( !isWarm ) {
+         image.takeContents( *chips.chip( fap.fapId ) );
+      }
    }
    return images;
 }
@@ -21,9 +29,10 @@ ChipDriver imagesOf( ChipDriver & chips, SwitchDescription const & description )
 SupervisedChips::SupervisedChips( ChipDriver & chips,
                                   SwitchDescription const & description,
                                   Journal & journal,
+                                  ChipsMapping const * mapping,
                                   Supervision supervision )
    : chips_( chips ), journal_( journal ), supervision_( std::move( supervision ) ),
-     expected_( imagesOf( chips, description ) ),
+     expected_( imagesOf( chips, description, mapping ) ),
      faulty_( chips,
               description,
               { .fired = [this]( FiredFault const & it ) { fires( it ); }, .delays = supervision_.delays } ),

@@ -18,6 +18,8 @@
 
 namespace Simulator {
 
+class ChipsMapping;
+
 struct Supervision {
    std::function< void( Rex::Seconds ) > delays = {}; // lets time pass; none: the clock of the process is moved
    ShadowDriver::Degraded degraded = {};
@@ -26,10 +28,12 @@ struct Supervision {
 
 class SupervisedChips {
  public:
-   // Takes the place of the chips as the driver of the process. All of them outlive this.
+   // Takes the place of the chips as the driver of the process. All of them outlive this. Where the chips stand in a
+   // mapping, what is expected of them stands there, too, and is as their last agent left it.
    SupervisedChips( ChipDriver & chips,
                     SwitchDescription const & description,
                     Journal & journal,
+                    ChipsMapping const * mapping,
                     Supervision supervision );
    ~SupervisedChips();
    SupervisedChips( SupervisedChips const & ) = delete;

@@ -75,14 +75,18 @@ void Scenario::fillChips( Simulator::ChipDriver & driver ) const {
    for ( auto const & [number, contents] : chips ) {
       auto const & of = fap( number );
       auto & chip = *driver.chip( of.fapId );
-      inFile( file, [&, fap = number, tables = &contents.tables] {
+      inFile( file, [&, fap = number, what = &contents] {
          Rex::below( "chips", [&] {
-            Rex::below( std::to_string( fap ), [&] { apply( *tables, chip, of.revision.chipType() ); } );
+            Rex::below( std::to_string( fap ), [&] {
+               apply( what->tables, chip, of.revision.chipType() );
+               Rex::below( "controls", [&] {
+                  for ( auto const & [control, value] : what->controls ) {
+                     chip.controlIs( control, value );
+                  }
+               } );
+            } );
          } );
       } );
-      for ( auto const & [control, value] : contents.controls ) {
-         chip.controlIs( control, value );
-      }
    }
 }
 

@@ -24,11 +24,20 @@ struct Options {
    std::string metrics;
    std::string trace;
    std::optional< U32 > audit;
+   std::string chipsFile;
    std::string onDrift;
    std::optional< U32 > faultSeed;
    std::vector< std::string > toggles;
    std::string plugin;
 };
+
+std::unique_ptr< Live::Daemon > daemonOf( Live::DaemonOptions const & options ) {
+   try {
+      return std::make_unique< Live::Daemon >( options );
+   } catch ( Simulator::ChipsRefused const & refused ) {
+      throw InputError( "--chips-file", refused.what() );
+   }
+}
 
 int serve( Options const & options ) {
    if ( !options.onDrift.empty() && options.onDrift != "commit" && options.onDrift != "hold" ) {
@@ -43,19 +52,20 @@ int serve( Options const & options ) {
       scenario.description.sliceName = options.slice;
    }
    std::string const plugin = options.plugin.empty() ? pluginBeside() : options.plugin;
-   Live::Daemon daemon( { .scenario = std::move( scenario ),
-                          .cell = options.cell.value_or( 1 ),
-                          .database = options.database,
-                          .socket = options.socket,
-                          .record = options.record,
-                          .metrics = options.metrics,
-                          .trace = options.trace,
-                          .audit = static_cast< double >( options.audit.value_or( auditPeriod ) ),
-                          .isDriftHeld = options.onDrift == "hold",
-                          .faultSeed = options.faultSeed,
-                          .version = std::string( versionNumber() ),
-                          .plugin = libraryId( plugin ).value_or( "" ) } );
-   return daemon.run();
+   auto const daemon = daemonOf( { .scenario = std::move( scenario ),
+                                   .cell = options.cell.value_or( 1 ),
+                                   .database = options.database,
+                                   .socket = options.socket,
+                                   .record = options.record,
+                                   .metrics = options.metrics,
+                                   .trace = options.trace,
+                                   .audit = static_cast< double >( options.audit.value_or( auditPeriod ) ),
+                                   .chipsFile = options.chipsFile,
+                                   .isDriftHeld = options.onDrift == "hold",
+                                   .faultSeed = options.faultSeed,
+                                   .version = std::string( versionNumber() ),
+                                   .plugin = libraryId( plugin ).value_or( "" ) } );
+   return daemon->run();
 }
 
 } // namespace
@@ -78,6 +88,10 @@ Action defineServe( VerbOptions & verb ) {
    verb.number( "--audit",
                 options->audit,
                 "seconds in which all that the chips hold is compared with what was written; 60, and 0 for never" );
+   verb.text( "--chips-file",
+              options->chipsFile,
+              "what the chips hold stands there, and is there for the next agent, however this one ends",
+              "PATH" );
    verb.text( "--on-drift",
               options->onDrift,
               "what a start does with chips that it would program otherwise: commit, the default, or hold",
