@@ -4,6 +4,7 @@
 #include "agent/RowRing.h"
 #include "agent/ServiceManager.h"
 #include "agent/TraceFile.h"
+#include "agent/audit/Auditor.h"
 #include "agent/control/AgentCommands.h"
 #include "agent/control/ControlServer.h"
 #include "agent/database/Databases.h"
@@ -12,6 +13,9 @@
 #include "agent/metrics/MetricsFile.h"
 #include "agent/metrics/MetricsServer.h"
 #include "agent/recording/RecordCommands.h"
+
+#include "inspection/views/Terminal.h"
+#include "simulator/RandomFaults.h"
 
 #include <csignal>
 #include <sys/stat.h>
@@ -23,6 +27,44 @@ namespace {
 
 // How often the agent looks after itself where no service manager asks for it, in seconds.
 constexpr Rex::Seconds tickPeriod = 5;
+
+constexpr char const * keptChips = "chips"; // the name under which the service manager keeps them
+
+std::optional< Simulator::ChipsMapping > newChips( DaemonOptions const & options ) {
+   auto const fill = [&options]( Simulator::ChipDriver & chips ) { options.scenario.fillChips( chips ); };
+   auto const & description = options.scenario.description;
+   if ( !options.chipsFile.empty() ) {
+      return Simulator::ChipsMapping::make( options.chipsFile, description, fill );
+   }
+   auto chips = Simulator::ChipsMapping::makeInMemory( description, fill );
+   return ServiceManager::keeps( keptChips, chips.file() ) ? std::optional( std::move( chips ) ) : std::nullopt;
+}
+
+std::optional< Simulator::ChipsMapping > leftChips( DaemonOptions const & options ) {
+   auto const & description = options.scenario.description;
+   if ( !options.chipsFile.empty() ) {
+      return Simulator::ChipsMapping::open( options.chipsFile, description );
+   }
+   auto const kept = ServiceManager::keptFile( keptChips );
+   return kept ? std::optional( Simulator::ChipsMapping::of( kept.number(), description ) ) : std::nullopt;
+}
+
+// Chips that outlive the agent: those that the one before has left, or new ones. None: nobody keeps them.
+std::optional< Simulator::ChipsMapping > chipsOf( DaemonOptions const & options ) {
+   if ( options.chipsFile.empty() && !std::getenv( "NOTIFY_SOCKET" ) ) {
+      return std::nullopt;
+   }
+   try {
+      if ( auto chips = leftChips( options ) ) {
+         return chips;
+      }
+   } catch ( Simulator::ChipsInUse const & ) {
+      throw;
+   } catch ( Simulator::ChipsRefused const & refused ) {
+      say( Level::warning, std::string( refused.what() ) + "; the chips begin anew" );
+   }
+   return newChips( options );
+}
 
 // Where to listen. Nobody has named a place, and the usual one can't be had: told, and the agent does without.
 std::string controlOf( DaemonOptions const & options ) {
@@ -46,13 +88,28 @@ struct Daemon::Parts {
       : traceFile( options.trace, commands ), begun( EventLoop::clock() ),
         database( databaseAt(
            loop, options.database, options.credentials, options.cell, options.scenario.description.sliceName ) ),
-        agent( loop, *database, options.scenario, options.version ), counts( agent, metrics ),
-        recorder(
-           agent.sw(),
-           agent.scenario(),
-           { .folder = options.record, .plugin = options.plugin },
-           [this] { return agent.position(); },
-           &metrics ) {
+        chips( chipsOf( options ) ),
+        agent( loop, *database, options.scenario, options.version, chips ? &*chips : nullptr ),
+        counts( agent, metrics ), recorder(
+                                     agent.sw(),
+                                     agent.scenario(),
+                                     { .folder = options.record, .plugin = options.plugin },
+                                     [this] { return agent.position(); },
+                                     &metrics ),
+        auditor( agent.sw(),
+                 metrics,
+                 { .period = options.audit, .log = []( std::string const & line ) { say( Level::warning, line ); } } ),
+        auditedAt( begun ) {
+      agent.driftIsHeld( options.isDriftHeld );
+      if ( agent.isWarm() ) {
+         auto const found = auditor.runs();
+         say( Level::notice,
+              "the chips are those that " + Inspection::counted( chips->generation() - 1, "agent", "agents" ) +
+                 " had before; " + Inspection::counted( found.mismatches, "place was", "places were" ) + " wrong" );
+      }
+      if ( options.faultSeed ) {
+         faults.emplace( *options.faultSeed );
+      }
       metrics.is( Metric::buildInfo, 1, { options.version, options.plugin } );
       auto & journal = agent.sw().journal();
       for ( Simulator::RowReader * const reader :
@@ -65,6 +122,7 @@ struct Daemon::Parts {
                         { .agent = agent,
                           .ring = ring,
                           .embedded = dynamic_cast< EmbeddedDatabase * >( database.get() ),
+                          .auditor = &auditor,
                           .version = options.version,
                           .plugin = options.plugin,
                           .metrics = [this] { return metrics.text(); },
@@ -94,9 +152,22 @@ struct Daemon::Parts {
    void tick() {
       database->tick();
       recorder.tick();
+      auto const now = EventLoop::clock();
+      audits( now - std::exchange( auditedAt, now ) );
+      if ( faults && agent.isStarted() ) {
+         agent.sw().fault( faults->next() );
+      }
       if ( auto const trouble = metricsFile ? metricsFile->write() : std::nullopt ) {
          say( Level::warning, *trouble );
       }
+   }
+
+   // A slice, and what is due beyond it once others have had their turn.
+   void audits( Rex::Seconds time ) {
+      if ( auditor.works( time ) ) {
+         loop.soon( [this] { audits( 0 ); } );
+      }
+      agent.chipsAreAnother();
    }
 
    // What can be changed without a new start.
@@ -116,10 +187,14 @@ struct Daemon::Parts {
    Metrics metrics;
    RowRing ring;
    std::unique_ptr< Database > database;
+   std::optional< Simulator::ChipsMapping > chips;
    SliceAgent agent;
    ServiceManager manager;
    AgentMetrics counts;
    Recorder recorder;
+   Auditor auditor;
+   Rex::Seconds auditedAt;
+   std::optional< Simulator::RandomFaults > faults;
    std::optional< ControlServer > control;
    std::optional< MetricsServer > metricsServer;
    std::optional< MetricsFile > metricsFile;

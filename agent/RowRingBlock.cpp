@@ -125,9 +125,10 @@ void RowRingBlock::add( Row const & row ) {
    }
    U32 const function = textNumber( row.function, functions_, row.originNumber );
    U32 const source = textNumber( row.source, sources_, row.originNumber );
-   U32 const reason = row.kind == Row::Kind::gate ? textNumber( row.reason ) : 0;
+   bool const isFault = row.kind == Row::Kind::fault;
+   U32 const reason = row.kind == Row::Kind::gate || isFault ? textNumber( row.reason ) : 0;
    Put put( bytes, fewNumbers + row.words.size() + row.before.size() );
-   bool const isAccess = row.kind == Row::Kind::read || row.kind == Row::Kind::write;
+   bool const isAccess = row.kind == Row::Kind::read || row.kind == Row::Kind::write || isFault;
    head |= row.entry ? hasEntry : 0;
    head |= ( isAccess ? !row.before.empty() : row.valueBefore.has_value() ) ? hasBefore : 0;
    put.byte( head );
@@ -139,8 +140,12 @@ void RowRingBlock::add( Row const & row ) {
       put.number( reason );
       return;
    }
-   put.number( row.seq - seq_ );
-   seq_ = row.seq;
+   if ( isFault ) {
+      put.number( reason );
+   } else {
+      put.number( row.seq - seq_ );
+      seq_ = row.seq;
+   }
    if ( row.kind == Row::Kind::control ) {
       put.number( row.control );
       put.number( row.value );
@@ -238,8 +243,12 @@ Row RowRingDecoder::row( RowRingBytes & from, U8 head ) {
       return row;
    }
    row.changed = head & isChanged;
-   seq_ += from.number();
-   row.seq = seq_;
+   if ( row.kind == Row::Kind::fault ) {
+      row.reason = text( from ).text;
+   } else {
+      seq_ += from.number();
+      row.seq = seq_;
+   }
    if ( row.kind == Row::Kind::control ) {
       row.control = static_cast< U32 >( from.number() );
       row.value = static_cast< U32 >( from.number() );

@@ -3,6 +3,7 @@
 #include "inspection/files/Json.h"
 
 #include <cmath>
+#include <unistd.h>
 
 namespace Live {
 
@@ -13,6 +14,8 @@ using Inspection::Event;
 // How long to wait before another try: doubled each time.
 constexpr Rex::Seconds firstWait = 0.1;
 constexpr Rex::Seconds longestWait = 5;
+
+constexpr double microseconds = 1e6; // in a second
 
 Inspection::Scenario streamed( Inspection::Scenario scenario ) {
    scenario.description.journalled = Simulator::SwitchDescription::Journalled::streamed;
@@ -28,11 +31,25 @@ Paths baseOf( Inspection::Scenario const & scenario ) {
 
 } // namespace
 
-SliceAgent::SliceAgent( EventLoop & loop, Database & database, Inspection::Scenario scenario, std::string version )
+SliceAgent::SliceAgent( EventLoop & loop,
+                        Database & database,
+                        Inspection::Scenario scenario,
+                        std::string version,
+                        Simulator::ChipsMapping const * chips )
    : loop_( loop ), database_( database ), scenario_( streamed( std::move( scenario ) ) ),
-     version_( std::move( version ) ), lastWords_( scenario_ ), sw_( scenario_.description ), door_( sw_ ),
-     base_( baseOf( scenario_ ) ), held_( base_ ) {
-   scenario_.prepare( sw_ );
+     version_( std::move( version ) ), lastWords_( scenario_ ), isWarm_( chips && chips->generation() > 1 ),
+     sw_( scenario_.description, chips ), door_( sw_ ), base_( baseOf( scenario_ ) ), held_( base_ ) {
+   Inspection::Scenario prepared = scenario_;
+   if ( isWarm_ ) {
+      prepared.chips.clear(); // what they began with is there, or was programmed since
+   }
+   prepared.prepare( sw_ );
+   sw_.supervise( { .delays = []( Rex::Seconds time ) { ::usleep( static_cast< useconds_t >( time * microseconds ) ); },
+                    .degraded =
+                       [this]( DaceSal::ChipId chip, std::string const & why ) {
+                          failure_ = "FAP " + std::to_string( chip.value ) + ": " + why;
+                          loop_.soon( [this] { chipsAreAnother(); } );
+                       } } );
    lastWords_.follows( &sw_ );
    sw_.journal().causesAreForgotten();
    sw_.journal().readerAdd( published_ );
@@ -63,8 +80,11 @@ void SliceAgent::end() {
 }
 
 void SliceAgent::phaseIs( Phase phase, std::string reason ) {
-   if ( isFrozen_ && phase == Phase::running ) {
+   if ( phase == Phase::running && isFrozen_ ) {
       phase = Phase::frozen;
+   } else if ( phase == Phase::running && !sw_.supervised()->shadow().degraded().empty() ) {
+      phase = Phase::degraded;
+      reason = failure_;
    }
    if ( phase == phase_ && reason == reason_ ) {
       return;
@@ -81,7 +101,7 @@ void SliceAgent::phaseIs( Phase phase, std::string reason ) {
 
 void SliceAgent::follow() {
    retry_ = {};
-   if ( isOver_ || isFrozen_ ) {
+   if ( isOver_ || isFrozen_ || staged_ ) {
       return;
    }
    needsSnapshot_ ? database_.snapshot() : database_.since( position_ );
@@ -114,9 +134,7 @@ void SliceAgent::snapshotIs( Snapshot snapshot ) {
    held_ = std::move( wanted );
    auto const begun = EventLoop::clock();
    if ( !isStarted_ ) {
-      door_.prepare( changes );
-      isStarted_ = true;
-      sw_.start();
+      start( changes );
    } else if ( !changes.empty() ) {
       Transaction const differences{ .position = position_, .changes = std::move( changes ) };
       door_.play( differences.changes );
@@ -127,9 +145,54 @@ void SliceAgent::snapshotIs( Snapshot snapshot ) {
    for ( auto * const onlooker : onlookers_ ) {
       onlooker->snapshotPlayed( position_, held_ );
    }
-   phaseIs( Phase::running );
+   if ( staged_ ) {
+      phaseIs( Phase::held, std::to_string( drift_ ) + " places of the chips would change: l3sm ctl repair" );
+   } else {
+      phaseIs( Phase::running );
+   }
    report( true );
    follow();
+}
+
+// ---- chips
+
+void SliceAgent::start( std::vector< Event > const & changes ) {
+   door_.prepare( changes );
+   isStarted_ = true;
+   if ( !isWarm_ ) {
+      sw_.start();
+      return;
+   }
+   staged_.emplace( sw_.supervised()->shadow() );
+   DaceSal::schanDriverIs( &*staged_ );
+   sw_.start();
+   drift_ = 0;
+   staged_->eachChange( [this]( auto const & ) { ++drift_; } );
+   if ( !isHeld_ || drift_ == 0 ) {
+      commits();
+   }
+}
+
+std::size_t SliceAgent::commits() {
+   if ( !staged_ ) {
+      return 0;
+   }
+   DaceSal::schanDriverIs( &sw_.supervised()->shadow() );
+   startChangingWrites_ = staged_->commit();
+   staged_.reset();
+   if ( phase_ == Phase::held ) {
+      phaseIs( Phase::running );
+      report( true );
+      follow();
+   }
+   return *startChangingWrites_;
+}
+
+void SliceAgent::chipsAreAnother() {
+   if ( phase_ == Phase::running || phase_ == Phase::degraded ) {
+      phaseIs( Phase::running );
+      report( false );
+   }
 }
 
 // While nothing is written nobody else tells that the database can be reached again.
@@ -197,7 +260,7 @@ void SliceAgent::freeze() {
    if ( !std::exchange( isFrozen_, true ) ) {
       waiting_.clear();
       retry_ = {};
-      if ( phase_ == Phase::running ) {
+      if ( phase_ == Phase::running || phase_ == Phase::degraded ) {
          phaseIs( Phase::frozen );
          report( false );
       }

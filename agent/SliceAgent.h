@@ -28,6 +28,8 @@
 #include "agent/PublishedState.h"
 #include "agent/StateDoor.h"
 #include "agent/database/Database.h"
+#include "simulator/ChipsMapping.h"
+#include "simulator/StagedDriver.h"
 
 #include <deque>
 #include <optional>
@@ -52,13 +54,31 @@ class SliceAgent final : private Database::Follower {
  public:
    // The plug-in's library is loaded already. Throws InputError where state or chips of the scenario don't fit. The
    // database and the loop outlive the agent.
-   SliceAgent( EventLoop & loop, Database & database, Inspection::Scenario scenario, std::string version = {} );
+   // `chips` outlive it, too; where an agent had them before this one, they are as that one left them.
+   SliceAgent( EventLoop & loop,
+               Database & database,
+               Inspection::Scenario scenario,
+               std::string version = {},
+               Simulator::ChipsMapping const * chips = nullptr );
    ~SliceAgent() override;
 
+   // A start on chips that were programmed already is staged: what it would change is brought to them when it is known,
+   // or held until commits() is called. Before begin().
+   void driftIsHeld( bool isHeld ) { isHeld_ = isHeld; }
+   bool isWarm() const { return isWarm_; }
    void onlookerAdd( AgentOnlooker & onlooker ) { onlookers_.push_back( &onlooker ); }
    void begin();
    // Tells the database that it goes, and stops the plug-in. Idempotent.
    void end();
+
+   // What the start would change on chips that were programmed already: entries and controls that wait for commits().
+   std::size_t drift() const { return staged_ ? drift_ : 0; }
+   // Brings what is held to the chips, and goes on. Returns how much there was.
+   std::size_t commits();
+   // How many writes of its own start have changed a chip that was programmed already; none: the chips were new.
+   std::optional< std::size_t > startChangingWrites() const { return startChangingWrites_; }
+   // The chips may have failed, or answer again.
+   void chipsAreAnother();
 
    // No transaction is taken until it is thawed, which catches up.
    void freeze();
@@ -96,6 +116,7 @@ class SliceAgent final : private Database::Follower {
    void withoutState( std::string reason ) override;
    void refused( std::string reason ) override;
 
+   void start( std::vector< Inspection::Event > const & changes );
    void phaseIs( Phase phase, std::string reason = {} );
    void follow();
    void again();
@@ -113,6 +134,7 @@ class SliceAgent final : private Database::Follower {
    Inspection::Scenario scenario_;
    std::string version_;
    LastWords lastWords_; // before the switch
+   bool const isWarm_;   // the chips were programmed before
    Simulator::SimulatedSwitch sw_;
    StateDoor door_;
    PublishedState published_;
@@ -122,6 +144,11 @@ class SliceAgent final : private Database::Follower {
    std::string reason_ = "no state has come yet";
    Rex::Seconds phaseSince_ = 0;
    bool isStarted_ = false;
+   std::optional< Simulator::StagedDriver > staged_; // while a start is held, or under way on chips that stand already
+   std::size_t drift_ = 0;
+   std::optional< std::size_t > startChangingWrites_;
+   bool isHeld_ = false;
+   std::string failure_; // of a chip
    bool isFrozen_ = false;
    bool isOver_ = false;
    bool needsSnapshot_ = true;

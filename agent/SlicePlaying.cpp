@@ -110,7 +110,7 @@ void SliceAgent::report( bool isWhole ) {
    Report report{ .applied = position_, .isWhole = isWhole };
    report.fields = { { "phase", std::string( nameOf( phase_ ) ) },
                      { "reason", reason_ },
-                     { "drift", "0" },
+                     { "drift", std::to_string( drift() ) },
                      { "rejected", rejected().empty() ? "{}" : Rex::toText( door_.told() ) },
                      { "version", version_ } };
    if ( isWhole ) {

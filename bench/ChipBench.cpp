@@ -3,12 +3,20 @@
 // Goals, the time of the former by that of the latter, where entries are walked one after the other, as programming
 // does: at most 6 at 8 bytes, at most 2 at 64. At random over many ranges, where the chip's memory of the latest range
 // never helps, the ratio is shown without a goal.
-#include "simulator/ChipDriver.h"
+//
+// And chips that stand in memory that outlives the agent: what a write costs there against one in a chip's own memory
+// (goal: at most 1.1), how long they take to be made and to be found again, and how long a fork of an agent that has
+// them stands still.
+#include "Ratio.h"
+#include "simulator/ChipsMapping.h"
+#include "simulator/TableMap.h"
 
 #include <benchmark/benchmark.h>
 #include <chrono>
 #include <cstdio>
 #include <random>
+#include <sys/wait.h>
+#include <unistd.h>
 
 using namespace Simulator;
 
@@ -102,9 +110,97 @@ void compare( benchmark::State & state, U16 width, Walk walkKind, double goal ) 
    }
 }
 
+// A chip as a switch has it: in memory of its own, and in memory that stays.
+constexpr auto kind = Hardware::ChipType::BCM88690_B0;
+
+SwitchDescription switchOf( std::size_t faps ) {
+   SwitchDescription description;
+   for ( std::size_t fap = 0; fap < faps; ++fap ) {
+      description.faps.push_back(
+         { .fapId = Hardware::Dace::FapId( static_cast< U16 >( fap ) ), .revision = { 5, kind, 7 } } );
+   }
+   return description;
+}
+
+// Writes all entries of the chip, one after the other, until it has written so many.
+void writeAll( ChipDriver & driver, std::size_t times ) {
+   std::array< U32, 64 > words{};
+   for ( ;; ) {
+      for ( auto const & range : addressMap( kind ).ranges() ) {
+         for ( U32 entry = 0; entry < range.count; ++entry ) {
+            if ( times-- == 0 ) {
+               return;
+            }
+            words[0] += 1;
+            benchmark::DoNotOptimize(
+               driver.write( ChipId{ 0 },
+                             { range.base + entry, range.blocks[0] >> 8, range.blocks[0] & 0xff },
+                             { words.data(), range.width } ) );
+         }
+      }
+   }
+}
+
+ChipDriver & own() {
+   static ChipDriver driver;
+   static bool const isMade = ( boot( driver.chipIs( ChipId{ 0 }, "own", addressMap( kind ) ), kind ), true );
+   benchmark::DoNotOptimize( isMade );
+   return driver;
+}
+
+ChipDriver & mapped() {
+   static auto const chips = ChipsMapping::makeInMemory( switchOf( 1 ) );
+   static ChipDriver driver;
+   static bool const isMade =
+      ( driver.chipIs( ChipId{ 0 }, "mapped", addressMap( kind ), chips.chip( Hardware::Dace::FapId( 0 ) ) ), true );
+   benchmark::DoNotOptimize( isMade );
+   return driver;
+}
+
+// Made before anybody looks at the clock.
+[[maybe_unused]] ChipDriver const & madeOwn = own();
+[[maybe_unused]] ChipDriver const & madeMapped = mapped();
+Bench::Ratio const writing{ "write to a chip that outlives the agent",
+                            { "mapped", []( std::size_t times ) { writeAll( mapped(), times ); } },
+                            { "own memory", []( std::size_t times ) { writeAll( own(), times ); } },
+                            1.1 };
+
+void chipsAreMade( benchmark::State & state ) {
+   auto const description = switchOf( static_cast< std::size_t >( state.range( 0 ) ) );
+   for ( auto _ : state ) {
+      benchmark::DoNotOptimize( ChipsMapping::makeInMemory( description ) );
+   }
+}
+
+void chipsAreFoundAgain( benchmark::State & state ) {
+   auto const description = switchOf( static_cast< std::size_t >( state.range( 0 ) ) );
+   int const file = ::dup( ChipsMapping::makeInMemory( description ).file() );
+   for ( auto _ : state ) {
+      benchmark::DoNotOptimize( ChipsMapping::of( file, description ) );
+   }
+   ::close( file );
+}
+
+void forkStandsStill( benchmark::State & state ) {
+   auto const description = switchOf( static_cast< std::size_t >( state.range( 0 ) ) );
+   auto const chips = ChipsMapping::makeInMemory( description );
+   for ( auto _ : state ) {
+      pid_t const copy = ::fork();
+      if ( copy == 0 ) {
+         ::_exit( 0 );
+      }
+      state.PauseTiming();
+      ::waitpid( copy, nullptr, 0 );
+      state.ResumeTiming();
+   }
+}
+
 } // namespace
 
 BENCHMARK_CAPTURE( compare, 8_bytes_in_order, 2, Walk::inOrder, 6.0 )->Iterations( 1 );
 BENCHMARK_CAPTURE( compare, 64_bytes_in_order, 16, Walk::inOrder, 2.0 )->Iterations( 1 );
 BENCHMARK_CAPTURE( compare, 8_bytes_at_random, 2, Walk::random, 0.0 )->Iterations( 1 );
 BENCHMARK_CAPTURE( compare, 64_bytes_at_random, 16, Walk::random, 0.0 )->Iterations( 1 );
+BENCHMARK( chipsAreMade )->Arg( 1 )->Arg( 64 )->Unit( benchmark::kMillisecond );
+BENCHMARK( chipsAreFoundAgain )->Arg( 1 )->Arg( 64 )->Unit( benchmark::kMillisecond );
+BENCHMARK( forkStandsStill )->Arg( 0 )->Arg( 1 )->Arg( 8 )->Arg( 64 )->Unit( benchmark::kMillisecond );

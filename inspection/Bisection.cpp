@@ -1,7 +1,7 @@
 #include "inspection/Bisection.h"
 
 #include "inspection/EventRows.h"
-#include "inspection/PlaceAt.h"
+#include "simulator/PlaceAt.h"
 #include "simulator/TableMap.h"
 
 #include <algorithm>
@@ -69,7 +69,8 @@ class Reader final : public Simulator::RowReader {
          if ( layout.chipType != static_cast< U8 >( chipType->second ) || !isWanted( layout ) ) {
             continue;
          }
-         if ( auto const in = placeIn( *condition_.field.table, layout, at ); in && isWanted( in->array, in->entry ) ) {
+         if ( auto const in = Simulator::placeIn( *condition_.field.table, layout, at );
+              in && isWanted( in->array, in->entry ) ) {
             places.push_back( { row.fap, &layout, in->array, in->entry } );
          }
       }

@@ -52,6 +52,7 @@ std::string changesKeyOf( Row const & row, std::vector< FieldChange > const & ch
       addTo( key, std::to_string( row.control ) + ( row.changed ? " changed " : " " ) + std::to_string( row.value ) );
       break;
    case Row::Kind::gate:
+   case Row::Kind::fault:
       addTo( key, row.reason );
       break;
    case Row::Kind::publish:
@@ -95,7 +96,7 @@ ChainStep newStep( Row const & row, std::vector< FieldChange > const & changes )
    } else if ( row.kind == Row::Kind::control ) {
       step.control = row.control;
       step.changes.push_back( { .width = 32, .after = std::to_string( row.value ) } );
-   } else if ( row.kind == Row::Kind::gate ) {
+   } else if ( row.kind == Row::Kind::gate || row.kind == Row::Kind::fault ) {
       step.reason = row.reason;
    } else {
       step.path = row.key ? row.path : row.path.substr( 0, row.path.rfind( '/' ) );
@@ -148,6 +149,7 @@ void ChainSteps::add( Row const & row, std::vector< FieldChange > const & change
                  row.valueBefore ? std::optional( std::to_string( *row.valueBefore ) ) : std::nullopt );
       break;
    case Row::Kind::gate:
+   case Row::Kind::fault:
       if ( row.isOfFap ) {
          step.faps.insert( row.fap );
       }

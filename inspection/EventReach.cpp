@@ -14,7 +14,7 @@ std::string EventReach::silence() const {
 }
 
 EventReach reachOf( Simulator::StateTree const & state, Event const & event ) {
-   if ( event.kind == Event::Kind::transaction ) {
+   if ( event.kind == Event::Kind::transaction || event.fault ) {
       return {};
    }
    EventReach reach{ .isKnown = true, .path = event.path };

@@ -22,6 +22,7 @@ RowCounts & RowCounts::operator+=( RowCounts const & more ) {
    controls += more.controls;
    gates += more.gates;
    publications += more.publications;
+   faults += more.faults;
    return *this;
 }
 
@@ -73,6 +74,12 @@ void EventRows::keep( Row const & row ) {
       mine.publishedBefore = kept( row.publishedBefore );
       return;
    }
+   if ( row.kind == Row::Kind::fault ) {
+      mine.reason = own_.keep( row.reason );
+      mine.table = Catalogue::tables()[row.tableNumber].name;
+      mine.words = { words_.keep( row.words ), row.words.size() };
+      return;
+   }
    auto const & origin = texts_->origin( row );
    mine.function = origin.function;
    mine.source = origin.source;
@@ -93,6 +100,9 @@ std::string eventText( Rex::Value const & what ) {
    }
    auto const & [kind, inner] = *kinds->begin();
    auto const & parts = *inner.object();
+   if ( kind == "fault" ) {
+      return kind + " " + Simulator::faultOf( inner ).text();
+   }
    std::string text = kind;
    for ( char const * part : { "path", "attribute", "key" } ) {
       auto const value = textAt( parts, part );

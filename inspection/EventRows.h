@@ -26,6 +26,7 @@ struct RowCounts {
    U64 controls = 0;
    U64 gates = 0;
    U64 publications = 0;
+   U64 faults = 0;
 
    void count( Simulator::Row const & row ) {
       using enum Simulator::Row::Kind;
@@ -46,11 +47,14 @@ struct RowCounts {
       case publish:
          ++publications;
          break;
+      case fault:
+         ++faults;
+         break;
       }
    }
    RowCounts & operator+=( RowCounts const & more );
    U64 operations() const { return reads + writes + controls; }
-   bool isEmpty() const { return operations() + gates + publications == 0; }
+   bool isEmpty() const { return operations() + gates + publications + faults == 0; }
 };
 
 // Texts that many rows share, once each; they stay where they are.

@@ -278,7 +278,8 @@ bool Plan::isEmpty() const {
 
 Plan planOn( Simulator::SimulatedSwitch & sw, std::string const & name, std::vector< Event > const & events ) {
    Plan plan{ .name = name, .events = {} };
-   StagedDriver staged( *DaceSal::schanDriver() );
+   auto * const under = DaceSal::schanDriver();
+   StagedDriver staged( *under );
    DaceSal::schanDriverIs( &staged );
    Planner planner( plan, events, staged, sw.event() );
    sw.journal().readerAdd( planner );
@@ -289,7 +290,7 @@ Plan planOn( Simulator::SimulatedSwitch & sw, std::string const & name, std::vec
       } );
    }
    sw.journal().readerDel( planner );
-   DaceSal::schanDriverIs( &sw.driver() );
+   DaceSal::schanDriverIs( under );
    return plan;
 }
 
@@ -298,6 +299,7 @@ Plan planOf( Scenario const & scenario, std::string const & plugin, PlanOptions 
    loadPlugin( plugin );
    auto description = scenario.description;
    description.journalled = Simulator::SwitchDescription::Journalled::streamed;
+   description.hasFaults = false; // what is planned is what the agent does
    Simulator::SimulatedSwitch sw( description );
    scenario.fillChips( sw.driver() );
    Scenario played = scenario;

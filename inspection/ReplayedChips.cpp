@@ -12,6 +12,15 @@ using Simulator::Chip;
 using Simulator::Row;
 using Simulator::Words;
 
+namespace {
+
+// An entry, by the address of its first copy.
+U64 keyOf( U16 fap, Simulator::SchanAddress const & at ) {
+   return U64{ fap } << 48 | U64{ at.selectorA } << 40 | U64{ at.selectorB } << 32 | at.address;
+}
+
+} // namespace
+
 ReplayedChips::ReplayedChips( JournalReader const & journal, std::optional< U16 > only )
    : journal_( journal ), only_( only ), isBeginKnown_( journal.format() != 1 ) {
    for ( auto const & [fap, chipType] : journal.chipTypes() ) {
@@ -70,7 +79,8 @@ void ReplayedChips::eventBegins( U32 event, Value const & ) {
 }
 
 void ReplayedChips::row( Row const & row ) {
-   if ( !row.isOperation() || ( last_ && row.event > *last_ ) ) {
+   bool const isFault = row.kind == Row::Kind::fault;
+   if ( ( !row.isOperation() && !isFault ) || ( last_ && row.event > *last_ ) ) {
       return;
    }
    if ( journal_.format() == 1 ) {
@@ -101,6 +111,14 @@ void ReplayedChips::row( Row const & row ) {
          throw Rex::ValueError( "", std::string( row.table ) + " has no such place on this kind of chip" );
       }
    }
+   if ( isFault ) {
+      auto const at =
+         addressOf( *layout, static_cast< U32 >( row.array ), row.entry.value_or( 0 ), static_cast< U32 >( row.core ) );
+      chip.write( at, row.words );
+      failing_.insert(
+         keyOf( row.fap, addressOf( *layout, static_cast< U32 >( row.array ), row.entry.value_or( 0 ) ) ) );
+      return;
+   }
    if ( row.kind == Row::Kind::read ) {
       ++reads_;
       compare( row, *layout, chip, row.words );
@@ -118,7 +136,7 @@ void ReplayedChips::row( Row const & row ) {
    }
    if ( !isBeginKnown_ ) {
       auto const at = addressOf( *layout, static_cast< U32 >( row.array ), row.entry.value_or( 0 ) );
-      written_.insert( U64{ row.fap } << 48 | U64{ at.selectorA } << 40 | U64{ at.selectorB } << 32 | at.address );
+      written_.insert( keyOf( row.fap, at ) );
    }
 }
 
@@ -133,7 +151,10 @@ void ReplayedChips::compare( Row const & row,
       return;
    }
    auto const first = addressOf( layout, static_cast< U32 >( row.array ), row.entry.value_or( 0 ) );
-   U64 const place = U64{ row.fap } << 48 | U64{ first.selectorA } << 40 | U64{ first.selectorB } << 32 | first.address;
+   U64 const place = keyOf( row.fap, first );
+   if ( failing_.contains( place ) ) {
+      return; // what the agent takes for granted isn't what the chip holds
+   }
    bool const isBegin = !isBeginKnown_ && !written_.contains( place );
    auto & list = isBegin ? begunWith_ : others_;
    list.seqs.push_back( row.seq );

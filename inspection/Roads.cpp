@@ -3,10 +3,10 @@
 #include "inspection/PathDifferences.h"
 
 #include "inspection/NamesAsTyped.h"
-#include "inspection/PlaceAt.h"
 #include "inspection/files/Json.h"
 #include "interface/ManagedIntfStatusDir.h"
 #include "simulator/ChipContents.h"
+#include "simulator/PlaceAt.h"
 
 #include <algorithm>
 
@@ -234,7 +234,7 @@ std::vector< EndDifference > RoadPlayer::differencesFrom( RoadEnd const & own ) 
          all.push_back( { fap, "controls", std::to_string( place.address ), "", text( a ), text( b ) } );
          continue;
       }
-      auto const at = placeAt( scenario_.fap( fap ).revision.chipType(), Driver::atOf( place ) );
+      auto const at = Simulator::placeAt( scenario_.fap( fap ).revision.chipType(), Driver::atOf( place ) );
       if ( !at ) {
          continue;
       }

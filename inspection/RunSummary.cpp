@@ -56,7 +56,7 @@ void RunSummary::row( Row const & row ) {
       at( byFap_, row.fap ).count( row );
       lastFap_ = row.fap;
    }
-   if ( !isPublication ) {
+   if ( !isPublication && row.kind != Row::Kind::fault ) {
       texts_.origin( row );
       at( byOrigin_, row.originNumber ).count( row );
    }

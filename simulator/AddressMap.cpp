@@ -93,4 +93,14 @@ bool AddressMap::hasBlock( U32 selectorA, U32 selectorB ) const {
    return selectorA < selectors && selectorB < selectors && blocks_[selectorA * selectors + selectorB].count != 0;
 }
 
+AddressMap::Range const & AddressMap::rangeOf( U32 entry ) const {
+   return *std::prev( std::ranges::upper_bound( ranges_, entry, {}, &Range::firstEntry ) );
+}
+
+DaceSal::SchanAddress AddressMap::addressOf( U32 entry, U32 copy ) const {
+   Range const & range = rangeOf( entry );
+   U32 const block = range.blocks[copy];
+   return { range.base + entry - range.firstEntry, block >> 8, block & 0xff };
+}
+
 } // namespace Simulator

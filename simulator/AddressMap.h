@@ -53,6 +53,9 @@ class AddressMap {
 
    // The range that holds the address in the block, or null.
    Range const * find( U32 selectorA, U32 selectorB, U32 address ) const;
+   // Entries have numbers, over all of the chip: where one lies. The number is below entries().
+   Range const & rangeOf( U32 entry ) const;
+   DaceSal::SchanAddress addressOf( U32 entry, U32 copy ) const;
    // Whether anything lies in the block.
    bool hasBlock( U32 selectorA, U32 selectorB ) const;
 

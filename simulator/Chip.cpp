@@ -3,7 +3,7 @@
 #include "assert/Assert.h"
 
 #include <algorithm>
-#include <new>
+#include <bit>
 
 namespace Simulator {
 
@@ -28,20 +28,13 @@ bool Chip::Entry::copiesDiffer() const {
 }
 
 Chip::Chip( ChipId id, std::string name, AddressMap const & map )
-   : map_( map ), memory_( static_cast< U32 * >( std::calloc( std::max( map.words(), 1u ), sizeof( U32 ) ) ) ),
-     valued_( map.entries() / 64 + 1 ), id_( id ), name_( std::move( name ) ) {
+   : Chip( id, std::move( name ), map, ChipMemory::own( map ) ) {}
+
+Chip::Chip( ChipId id, std::string name, AddressMap const & map, ChipMemory memory )
+   : map_( map ), memory_( std::move( memory ) ), id_( id ), name_( std::move( name ) ) {
    static constexpr AddressMap::Range nowhere{};
    latest_ = map.ranges().empty() ? &nowhere : map.ranges().data();
-   if ( !memory_ ) {
-      throw std::bad_alloc();
-   }
-}
-
-bool Chip::controlIs( U32 control, U32 value ) {
-   auto const [at, isNew] = controls_.try_emplace( control, value );
-   bool const changed = isNew || at->second != value;
-   at->second = value;
-   return changed;
+   Rex::sassert( memory_.words.size() == map.words(), "memory.words.size() == map.words()" );
 }
 
 void Chip::fill( SchanAddress const & at, std::span< U32 const > words ) {
@@ -52,10 +45,34 @@ void Chip::fill( SchanAddress const & at, std::span< U32 const > words ) {
    mark( found.range, found.index );
 }
 
+U32 Chip::nextValued( U32 from ) const {
+   for ( std::size_t at = from / 64; at < memory_.valued.size(); ++at ) {
+      U64 const here = memory_.valued[at] & ( at == from / 64 ? ~U64{ 0 } << from % 64 : ~U64{ 0 } );
+      if ( here != 0 ) {
+         return static_cast< U32 >( at * 64 + static_cast< unsigned >( std::countr_zero( here ) ) );
+      }
+   }
+   return map_.entries();
+}
+
+void Chip::takeContents( Chip const & other ) {
+   for ( U32 entry = other.nextValued( 0 ); entry < map_.entries(); entry = other.nextValued( entry + 1 ) ) {
+      AddressMap::Range const & range = map_.rangeOf( entry );
+      for ( U32 copy = 0; copy < range.copies; ++copy ) {
+         U32 const index = entry - range.firstEntry;
+         std::memcpy( wordsOf( range, index, copy ), other.wordsOf( range, index, copy ), range.width * sizeof( U32 ) );
+      }
+      mark( range, entry - range.firstEntry );
+   }
+   for ( auto const & [control, value] : other.controls() ) {
+      controlIs( control, value );
+   }
+}
+
 Chip::Entry Chip::entry( SchanAddress const & at ) const {
    Found const found = find( at );
    U32 const number = found.range.firstEntry + found.index;
-   return Entry( found.range, wordsOf( found.range, found.index, 0 ), valued_[number / 64] >> number % 64 & 1 );
+   return Entry( found.range, wordsOf( found.range, found.index, 0 ), memory_.valued[number / 64] >> number % 64 & 1 );
 }
 
 void Chip::refuseAddress( SchanAddress const & at ) const {

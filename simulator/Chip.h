@@ -6,8 +6,7 @@
 //    chip.write( at, words );         // into the one copy whose block `at` names
 //    chip.entry( at ).words( 1 );     // what the second copy holds
 //
-// A chip knows blocks and addresses, nothing of tables. Its memory is one block, zeroed when it is first touched, with
-// one bit for each entry that was ever given a value.
+// A chip knows blocks and addresses, nothing of tables. Its memory is its own, or one that outlives it (ChipMemory.h).
 //
 // Reading or writing what the chip doesn't have ends the process by assertion, with a message that names the chip, the
 // block and the address.
@@ -15,14 +14,10 @@
 // Threading: the agent's scheduler thread.
 #pragma once
 
-#include "simulator/AddressMap.h"
+#include "simulator/ChipMemory.h"
 
-#include <cstdlib>
 #include <cstring>
-#include <map>
-#include <memory>
 #include <string>
-#include <vector>
 
 namespace Simulator {
 
@@ -54,6 +49,9 @@ class Chip {
 
    // The map must outlive the chip. `name` is that of the kind of chip, for messages.
    Chip( ChipId id, std::string name, AddressMap const & map );
+   // With what is in the memory, which is laid out by the map.
+   Chip( ChipId id, std::string name, AddressMap const & map, ChipMemory memory );
+   Chip( Chip && ) = default;
 
    ChipId id() const { return id_; }
    AddressMap const & map() const { return map_; }
@@ -62,16 +60,18 @@ class Chip {
    void read( SchanAddress const & at, std::span< U32 > words ) const;
    bool write( SchanAddress const & at, std::span< U32 const > words );
 
-   // Returns whether the value became different by it; the first value of a control always does.
-   bool controlIs( U32 control, U32 value );
-   std::map< U32, U32 > const & controls() const { return controls_; }
-   std::optional< U32 > control( U32 control ) const {
-      auto const found = controls_.find( control );
-      return found == controls_.end() ? std::nullopt : std::optional( found->second );
-   }
+   // As those of the memory.
+   bool controlIs( U32 control, U32 value ) { return memory_.controls.valueIs( control, value ); }
+   std::map< U32, U32 > controls() const { return memory_.controls.all(); }
+   std::optional< U32 > control( U32 control ) const { return memory_.controls.value( control ); }
 
    // Contents that no program wrote: gives every copy of the entry at `at` (in any of its blocks) the words.
    void fill( SchanAddress const & at, std::span< U32 const > words );
+
+   // The first entry that was ever given a value, from a number on (AddressMap.h); map().entries() where there is none.
+   U32 nextValued( U32 from ) const;
+   // Becomes what another chip with the same map is.
+   void takeContents( Chip const & other );
 
    // Whether the chip has the address in the block.
    bool has( SchanAddress const & at ) const { return map_.find( at.selectorA, at.selectorB, at.address ) != nullptr; }
@@ -84,29 +84,24 @@ class Chip {
       U32 index; // of the entry in its range
       U32 copy;
    };
-   struct Free {
-      void operator()( void * block ) const { std::free( block ); }
-   };
 
    Found find( SchanAddress const & at ) const;
    Found find( SchanAddress const & at, std::size_t words ) const;
    U32 * wordsOf( AddressMap::Range const & range, U32 index, U32 copy ) const {
-      return memory_.get() + range.firstWord + copy * range.copyStep() + index * range.width;
+      return memory_.words.data() + range.firstWord + copy * range.copyStep() + index * range.width;
    }
    void mark( AddressMap::Range const & range, U32 index ) {
       U32 const entry = range.firstEntry + index;
-      valued_[entry / 64] |= U64{ 1 } << entry % 64;
+      memory_.valued[entry / 64] |= U64{ 1 } << entry % 64;
    }
    [[noreturn]] void refuseAddress( SchanAddress const & at ) const;
    [[noreturn]] void refuseWidth( SchanAddress const & at, U32 width, std::size_t words ) const;
 
    AddressMap const & map_;
-   std::unique_ptr< U32[], Free > memory_;
-   std::vector< U64 > valued_;
    mutable AddressMap::Range const * latest_; // a write mostly follows a read of the same place
+   ChipMemory memory_;
    ChipId id_;
    std::string name_;
-   std::map< U32, U32 > controls_;
 };
 
 namespace Impl {

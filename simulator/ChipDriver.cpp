@@ -4,11 +4,11 @@
 
 namespace Simulator {
 
-Chip & ChipDriver::chipIs( ChipId id, std::string name, AddressMap const & map ) {
+Chip & ChipDriver::chipIs( ChipId id, std::string name, AddressMap const & map, ChipMemory memory ) {
    if ( byNumber_.size() <= id.value ) {
       byNumber_.resize( id.value + 1u );
    }
-   byNumber_[id.value] = std::make_unique< Chip >( id, std::move( name ), map );
+   byNumber_[id.value] = std::make_unique< Chip >( id, std::move( name ), map, std::move( memory ) );
    return *byNumber_[id.value];
 }
 

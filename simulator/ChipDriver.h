@@ -11,12 +11,18 @@
 
 #include "simulator/Chip.h"
 
+#include <vector>
+
 namespace Simulator {
 
 class ChipDriver final : public DaceSal::SchanDriver {
  public:
    // Adds a chip, with nothing in it. The map must outlive it. A second chip of the same number replaces the first.
-   Chip & chipIs( ChipId id, std::string name, AddressMap const & map );
+   Chip & chipIs( ChipId id, std::string name, AddressMap const & map ) {
+      return chipIs( id, std::move( name ), map, ChipMemory::own( map ) );
+   }
+   // With what is in the memory.
+   Chip & chipIs( ChipId id, std::string name, AddressMap const & map, ChipMemory memory );
 
    // The chip of the number, or null.
    Chip * chip( ChipId id ) { return id.value < byNumber_.size() ? byNumber_[id.value].get() : nullptr; }

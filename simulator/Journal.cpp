@@ -2,6 +2,7 @@
 
 #include "assert/Assert.h"
 #include "rex/Entity.h"
+#include "simulator/FaultyDriver.h"
 #include "simulator/FunctionName.h"
 
 #include <utility>
@@ -60,6 +61,7 @@ void Journal::eventIsDropped() {
 }
 
 void Journal::eventEnds() {
+   takeFaults();
    handOver();
    for ( RowReader * const reader : readers_ ) {
       reader->eventEnds( event_ );
@@ -167,6 +169,37 @@ void Journal::operation( DaceSal::Operation const & operation ) {
       record.scope = operation.scope;
       record.core = operation.core;
    }
+   if ( !faults_.empty() ) [[unlikely]] {
+      takeFaults();
+   }
+}
+
+void Journal::faultFired( FiredFault const & fired ) {
+   Record record{};
+   record.kind = Kind::fault;
+   record.event = event_;
+   record.cause = causeNumber();
+   record.isOfFap = true;
+   record.fap = fired.chip.value;
+   record.origin = static_cast< U32 >( reasons_.size() );
+   reasons_.push_back( fired.what );
+   record.words = words_.keep( fired.words );
+   record.width = static_cast< U16 >( fired.words.size() );
+   record.table = fired.place.table->number;
+   record.variant = fired.place.layout->variant;
+   record.array = static_cast< int >( fired.place.array );
+   record.entryOrControl = fired.place.entry;
+   record.isRegister = fired.place.layout->entries == 0;
+   record.scope = Scope::core;
+   record.core = static_cast< int >( fired.place.copy );
+   record.changed = true;
+   ( fired.isByOperation ? faults_ : records_ ).push_back( record );
+}
+
+// Those that fired at an operation stand behind it.
+void Journal::takeFaults() {
+   records_.insert( records_.end(), faults_.begin(), faults_.end() );
+   faults_.clear();
 }
 
 void Journal::gateClosed( Rex::ClosedGate const & gate ) {

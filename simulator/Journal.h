@@ -35,6 +35,8 @@
 
 namespace Simulator {
 
+struct FiredFault;
+
 class Journal final : public DaceSal::OperationListener, public Rex::GateListener, public Rex::WriteListener {
  public:
    using Kind = Row::Kind;
@@ -75,13 +77,16 @@ class Journal final : public DaceSal::OperationListener, public Rex::GateListene
 
    // Rows are kept from now on.
    void rowsAreKept() { isKept_ = true; }
-   // Now and then causes get other numbers: for a run without an end, whose state has ever new names. Readers may hold on
-   // to a number for one event only.
+   // Now and then causes get other numbers: for a run without an end, whose state has ever new names. Readers may hold
+   // on to a number for one event only.
    void causesAreForgotten() { forgetsCauses_ = true; }
    // The rows that are kept, or those of the event under way.
    std::vector< Row > rows() const;
    // Those of them that are driver operations.
    std::vector< Row > operations() const;
+
+   // A fault has changed what a chip holds, or failed an operation: its row stands behind that of the operation.
+   void faultFired( FiredFault const & fired );
 
    void operation( DaceSal::Operation const & operation ) override;
    void gateClosed( Rex::ClosedGate const & gate ) override;
@@ -145,10 +150,12 @@ class Journal final : public DaceSal::OperationListener, public Rex::GateListene
    using Layouts = std::vector< Catalogue::Layout const * >; // of one kind of chip, by table and variant
 
    Record & add( Kind kind, U32 origin );
+   void takeFaults();
    U32 originNumber( std::source_location const & at );
    U32 numberOf( OriginKey const & key );
    U32 causeNumber();
    void tell( Record const & record, Row & row ) const;
+   void access( Record const & record, Row & row ) const;
    void handOver();
    void forget();
    void failed();
@@ -166,6 +173,7 @@ class Journal final : public DaceSal::OperationListener, public Rex::GateListene
    std::vector< Record > records_;
    WordStore words_;
    std::deque< std::string > reasons_;
+   std::vector< Record > faults_; // of the operation under way
    std::deque< Publication > publications_;
 
    std::array< LatestOrigin, 256 > latestOrigins_; // by a few bits of the place

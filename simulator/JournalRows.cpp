@@ -27,6 +27,23 @@ void Journal::chipIs( U16 fap, Hardware::ChipType chipType ) {
    }
 }
 
+void Journal::access( Record const & record, Row & row ) const {
+   if ( row.tableNumber != record.table || row.table.empty() ) {
+      row.tableNumber = record.table;
+      row.table = Catalogue::tables()[record.table].name;
+   }
+   row.layout = record.fap < layouts_.size() && !layouts_[record.fap].empty()
+                   ? layouts_[record.fap][record.table * mostVariants + record.variant]
+                   : nullptr;
+   row.variant = record.variant;
+   row.array = record.array;
+   row.entry = record.isRegister ? std::nullopt : std::optional( record.entryOrControl );
+   row.scope = record.scope;
+   row.core = record.core;
+   row.words = { record.words, record.width };
+   row.before = { record.words + record.width, record.hasBefore ? record.width : 0u };
+}
+
 // A row that was told of a record of the same kind already is filled anew: all that such rows have is written here.
 void Journal::tell( Record const & record, Row & row ) const {
    if ( row.kind != record.kind ) {
@@ -47,6 +64,11 @@ void Journal::tell( Record const & record, Row & row ) const {
       row.published = &publication.after;
       return;
    }
+   if ( record.kind == Kind::fault ) {
+      row.reason = reasons_[record.origin];
+      access( record, row );
+      return;
+   }
    if ( row.originNumber != record.origin || row.function.empty() ) {
       Origin const & origin = origins_[record.origin];
       row.function = origin.function;
@@ -65,22 +87,10 @@ void Journal::tell( Record const & record, Row & row ) const {
       break;
    case Kind::read:
    case Kind::write:
-      if ( row.tableNumber != record.table || row.table.empty() ) {
-         row.tableNumber = record.table;
-         row.table = Catalogue::tables()[record.table].name;
-      }
-      row.layout = record.fap < layouts_.size() && !layouts_[record.fap].empty()
-                      ? layouts_[record.fap][record.table * mostVariants + record.variant]
-                      : nullptr;
-      row.variant = record.variant;
-      row.array = record.array;
-      row.entry = record.isRegister ? std::nullopt : std::optional( record.entryOrControl );
-      row.scope = record.scope;
-      row.core = record.core;
-      row.words = { record.words, record.width };
-      row.before = { record.words + record.width, record.hasBefore ? record.width : 0u };
+      access( record, row );
       break;
    case Kind::publish:
+   case Kind::fault:
       break;
    }
 }

@@ -26,7 +26,7 @@ struct WordView : std::span< U32 const > {
 };
 
 struct Row {
-   enum class Kind : U8 { read, write, control, gate, publish };
+   enum class Kind : U8 { read, write, control, gate, publish, fault };
    using Scope = DaceSal::Operation::Scope;
 
    Kind kind;
@@ -62,7 +62,8 @@ struct Row {
    U32 value = 0;
    std::optional< U32 > valueBefore = {}; // none: it had none yet, or nobody knows
 
-   // Gates.
+   // Gates: why they are closed. Faults: which fired, "flip:7"; it did so in the copy `core` of the entry, whose words
+   // are those that it holds since.
    std::string_view reason = {};
 
    // Publications: an attribute at a path, or one entry of it.

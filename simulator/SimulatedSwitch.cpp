@@ -1,6 +1,7 @@
 #include "simulator/SimulatedSwitch.h"
 
 #include "interface/ManagedIntfStatusDir.h"
+#include "simulator/ChipsMapping.h"
 #include "simulator/TableMap.h"
 
 #include <dlfcn.h>
@@ -67,14 +68,14 @@ void loadPlugin( std::string const & path ) {
    }
 }
 
-SimulatedSwitch::SimulatedSwitch( SwitchDescription description )
+SimulatedSwitch::SimulatedSwitch( SwitchDescription description, ChipsMapping const * chips )
    : description_( checked( std::move( description ) ) ),
      journal_( { .cause = [this] { return cause(); },
                  .pathOf = [this]( Rex::Entity const & entity ) { return publishedPath( entity ); } } ),
      scheduler_( makePtr< Orb::TaskScheduler >() ),
      entityManager_( makePtr< Stordb::EntityManager >( state_.database(), scheduler_ ) ),
-     context_( makePtr< Agent::MounterPlugin::MounterContext >( entityManager_, state_.shared() ) ) {
-   makeChips();
+     context_( makePtr< Agent::MounterPlugin::MounterContext >( entityManager_, state_.shared() ) ), mapping_( chips ) {
+   makeChips( chips );
    shareObjects();
    cellStatus_ = tell( description_, state_ );
    DaceSal::schanDriverIs( &driver_ );
@@ -91,12 +92,16 @@ SimulatedSwitch::~SimulatedSwitch() {
    stop();
 }
 
-void SimulatedSwitch::makeChips() {
+void SimulatedSwitch::makeChips( ChipsMapping const * chips ) {
    for ( auto const & fap : description_.faps ) {
       auto const chipType = fap.revision.chipType();
       // A chip of another family has no address that is known here.
       if ( auto const * name = Hardware::chipTypeName( chipType ) ) {
-         boot( driver_.chipIs( fap.fapId, name, addressMap( chipType ) ), chipType, description_.bootNoise );
+         if ( chips ) {
+            driver_.chipIs( fap.fapId, name, addressMap( chipType ), chips->chip( fap.fapId ) );
+         } else {
+            boot( driver_.chipIs( fap.fapId, name, addressMap( chipType ) ), chipType, description_.bootNoise );
+         }
          journal_.chipIs( fap.fapId.value(), chipType );
       }
    }
@@ -177,6 +182,17 @@ void SimulatedSwitch::change( std::function< void() > const & what, std::string 
       scheduler_->runUntilIdle();
       journal_.eventEnds();
    }
+}
+
+SupervisedChips & SimulatedSwitch::supervise( Supervision supervision ) {
+   supervised_ =
+      std::make_unique< SupervisedChips >( driver_, description_, journal_, mapping_, std::move( supervision ) );
+   return *supervised_;
+}
+
+void SimulatedSwitch::fault( Fault const & fault ) {
+   SupervisedChips & chips = supervised_ ? *supervised_ : supervise();
+   change( [&] { chips.arm( fault ); }, "fault", eventOf( "fault", *valueOf( fault ).object() ) );
 }
 
 void SimulatedSwitch::set( std::string const & path, std::string const & attribute, Rex::Value const & value ) {

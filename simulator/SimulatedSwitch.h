@@ -26,13 +26,14 @@
 // Threading: the agent's scheduler thread.
 #pragma once
 
-#include "simulator/ChipDriver.h"
-#include "simulator/Journal.h"
+#include "simulator/SupervisedChips.h"
 #include "simulator/SwitchDescription.h"
 
 #include <stdexcept>
 
 namespace Simulator {
+
+class ChipsMapping;
 
 // A library that can't be loaded. what() says which and why.
 class LibraryError : public std::runtime_error {
@@ -47,7 +48,9 @@ class SimulatedSwitch {
  public:
    // Throws std::logic_error if there is a switch already, if two FAPs have one number, or if a toggle was read in this
    // process with another outcome.
-   explicit SimulatedSwitch( SwitchDescription description );
+   // With `chips`, which outlive the switch and were made for the same description, its chips stand in that memory, as
+   // they are there.
+   explicit SimulatedSwitch( SwitchDescription description, ChipsMapping const * chips = nullptr );
    ~SimulatedSwitch();
    SimulatedSwitch( SimulatedSwitch const & ) = delete;
    SimulatedSwitch & operator=( SimulatedSwitch const & ) = delete;
@@ -84,6 +87,14 @@ class SimulatedSwitch {
    // `event` tells of it as a scenario does.
    void change( std::function< void() > const & what, std::string const & cause = "change", Rex::Value event = {} );
 
+   // A fault is armed, as an event: what isn't supervised yet is so from now on. Throws Rex::ValueError.
+   void fault( Fault const & fault );
+   // Keeps beside the chips what they are expected to hold, from here on. Once, and not while something is staged.
+   SupervisedChips & supervise( Supervision supervision = {} );
+   // Null: nobody has asked for it.
+   SupervisedChips * supervised() { return supervised_.get(); }
+   SupervisedChips const * supervised() const { return supervised_.get(); }
+
    // The number of the event under way or, between events, of the last one.
    U32 event() const { return event_; }
    // What an operation made now is the consequence of: "chip-init"; "<path> <attribute>" of the innermost change that
@@ -103,7 +114,7 @@ class SimulatedSwitch {
  private:
    enum class Phase : U8 { made, chipInit, starting, running, stopped };
 
-   void makeChips();
+   void makeChips( ChipsMapping const * chips );
    void shareObjects();
    void initChips();
    std::string publishedPath( Rex::Entity const & entity ) const;
@@ -117,6 +128,8 @@ class SimulatedSwitch {
    Corvo::Ptr< Stordb::EntityManager > entityManager_;
    Corvo::Ptr< Agent::MounterPlugin::MounterContext > context_;
    Corvo::Ptr< Hardware::Dace::Cell::CellStatus > cellStatus_;
+   ChipsMapping const * mapping_; // null: the chips have memory of their own
+   std::unique_ptr< SupervisedChips > supervised_;
    Phase phase_ = Phase::made;
    U32 event_ = 0;
    std::string eventCause_;

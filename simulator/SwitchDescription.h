@@ -32,6 +32,8 @@ struct SwitchDescription {
    enum class Journalled : U8 { none, streamed, kept };
    Journalled journalled = Journalled::kept;
    BootNoise bootNoise = BootNoise::plain;
+   // Else its chips never fail, whatever the events say.
+   bool hasFaults = true;
 };
 
 // Puts into a fresh state what the description tells: the cell, which it returns, the slice, and the directories that

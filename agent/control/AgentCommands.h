@@ -15,6 +15,7 @@
 
 namespace Live {
 
+class Auditor;
 class EmbeddedDatabase;
 
 // All of them outlive the commands.
@@ -22,6 +23,7 @@ struct AgentSubjects {
    SliceAgent & agent;
    RowRing const & ring;
    EmbeddedDatabase * embedded = nullptr; // null: another database is followed
+   Auditor * auditor = nullptr;           // null: the chips aren't looked after
    std::string version = {};
    std::string plugin = {};                     // which build of it
    std::function< std::string() > metrics = {}; // none: nothing is counted
@@ -40,6 +42,7 @@ void addAgentCommands( Commands & commands, AgentSubjects const & subjects );
 void addLifeCommands( Commands & commands, AgentSubjects const & subjects );   // status, freeze, thaw, metrics, exit
 void addStateCommands( Commands & commands, AgentSubjects const & subjects );  // state …
 void addTraceCommands( Commands & commands );                                  // trace …
+void addChipCommands( Commands & commands, AgentSubjects const & subjects );   // fault …, audit …, repair
 void addAnswerCommands( Commands & commands, AgentSubjects const & subjects ); // show, why, plan
 
 } // namespace Live

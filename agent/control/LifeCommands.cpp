@@ -43,7 +43,7 @@ Value statusOf( AgentSubjects const & subjects, Lag const & lag ) {
       { "waiting", agent.waiting() },
       { "lag", lag.value() },
       { "rejected", agent.rejected().size() },
-      { "drift", 0 },
+      { "drift", agent.drift() },
       { "version", subjects.version },
       { "plugin", subjects.plugin },
       { "uptime", seconds( Rex::now() - subjects.begun ) },
@@ -96,6 +96,9 @@ void addAgentCommands( Commands & commands, AgentSubjects const & subjects ) {
    addAnswerCommands( commands, subjects );
    addStateCommands( commands, subjects );
    addTraceCommands( commands );
+   if ( subjects.auditor ) {
+      addChipCommands( commands, subjects );
+   }
 }
 
 } // namespace Live

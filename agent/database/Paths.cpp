@@ -56,6 +56,9 @@ class Changing {
    Changing( Event const & event, PathLookup const & lookup ) : event_( event ), lookup_( lookup ) {}
 
    PathChanges changes() {
+      if ( event_.fault ) {
+         throw ValueError( "", "a state has no faults: l3sm ctl fault add, or play the scenario: l3sm run" );
+      }
       PathPlace const place = placeOf( event_.path );
       if ( !event_.attribute ) {
          removeWith( event_.path );

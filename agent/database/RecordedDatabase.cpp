@@ -62,6 +62,10 @@ void RecordedDatabase::hand( Position const & position ) {
    while ( ahead_ && !ahead_->isBegin && next.size() < atOnce ) {
       Event event;
       inFile( path_, [&] { readEvent( ahead_->what, event ); } );
+      if ( event.fault ) { // which no database has told of
+         ahead_ = segments_->next();
+         continue;
+      }
       Transaction transaction{ .position = positionOf( *ahead_ ), .changes = changesOf( std::move( event ) ) };
       told_ = transaction.position;
       next.push_back( std::move( transaction ) );

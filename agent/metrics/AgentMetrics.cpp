@@ -9,7 +9,8 @@ void AgentMetrics::phaseIs( Phase phase, std::string const & ) {
 void AgentMetrics::snapshotPlayed( Position const &, Paths const & ) {
    if ( !isStarted_ && agent_.isStarted() ) {
       isStarted_ = true;
-      metrics_.is( Metric::startChangingWrites, static_cast< double >( metrics_.changingWrites() ) );
+      metrics_.is( Metric::startChangingWrites,
+                   static_cast< double >( agent_.startChangingWrites().value_or( metrics_.changingWrites() ) ) );
    }
    metrics_.is( Metric::rejectedEntries, static_cast< double >( agent_.rejected().size() ) );
 }

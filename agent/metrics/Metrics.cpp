@@ -188,6 +188,8 @@ void Metrics::row( Row const & row ) {
          operations_.resize( row.fap + 1u );
       }
       ++operations_[row.fap].counts[static_cast< std::size_t >( row.kind )][row.changed ? 1 : 0];
+   } else if ( row.kind == Row::Kind::fault ) {
+      add( Metric::faultsInjected, { std::string( row.reason.substr( 0, row.reason.find( ':' ) ) ) } );
    } else if ( row.kind == Row::Kind::gate ) {
       auto const known = gates_.find( row.function );
       ++( known == gates_.end() ? gates_[std::string( row.function )] : known->second );

@@ -5,9 +5,8 @@ namespace Live {
 namespace {
 
 Rex::Value told( Recorder const & recorder ) {
-   return Rex::Value::Object{ { "recording", recorder.isRecording() },
-                              { "segment", recorder.path() },
-                              { "trouble", recorder.trouble() } };
+   return Rex::Value::Object{
+      { "recording", recorder.isRecording() }, { "segment", recorder.path() }, { "trouble", recorder.trouble() } };
 }
 
 } // namespace
@@ -29,7 +28,8 @@ void addRecordCommands( Commands & commands, Recorder & recorder ) {
                    .changes = true,
                    .answer = [&recorder]( Arguments const & given ) -> Answer {
                       if ( !recorder.isRecording() ) {
-                         throw CommandError( CommandError::refused, "nothing is recorded; begin with: record start FOLDER" );
+                         throw CommandError( CommandError::refused,
+                                             "nothing is recorded; begin with: record start FOLDER" );
                       }
                       recorder.mark( given.required< std::string >( "text" ) );
                       return told( recorder );

@@ -71,8 +71,13 @@ class Replayed {
    OperationHash play( RecordedEvent const & event ) {
       if ( event.what.object() && event.what.object()->contains( "start" ) ) {
          sw_.start();
+         return last_.hash;
+      }
+      auto const changes = changesIn( event.what, scenario_.file );
+      if ( changes.size() == 1 && changes.front().fault ) {
+         sw_.fault( *changes.front().fault );
       } else {
-         door_.play( changesIn( event.what, scenario_.file ) );
+         door_.play( changes );
       }
       return last_.hash;
    }

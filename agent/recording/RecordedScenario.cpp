@@ -24,6 +24,9 @@ class State {
    // The change as a scenario has it: members are made with what is set in them. None where it didn't fit, or changed
    // nothing.
    std::optional< Event > taken( Event event ) {
+      if ( event.fault ) {
+         return event;
+      }
       try {
          PathPlace const place = placeOf( event.path );
          bool const isThere = has( event.path );

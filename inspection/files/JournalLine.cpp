@@ -12,7 +12,7 @@ using Simulator::Row;
 namespace dom = simdjson::dom;
 using namespace JsonElements;
 
-constexpr std::string_view kindNames[] = { "read", "write", "control", "gate", "publish" };
+constexpr std::string_view kindNames[] = { "read", "write", "control", "gate", "publish", "fault" };
 constexpr std::string_view scopeNames[] = { "any", "all", "core" };
 constexpr std::string_view endingNames[] = { "complete", "interrupted", "assertion" };
 
@@ -107,6 +107,14 @@ Row JournalLineParser::row( dom::object const & object, Row::Kind kind ) {
    row.causeNumber = cause.number;
    if ( kind == Row::Kind::publish ) {
       publication( object, row );
+      return row;
+   }
+   if ( kind == Row::Kind::fault ) {
+      row.fap = number< U16 >( object, "fap" );
+      row.reason = texts_.kept( text( object, "reason" ) ).text;
+      row.changed = true;
+      checkFap( row.fap );
+      access( object, row );
       return row;
    }
    row.function = texts_.kept( text( object, "function" ) ).text;

@@ -21,6 +21,9 @@ bool isPublished( std::string const & path ) {
 } // namespace
 
 Rehearsal::Rehearsal( Simulator::SwitchDescription const & description ) {
+   for ( auto const & fap : description.faps ) {
+      chipTypes_.emplace( fap.fapId.value(), fap.revision.chipType() );
+   }
    tell( description, tree_ );
 }
 
@@ -64,7 +67,35 @@ void Rehearsal::state( Value::Object & state ) {
    errors.end();
 }
 
+// Some chip of those that it names is to be one that can have it.
+void Rehearsal::fault( Simulator::Fault const & fault ) const {
+   std::optional< ValueError > wrong;
+   bool hasFap = false;
+   for ( auto const & [fap, chipType] : chipTypes_ ) {
+      if ( fault.fap.value_or( fap ) != fap ) {
+         continue;
+      }
+      hasFap = true;
+      try {
+         check( fault, chipType );
+         return;
+      } catch ( ValueError const & error ) {
+         wrong = error;
+      }
+   }
+   if ( wrong ) {
+      throw *wrong;
+   }
+   if ( !hasFap && !chipTypes_.empty() ) {
+      throw ValueError( "/fap", "the switch has no such FAP" );
+   }
+}
+
 void Rehearsal::event( Event const & event ) {
+   if ( event.fault ) {
+      fault( *event.fault );
+      return;
+   }
    if ( event.kind == Event::Kind::transaction ) {
       ValueErrors errors;
       for ( std::size_t at = 0; at < event.changes.size(); ++at ) {
@@ -94,7 +125,7 @@ void Rehearsal::isWithout( Event const & event ) {
    for ( Event const & change : event.changes ) {
       isWithout( change );
    }
-   if ( event.kind == Event::Kind::transaction ) {
+   if ( event.kind == Event::Kind::transaction || event.fault ) {
       return;
    }
    isMissing( event.path + ( event.attribute ? "/" + *event.attribute : "" ) + ( event.key ? "/" + *event.key : "" ) );

@@ -14,8 +14,8 @@ namespace {
 using Simulator::Row;
 using Simulator::WordView;
 
-constexpr std::size_t wordSize = 14;      // `"0x00000000", `
-constexpr std::size_t fewBytes = 512;     // of all that a line has beside its words and texts
+constexpr std::size_t wordSize = 14;  // `"0x00000000", `
+constexpr std::size_t fewBytes = 512; // of all that a line has beside its words and texts
 
 // Puts one text behind the other where there is room for them.
 class Put {
@@ -127,6 +127,10 @@ void putControl( Put & put, Row const & row ) {
    }
 }
 
+bool isWithoutOrigin( Row const & row ) {
+   return row.kind == Row::Kind::publish || row.kind == Row::Kind::fault;
+}
+
 std::string publicationOf( Row const & row ) {
    std::string text = ", \"path\": " + jsonOf( row.path ) + ", \"attribute\": " + jsonOf( row.attribute );
    if ( row.key ) {
@@ -149,7 +153,7 @@ char * RowLines::room( std::size_t bytes ) {
 }
 
 std::string_view RowLines::tail( Row const & row ) {
-   std::size_t const origin = row.kind == Row::Kind::publish ? 0 : row.originNumber + std::size_t{ 1 };
+   std::size_t const origin = isWithoutOrigin( row ) ? 0 : row.originNumber + std::size_t{ 1 };
    if ( tails_.size() <= origin ) {
       tails_.resize( origin + 1 );
    }
@@ -188,12 +192,14 @@ void RowLines::add( Row const & row ) {
       "{\"op\": \"control\", \"seq\": ",
       "{\"op\": \"gate\", \"event\": ",
       "{\"op\": \"publish\", \"event\": ",
+      "{\"op\": \"fault\", \"event\": ",
    };
    bool const isPublication = row.kind == Row::Kind::publish;
    auto const published = isPublication ? publicationOf( row ) : std::string();
    auto const ofTail = tail( row );
    auto const ofTable = row.words.empty() ? std::string_view() : table( row );
-   auto const own = row.kind == Row::Kind::gate ? reason( row ) : std::string_view( published );
+   bool const hasReason = row.kind == Row::Kind::gate || row.kind == Row::Kind::fault;
+   auto const own = hasReason ? reason( row ) : std::string_view( published );
    Put put( room( fewBytes + wordSize * ( row.words.size() + row.before.size() ) + own.size() + ofTable.size() +
                   ofTail.size() ) );
    put << begins[static_cast< std::size_t >( row.kind )];
@@ -206,7 +212,7 @@ void RowLines::add( Row const & row ) {
    }
    if ( row.kind == Row::Kind::control ) {
       putControl( put, row );
-   } else if ( row.isOperation() ) {
+   } else if ( row.isOperation() || row.kind == Row::Kind::fault ) {
       put << ofTable;
       putAccess( put, row );
    }

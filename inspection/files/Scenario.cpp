@@ -3,20 +3,26 @@
 #include "inspection/files/ChipsFile.h"
 #include "inspection/views/Terminal.h"
 
+#include <algorithm>
+
 namespace Inspection {
 
 using Rex::Value;
 using Rex::ValueError;
 
 char const * Event::word() const {
-   return kind == Kind::set ? "set" : kind == Kind::remove ? "delete" : "transaction";
+   static constexpr char const * words[] = { "set", "delete", "transaction", "fault" };
+   return words[static_cast< std::size_t >( kind )];
 }
 
 std::string Event::cause() const {
-   return kind == Kind::transaction ? word() : attribute ? path + " " + *attribute : path;
+   return kind == Kind::transaction || kind == Kind::fault ? word() : attribute ? path + " " + *attribute : path;
 }
 
 std::string Event::text() const {
+   if ( fault ) {
+      return "fault " + printable( fault->text() );
+   }
    if ( kind == Kind::transaction ) {
       std::string all = "at once:";
       for ( Event const & change : changes ) {
@@ -69,14 +75,18 @@ void Scenario::fillChips( Simulator::ChipDriver & driver ) const {
    for ( auto const & [number, contents] : chips ) {
       auto const & of = fap( number );
       auto & chip = *driver.chip( of.fapId );
-      inFile( file, [&, fap = number, tables = &contents.tables] {
+      inFile( file, [&, fap = number, what = &contents] {
          Rex::below( "chips", [&] {
-            Rex::below( std::to_string( fap ), [&] { apply( *tables, chip, of.revision.chipType() ); } );
+            Rex::below( std::to_string( fap ), [&] {
+               apply( what->tables, chip, of.revision.chipType() );
+               Rex::below( "controls", [&] {
+                  for ( auto const & [control, value] : what->controls ) {
+                     chip.controlIs( control, value );
+                  }
+               } );
+            } );
          } );
       } );
-      for ( auto const & [control, value] : contents.controls ) {
-         chip.controlIs( control, value );
-      }
    }
 }
 
@@ -108,12 +118,22 @@ void Scenario::prepare( Simulator::SimulatedSwitch & sw ) const {
          } );
       }
    } );
+   if ( sw.description().hasFaults &&
+        std::ranges::any_of( events, []( Event const & event ) { return event.fault.has_value(); } ) ) {
+      sw.supervise();
+   }
 }
 
 void Scenario::play( Simulator::SimulatedSwitch & sw, Event const & event ) const {
    inFile( file, [&] {
       try {
-         sw.change( [&] { event.change( sw.state() ); }, event.cause(), valueOf( event ) );
+         if ( event.fault && sw.description().hasFaults ) {
+            sw.fault( *event.fault );
+         } else if ( event.fault ) {
+            sw.change( [] {}, event.cause(), valueOf( event ) );
+         } else {
+            sw.change( [&] { event.change( sw.state() ); }, event.cause(), valueOf( event ) );
+         }
       } catch ( ValueError const & error ) {
          throw error.below( event.word() ).below( std::to_string( event.number - 1 ) ).below( "events" );
       }

@@ -21,7 +21,7 @@ namespace Inspection {
 
 // One change of state, or several at once.
 struct Event {
-   enum class Kind : U8 { set, remove, transaction };
+   enum class Kind : U8 { set, remove, transaction, fault };
 
    U32 number = 0; // from 1
    Kind kind = Kind::set;
@@ -30,12 +30,13 @@ struct Event {
    std::optional< std::string > key = {};
    Rex::Value value = {};
    std::vector< Event > changes = {}; // of a transaction, each a set or a remove; it has nothing else
+   std::optional< Simulator::Fault > fault = {}; // of a fault, which has nothing else
 
    // "set evpn/status evpnDciEnabled = true"
    std::string text() const;
    // As it is told who hears of it: "evpn/status evpnDciEnabled".
    std::string cause() const;
-   // The word that a scenario has for its kind: "set", "delete", "transaction".
+   // The word that a scenario has for its kind: "set", "delete", "transaction", "fault".
    char const * word() const;
    // Throws Rex::ValueError, its place seen from {"path", "attribute", "key", "value"}.
    void change( Simulator::StateTree & state ) const;
@@ -60,7 +61,7 @@ struct Scenario {
    std::vector< Event > events;
    std::vector< Warning > warnings;
 
-   // Puts chips and state in place. InputError where they don't fit.
+   // Puts chips and state in place, and supervises chips that are to fail. InputError where they don't fit.
    void prepare( Simulator::SimulatedSwitch & sw ) const;
    void fillChips( Simulator::ChipDriver & driver ) const;
    void play( Simulator::SimulatedSwitch & sw, Event const & event ) const;

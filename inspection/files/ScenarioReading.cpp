@@ -136,8 +136,11 @@ std::vector< Event > eventsIn( Value const & list ) {
 
 void readEvent( Value const & value, Event & event ) {
    Fields kinds( value );
-   if ( kinds.find( "fault" ) ) {
-      throw ValueError( { "/fault", "faults can't be injected yet; leave the event out", true } );
+   if ( auto const * const fault = kinds.find( "fault" ) ) {
+      event.kind = Event::Kind::fault;
+      kinds.end();
+      event.fault = Rex::below( event.word(), [&] { return Simulator::faultOf( *fault ); } );
+      return;
    }
    if ( auto const * const changes = kinds.find( "transaction" ) ) {
       event.kind = Event::Kind::transaction;
@@ -148,8 +151,9 @@ void readEvent( Value const & value, Event & event ) {
             Event & read = event.changes.emplace_back( Event{ .number = event.number } );
             errors.below( std::to_string( event.changes.size() - 1 ), [&] {
                readEvent( change, read );
-               if ( read.kind == Event::Kind::transaction ) {
-                  throw ValueError( "", "a transaction holds no other one" );
+               if ( read.kind == Event::Kind::transaction || read.fault ) {
+                  throw ValueError( "",
+                                    std::string( "a transaction holds no " ) + ( read.fault ? "fault" : "other one" ) );
                }
             } );
          }
@@ -164,7 +168,8 @@ void readEvent( Value const & value, Event & event ) {
    bool const isDelete = kinds.find( "delete" );
    kinds.end();
    if ( isSet == isDelete ) {
-      throw ValueError( "", "an event is {\"set\": {...}}, {\"delete\": {...}}, or {\"transaction\": [...]}" );
+      throw ValueError(
+         "", "an event is {\"set\": {...}}, {\"delete\": {...}}, {\"transaction\": [...]}, or {\"fault\": {...}}" );
    }
    event.kind = isSet ? Event::Kind::set : Event::Kind::remove;
    std::string const kind = isSet ? "set" : "delete";

@@ -39,6 +39,10 @@ Value valueOf( Toggle::Settings const & toggles ) {
 // Put together without copies: an agent does it for each of its events.
 Value valueOf( Event const & event ) {
    Value::Object what;
+   if ( event.fault ) {
+      what.emplace( event.word(), Simulator::valueOf( *event.fault ) );
+      return what;
+   }
    if ( event.kind == Event::Kind::transaction ) {
       Value::List changes;
       for ( Event const & change : event.changes ) {

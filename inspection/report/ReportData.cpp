@@ -191,6 +191,9 @@ void ReportData::met( Row const & row, RowKey const & key, U32 cause ) {
 }
 
 void ReportData::row( Row const & row ) {
+   if ( row.kind == Row::Kind::fault ) {
+      return; // the page tells what was done, not what befell the chips
+   }
    if ( events_.empty() ) {
       eventBegins( row.event, {} );
    }

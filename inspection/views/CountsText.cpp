@@ -23,6 +23,7 @@ std::string countsText( RowCounts const & counts ) {
    }
    add( counts.controls, "control", "controls" );
    add( counts.publications, "value published", "values published" );
+   add( counts.faults, "fault", "faults" );
    add( counts.gates, "gate closed", "gates closed" );
    return text;
 }

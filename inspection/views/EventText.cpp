@@ -42,6 +42,7 @@ class EventText {
       addChips( all );
       addPublications( all );
       addGates( all );
+      addFaults( all );
       return all;
    }
 
@@ -252,6 +253,18 @@ class EventText {
                                   ? ", " + counted( gates.count, "time", "times" )
                                   : "" ) +
                              ( options_.isFull ? "  " + std::string( gates.first->source ) : "" ) } );
+      }
+   }
+
+   void addFaults( Block & all ) const {
+      for ( Row const & row : rows_.rows() ) {
+         if ( row.kind == Row::Kind::fault ) {
+            all.push_back( { 2,
+                             "fault  " + std::string( row.reason ) + "  FAP " + std::to_string( row.fap ) + "  " +
+                                std::string( row.table ) + "[" + std::to_string( row.array ) + "]" +
+                                ( row.entry ? "." + std::to_string( *row.entry ) : "" ) + "  copy " +
+                                std::to_string( row.core ) } );
+         }
       }
    }
 

@@ -77,6 +77,7 @@ Value stepValue( ChainStep const & step ) {
       break;
    }
    case Row::Kind::gate:
+   case Row::Kind::fault:
       one["reason"] = step.reason;
       one["faps"] = listOf( step.faps );
       break;

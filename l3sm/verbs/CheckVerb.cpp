@@ -1,6 +1,7 @@
 // The verb `check`: plays a scenario and verifies what can be verified: what the plug-in can read back, that a second
 // start changes nothing, and that no entry passes through a value that it doesn't keep.
 #include "inspection/Play.h"
+#include "inspection/WrongPlace.h"
 #include "inspection/views/RestartText.h"
 #include "inspection/views/VerdictsText.h"
 #include "inspection/views/WindowsText.h"
@@ -28,6 +29,7 @@ struct Options {
    std::vector< std::string > toggles;
    bool restart = false;
    bool windows = false;
+   bool audit = false;
    bool all = false;
    bool json = false;
 };
@@ -80,7 +82,53 @@ int lookForWindows( Scenario const & scenario, Options const & options ) {
    return 0;
 }
 
+// What the scenario's faults have left on the chips that the plug-in hasn't written.
+int auditChips( Scenario const & scenario, Options const & options ) {
+   loadPlugin( options.plugin );
+   Simulator::SimulatedSwitch sw( scenario.description );
+   scenario.prepare( sw );
+   if ( !sw.supervised() ) {
+      sw.supervise();
+   }
+   sw.start();
+   for ( Event const & event : scenario.events ) {
+      scenario.play( sw, event );
+   }
+   auto const & degraded = sw.supervised()->shadow().degraded();
+   auto const wrong = wrongPlacesOf( sw );
+   Rex::Value::List all;
+   for ( WrongPlace const & it : wrong ) {
+      all.emplace_back( it.value() );
+      if ( !options.json && ( options.all || all.size() <= fewWindows ) ) {
+         std::cout << it.text() << '\n';
+      }
+   }
+   if ( options.json ) {
+      std::cout << toJson( Rex::Value::Object{ { "audit", std::move( all ) },
+                                               { "degraded", Rex::Value::List( degraded.begin(), degraded.end() ) },
+                                               { "faults", sw.supervised()->fired() } },
+                           3 )
+                << '\n';
+   } else {
+      if ( !options.all && all.size() > fewWindows ) {
+         std::cout << "… " << all.size() - fewWindows << " more: --all\n";
+      }
+      for ( U16 const fap : degraded ) {
+         std::cout << "FAP " << fap << " is degraded: an operation failed " << Simulator::ShadowDriver::mostTries
+                   << " times, and none reached it since\n";
+      }
+      std::cout << ( wrong.empty() && degraded.empty()
+                        ? "Every chip holds what was written to it: "
+                        : counted( wrong.size(), "place is", "places are" ) + " wrong: " )
+                << counted( sw.supervised()->fired(), "fault", "faults" ) << " fired.\n";
+   }
+   return wrong.empty() && degraded.empty() ? 0 : foundAFault;
+}
+
 int answer( Options const & options ) {
+   if ( options.audit && ( options.restart || options.windows || !options.chips.empty() ) ) {
+      throw InputError( "--audit plays the scenario with its faults; leave --restart, --windows and --chips out" );
+   }
    if ( options.restart && options.windows ) {
       throw InputError( "--restart tells the windows of a second start, --windows those of the run; give one of them" );
    }
@@ -88,6 +136,9 @@ int answer( Options const & options ) {
       throw InputError( "--chips is for what is read back; --restart and --windows play the scenario as it is" );
    }
    Scenario const scenario = scenarioToPlay( options.scenario, options.toggles, options.plugin );
+   if ( options.audit ) {
+      return auditChips( scenario, options );
+   }
    return options.restart   ? startAgain( scenario, options )
           : options.windows ? lookForWindows( scenario, options )
                             : readBack( scenario, options );
@@ -102,6 +153,7 @@ Action defineCheck( VerbOptions & verb ) {
    verb.text( "--chips", options->chips, "verify with these contents on the chips", "FILE" );
    verb.flag( "--restart", options->restart, "start the plug-in a second time, and tell what that changes" );
    verb.flag( "--windows", options->windows, "tell the fields that pass through a value they don't keep" );
+   verb.flag( "--audit", options->audit, "compare what the chips hold with what was written, faults and all" );
    verb.flag( "--all", options->all, "every one of them" );
    verb.repeated( "--toggle", options->toggles, "set a toggle; may be given several times", "FILE:NAME=on|off" );
    verb.text( "--plugin", options->plugin, "the plug-in's library; the default lies beside this program", "PATH" );

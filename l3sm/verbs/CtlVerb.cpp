@@ -73,19 +73,38 @@ Value typed( Value const & argument, std::string const & text ) {
    }
 }
 
+[[noreturn]] void refuseArgument( Known const & command, std::string const & word, std::string const & what ) {
+   std::string all;
+   for ( Value const & argument : command.arguments ) {
+      all += ( all.empty() ? "; it takes " : ", " ) + *objectOf( argument ).at( "name" ).text();
+   }
+   throw InputError( word, what + command.name + all );
+}
+
 Value paramsOf( Known const & command, std::vector< std::string > const & words ) {
    std::size_t const first = 1 + static_cast< std::size_t >( std::ranges::count( command.name, ' ' ) );
-   if ( words.size() > first + command.arguments.size() ) {
-      std::string all;
-      for ( Value const & argument : command.arguments ) {
-         all += ( all.empty() ? "; it takes " : ", " ) + *objectOf( argument ).at( "name" ).text();
-      }
-      throw InputError( words[first + command.arguments.size()], "is one argument too many for " + command.name + all );
-   }
    Value::Object params;
+   auto const nameOf = []( Value const & argument ) { return *objectOf( argument ).at( "name" ).text(); };
+   std::size_t place = 0; // of the next that isn't named
    for ( std::size_t at = first; at < words.size(); ++at ) {
-      Value const & argument = command.arguments[at - first];
-      params[*objectOf( argument ).at( "name" ).text()] = typed( argument, words[at] );
+      if ( words[at].starts_with( "--" ) ) {
+         auto const equals = words[at].find( '=' );
+         std::string const name = words[at].substr( 2, equals == std::string::npos ? equals : equals - 2 );
+         auto const named = std::ranges::find( command.arguments, name, nameOf );
+         if ( named == command.arguments.end() ) {
+            refuseArgument( command, words[at], "is no argument of " );
+         }
+         if ( equals == std::string::npos && at + 1 == words.size() ) {
+            throw InputError( words[at], "says nothing: " + words[at] + " VALUE" );
+         }
+         params[name] = typed( *named, equals == std::string::npos ? words[++at] : words[at].substr( equals + 1 ) );
+         continue;
+      }
+      if ( place == command.arguments.size() ) {
+         refuseArgument( command, words[at], "is one argument too many for " );
+      }
+      Value const & argument = command.arguments[place++];
+      params[nameOf( argument )] = typed( argument, words[at] );
    }
    return params;
 }
@@ -185,6 +204,27 @@ bool isOption( std::string const & word, std::string const & name ) {
 
 } // namespace
 
+namespace {
+
+// What stands behind the command `fault` is its own: the options of `ctl` come before it.
+std::vector< std::string > withFaultAlone( std::vector< std::string > words ) {
+   auto const fault = std::ranges::find( words, "fault" );
+   if ( fault == words.end() || std::ranges::find( words, "--" ) != words.end() ) {
+      return words;
+   }
+   std::vector< std::string > ours( words.begin(), fault );
+   std::vector< std::string > others( fault, words.end() );
+   if ( auto const json = std::ranges::find( others, "--json" ); json != others.end() ) {
+      others.erase( json );
+      ours.emplace_back( "--json" );
+   }
+   ours.emplace_back( "--" );
+   ours.insert( ours.end(), others.begin(), others.end() );
+   return ours;
+}
+
+} // namespace
+
 std::vector< std::string > withoutCtl( std::vector< std::string > const & words ) {
    static constexpr std::string_view verbs[] = { "show", "why", "diff", "plan" };
    if ( words.size() < 2 || words[1] != "ctl" ) {
@@ -214,7 +254,7 @@ std::vector< std::string > withoutCtl( std::vector< std::string > const & words 
       }
    }
    if ( at == words.size() || std::ranges::find( verbs, words[at] ) == std::end( verbs ) ) {
-      return words;
+      return at < words.size() && words[at] == "fault" ? withFaultAlone( words ) : words;
    }
    std::vector< std::string > verb{ words[0], words[at], "--agent", agent.empty() ? theOnlyAgent() : agent };
    verb.insert( verb.end(), others.begin(), others.end() );

@@ -13,6 +13,8 @@ using namespace Inspection;
 
 namespace {
 
+constexpr U32 auditPeriod = 60; // seconds
+
 struct Options {
    std::string file;
    std::string slice;
@@ -23,11 +25,26 @@ struct Options {
    std::string record;
    std::string metrics;
    std::string trace;
+   std::optional< U32 > audit;
+   std::string chipsFile;
+   std::string onDrift;
+   std::optional< U32 > faultSeed;
    std::vector< std::string > toggles;
    std::string plugin;
 };
 
+std::unique_ptr< Live::Daemon > daemonOf( Live::DaemonOptions const & options ) {
+   try {
+      return std::make_unique< Live::Daemon >( options );
+   } catch ( Simulator::ChipsRefused const & refused ) {
+      throw InputError( "--chips-file", refused.what() );
+   }
+}
+
 int serve( Options const & options ) {
+   if ( !options.onDrift.empty() && options.onDrift != "commit" && options.onDrift != "hold" ) {
+      throw InputError( "--on-drift", "expected commit or hold, got \"" + options.onDrift + "\"" );
+   }
    Scenario scenario = scenarioToPlay( options.file, options.toggles, options.plugin );
    if ( !scenario.events.empty() ) {
       throw InputError( scenario.file + ": /events",
@@ -37,17 +54,21 @@ int serve( Options const & options ) {
       scenario.description.sliceName = options.slice;
    }
    std::string const plugin = options.plugin.empty() ? pluginBeside() : options.plugin;
-   Live::Daemon daemon( { .scenario = std::move( scenario ),
-                          .cell = options.cell.value_or( 1 ),
-                          .database = options.database,
-                          .credentials = options.credentials,
-                          .socket = options.socket,
-                          .record = options.record,
-                          .metrics = options.metrics,
-                          .trace = options.trace,
-                          .version = std::string( versionNumber() ),
-                          .plugin = libraryId( plugin ).value_or( "" ) } );
-   return daemon.run();
+   auto const daemon = daemonOf( { .scenario = std::move( scenario ),
+                                   .cell = options.cell.value_or( 1 ),
+                                   .database = options.database,
+                                   .credentials = options.credentials,
+                                   .socket = options.socket,
+                                   .record = options.record,
+                                   .metrics = options.metrics,
+                                   .trace = options.trace,
+                                   .audit = static_cast< double >( options.audit.value_or( auditPeriod ) ),
+                                   .chipsFile = options.chipsFile,
+                                   .isDriftHeld = options.onDrift == "hold",
+                                   .faultSeed = options.faultSeed,
+                                   .version = std::string( versionNumber() ),
+                                   .plugin = libraryId( plugin ).value_or( "" ) } );
+   return daemon->run();
 }
 
 } // namespace
@@ -68,6 +89,18 @@ Action defineServe( VerbOptions & verb ) {
               "PATH|ADDRESS:PORT" );
    verb.text(
       "--trace", options->trace, "which facilities to trace, FACILITY/LEVEL a line; SIGHUP has it read again", "FILE" );
+   verb.number( "--audit",
+                options->audit,
+                "seconds in which all that the chips hold is compared with what was written; 60, and 0 for never" );
+   verb.text( "--chips-file",
+              options->chipsFile,
+              "what the chips hold stands there, and is there for the next agent, however this one ends",
+              "PATH" );
+   verb.text( "--on-drift",
+              options->onDrift,
+              "what a start does with chips that it would program otherwise: commit, the default, or hold",
+              "commit|hold" );
+   verb.number( "--fault-seed", options->faultSeed, "let the chips fail now and then, by this seed" );
    verb.repeated( "--toggle", options->toggles, "set a toggle; may be given several times", "FILE:NAME=on|off" );
    verb.text( "--plugin", options->plugin, "the plug-in's library; the default lies beside this program", "PATH" );
    return [options] { return serve( *options ); };

@@ -49,6 +49,16 @@ Operation writing( Operation::Scope scope ) {
    return operation;
 }
 
+template< class Read >
+[[gnu::always_inline]] inline int resultOf( Read const & read ) {
+   try {
+      read();
+      return 0;
+   } catch ( SchanError const & ) {
+      return -1;
+   }
+}
+
 } // namespace
 
 // Traces, and ends the process with the text of what is wrong.
@@ -204,8 +214,7 @@ U32 DaceSalAsicRegBase::addrStride() const {
 }
 
 int DaceSalAsicRegBase::doReadAny( ChipId chip, int arrayIndex, std::source_location origin ) {
-   readAny( { chip, arrayIndex, 0 }, origin );
-   return 0;
+   return resultOf( [&] { readAny( { chip, arrayIndex, 0 }, origin ); } );
 }
 
 void DaceSalAsicRegBase::doWriteAll( ChipId chip, int arrayIndex, std::source_location origin ) const {
@@ -245,8 +254,7 @@ bool DaceSalAsicTableBase::isPrimary() const {
 }
 
 int DaceSalAsicTableBase::doReadAny( ChipId chip, int arrayIndex, int entry, std::source_location origin ) {
-   readAny( { chip, arrayIndex, static_cast< U32 >( entry ) }, origin );
-   return 0;
+   return resultOf( [&] { readAny( { chip, arrayIndex, static_cast< U32 >( entry ) }, origin ); } );
 }
 
 void DaceSalAsicTableBase::doWriteAll( ChipId chip, int arrayIndex, int entry, std::source_location origin ) const {

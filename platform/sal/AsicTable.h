@@ -73,7 +73,8 @@ class DaceSalAsicRegBase : public DaceSalAsicTransferBase {
    U16 regWidth() const;
    U32 addrStride() const;
 
-   // Reads the register from one of its copies into the buffer. Returns 0.
+   // Reads the register from one of its copies into the buffer. Returns 0; -1 where the chip has failed, and the buffer
+   // is as it was.
    int doReadAny( ChipId chip, int arrayIndex, std::source_location origin = std::source_location::current() );
    // Writes the buffer to all copies.
    void doWriteAll( ChipId chip, int arrayIndex, std::source_location origin = std::source_location::current() ) const;
@@ -91,7 +92,7 @@ class DaceSalAsicTableBase : public DaceSalAsicTransferBase {
    U16 tableWidth() const;
    bool isPrimary() const;
 
-   // Reads an entry from one of its copies into the buffer. Returns 0.
+   // Reads an entry from one of its copies into the buffer. Returns 0, or -1, as for a register.
    int
    doReadAny( ChipId chip, int arrayIndex, int entry, std::source_location origin = std::source_location::current() );
    // Writes the buffer to all copies of the entry.

@@ -12,6 +12,7 @@
 #include <optional>
 #include <source_location>
 #include <span>
+#include <stdexcept>
 
 namespace DaceSal {
 
@@ -25,12 +26,20 @@ struct SchanAddress {
    friend constexpr bool operator==( SchanAddress const &, SchanAddress const & ) = default;
 };
 
+// A chip hasn't carried an operation out: nothing was read, nothing was written. Thrown by drivers whose chips can fail;
+// it costs those that always answer nothing.
+class SchanError : public std::runtime_error {
+ public:
+   using std::runtime_error::runtime_error;
+};
+
 class SchanDriver {
  public:
    virtual ~SchanDriver() = default;
 
    // Copies the words at `at` into `words`. The span is as wide as the entry.
-   // Unknown chip, block or address, or another width: the process ends by assertion, naming it.
+   // Unknown chip, block or address, or another width: the process ends by assertion, naming it. SchanError from a chip
+   // that fails; likewise for what follows.
    virtual void read( ChipId chip, SchanAddress const & at, std::span< U32 > words ) = 0;
 
    // Copies `words` to `at`. Returns whether the contents became different by it. Failures as for read.

@@ -79,7 +79,7 @@ class ChipFixture : public testing::Test {
    // What the chip is to hold beforehand, in every copy; and the same taken as its contents before.
    void wordsAre( char const * table, Place const & place, Words const & value, FapId fapId = FapId( 0 ) );
    void fieldIs( char const * table, Place const & place, char const * name, U64 value, FapId fapId = FapId( 0 ) );
-   std::map< U32, U32 > const & controls( FapId fapId = FapId( 0 ) ) const { return sw().chip( fapId ).controls(); }
+   std::map< U32, U32 > controls( FapId fapId = FapId( 0 ) ) const { return sw().chip( fapId ).controls(); }
    Simulator::Contents contents( FapId fapId = FapId( 0 ) ) const;
    Simulator::Contents const & before( FapId fapId = FapId( 0 ) ) const { return before_.at( fapId ); }
 

@@ -1,6 +1,8 @@
 #include "simulator/Chip.h"
 #include "simulator/ChipDriver.h"
 
+#include "rex/Value.h"
+
 #include <gtest/gtest.h>
 #include <stdexcept>
 
@@ -83,6 +85,22 @@ TEST_F( ChipTest, tellsWhetherAControlBecameDifferent ) {
    EXPECT_FALSE( chip.controlIs( 64, 0 ) );
    EXPECT_TRUE( chip.controlIs( 64, 255 ) );
    EXPECT_EQ( chip.controls(), ( std::map< U32, U32 >{ { 64, 255 } } ) );
+}
+
+TEST_F( ChipTest, hasRoomForSoManyControls ) {
+   for ( U32 control = 0; control < ChipControls::most; ++control ) {
+      EXPECT_TRUE( chip.controlIs( 3 * control, control ) );
+   }
+   try {
+      chip.controlIs( 1, 0 );
+      FAIL() << "there is room for more";
+   } catch ( Rex::ValueError const & error ) {
+      EXPECT_STREQ( error.what(), "a chip has room for 1023 controls" );
+   }
+   EXPECT_EQ( chip.control( 1 ), std::nullopt );
+   EXPECT_TRUE( chip.controlIs( 3, 7 ) );
+   EXPECT_EQ( chip.control( 3 ), 7u );
+   EXPECT_EQ( chip.controls().size(), ChipControls::most );
 }
 
 TEST_F( ChipDeathTest, refusesAnAddressThatIsNotInTheBlock ) {

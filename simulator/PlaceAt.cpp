@@ -1,8 +1,8 @@
-#include "inspection/PlaceAt.h"
+#include "simulator/PlaceAt.h"
 
 #include "simulator/TableMap.h"
 
-namespace Inspection {
+namespace Simulator {
 
 std::optional< TablePlace >
 placeIn( Catalogue::Table const & table, Catalogue::Layout const & layout, DaceSal::SchanAddress const & at ) {
@@ -10,9 +10,9 @@ placeIn( Catalogue::Table const & table, Catalogue::Layout const & layout, DaceS
       if ( layout.selectors[copy].a != at.selectorA || layout.selectors[copy].b != at.selectorB ) {
          continue;
       }
-      for ( U32 const array : Simulator::arrayIndices( layout ) ) {
-         U32 const first = Simulator::addressOf( layout, array, 0, copy ).address;
-         if ( at.address - first < Simulator::entryCount( layout ) ) {
+      for ( U32 const array : arrayIndices( layout ) ) {
+         U32 const first = addressOf( layout, array, 0, copy ).address;
+         if ( at.address - first < entryCount( layout ) ) {
             return TablePlace{ &table, &layout, array, at.address - first, copy };
          }
       }
@@ -34,4 +34,4 @@ std::optional< TablePlace > placeAt( Hardware::ChipType chipType, DaceSal::Schan
    return std::nullopt;
 }
 
-} // namespace Inspection
+} // namespace Simulator

@@ -12,7 +12,7 @@
 
 #include <optional>
 
-namespace Inspection {
+namespace Simulator {
 
 struct TablePlace {
    Catalogue::Table const * table;
@@ -27,4 +27,4 @@ std::optional< TablePlace > placeAt( Hardware::ChipType chipType, DaceSal::Schan
 std::optional< TablePlace >
 placeIn( Catalogue::Table const & table, Catalogue::Layout const & layout, DaceSal::SchanAddress const & at );
 
-} // namespace Inspection
+} // namespace Simulator

@@ -1,0 +1,159 @@
+#include "agent/audit/Auditor.h"
+
+#include <algorithm>
+
+namespace Live {
+
+namespace {
+
+using Rex::Value;
+using Simulator::Mismatch;
+
+constexpr Rex::Seconds hardWithin = 3600;
+constexpr std::size_t sliceEntries = 2000; // which take a fraction of a millisecond
+constexpr std::size_t mostKept = 100;      // findings
+constexpr U32 controlBlock = ~U32{ 0 };
+
+} // namespace
+
+Value Finding::value() const {
+   Value::Object value = wrong.value();
+   value["event"] = event;
+   value["rightAt"] = rightAt;
+   value["since"] = static_cast< std::int64_t >( Rex::now() - found );
+   value["kind"] = isHard ? "hard" : "soft";
+   value["result"] = isHard ? "left" : isRepaired ? "repaired" : "failed";
+   return value;
+}
+
+std::string Finding::text() const {
+   return wrong.text() + ( isHard       ? "; wrong again, and left: l3sm ctl repair"
+                           : isRepaired ? "; repaired"
+                                        : "; not repaired" );
+}
+
+Auditor::Auditor( Simulator::SimulatedSwitch & sw, Metrics & metrics, Options options )
+   : sw_( sw ), metrics_( metrics ), options_( std::move( options ) ) {}
+
+void Auditor::visit( Mismatch const & it ) {
+   Key const key = it.control ? Key{ it.chip.value, controlBlock, *it.control }
+                              : Key{ it.chip.value, it.at.selectorA << 8 | it.at.selectorB, it.at.address };
+   auto const [known, isNew] = places_.try_emplace( key );
+   Place & place = known->second;
+   place.walk = walks_;
+   ++walk_.mismatches;
+   if ( place.isHard ) {
+      ++walk_.hard; // told already
+      return;
+   }
+   Finding finding{ .wrong = Inspection::wrongPlaceOf( sw_.description(), it ),
+                    .event = sw_.event(),
+                    .rightAt = rightAt_,
+                    .found = Rex::now(),
+                    .isHard = false,
+                    .isRepaired = false };
+   place.isHard = finding.isHard = !isNew && finding.found - place.found < hardWithin;
+   place.found = finding.found;
+   std::string const fap = std::to_string( it.chip.value );
+   metrics_.add( Metric::auditMismatches, { fap, finding.isHard ? "hard" : "soft" } );
+   if ( finding.isHard ) {
+      ++walk_.hard;
+   } else {
+      auto & shadow = chips().shadow();
+      std::vector< U32 > now( it.expected.size() );
+      finding.isRepaired = it.control ? shadow.repairControl( it.chip, *it.control )
+                                      : shadow.repair( it.chip, it.at ) && shadow.readChip( it.chip, it.at, now ) &&
+                                           std::ranges::equal( now, it.expected );
+      walk_.repaired += finding.isRepaired ? 1 : 0;
+      metrics_.add( Metric::repairs, { fap, finding.isRepaired ? "repaired" : "failed" } );
+   }
+   keep( std::move( finding ) );
+}
+
+void Auditor::keep( Finding finding ) {
+   if ( options_.log ) {
+      options_.log( finding.text() );
+   }
+   latest_.push_back( std::move( finding ) );
+   if ( latest_.size() > mostKept ) {
+      latest_.pop_front();
+   }
+}
+
+// A place that is right again, and stays so for an hour, is like any other.
+void Auditor::walkEnds() {
+   std::erase_if( places_, [&]( auto const & it ) {
+      Place const & place = it.second;
+      return place.walk != walks_ && ( place.isHard || Rex::now() - place.found >= hardWithin );
+   } );
+   all_.mismatches += walk_.mismatches;
+   all_.repaired += walk_.repaired;
+   all_.hard += walk_.hard;
+   walk_ = {};
+   entries_ = std::exchange( counted_, 0 );
+   ++walks_;
+   rightAt_ = std::exchange( begunAt_, sw_.event() );
+}
+
+bool Auditor::works( Rex::Seconds more ) {
+   if ( options_.period <= 0 ) {
+      return false;
+   }
+   due_ += static_cast< double >( std::max( entries_, sliceEntries ) ) * more / options_.period;
+   if ( due_ < 1 ) {
+      return false;
+   }
+   auto const slice = std::min( sliceEntries, static_cast< std::size_t >( due_ ) );
+   due_ -= static_cast< double >( slice );
+   counted_ += slice;
+   if ( chips().audit().step( slice, [this]( Mismatch const & it ) { visit( it ); } ) ) {
+      walkEnds();
+      due_ = 0;
+   }
+   return due_ >= 1;
+}
+
+Auditor::Outcome Auditor::runs() {
+   auto & audit = chips().audit();
+   audit.restart();
+   walk_ = {};
+   counted_ = 0;
+   begunAt_ = sw_.event();
+   auto const visits = [this]( Mismatch const & it ) { visit( it ); };
+   while ( !audit.step( sliceEntries, visits ) ) {
+      counted_ += sliceEntries;
+   }
+   counted_ += sliceEntries;
+   Outcome const outcome = walk_;
+   walkEnds();
+   return outcome;
+}
+
+Auditor::Outcome Auditor::triesAgain() {
+   for ( U16 const fap : std::set< U16 >( chips().shadow().degraded() ) ) {
+      chips().shadow().triesAgain( DaceSal::ChipId{ fap } );
+   }
+   places_.clear();
+   return runs();
+}
+
+Value Auditor::status() const {
+   Value::List hard;
+   Value::List latest;
+   for ( auto const & finding : latest_ ) {
+      ( finding.isHard ? hard : latest ).push_back( finding.value() );
+   }
+   Value::List degraded;
+   for ( U16 const fap : sw_.supervised()->shadow().degraded() ) {
+      degraded.emplace_back( fap );
+   }
+   return Value::Object{ { "period", static_cast< std::int64_t >( options_.period ) },
+                         { "walks", walks_ },
+                         { "mismatches", all_.mismatches + walk_.mismatches },
+                         { "repaired", all_.repaired + walk_.repaired },
+                         { "hard", std::move( hard ) },
+                         { "degraded", std::move( degraded ) },
+                         { "latest", std::move( latest ) } };
+}
+
+} // namespace Live

@@ -1,0 +1,36 @@
+// A place of a chip that doesn't hold what was written to it, as people and programs read it.
+//
+//    for ( WrongPlace const & it : wrongPlacesOf( sw ) ) {            // a whole audit of a supervised switch
+//       it.text();                                                   // "FAP 0 IppdFerTrapCfg[3] copy 1: cpuSnoopCodeN is 0x195, not 0x115"
+//    }
+//
+// Threading: the agent's scheduler thread.
+#pragma once
+
+#include "rex/Value.h"
+#include "simulator/SimulatedSwitch.h"
+
+namespace Inspection {
+
+struct WrongPlace {
+   struct Field {
+      std::string name;
+      std::string expected; // hexadecimal
+      std::string found;
+   };
+
+   U16 fap;
+   std::string place;           // "IppdFerTrapCfg[3] copy 1", "control 64"
+   std::vector< Field > fields; // that differ; of a control "value"
+   std::vector< U32 > bits;     // of the entry
+
+   std::string text() const;
+   // {"fap", "place", "fields": {name: {"expected", "found"}}, "bits"}
+   Rex::Value::Object value() const;
+};
+
+WrongPlace wrongPlaceOf( Simulator::SwitchDescription const & description, Simulator::Mismatch const & it );
+// All of them; FAPs that are degraded aren't looked at.
+std::vector< WrongPlace > wrongPlacesOf( Simulator::SimulatedSwitch & sw );
+
+} // namespace Inspection
