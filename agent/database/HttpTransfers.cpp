@@ -103,10 +103,13 @@ struct HttpTransfers::Impl : std::enable_shared_from_this< Impl > {
       ::curl_multi_setopt( multi.get(), CURLMOPT_TIMERFUNCTION, timeIs );
    }
    ~Impl() {
+      WithoutPipeSignal const guard; // a connection is told that it ends
       ::curl_multi_setopt( multi.get(), CURLMOPT_TIMERFUNCTION, nullptr );
       for ( auto const & [number, each] : open ) {
          ::curl_multi_remove_handle( multi.get(), each.question->easy.get() );
       }
+      open.clear();
+      multi.reset();
    }
    Impl( Impl const & ) = delete;
    Impl & operator=( Impl const & ) = delete;
@@ -193,6 +196,7 @@ struct HttpTransfers::Impl : std::enable_shared_from_this< Impl > {
          auto const ended = std::move( at->second.ended ); // whose captures may hold more than one thinks
          auto const comes = std::move( at->second.comes );
          open.erase( at );
+         WithoutPipeSignal const guard;
          ::curl_multi_remove_handle( multi.get(), question->easy.get() );
       }
    }
@@ -221,6 +225,7 @@ void HttpTransfers::Transfer::rests( bool does ) const {
    auto const of = of_.lock();
    auto const at = of ? of->open.find( number_ ) : decltype( of->open.end() )();
    if ( of && at != of->open.end() ) {
+      WithoutPipeSignal const guard;
       ::curl_easy_pause( at->second.question->easy.get(), does ? CURLPAUSE_RECV : CURLPAUSE_CONT );
    }
 }

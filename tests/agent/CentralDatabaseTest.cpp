@@ -68,9 +68,31 @@ TEST_P( CentralDatabase, tellsAsMuchAsIsTakenAndTheRestLater ) {
    server->load();
    DatabaseFollower follower( server->url() );
    ASSERT_TRUE( follower.untilFollowing() );
-   server->writeMany( 3000 ); // while it doesn't look
+   server->writeMany( 1500 ); // while it doesn't look
    ASSERT_TRUE( follower.until( [&] { return follower.position.entry == server->lastEntry(); } ) );
-   EXPECT_EQ( follower.count, 3000 );
+   EXPECT_EQ( follower.count, 1500 );
+   EXPECT_EQ( follower.paths, server->state() );
+   EXPECT_EQ( follower.told, std::vector< std::string >{ "snapshot" } );
+}
+
+// What comes while it isn't wanted waits, much of it with the server.
+TEST_P( CentralDatabase, tellsNoMoreThanIsAskedFor ) {
+   constexpr std::size_t many = 1500;
+   server->load();
+   DatabaseFollower follower( server->url() );
+   follower.rests = true;
+   ASSERT_TRUE( follower.until( [&] { return follower.hasBegun; } ) );
+   server->write( "vxlanEnabled", "true" );
+   ASSERT_TRUE( follower.until( [&] { return follower.count == 1; } ) );
+   server->writeMany( many );
+   auto const end = std::chrono::steady_clock::now() + std::chrono::milliseconds( 500 );
+   ASSERT_TRUE( follower.until( [&] { return std::chrono::steady_clock::now() > end; } ) );
+   EXPECT_EQ( follower.count, 1 );
+
+   follower.rests = false;
+   follower.database.since( follower.position );
+   ASSERT_TRUE( follower.until( [&] { return follower.position.entry == server->lastEntry(); } ) );
+   EXPECT_EQ( follower.count, many + 1 );
    EXPECT_EQ( follower.paths, server->state() );
    EXPECT_EQ( follower.told, std::vector< std::string >{ "snapshot" } );
 }

@@ -91,7 +91,9 @@ class DatabaseFollower : public Live::Database::Follower {
          position = transaction.position;
       }
       count += transactions.size();
-      database.since( position );
+      if ( !rests ) {
+         database.since( position );
+      }
    }
    void gapIs( std::string reason ) override {
       ends( "gap: " + reason );
@@ -122,6 +124,7 @@ class DatabaseFollower : public Live::Database::Follower {
    std::vector< std::string > told;
    bool isFollowing = false;
    bool hasBegun = false;          // what is written is heard of
+   bool rests = false;             // it asks for no more
    bool takesUpWhereItWas = false; // after a broken connection: from its position on, not with a snapshot
 
  private:
