@@ -129,6 +129,27 @@ TEST_F( ServedChips, areHeldAsTheyAreUntilSomebodyDecides ) {
    EXPECT_EQ( agent.ctl( "show" ), before ); // committed, and then taken back
 }
 
+// Another build of the plug-in, which writes one constant otherwise.
+TEST_F( ServedChips, areGivenByAnUpgradeWhatItsPlanHasTold ) {
+   std::string const upgrade = L3SM_BINARY_DIR "/changed/lib/libL3SmPluginChanged.so";
+   ServedAgent agent( folder, "Linecard3", one, "", { "--chips-file", folder / "chips" } );
+   ASSERT_TRUE( agent.isSoon( "running" ) ) << agent.log();
+   auto const before = agent.ctl( "show" );
+   auto const plan = agent.output( "plan --agent '" + agent.socket() + "' --stat --plugin " + upgrade );
+   EXPECT_THAT( plan, HasSubstr( "would change 1 entry" ) );
+   EXPECT_THAT( plan, HasSubstr( "IppbProgTrapCfg" ) );
+   EXPECT_EQ( agent.ctl( "show" ), before );
+   EXPECT_THAT(
+      agent.output( "plan --agent '" + agent.socket() + "' --stat --plugin " L3SM_BINARY_DIR "/lib/libL3SmPlugin.so" ),
+      HasSubstr( "Nothing would change: " ) );
+   agent.dies();
+   agent.moreIs( { "--chips-file", folder / "chips", "--plugin", upgrade } );
+   agent.starts();
+   ASSERT_TRUE( agent.isSoon( "running" ) ) << agent.log();
+   EXPECT_EQ( metric( agent, "l3sm_start_changing_writes" ), "2" ); // its copies
+   EXPECT_NE( agent.ctl( "show" ), before );
+}
+
 TEST_F( ServedChips, beginAnewWhereTheFileIsNoneOfChips ) {
    folder.file( "chips", "{\"state\": {}}" );
    ServedAgent agent( folder, "Linecard3", one, "", { "--chips-file", folder / "chips" } );
