@@ -215,6 +215,10 @@ Candidates events( std::string const &, Before const & ) {
    return { .list = { { "all" }, { "last" } } };
 }
 
+Candidates drifts( std::string const &, Before const & ) {
+   return { .list = { { "commit", "bring what differs to the chips" }, { "hold", "wait for `l3sm ctl repair`" } } };
+}
+
 struct Place {
    std::string_view name;
    Candidates ( *candidates )( std::string const &, Before const & );
@@ -233,6 +237,7 @@ constexpr Place places[] = {
    { "--socket", files },
    { "--record", files },
    { "--metrics", files },
+   { "--chips-file", files },
    // places
    { "TABLE", tablesAndFields },
    { "CONDITION", tablesAndFields },
@@ -253,6 +258,7 @@ constexpr Place places[] = {
    { "KEY", nothing },
    { "NAME", nothing },
    { "SLICE", slices },
+   { "commit|hold", drifts },
    { "N[,...]|all|last", events },
    { "FACILITY/LEVEL[,...]", facilitiesWithLevels },
    { "FILE:NAME=on|off", toggles },

@@ -33,6 +33,8 @@ Value::Object checkedState( JsonText text ) {
    return state;
 }
 
+} // namespace
+
 // What is no state file is to be a scenario.
 Value::Object stateIn( std::string const & path ) {
    auto text = readFile( path );
@@ -42,8 +44,6 @@ Value::Object stateIn( std::string const & path ) {
    return path == "-" ? scenarioOf( parseJson( std::move( text ), inputName( path ) ), inputName( path ) ).state
                       : readScenario( path ).state;
 }
-
-} // namespace
 
 Paths stateOfFile( std::string const & path ) {
    Value::Object const state = stateIn( path );

@@ -11,6 +11,10 @@
 
 namespace Live {
 
+// What a file of state, or a scenario, sets at its paths, without what the switch or the plug-in makes itself.
+// InputError.
+Rex::Value::Object stateIn( std::string const & path );
+
 Paths stateOfFile( std::string const & path );
 
 // The events of a scenario, or a list of such events.

@@ -39,10 +39,10 @@ class EventText {
 
    Block block() const {
       Block all;
+      addFaults( all );
       addChips( all );
       addPublications( all );
       addGates( all );
-      addFaults( all );
       return all;
    }
 
@@ -256,15 +256,24 @@ class EventText {
       }
    }
 
+   // What befell the chips, before what was done to them.
    void addFaults( Block & all ) const {
+      std::map< std::tuple< std::string_view, U16, std::string_view >, std::vector< Row const * > > alike;
       for ( Row const & row : rows_.rows() ) {
          if ( row.kind == Row::Kind::fault ) {
-            all.push_back( { 2,
-                             "fault  " + std::string( row.reason ) + "  FAP " + std::to_string( row.fap ) + "  " +
-                                std::string( row.table ) + "[" + std::to_string( row.array ) + "]" +
-                                ( row.entry ? "." + std::to_string( *row.entry ) : "" ) + "  copy " +
-                                std::to_string( row.core ) } );
+            alike[{ row.reason, row.fap, row.table }].push_back( &row );
          }
+      }
+      for ( auto const & [what, rows] : alike ) {
+         auto const & [kind, fap, table] = what;
+         Row const & first = *rows.front();
+         std::string const where = "[" + std::to_string( first.array ) + "]" +
+                                   ( first.entry ? "." + std::to_string( *first.entry ) : "" ) + "  copy " +
+                                   std::to_string( first.core );
+         all.push_back( { 2,
+                          "fault  " + std::string( kind ) + "  FAP " + std::to_string( fap ) + "  " +
+                             std::string( table ) +
+                             ( rows.size() == 1 ? where : "  " + counted( rows.size(), "time", "times" ) ) } );
       }
    }
 
@@ -278,7 +287,11 @@ class EventText {
 void writeEvent( Lines & lines, EventRows const & rows, EventTextOptions const & options ) {
    lines.title( "Event " + std::to_string( rows.event() ) + ": " + eventText( rows.what() ) );
    if ( rows.counts().isEmpty() ) {
-      lines.put( 2, rows.isBroken() ? "the run broke off in it, before anything was done" : rows.reach().silence() );
+      bool const isFault = rows.what().object() && rows.what().object()->contains( "fault" );
+      lines.put( 2,
+                 isFault           ? "from now on; it hasn't fired yet"
+                 : rows.isBroken() ? "the run broke off in it, before anything was done"
+                                   : rows.reach().silence() );
       lines.blank();
       return;
    }

@@ -1,5 +1,8 @@
 // The verb `plan`: what a start on these chips and this state, or a scenario's events, would change, without a change.
+#include "agent/database/StateFile.h"
+#include "inspection/files/ChipsFile.h"
 #include "inspection/files/InputFile.h"
+#include "inspection/files/JournalReader.h"
 #include "inspection/files/Json.h"
 #include "inspection/views/PlanText.h"
 #include "l3sm/AgentFiles.h"
@@ -26,13 +29,40 @@ struct Options : PlanTextOptions {
    bool json = false;
 };
 
+int shown( Plan const & plan, Options const & options ) {
+   if ( options.json ) {
+      std::cout << toJson( planValue( plan, options.fap ), 4 ) << '\n';
+   } else {
+      showPlan( std::cout, plan, options, Style::of( std::cout ) );
+   }
+   return plan.isEmpty() ? 0 : hasSomethingToChange;
+}
+
+// What another build of the plug-in would change at its start, on the agent's chips and state as they are.
+int planUpgrade( Options const & options ) {
+   JournalReader const journal( options.agent.journal() );
+   Value begun = journal.scenario();
+   ( *begun.object() )["state"] = Live::stateIn( options.agent.state() );
+   Scenario scenario = scenarioOf( std::move( begun ), options.agent.name );
+   scenario.name = options.agent.name + " with " + options.plugin;
+   for ( auto & [fap, it] : readChips( options.agent.chips( {} ) ) ) {
+      scenario.chips[fap] = it.contents;
+   }
+   return shown( planOf( scenario, options.plugin ), options );
+}
+
 // The agent plans on a copy of itself, and tells it as text and as a value.
 int askAgent( Options const & options ) {
+   if ( options.scenario.empty() && !options.plugin.empty() ) {
+      return planUpgrade( options );
+   }
    if ( options.scenario.empty() ) {
       missing( "plan", "SCENARIO.json, whose events are planned," );
    }
    if ( !options.plugin.empty() || !options.toggles.empty() ) {
-      throw InputError( "an agent has its plug-in and its toggles already; leave out --plugin and --toggle" );
+      throw InputError(
+         "an agent has its plug-in and its toggles already: leave out --plugin and --toggle, or, to plan "
+         "another build's start, the scenario" );
    }
    Value::Object params{ { "events", eventsIn( options.scenario ) },
                          { "name", inputName( options.scenario ) },
@@ -61,13 +91,7 @@ int answer( Options const & options ) {
    if ( options.fap ) {
       scenario.fap( *options.fap );
    }
-   Plan const plan = planOf( scenario, options.plugin );
-   if ( options.json ) {
-      std::cout << toJson( planValue( plan, options.fap ), 4 ) << '\n';
-   } else {
-      showPlan( std::cout, plan, options, Style::of( std::cout ) );
-   }
-   return plan.isEmpty() ? 0 : hasSomethingToChange;
+   return shown( planOf( scenario, options.plugin ), options );
 }
 
 } // namespace
@@ -83,7 +107,8 @@ Action definePlan( VerbOptions & verb ) {
    verb.repeated( "--toggle", options->toggles, "set a toggle; may be given several times", "FILE:NAME=on|off" );
    verb.text( "--plugin", options->plugin, "the plug-in's library; the default lies beside this program", "PATH" );
    verb.flag( "--json", options->json, "for programs" );
-   verb.footer( "Exit status: 0 nothing would change, 1 something would." );
+   verb.footer( "With --agent and --plugin alone: what that build of the plug-in would change at its start.\n"
+                "Exit status: 0 nothing would change, 1 something would." );
    return [options] { return answer( *options ); };
 }
 

@@ -52,6 +52,8 @@ class ServedAgent {
          ::_exit( 127 );
       }
    }
+   // Its further options, from the next start on.
+   void moreIs( std::vector< std::string > more ) { more_ = std::move( more ); }
    void dies() { endsBy( SIGKILL ); }
    // Its exit status; 128 and the signal where one ended it.
    int endsBy( int signal ) {

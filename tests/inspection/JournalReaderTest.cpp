@@ -138,7 +138,7 @@ TEST( JournalReader, TellsWhichLineIsWrong ) {
    EXPECT_TRUE( errorOf( "{\"op\": \"write\"\n" ).starts_with( "run.jsonl:3: no JSON: " ) );
    EXPECT_EQ( errorOf( "[1]\n" ), "run.jsonl:3: expected an object" );
    EXPECT_EQ( errorOf( "{\"op\": \"jump\", \"event\": 0}\n" ),
-              "run.jsonl:3: /op: \"jump\" is none of read, write, control, gate, publish" );
+              "run.jsonl:3: /op: \"jump\" is none of read, write, control, gate, publish, fault" );
    EXPECT_EQ( errorOf( written( R"("table": "NoSuchTable", "variant": 0, "array": 3, "entry": null)" ) ),
               "run.jsonl:3: /table: no table has this name; `l3sm catalogue` lists them" );
    EXPECT_EQ( errorOf( written( trap + R"("variant": 0, "array": 99, "entry": null)" ) ),

@@ -13,14 +13,25 @@ TEST( WrongEvents, thatAreNone ) {
               "s.json:§: event 1, /change: this key means nothing here; there may be delete, fault, set, transaction" ),
       events( "no kind",
               "§{}",
-              "s.json:§: event 1: an event is {\"set\": {...}}, {\"delete\": {...}}, or {\"transaction\": [...]}" ),
+              "s.json:§: event 1: an event is {\"set\": {...}}, {\"delete\": {...}}, {\"transaction\": [...]}, "
+              "or {\"fault\": {...}}" ),
       events( "two kinds",
               R"(§{"set": {}, "delete": {}})",
-              "s.json:§: event 1: an event is {\"set\": {...}}, {\"delete\": {...}}, or {\"transaction\": [...]}" ),
+              "s.json:§: event 1: an event is {\"set\": {...}}, {\"delete\": {...}}, {\"transaction\": [...]}, "
+              "or {\"fault\": {...}}" ),
       events( "a number", "§7", "s.json:§: event 1: expected an object, got 7" ),
-      events( "a fault",
-              R"({§"fault": {"fap": 0, "kind": "lost"}})",
-              "s.json:§: event 1, /fault: faults can't be injected yet; leave the event out" ),
+      events( "a fault of no kind",
+              R"({"fault": {"kind": §"melt"}})",
+              "s.json:§: event 1, /fault/kind: expected lost, flip:BIT, stuck:BIT=V, error or delay:MS, got \"melt\"" ),
+      events( "a fault of no table",
+              R"({"fault": {"table": §"IppdFerTrapCfX", "kind": "lost"}})",
+              "s.json:§: event 1, /fault/table: there is no table IppdFerTrapCfX; did you mean \"IppdFerTrapCfg\"?" ),
+      events( "a fault of no FAP",
+              R"({"fault": {"fap": §9, "kind": "lost"}})",
+              "s.json:§: event 1, /fault/fap: the switch has no such FAP" ),
+      events( "a fault in a transaction",
+              R"({"transaction": [§{"fault": {"kind": "lost"}}]})",
+              "s.json:§: event 1, /transaction/0: a transaction holds no fault" ),
    } );
 }
 
@@ -101,7 +112,8 @@ TEST( WrongEvents, areToldTogether ) {
                 "s.json:§: /state/evpn~1status/speed: Evpn::EvpnStatus has no attribute \"speed\"; it has "
                 "vxlanEnabled, mplsEnabled, evpnDciEnabled\n"
                 "s.json:§: /chips/0/IppdFerTrapCfg/0/9: no such array index; there is 0 to 7\n"
-                "s.json:§: event 1: an event is {\"set\": {...}}, {\"delete\": {...}}, or {\"transaction\": [...]}\n"
+                "s.json:§: event 1: an event is {\"set\": {...}}, {\"delete\": {...}}, "
+                "{\"transaction\": [...]}, or {\"fault\": {...}}\n"
                 "s.json:§: event 2, /set/value: expected true or false, got 0" ) } );
 }
 
@@ -135,7 +147,7 @@ TEST( WrongEvents, areNotToldWithoutAnEnd ) {
       list += event == 1 ? "§{}" : ",\n§{}";
       if ( event <= 20 ) {
          lines += ( event == 1 ? "" : "\n" ) + std::string( "s.json:§: event " ) + std::to_string( event );
-         lines += ": an event is {\"set\": {...}}, {\"delete\": {...}}, or {\"transaction\": [...]}";
+         lines += ": an event is {\"set\": {...}}, {\"delete\": {...}}, {\"transaction\": [...]}, or {\"fault\": {...}}";
       }
    }
    expectTold( { events( "a hundred", list, lines + "\n... and 80 more" ) } );
