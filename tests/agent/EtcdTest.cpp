@@ -2,6 +2,7 @@
 #include "agent/CentralServer.h"
 #include "agent/DatabaseFollower.h"
 #include "agent/database/EtcdDatabase.h"
+#include "agent/database/EtcdStore.h"
 #include "agent/database/StateWriter.h"
 #include "inspection/files/InputError.h"
 
@@ -64,6 +65,51 @@ TEST( EtcdDatabase, hasItsKeysBehindAPrefix ) {
    ASSERT_TRUE( follower.untilFollowing() );
    EXPECT_EQ( follower.paths, lab->snapshot().paths );
    EXPECT_EQ( etcd.epoch(), "e1" );
+}
+
+// ---- writing
+
+struct EtcdStoreTest : testing::Test {
+   CentralEtcd etcd;
+   Live::EtcdStore store{ etcd.server.address(), 1 };
+
+   static Live::EtcdTransaction writes( std::string const & token, U64 behind ) {
+      Live::EtcdTransaction transaction;
+      transaction.ifModifiedAt( "l3sm:1#writes", behind );
+      transaction.put( "l3sm:1#writes", token );
+      return transaction;
+   }
+   U64 last() { return etcd.server.at( "l3sm:1#writes" )->modified; }
+};
+
+// Asked a second time, as where the first answer never came.
+TEST_F( EtcdStoreTest, looksUpWhetherItsWriteWasDone ) {
+   etcd.load( "e1", 0 );
+   U64 const before = last();
+   U64 const first = store.written( writes( "ours 1", before ), "ours 1", before );
+   EXPECT_GT( first, before );
+   EXPECT_EQ( store.written( writes( "ours 1", before ), "ours 1", before ), first );
+   etcd.write( "mplsEnabled", "true" ); // and others write on
+   etcd.write( "mplsEnabled", "false" );
+   EXPECT_EQ( store.written( writes( "ours 1", before ), "ours 1", before ), first );
+   EXPECT_EQ( store.written( writes( "ours 2", before ), "ours 2", before ), 0 );
+   EXPECT_EQ( store.written( writes( "ours 3", first ), "ours 3", first ), 0 );
+   etcd.server.compacts( etcd.server.revision() );
+   EXPECT_THAT( refusalOf( [&] { store.written( writes( "ours 1", before ), "ours 1", before ); } ),
+                HasSubstr( "whether it was written, nobody can tell now" ) );
+}
+
+// Somebody who takes no turns: his value isn't overwritten by one that was computed without it.
+TEST_F( EtcdStoreTest, takesWhatOthersWriteByHandForWritten ) {
+   store.load( { { "evpn/status", {} } } );
+   auto mark = store.mark();
+   Live::StateModel model( store.about( "evpn/status" ) );
+   auto const change = model.change( mplsIsOn );
+   etcd.server.put( "l3sm:1:evpn/status", R"({"vxlanEnabled":true})" );
+   EXPECT_EQ( store.commit( change, model.paths(), mplsIsOn, mark ), "" );
+   Live::StateWriter( store ).write( mplsIsOn );
+   EXPECT_EQ( etcd.state().at( "evpn/status" ),
+              ( Live::Attributes{ { "mplsEnabled", "true" }, { "vxlanEnabled", "true" } } ) );
 }
 
 // ---- leases
