@@ -7,8 +7,8 @@
 #include "agent/audit/Auditor.h"
 #include "agent/control/AgentCommands.h"
 #include "agent/control/ControlServer.h"
+#include "agent/database/Databases.h"
 #include "agent/database/EmbeddedDatabase.h"
-#include "agent/database/RedisDatabase.h"
 #include "agent/metrics/AgentMetrics.h"
 #include "agent/metrics/MetricsFile.h"
 #include "agent/metrics/MetricsServer.h"
@@ -29,14 +29,6 @@ namespace {
 constexpr Rex::Seconds tickPeriod = 5;
 
 constexpr char const * keptChips = "chips"; // the name under which the service manager keeps them
-
-std::unique_ptr< Database > databaseAt( DaemonOptions const & options, EventLoop & loop ) {
-   if ( options.database.empty() ) {
-      return std::make_unique< EmbeddedDatabase >( loop );
-   }
-   return std::make_unique< RedisDatabase >(
-      loop, RedisAddress::of( options.database ), options.cell, options.scenario.description.sliceName );
-}
 
 std::optional< Simulator::ChipsMapping > newChips( DaemonOptions const & options ) {
    auto const fill = [&options]( Simulator::ChipDriver & chips ) { options.scenario.fillChips( chips ); };
@@ -93,7 +85,9 @@ std::string controlOf( DaemonOptions const & options ) {
 // In the order in which they need each other.
 struct Daemon::Parts {
    explicit Parts( DaemonOptions const & options )
-      : traceFile( options.trace, commands ), begun( EventLoop::clock() ), database( databaseAt( options, loop ) ),
+      : traceFile( options.trace, commands ), begun( EventLoop::clock() ),
+        database( databaseAt(
+           loop, options.database, options.credentials, options.cell, options.scenario.description.sliceName ) ),
         chips( chipsOf( options ) ),
         agent( loop, *database, options.scenario, options.version, chips ? &*chips : nullptr ),
         counts( agent, metrics ), recorder(

@@ -8,13 +8,15 @@
 #pragma once
 
 #include "agent/SliceAgent.h"
+#include "agent/database/EtcdAddress.h"
 
 namespace Live {
 
 struct DaemonOptions {
    Inspection::Scenario scenario; // without events; its slice is the agent's
    U32 cell = 1;
-   std::string database = {};  // an URL; empty: the process itself
+   std::string database = {}; // an URL; empty: the process itself
+   DatabaseCredentials credentials = {};
    std::string socket = {};    // empty: the usual one of the slice
    std::string record = {};    // a folder; empty: nothing is recorded
    std::string metrics = {};   // a file or an address; empty: they can be asked for

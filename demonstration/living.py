@@ -1,12 +1,14 @@
 """A living switch, to be watched: a database, three agents of different slices and chips, and an hour's worth of changes in
-a minute. On the way the database is killed, and an agent. At the end each agent is compared with what the database says,
+a minute. On the way the database is killed (of three etcds, the leader), and an agent. At the end each agent is compared with what the database says,
 and its chips with those of an agent that starts anew from there.
 
-    ./dev live [--seconds N] [--seed N] [--rate N]
+    ./dev live [--seconds N] [--seed N] [--rate N] [--database etcd]
 
 Everything is in a temporary folder, and goes with it.
 """
 import json, os, random, shutil, subprocess, sys, tempfile, time
+
+from databases import Etcd, Redis
 
 SLICES = [('Linecard3', ['BCM88690_B0']), ('Linecard4', ['BCM88800_A0', 'BCM88480_A0']), ('Linecard7', ['BCM88850_A0'])]
 FLAGS = [('evpn/status', 'vxlanEnabled'), ('evpn/status', 'mplsEnabled'), ('evpn/status', 'evpnDciEnabled'),
@@ -19,7 +21,8 @@ class Live:
     def __init__(self, options):
         self.options, self.random = options, random.Random(options.seed)
         self.folder = tempfile.mkdtemp(prefix='l3sm-live-')
-        self.socket, self.url = self.path('redis.sock'), 'redis+unix://' + self.path('redis.sock')
+        self.database = {'redis': Redis, 'etcd': Etcd}[options.database](self)
+        self.url = self.database.url
         self.vtis, self.written, self.told, self.processes, self.rates = set(), 0, [], {}, {}
 
     def path(self, name):
@@ -35,11 +38,9 @@ class Live:
             raise SystemExit(f'l3sm {" ".join(words)}: {done.stderr.strip() or done.stdout.strip()}')
         return done
 
-    def begin_database(self):
-        self.begin('redis', 'redis-server', '--port', '0', '--unixsocket', self.socket, '--dir', self.folder, '--save', '',
-                   '--appendonly', 'yes', '--appendfsync', 'always')
-        self.wait(lambda: subprocess.run(['redis-cli', '-s', self.socket, 'ping'], capture_output=True).stdout == b'PONG\n',
-                  'the database')
+    def kill(self, name):
+        self.processes[name].kill()
+        self.processes.pop(name).wait()
 
     def begin_agent(self, name, chips, *more):
         faps = [{'fapId': n, 'revision': {'chipType': chip, 'sdkVersion': 7}} for n, chip in enumerate(chips)]
@@ -123,7 +124,7 @@ class Live:
 
     def run(self):
         self.begun = time.monotonic()
-        self.begin_database()
+        self.database.begin()
         self.tell('the database stands; a state is loaded')
         with open(self.path('state.json'), 'w') as out:
             json.dump({'interface/config/global': {'l3Mtu': 1500}}, out)
@@ -147,17 +148,15 @@ class Live:
         return {path: held[path] for path in held if path in self.says and path != 'shared/agentGlobalState'}  # which names its slice
 
     def kill_database(self):
-        self.processes['redis'].kill()
-        self.processes.pop('redis').wait()
-        self.tell('the database is killed: the chips stay as they are')
+        self.database.kill()
+        self.tell(self.database.killed)
 
     def revive_database(self):
-        self.begin_database()
-        self.tell('the database is back')
+        self.database.revive()
+        self.tell(self.database.revived)
 
     def kill_agent(self):
-        self.processes[SLICES[1][0]].kill()
-        self.processes.pop(SLICES[1][0]).wait()
+        self.kill(SLICES[1][0])
         self.tell(SLICES[1][0] + ' is killed')
 
     def revive_agent(self):

@@ -1,7 +1,5 @@
 #include "l3sm/StateFollowing.h"
 
-#include "agent/database/AgentsAwaited.h"
-#include "agent/database/StateWatch.h"
 #include "inspection/files/Json.h"
 #include "inspection/views/Pager.h"
 #include "inspection/views/Terminal.h"
@@ -28,8 +26,12 @@ bool touches( Event const & event, std::string const & path ) {
    return path.empty() || isAtOrBelow( place, path ) || isAtOrBelow( path, place );
 }
 
-// The time of day here, to the millisecond.
+// The time of day here, to the millisecond; now, where the database doesn't tell when it was.
 std::string timeOf( double written ) {
+   if ( written == 0 ) {
+      using namespace std::chrono;
+      written = duration< double >( system_clock::now().time_since_epoch() ).count();
+   }
    auto const seconds = static_cast< std::time_t >( written );
    std::tm parts{};
    ::localtime_r( &seconds, &parts );
@@ -96,37 +98,31 @@ void show( std::vector< AwaitedAgent > const & agents, Position const & place ) 
 
 } // namespace
 
-int watchState( RedisSession & session, RedisLayout const & layout, std::string const & path, bool json ) {
+int watchState( StateStore & store, std::string const & path, bool json ) {
    constexpr int signalled = 128; // as shells tell it
    Pager::letThrough();
    int came = 0;
-   auto const interrupted = session.loop().signal( SIGINT, [&] { came = SIGINT; } );
-   auto const terminated = session.loop().signal( SIGTERM, [&] { came = SIGTERM; } );
-   StateWatch watch(
-      session,
-      layout,
-      [&]( Transaction const & transaction ) { show( transaction, path, json ); },
-      []( std::string const & why ) { std::cerr << "l3sm: " << why << "; going on with it\n"; } );
+   auto const interrupted = store.loop().signal( SIGINT, [&] { came = SIGINT; } );
+   auto const terminated = store.loop().signal( SIGTERM, [&] { came = SIGTERM; } );
+   auto const watch = store.watch(
+      { .is = [&]( Transaction const & transaction ) { show( transaction, path, json ); },
+        .begins = []( std::string const & why ) { std::cerr << "l3sm: " << why << "; going on with it\n"; } } );
    while ( came == 0 && std::cout ) {
-      watch.turn();
+      watch->turn();
    }
    return came == 0 ? 0 : signalled + came;
 }
 
-int waitForAgents( RedisSession & session,
-                   RedisLayout const & layout,
-                   std::vector< std::string > const & slices,
-                   U32 timeout,
-                   bool json ) {
+int waitForAgents( StateStore & store, std::vector< std::string > const & slices, U32 timeout, bool json ) {
    using Clock = std::chrono::steady_clock;
    constexpr Rex::Seconds pause = 0.02;
-   auto const place = placeNow( session, layout );
+   auto const place = store.place();
    auto const end = Clock::now() + std::chrono::seconds( timeout );
-   auto agents = awaitedAgents( session, layout, slices, place );
+   auto agents = store.agents( slices, place );
    auto const areReady = [&] { return !agents.empty() && std::ranges::all_of( agents, &AwaitedAgent::isReady ); };
    while ( !areReady() && Clock::now() < end ) {
-      session.loop().turn( pause );
-      agents = awaitedAgents( session, layout, slices, place );
+      store.loop().turn( pause );
+      agents = store.agents( slices, place );
    }
    if ( json ) {
       std::cout << toJson( valueOf( agents, place ), 2 ) << '\n';

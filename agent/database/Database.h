@@ -103,4 +103,9 @@ class Database {
    Follower * follower_ = nullptr;
 };
 
+// Why a database holds no state, as all of them tell it.
+constexpr char const * noStateText = "the database holds no state yet; load one: l3sm state load FILE";
+constexpr char const * lostStateText =
+   "the database has lost its state: there is not one path; load it again: l3sm state load FILE";
+
 } // namespace Live

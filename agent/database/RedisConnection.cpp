@@ -1,39 +1,13 @@
 #include "agent/database/RedisConnection.h"
 
+#include "agent/database/WithoutPipeSignal.h"
+
 #include <algorithm>
-#include <csignal>
 #include <hiredis/async.h>
 #include <sys/epoll.h>
 #include <utility>
 
 namespace Live {
-
-namespace {
-
-// Writing to a connection that the server has closed is an error like others, not the end of the process.
-class WithoutPipeSignal {
- public:
-   WithoutPipeSignal() {
-      sigemptyset( &pipe_ );
-      sigaddset( &pipe_, SIGPIPE );
-      ::pthread_sigmask( SIG_BLOCK, &pipe_, &before_ );
-   }
-   ~WithoutPipeSignal() {
-      if ( sigismember( &before_, SIGPIPE ) == 0 ) {
-         timespec const now{};
-         ::sigtimedwait( &pipe_, nullptr, &now );
-         ::pthread_sigmask( SIG_SETMASK, &before_, nullptr );
-      }
-   }
-   WithoutPipeSignal( WithoutPipeSignal const & ) = delete;
-   WithoutPipeSignal & operator=( WithoutPipeSignal const & ) = delete;
-
- private:
-   sigset_t pipe_{};
-   sigset_t before_{};
-};
-
-} // namespace
 
 // What belongs to hiredis' context. It lives as long as the context, or as somebody looks at it.
 struct RedisConnection::Impl : std::enable_shared_from_this< Impl > {

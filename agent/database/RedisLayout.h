@@ -54,6 +54,4 @@ struct EntryId {
    auto operator<=>( EntryId const & ) const = default;
 };
 
-constexpr char const * noStateText = "the database holds no state yet; load one: l3sm state load FILE";
-
 } // namespace Live

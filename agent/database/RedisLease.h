@@ -8,28 +8,11 @@
 // Threading: the agent's loop.
 #pragma once
 
+#include "agent/database/LeaseHolder.h"
 #include "agent/database/RedisConnection.h"
 #include "agent/database/RedisLayout.h"
 
 namespace Live {
-
-// A process, and what in it holds a lease.
-struct LeaseHolder {
-   std::string host;
-   std::string boot;  // of the machine
-   std::string space; // of the numbers of processes: containers on one machine have their own
-   std::string process;
-   std::string started; // when the process was: its number comes again
-   std::string instance;
-
-   static LeaseHolder thisProcess();
-   static LeaseHolder of( std::string_view text );
-   std::string text() const;
-   // It was a process of this machine, and is no more.
-   bool isDead() const;
-   // "process 4711 on gauss"
-   std::string forPeople() const;
-};
 
 class RedisLease {
  public:

@@ -54,6 +54,20 @@ Snapshot RedisSession::snapshot( RedisLayout const & layout,
    return std::move( *found );
 }
 
+Position RedisSession::place( RedisLayout const & layout ) {
+   Position place;
+   askServer( connection_, [&]( std::string const & id ) { place.server = id; } );
+   askState( connection_, layout, [&]( LogState const & state ) {
+      place.epoch = state.epoch;
+      place.entry = state.last;
+   } );
+   wait();
+   if ( place.epoch.empty() ) {
+      refuse( noStateText );
+   }
+   return place;
+}
+
 void RedisSession::refuse( std::string const & what ) const {
    throw Inspection::InputError( connection_.address().name(), what );
 }

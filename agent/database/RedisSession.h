@@ -30,6 +30,9 @@ class RedisSession {
    // Throws where it holds none.
    Snapshot snapshot( RedisLayout const & layout, std::function< bool( std::string const & path ) > wanted = {} );
 
+   // The end of the log. Throws likewise.
+   Position place( RedisLayout const & layout );
+   std::string name() const { return connection_.address().name(); }
    [[noreturn]] void refuse( std::string const & what ) const;
 
  private:

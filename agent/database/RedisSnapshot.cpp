@@ -41,7 +41,7 @@ void RedisSnapshot::pathsAre( RedisReply names ) {
       names_.emplace_back( name.text() );
    }
    if ( names_.empty() ) { // which never means: delete everything
-      answers_.without( "the database has lost its state: there is not one path; load it again: l3sm state load FILE" );
+      answers_.without( lostStateText );
       return;
    }
    if ( wanted_ ) {

@@ -1,8 +1,7 @@
-// Writes a state in a Redis as everybody should: hashes, set of paths and log in one MULTI, and nothing that an agent
-// would refuse.
+// Writes a state in a central database as everybody should: a transaction whole, and nothing that an agent would
+// refuse.
 //
-//    StateWriter writer( address, 1 );
-//    writer.load( stateOfFile( "scenario.json" ) );                    // a new life of the state
+//    StateWriter writer( store );
 //    writer.write( { .path = "evpn/status", … } );                     // one transaction
 //    writer.writeEach( events, "more.json" );
 //
@@ -14,46 +13,23 @@
 // Threading: none.
 #pragma once
 
-#include "agent/database/RedisSession.h"
-#include "agent/database/StateModel.h"
+#include "agent/database/StateStore.h"
 
 namespace Live {
 
 class StateWriter {
  public:
-   StateWriter( RedisAddress const & address, U32 cell ) : layout_( cell ), session_( address ) {}
+   explicit StateWriter( StateStore & store ) : store_( store ) {}
 
-   // The entry of the log.
+   // Where the transaction stands.
    std::string write( Inspection::Event const & event );
    // A transaction for each; `file` for messages.
    void writeEach( std::vector< Inspection::Event > const & events, std::string const & file );
-   // The new epoch.
-   std::string load( Paths const & paths );
-
-   RedisLayout const & layout() const { return layout_; }
-   RedisSession & session() { return session_; }
-   Snapshot snapshot() { return session_.snapshot( layout_ ); }
 
  private:
-   // What stood there when it was begun to be watched.
-   struct Watched {
-      std::string epoch;
-      std::string last;
-   };
+   void bringUpToDate( std::optional< StateModel > & model, Position & position, StateStore::Mark const & mark );
 
-   // Asks; `into` is filled when it is answered.
-   void watch( Watched & into );
-   Watched watched();
-   Paths pathsAbout( std::string const & path );
-   // The entry; empty where somebody else was quicker. Asks `behind` behind it, in the same breath.
-   std::string
-   executed( StateChange const & change, Inspection::Event const & event, std::string const & epoch, Watched * behind );
-   void ask( StateChange const & change );
-   void askLog( std::string const & changes, std::string const & epoch, char const * approximately, char const * most );
-   void bringUpToDate( std::optional< StateModel > & model, Position & position );
-
-   RedisLayout layout_;
-   RedisSession session_;
+   StateStore & store_;
 };
 
 } // namespace Live

@@ -1,6 +1,7 @@
 #include "agent/Daemon.h"
 #include "inspection/Play.h"
 #include "inspection/Version.h"
+#include "l3sm/DatabaseOptions.h"
 #include "l3sm/ScenarioToPlay.h"
 #include "l3sm/verbs/Verbs.h"
 
@@ -19,6 +20,7 @@ struct Options {
    std::string slice;
    std::optional< U32 > cell;
    std::string database;
+   Live::DatabaseCredentials credentials;
    std::string socket;
    std::string record;
    std::string metrics;
@@ -55,6 +57,7 @@ int serve( Options const & options ) {
    auto const daemon = daemonOf( { .scenario = std::move( scenario ),
                                    .cell = options.cell.value_or( 1 ),
                                    .database = options.database,
+                                   .credentials = options.credentials,
                                    .socket = options.socket,
                                    .record = options.record,
                                    .metrics = options.metrics,
@@ -77,6 +80,7 @@ Action defineServe( VerbOptions & verb ) {
    verb.number( "--cell", options->cell, "whose state it follows; the default is 1" );
    verb.text(
       "--database", options->database, "where the state is; without one, the file's, changed by `l3sm ctl`", "URL" );
+   defineCredentials( verb, options->credentials );
    verb.text( "--socket", options->socket, "where it is controlled; the default is /run/l3sm/SLICE.ctl", "PATH" );
    verb.text( "--record", options->record, "record what it is told there, so that it can be played again", "DIR" );
    verb.text( "--metrics",

@@ -1,9 +1,10 @@
 // The verb `state`: the state in a central database, looked at and changed.
-#include "agent/database/AgentsAwaited.h"
+#include "agent/database/Databases.h"
 #include "agent/database/StateFile.h"
 #include "agent/database/StateWriter.h"
 #include "inspection/files/InputError.h"
 #include "inspection/views/Terminal.h"
+#include "l3sm/DatabaseOptions.h"
 #include "l3sm/StateFollowing.h"
 #include "l3sm/verbs/Verbs.h"
 
@@ -25,18 +26,21 @@ struct Options {
    std::string action;
    std::vector< std::string > words;
    std::string database;
+   DatabaseCredentials credentials;
    std::optional< U32 > cell;
    std::string key;
    std::vector< std::string > slices;
    std::optional< U32 > timeout;
    bool json = false;
 
-   RedisAddress address() const {
+   std::unique_ptr< StateStore > store() const {
       char const * const told = std::getenv( databaseVariable );
-      return RedisAddress::of( !database.empty() ? database : told && *told ? told : usualDatabase );
+      return stateStoreAt( !database.empty() ? database
+                           : told && *told   ? told
+                                             : usualDatabase,
+                           credentials,
+                           cell.value_or( 1 ) );
    }
-   U32 cellNumber() const { return cell.value_or( 1 ); }
-   StateWriter writer() const { return { address(), cellNumber() }; }
    std::string word( std::size_t at ) const { return at < words.size() ? words[at] : std::string(); }
    std::optional< std::string > keyIfAny() const { return key.empty() ? std::nullopt : std::optional( key ); }
 };
@@ -76,10 +80,7 @@ void show( Paths const & paths, Style const & style ) {
 
 int get( Options const & options ) {
    std::string const path = options.word( 0 );
-   auto const isWanted = [&]( std::string const & at ) { return path.empty() || isAtOrBelow( at, path ); };
-   RedisSession session( options.address() );
-   auto snapshot = session.snapshot( RedisLayout( options.cellNumber() ), isWanted );
-   std::erase_if( snapshot.paths, [&]( auto const & each ) { return !isWanted( each.first ); } );
+   auto const snapshot = options.store()->snapshot( path );
    for ( auto const & [place, text] : snapshot.unreadable ) {
       std::cerr << "l3sm: " << printable( place ) << ": " << printable( text ) << '\n';
    }
@@ -100,8 +101,16 @@ int get( Options const & options ) {
    return snapshot.paths.empty() ? 1 : 0;
 }
 
+void showNotes( StateStore & store ) {
+   for ( auto const & note : store.takeNotes() ) {
+      std::cerr << "l3sm: " << note << '\n';
+   }
+}
+
 int write( Options const & options, Event const & event ) {
-   auto const entry = options.writer().write( event );
+   auto const store = options.store();
+   auto const entry = StateWriter( *store ).write( event );
+   showNotes( *store );
    if ( options.json ) {
       std::cout << toJson( Rex::Value::Object{ { "entry", entry }, { "change", Inspection::valueOf( event ) } }, 1 )
                 << '\n';
@@ -133,7 +142,7 @@ int remove( Options const & options ) {
 
 int load( Options const & options ) {
    auto const paths = stateOfFile( options.word( 0 ) );
-   auto const epoch = options.writer().load( paths );
+   auto const epoch = options.store()->load( paths );
    if ( options.json ) {
       std::cout << toJson( Rex::Value::Object{ { "epoch", epoch }, { "paths", paths.size() } }, 1 ) << '\n';
    } else {
@@ -145,7 +154,9 @@ int load( Options const & options ) {
 
 int apply( Options const & options ) {
    auto const events = eventsOfFile( options.word( 0 ) );
-   options.writer().writeEach( events, inputName( options.word( 0 ) ) );
+   auto const store = options.store();
+   StateWriter( *store ).writeEach( events, inputName( options.word( 0 ) ) );
+   showNotes( *store );
    if ( options.json ) {
       std::cout << toJson( Rex::Value::Object{ { "events", events.size() } }, 1 ) << '\n';
    } else {
@@ -155,18 +166,12 @@ int apply( Options const & options ) {
 }
 
 int watch( Options const & options ) {
-   RedisSession session( options.address() );
-   return watchState( session, RedisLayout( options.cellNumber() ), options.word( 0 ), options.json );
+   return watchState( *options.store(), options.word( 0 ), options.json );
 }
 
 int wait( Options const & options ) {
    constexpr U32 usualTimeout = 10;
-   RedisSession session( options.address() );
-   return waitForAgents( session,
-                         RedisLayout( options.cellNumber() ),
-                         options.slices,
-                         options.timeout.value_or( usualTimeout ),
-                         options.json );
+   return waitForAgents( *options.store(), options.slices, options.timeout.value_or( usualTimeout ), options.json );
 }
 
 struct StateAction {
@@ -214,9 +219,11 @@ Action defineState( VerbOptions & verb ) {
    verb.texts( "ARGUMENT", options->words, "what the action takes" );
    verb.text( "--database",
               options->database,
-              "where it is: redis://[user@]host[:port][/n] or redis+unix:///path.sock; without it, what L3SM_DATABASE "
-              "says, else redis://127.0.0.1",
+              "where it is: redis://[user@]host[:port][/n], redis+unix:///path.sock, or "
+              "etcd://host[:port][,host[:port]...][/prefix], etcds:// over TLS; without it, what L3SM_DATABASE says, "
+              "else redis://127.0.0.1",
               "URL" );
+   defineCredentials( verb, options->credentials );
    verb.number( "--cell", options->cell, "the cell whose state it is; without it, 1" );
    verb.text( "--key", options->key, "set or delete this entry of the attribute", "KEY" );
    verb.repeated( "--slice", options->slices, "wait for this agent; without it, for all", "SLICE" );
@@ -225,7 +232,8 @@ Action defineState( VerbOptions & verb ) {
    verb.footer(
       "VALUE is JSON; a bare word is a text. `load` begins a new life of the state, with that of a scenario or "
       "of a file of `l3sm run --state`; the others need one. `apply` writes the events of a scenario, one "
-      "transaction each. A password comes from the environment, L3SM_REDIS_PASSWORD. Exit status: 1 nothing "
+      "transaction each. The password of a Redis comes from the environment, L3SM_REDIS_PASSWORD. Exit status: 1 "
+      "nothing "
       "stands there, or an agent is late." );
    return [options] { return answer( *options ); };
 }

@@ -17,8 +17,9 @@ TEST( KilledAgent, endsWithTheChipsOfOneThatWasNeverKilled ) {
    Scenario const told = toldScenario( { { "Linecard3", theSwitch } }, kills * eventsEach );
    Folder const folder;
    RedisServer server;
-   Live::StateWriter writer( server.address(), 1 );
-   writer.load( Live::stateOfFile( folder.file( "state.json", toJson( told.state, 1 ) ) ) );
+   auto const store = Live::stateStoreAt( server.url(), {}, 1 );
+   Live::StateWriter writer( *store );
+   store->load( Live::stateOfFile( folder.file( "state.json", toJson( told.state, 1 ) ) ) );
    ServedAgent killed( folder, "Linecard3", theSwitch, server.url(), { "--chips-file", folder / "chips" } );
    ServedAgent other( folder, "Linecard4", theSwitch, server.url() );
    ASSERT_TRUE( killed.isSoon( "running" ) ) << killed.log();

@@ -4,6 +4,7 @@
 
 #include "Served.h"
 #include "agent/RedisServer.h"
+#include "agent/database/Databases.h"
 #include "agent/database/StateFile.h"
 #include "agent/database/StateWriter.h"
 #include "inspection/FileDifferences.h"

@@ -4,61 +4,6 @@
 
 namespace {
 
-TEST( RedisDatabase, tellsTheStateAndWhatIsWrittenThen ) {
-   RedisServer server;
-   loadByHand( server );
-   RedisFollower follower( server );
-   ASSERT_TRUE( follower.untilFollowing() );
-   EXPECT_EQ( follower.paths,
-              ( Live::Paths{ { "evpn/status", { { "vxlanEnabled", "false" } } },
-                             { "interface/config/global", { { "l3Mtu", "9000" } } } } ) );
-   EXPECT_EQ( follower.position.epoch, "e1" );
-
-   writeByHand( server, "vxlanEnabled", "true" );
-   ASSERT_TRUE( follower.until( [&] { return follower.count == 1; } ) );
-   EXPECT_EQ( follower.paths.at( "evpn/status" ).at( "vxlanEnabled" ), "true" );
-   EXPECT_EQ( follower.told, std::vector< std::string >{ "snapshot" } );
-}
-
-TEST( RedisDatabase, goesOnWhereItWasWhenTheConnectionIsCut ) {
-   RedisServer server;
-   loadByHand( server );
-   RedisFollower follower( server );
-   follower.takesUpWhereItWas = true;
-   ASSERT_TRUE( follower.untilFollowing() );
-   server.ask( { "CLIENT", "KILL", "TYPE", "normal", "SKIPME", "yes" } );
-   ASSERT_TRUE( follower.untilTold( "unreachable" ) );
-   writeByHand( server, "mplsEnabled", "true" );
-   ASSERT_TRUE( follower.until( [&] { return follower.count == 1; } ) );
-   EXPECT_EQ( follower.timesTold( "snapshot" ), 1 );
-   EXPECT_EQ( follower.paths, stateIn( server ) );
-}
-
-TEST( RedisDatabase, holdsNothingWithoutAnEpoch ) {
-   RedisServer server;
-   RedisFollower follower( server );
-   ASSERT_TRUE( follower.untilTold( "without: the database holds no state yet; load one: l3sm state load FILE" ) );
-   loadByHand( server );
-   ASSERT_TRUE( follower.untilFollowing() );
-}
-
-TEST( RedisDatabase, holdsNothingWhereThereIsNotOnePath ) {
-   RedisServer server;
-   server.ask( { "SET", epochKey, "e1" } );
-   RedisFollower follower( server );
-   ASSERT_TRUE( follower.untilTold( "without: the database has lost its state: there is not one path" ) );
-}
-
-TEST( RedisDatabase, cannotBeReachedWhereNobodyListens ) {
-   RedisServer server;
-   server.dies();
-   RedisFollower follower( server );
-   ASSERT_TRUE( follower.untilTold( "unreachable: " + server.url() + ": " ) );
-   server.starts();
-   loadByHand( server );
-   ASSERT_TRUE( follower.untilFollowing() );
-}
-
 TEST( RedisDatabase, takesWhatItCanReadOfATransaction ) {
    RedisServer server;
    loadByHand( server );

@@ -4,21 +4,6 @@
 
 namespace {
 
-TEST( RedisFaults, serverKilledInTheMiddleOfASnapshot ) {
-   RedisServer server;
-   loadManyByHand( server, 20000 );
-   server.keepsDump();
-   RedisFollower follower( server );
-   ASSERT_TRUE( follower.until( [&] { return server.served( "hgetall" ) > 0; } ) );
-   ASSERT_FALSE( follower.isFollowing );
-   server.dies();
-   ASSERT_TRUE( follower.untilTold( "unreachable: " + server.url() ) );
-   EXPECT_TRUE( follower.paths.empty() );
-   server.starts();
-   ASSERT_TRUE( follower.untilFollowing() );
-   EXPECT_EQ( follower.paths, stateIn( server ) );
-}
-
 TEST( RedisFaults, serverKilledInTheMiddleOfTransactions ) {
    RedisServer server( { "--appendonly", "yes" } );
    loadByHand( server );
@@ -45,62 +30,6 @@ TEST( RedisFaults, serverKilledInTheMiddleOfTransactions ) {
    ASSERT_TRUE( follower.untilTold( "gap: another server answers, or it was started again" ) );
    ASSERT_TRUE( follower.untilFollowing() );
    EXPECT_EQ( follower.paths, stateIn( server ) );
-}
-
-TEST( RedisFaults, olderDumpRestored ) {
-   RedisServer server;
-   loadByHand( server );
-   server.keepsDump();
-   RedisFollower follower( server );
-   follower.takesUpWhereItWas = true;
-   ASSERT_TRUE( follower.untilFollowing() );
-   writeByHand( server, "vxlanEnabled", "true" );
-   ASSERT_TRUE( follower.until( [&] { return follower.count == 1; } ) );
-   server.dies();
-   server.starts();
-   ASSERT_TRUE( follower.untilTold( "gap: another server answers, or it was started again" ) );
-   ASSERT_TRUE( follower.untilFollowing() );
-   EXPECT_EQ( follower.paths.at( "evpn/status" ).at( "vxlanEnabled" ), "false" );
-}
-
-TEST( RedisFaults, stateFlushedWhileNothingIsWritten ) {
-   RedisServer server;
-   loadByHand( server );
-   RedisFollower follower( server );
-   ASSERT_TRUE( follower.until( [&] { return server.served( "client|tracking" ) == 1; } ) );
-   ASSERT_TRUE( follower.untilFollowing() );
-   server.ask( { "FLUSHALL" } );
-   ASSERT_TRUE( follower.untilTold( "without: the database holds no state yet" ) );
-   EXPECT_FALSE( follower.paths.empty() );
-   loadByHand( server, "e2" );
-   ASSERT_TRUE( follower.untilFollowing() );
-   EXPECT_EQ( follower.position.epoch, "e2" );
-}
-
-TEST( RedisFaults, stateFlushedUnderLoad ) {
-   RedisServer server;
-   loadByHand( server );
-   RedisFollower follower( server );
-   ASSERT_TRUE( follower.untilFollowing() );
-   writeManyByHand( server, 3000 );
-   server.ask( { "FLUSHALL" } );
-   writeManyByHand( server, 3000 );
-   ASSERT_TRUE( follower.untilTold( "without: " ) );
-   EXPECT_TRUE( follower.paths.contains( "interface/config/global" ) );
-}
-
-TEST( RedisFaults, epochChangedWhileNothingIsWritten ) {
-   RedisServer server;
-   loadByHand( server );
-   RedisFollower follower( server );
-   ASSERT_TRUE( follower.until( [&] { return server.served( "client|tracking" ) == 1; } ) );
-   ASSERT_TRUE( follower.untilFollowing() );
-   server.ask( { "SET", epochKey, "e2" } );
-   ASSERT_TRUE( follower.untilTold( "gap: another state was loaded" ) );
-   ASSERT_TRUE( follower.untilFollowing() );
-   EXPECT_EQ( follower.position.epoch, "e2" );
-   server.ask( { "DEL", epochKey } );
-   ASSERT_TRUE( follower.untilTold( "without: " ) );
 }
 
 TEST( RedisFaults, logTrimmedPastWhoReadsIt ) {

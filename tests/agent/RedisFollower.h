@@ -1,113 +1,13 @@
-// Follows a Redis as an agent does, and does nothing else: what it holds is what it has been told.
+// Follows a Redis as an agent does.
 //
 //    RedisFollower follower( server );
-//    ASSERT_TRUE( follower.until( [&] { return follower.isFollowing; } ) );
-//    follower.paths;
-//    follower.told;             // "snapshot", "gap: another state was loaded", …
 #pragma once
 
+#include "agent/DatabaseFollower.h"
 #include "agent/RedisServer.h"
-#include "agent/database/RedisDatabase.h"
 
-#include <algorithm>
-
-class RedisFollower : public Live::Database::Follower {
+class RedisFollower : public DatabaseFollower {
  public:
    explicit RedisFollower( RedisServer const & server, std::string const & slice = "Linecard3" )
-      : database( loop, server.address(), 1, slice ) {
-      database.followerIs( this );
-      database.snapshot();
-   }
-   ~RedisFollower() override { database.stop(); }
-
-   // Turns the loop until it is so; false after 10 s.
-   template< class Condition >
-   bool until( Condition const & holds ) {
-      auto const start = std::chrono::steady_clock::now();
-      while ( !holds() ) {
-         if ( std::chrono::steady_clock::now() - start > std::chrono::seconds( 10 ) ) {
-            return false;
-         }
-         loop.turn( 0.01 );
-      }
-      return true;
-   }
-   bool untilFollowing() {
-      return until( [this] { return isFollowing; } );
-   }
-   bool untilTold( std::string const & what ) {
-      return until( [&] { return hasBeenTold( what ); } );
-   }
-   bool hasBeenTold( std::string const & what ) const {
-      return std::ranges::any_of( told, [&]( auto const & each ) { return each.find( what ) != std::string::npos; } );
-   }
-   std::size_t timesTold( std::string const & what ) const {
-      return static_cast< std::size_t >(
-         std::ranges::count_if( told, [&]( auto const & each ) { return each.starts_with( what ); } ) );
-   }
-
-   void snapshotIs( Live::Snapshot snapshot ) override {
-      told.push_back( "snapshot" );
-      paths = std::move( snapshot.paths );
-      unreadable = std::move( snapshot.unreadable );
-      position = snapshot.position;
-      isFollowing = true;
-      database.since( position );
-   }
-   void transactionsAre( std::vector< Live::Transaction > transactions ) override {
-      for ( auto const & transaction : transactions ) {
-         for ( auto const & event : transaction.changes ) {
-            for ( auto const & change : pathChangesOf( event, Live::PathLookup( paths ) ) ) {
-               apply( change, paths );
-            }
-         }
-         for ( auto const & text : transaction.unreadable ) {
-            unreadable[text] = text;
-         }
-         position = transaction.position;
-      }
-      count += transactions.size();
-      database.since( position );
-   }
-   void gapIs( std::string reason ) override {
-      ends( "gap: " + reason );
-      database.snapshot();
-   }
-   void unreachable( std::string reason ) override {
-      ends( "unreachable: " + reason );
-      later();
-   }
-   void withoutState( std::string reason ) override {
-      ends( "without: " + reason );
-      later();
-   }
-   void refused( std::string reason ) override { ends( "refused: " + reason ); }
-
-   Live::EventLoop loop;
-   Live::RedisDatabase database;
-   Live::Paths paths;
-   Live::Position position;
-   std::map< std::string, std::string > unreadable;
-   std::size_t count = 0; // of the transactions
-   std::vector< std::string > told;
-   bool isFollowing = false;
-   bool takesUpWhereItWas = false; // after a broken connection: from its position on, not with a snapshot
-
- private:
-   void ends( std::string const & text ) {
-      told.push_back( text );
-      isFollowing = false;
-   }
-   void later() {
-      again_ = loop.timer( 0.002, [this] {
-         if ( takesUpWhereItWas && !position.server.empty() ) {
-            isFollowing = true;
-            database.since( position );
-         } else {
-            database.snapshot();
-         }
-      } );
-   }
-
-   Live::EventLoop::Source again_;
+      : DatabaseFollower( server.url(), slice ) {}
 };

@@ -89,7 +89,7 @@ TEST( ServedLife, takesNoEventsAndNoDatabaseThatItDoesntKnow ) {
    EXPECT_TRUE( has( agent.log(), "an agent's events come from its database" ) ) << agent.log();
    ServedAgent other( folder, "Linecard4", oneFap, "mysql://here" );
    EXPECT_EQ( other.ended(), 2 );
-   EXPECT_TRUE( has( other.log(), "begins neither with redis:// nor with redis+unix://" ) ) << other.log();
+   EXPECT_TRUE( has( other.log(), "begins with none of redis://, redis+unix://, etcd://, etcds://" ) ) << other.log();
 }
 
 } // namespace

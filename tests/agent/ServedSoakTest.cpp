@@ -3,12 +3,19 @@
 //
 // L3SM_SOAK=N writes N transactions instead of 150.
 #include "RandomTransactions.h"
+#include "agent/CentralServer.h"
 
 namespace {
 
 using namespace RandomTransactions;
 
-TEST( ServedSoak, endsWithTheChipsOfAFreshStart ) {
+struct ServedSoak : testing::TestWithParam< char const * > {
+   std::unique_ptr< CentralServer > server = serverOf( GetParam() );
+};
+
+INSTANTIATE_TEST_SUITE_P( Every, ServedSoak, testing::ValuesIn( centralServers ), nameOfServer );
+
+TEST_P( ServedSoak, endsWithTheChipsOfAFreshStart ) {
    char const * const asked = std::getenv( "L3SM_SOAK" );
    std::size_t const count = asked ? std::stoul( asked ) : 150;
    std::map< std::string, std::string > const switches{
@@ -18,28 +25,27 @@ TEST( ServedSoak, endsWithTheChipsOfAFreshStart ) {
    };
    Scenario const told = toldScenario( switches, count );
    Folder const folder;
-   RedisServer server;
-   std::optional< Live::StateWriter > writer( std::in_place, server.address(), 1 );
-   writer->load( Live::stateOfFile( folder.file( "state.json", toJson( told.state, 1 ) ) ) );
+   auto store = Live::stateStoreAt( server->url(), {}, 1 );
+   store->load( Live::stateOfFile( folder.file( "state.json", toJson( told.state, 1 ) ) ) );
    std::map< std::string, std::unique_ptr< ServedAgent > > agents;
    for ( auto const & [slice, theSwitch] : switches ) {
-      agents[slice] = std::make_unique< ServedAgent >( folder, slice, theSwitch, server.url() );
+      agents[slice] = std::make_unique< ServedAgent >( folder, slice, theSwitch, server->url() );
       ASSERT_TRUE( agents[slice]->isSoon( "running" ) ) << agents[slice]->log();
    }
    auto const choose = chanceOf( 7 );
    for ( Event const & event : told.events ) {
-      writer->write( event );
+      Live::StateWriter( *store ).write( event );
       auto & one = *std::next( agents.begin(), static_cast< std::ptrdiff_t >( choose( agents.size() ) ) )->second;
       if ( choose( 40 ) == 0 ) {
          one.dies();
          one.starts();
       }
       if ( choose( 30 ) == 0 ) {
-         server.ask( { "CLIENT", "KILL", "TYPE", "normal", "SKIPME", "yes" } );
-         writer.emplace( server.address(), 1 );
+         server->cutsConnections();
+         store = Live::stateStoreAt( server->url(), {}, 1 );
       }
    }
-   std::string const waited = agents.begin()->second->output( "state wait --timeout 30 --database " + server.url() );
+   std::string const waited = agents.begin()->second->output( "state wait --timeout 30 --database " + server->url() );
    SCOPED_TRACE( waited );
    for ( auto & [slice, agent] : agents ) {
       EXPECT_EQ( agent->phase(), "running" ) << slice << agent->log();

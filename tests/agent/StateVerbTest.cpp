@@ -1,6 +1,6 @@
 // `l3sm state`, as a person types it.
-#include "agent/RedisFollower.h"
-#include "agent/RedisState.h"
+#include "agent/CentralServer.h"
+#include "agent/DatabaseFollower.h"
 #include "l3sm/Running.h"
 
 #include <gmock/gmock.h>
@@ -19,20 +19,22 @@ bool isSoSoon( std::function< bool() > const & holds ) {
    return holds();
 }
 
-struct StateVerb : testing::Test {
-   RedisServer server;
+struct StateVerb : testing::TestWithParam< char const * > {
+   std::unique_ptr< CentralServer > server = serverOf( GetParam() );
    Command l3sm( std::string const & words, Command::Files const & files = {} ) const {
-      return Command( "state " + words + " --database " + server.url(), files );
+      return Command( "state " + words + " --database " + server->url(), files );
    }
    void SetUp() override {
-      Command const loaded( "state load s.json --database " + server.url(),
+      Command const loaded( "state load s.json --database " + server->url(),
                             { { "s.json", scenarioWith( R"(, "state": {"evpn/status": {"vxlanEnabled": true}})" ) } } );
       ASSERT_EQ( loaded.status, 0 ) << loaded.errors;
       ASSERT_THAT( loaded.output, StartsWith( "a new life of the state: " ) );
    }
 };
 
-TEST_F( StateVerb, getsWhatWasSet ) {
+INSTANTIATE_TEST_SUITE_P( Every, StateVerb, testing::ValuesIn( centralServers ), nameOfServer );
+
+TEST_P( StateVerb, getsWhatWasSet ) {
    EXPECT_EQ( l3sm( "get evpn" ).output, "evpn/status vxlanEnabled = true\n" );
    EXPECT_EQ( l3sm( "set evpn/status mplsEnabled true" ).output, "set evpn/status mplsEnabled = true\n" );
    EXPECT_EQ( l3sm( "get evpn/status --json" ).output,
@@ -50,7 +52,7 @@ TEST_F( StateVerb, getsWhatWasSet ) {
    EXPECT_EQ( gone.output, "nothing stands at interface/status/subintf/intfStatus/Ethernet1.7\n" );
 }
 
-TEST_F( StateVerb, refusesWithOneLine ) {
+TEST_P( StateVerb, refusesWithOneLine ) {
    auto const refusalOf = [&]( std::string const & words ) {
       auto const refused = l3sm( words );
       EXPECT_EQ( refused.status, 2 ) << words;
@@ -65,21 +67,21 @@ TEST_F( StateVerb, refusesWithOneLine ) {
    EXPECT_EQ( refusalOf( "set evpn/status" ), "l3sm: state set: takes PATH ATTRIBUTE VALUE [--key KEY]\n" );
    EXPECT_EQ( refusalOf( "delete evpn/status mplsEnabled" ),
               "l3sm: state delete: an entry takes ATTRIBUTE and --key, an entity neither\n" );
-   server.dies();
+   server->dies();
    EXPECT_EQ( refusalOf( "get" ),
-              "l3sm: " + server.url() +
-                 ": Connection refused; --database URL or L3SM_DATABASE says where the database is\n" );
+              "l3sm: " + server->url() + ": " + server->refusedText() +
+                 "; --database URL or L3SM_DATABASE says where the database is\n" );
 }
 
-TEST_F( StateVerb, takesTheDatabaseFromTheEnvironment ) {
-   ::setenv( "L3SM_DATABASE", server.url().c_str(), 1 );
+TEST_P( StateVerb, takesTheDatabaseFromTheEnvironment ) {
+   ::setenv( "L3SM_DATABASE", server->url().c_str(), 1 );
    EXPECT_EQ( Command( "state get evpn" ).output, "evpn/status vxlanEnabled = true\n" );
    EXPECT_EQ( Command( "state get evpn --cell 2" ).errors,
-              "l3sm: " + server.url() + ": the database holds no state yet; load one: l3sm state load FILE\n" );
+              "l3sm: " + server->url() + ": the database holds no state yet; load one: l3sm state load FILE\n" );
    ::unsetenv( "L3SM_DATABASE" );
 }
 
-TEST_F( StateVerb, appliesTheEventsOfAScenario ) {
+TEST_P( StateVerb, appliesTheEventsOfAScenario ) {
    std::string const events = R"([{"set": {"path": "evpn/status", "attribute": "vxlanEnabled", "value": false}},
       {"set": {"path": "evpn/status", "attribute": "mplsEnabled", "value": true}}])";
    EXPECT_EQ( l3sm( "apply s.json", { { "s.json", scenarioWith( ", \"events\": " + events ) } } ).output,
@@ -94,10 +96,10 @@ TEST_F( StateVerb, appliesTheEventsOfAScenario ) {
    EXPECT_EQ( l3sm( "get evpn" ).output, "evpn/status mplsEnabled = true\nevpn/status vxlanEnabled = false\n" );
 }
 
-TEST_F( StateVerb, loadsWhatARunHasLeft ) {
+TEST_P( StateVerb, loadsWhatARunHasLeft ) {
    Command const run( "run s.json --quiet --state state.json && '" L3SM_BINARY_DIR
                       "/bin/l3sm' state load state.json --database " +
-                         server.url(),
+                         server->url(),
                       { { "s.json", scenarioWith( R"(, "state": {"evpn/status": {"mplsEnabled": true}})" ) } } );
    EXPECT_EQ( run.status, 0 ) << run.errors;
    EXPECT_THAT( l3sm( "get evpn" ).output, HasSubstr( "evpn/status mplsEnabled = true\n" ) );
@@ -106,9 +108,9 @@ TEST_F( StateVerb, loadsWhatARunHasLeft ) {
    EXPECT_EQ( wrong.errors, "l3sm: state.json:1:33: /evpn~1status/mplsEnabled: expected true or false, got 7\n" );
 }
 
-TEST_F( StateVerb, watchesEachChangeUntilItIsInterrupted ) {
-   Running watch( "state watch evpn --database " + server.url(), {} );
-   ASSERT_TRUE( isSoSoon( [&] { return server.served( "xread" ) > 0; } ) ) << "it waits for the next entry";
+TEST_P( StateVerb, watchesEachChangeUntilItIsInterrupted ) {
+   Running watch( "state watch evpn --database " + server->url(), {} );
+   ASSERT_TRUE( isSoSoon( [&] { return server->isWatched(); } ) ) << "it waits for the next entry";
    l3sm( "set routing/hardware/config urpfLooseFailForward true" );
    l3sm( "set evpn/status mplsEnabled true" );
    ASSERT_TRUE( isSoSoon( [&] { return watch.output().find( '\n' ) != std::string::npos; } ) );
@@ -117,27 +119,27 @@ TEST_F( StateVerb, watchesEachChangeUntilItIsInterrupted ) {
    EXPECT_EQ( watch.output().substr( 12 ), "  set evpn/status mplsEnabled = true\n" );
 }
 
-TEST_F( StateVerb, waitsForAgents ) {
+TEST_P( StateVerb, waitsForAgents ) {
    auto const none = l3sm( "wait --timeout 0" );
    EXPECT_EQ( none.status, 1 );
    EXPECT_EQ( none.output, "no agent follows this database\n" );
 
-   RedisFollower agent( server );
+   DatabaseFollower agent( server->url() );
    ASSERT_TRUE( agent.untilFollowing() );
    agent.database.publish( { .applied = agent.position, .fields = { { "phase", "reconciling" } }, .isWhole = true } );
-   ASSERT_TRUE( agent.until( [&] { return server.ask( { "EXISTS", "l3sm:{1}#agent:Linecard3" } ).number() == 1; } ) );
+   ASSERT_TRUE( agent.until( [&] { return server->agentHash( "Linecard3" ).contains( "phase" ); } ) );
    EXPECT_EQ( l3sm( "wait --timeout 0" ).output, "Linecard3  reconciling\n" );
 
    auto const before = agent.position.entry;
    l3sm( "set evpn/status mplsEnabled true" );
    auto const late = l3sm( "wait --timeout 0 --slice Linecard3" );
    EXPECT_EQ( late.status, 1 );
-   EXPECT_EQ( late.output, "Linecard3  reconciling, at " + before + " of " + lastEntry( server ) + "\n" );
+   EXPECT_EQ( late.output, "Linecard3  reconciling, at " + before + " of " + server->lastEntry() + "\n" );
 
-   Running waiting( "state wait --database " + server.url(), {} );
-   ASSERT_TRUE( agent.until( [&] { return agent.position.entry == lastEntry( server ); } ) );
+   Running waiting( "state wait --database " + server->url(), {} );
+   ASSERT_TRUE( agent.until( [&] { return agent.position.entry == server->lastEntry(); } ) );
    agent.database.publish( { .applied = agent.position, .fields = { { "phase", "running" } } } );
-   ASSERT_TRUE( agent.until( [&] { return server.served( "exec" ) >= 4; } ) );
+   ASSERT_TRUE( agent.until( [&] { return server->agentHash( "Linecard3" )["phase"] == "running"; } ) );
    EXPECT_EQ( waiting.wait(), 0 );
    EXPECT_EQ( waiting.output(), "Linecard3  has applied it\n" );
    EXPECT_EQ( l3sm( "wait --timeout 0 --slice Linecard9" ).output, "Linecard9  no agent serves this slice\n" );

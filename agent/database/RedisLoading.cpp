@@ -1,7 +1,5 @@
 // A new life of a state: all of the old one goes, in one MULTI.
-#include "agent/database/StateWriter.h"
-
-#include <fstream>
+#include "agent/database/RedisStore.h"
 
 namespace Live {
 
@@ -18,12 +16,6 @@ constexpr char const * wipeScript =
    "redis.call( 'DEL', KEYS[1] ) "
    "local kind = redis.call( 'TYPE', KEYS[2] ).ok "
    "if kind ~= 'stream' and kind ~= 'none' then redis.call( 'DEL', KEYS[2] ) end";
-
-std::string newEpoch() {
-   std::string epoch;
-   std::getline( std::ifstream( "/proc/sys/kernel/random/uuid" ), epoch );
-   return epoch;
-}
 
 // Gathers words into commands of a bearable length.
 class Gathering {
@@ -56,7 +48,7 @@ class Gathering {
 
 } // namespace
 
-std::string StateWriter::load( Paths const & paths ) {
+std::string RedisStore::load( Paths const & paths ) {
    std::string const names = layout_.paths();
    std::string const epoch = newEpoch();
    std::string const prefix = layout_.hash( "" );
@@ -96,7 +88,7 @@ std::string StateWriter::load( Paths const & paths ) {
    } );
    session_.wait();
    if ( !isDone || !failed.empty() ) {
-      session_.refuse( "the state can't be loaded: " + failed );
+      refuse( "the state can't be loaded: " + failed );
    }
    return epoch;
 }

@@ -1,6 +1,5 @@
-#include "agent/database/StateWatch.h"
+#include "agent/database/RedisWatch.h"
 
-#include "agent/database/AgentsAwaited.h"
 #include "inspection/files/InputError.h"
 
 namespace Live {
@@ -12,25 +11,22 @@ constexpr Rex::Seconds pause = 2;
 
 } // namespace
 
-StateWatch::StateWatch( RedisSession & session,
-                        RedisLayout const & layout,
-                        std::function< void( Transaction const & ) > is,
-                        std::function< void( std::string const & ) > begins )
-   : session_( session ), layout_( layout ), is_( std::move( is ) ), begins_( std::move( begins ) ) {
-   begin();
+RedisWatch::RedisWatch( RedisSession & session, RedisLayout const & layout, Position const & from, Answers answers )
+   : session_( session ), layout_( layout ), answers_( std::move( answers ) ) {
+   begin( from );
 }
 
-void StateWatch::begin() {
+void RedisWatch::begin( Position const & from ) {
    reader_.emplace( session_.loop(),
                     session_.connection().address(),
                     "l3sm-state",
                     layout_,
-                    placeNow( session_, layout_ ),
+                    from,
                     RedisReader::Answers{ .begins = [] {},
                                           .are =
                                              [this]( std::vector< Transaction > const & all ) {
                                                 for ( Transaction const & each : all ) {
-                                                   is_( each );
+                                                   answers_.is( each );
                                                 }
                                                 reader_->more( all.back().position );
                                              },
@@ -39,7 +35,7 @@ void StateWatch::begin() {
                                           .lost = [this]( std::string const & reason ) { failed_ = reason; } } );
 }
 
-void StateWatch::turn() {
+void RedisWatch::turn() {
    if ( !session_.loop().turn( pause ) ) {
       askState( session_.connection(), layout_, reader_->judge() );
       session_.wait();
@@ -48,8 +44,8 @@ void StateWatch::turn() {
       throw Inspection::InputError( *failed_ );
    }
    if ( gap_ ) {
-      begins_( *std::exchange( gap_, std::nullopt ) );
-      begin();
+      answers_.begins( *std::exchange( gap_, std::nullopt ) );
+      begin( session_.place( layout_ ) );
    }
 }
 
