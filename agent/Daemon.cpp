@@ -98,7 +98,9 @@ struct Daemon::Parts {
                                      &metrics ),
         auditor( agent.sw(),
                  metrics,
-                 { .period = options.audit, .log = []( std::string const & line ) { say( Level::warning, line ); } } ),
+                 { .period = options.audit,
+                   .log = []( std::string const & line ) { say( Level::warning, line ); },
+                   .mayRepair = [this] { return agent.mayWrite(); } } ),
         auditedAt( begun ) {
       agent.driftIsHeld( options.isDriftHeld );
       if ( agent.isWarm() ) {
@@ -164,7 +166,7 @@ struct Daemon::Parts {
 
    // A slice, and what is due beyond it once others have had their turn.
    void audits( Rex::Seconds time ) {
-      if ( auditor.works( time ) ) {
+      if ( agent.mayWrite() && auditor.works( time ) ) {
          loop.soon( [this] { audits( 0 ); } );
       }
       agent.chipsAreAnother();

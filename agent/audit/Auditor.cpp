@@ -36,6 +36,16 @@ Auditor::Auditor( Simulator::SimulatedSwitch & sw, Metrics & metrics, Options op
    : sw_( sw ), metrics_( metrics ), options_( std::move( options ) ) {}
 
 void Auditor::visit( Mismatch const & it ) {
+   if ( options_.mayRepair && !options_.mayRepair() ) {
+      ++walk_.mismatches;
+      keep( { .wrong = Inspection::wrongPlaceOf( sw_.description(), it ),
+              .event = sw_.event(),
+              .rightAt = rightAt_,
+              .found = Rex::now(),
+              .isHard = false,
+              .isRepaired = false } );
+      return;
+   }
    Key const key = it.control ? Key{ it.chip.value, controlBlock, *it.control }
                               : Key{ it.chip.value, it.at.selectorA << 8 | it.at.selectorB, it.at.address };
    auto const [known, isNew] = places_.try_emplace( key );
@@ -90,22 +100,35 @@ void Auditor::walkEnds() {
    all_.repaired += walk_.repaired;
    all_.hard += walk_.hard;
    walk_ = {};
-   entries_ = std::exchange( counted_, 0 );
+   entries_ = 0;
    ++walks_;
-   rightAt_ = std::exchange( begunAt_, sw_.event() );
+   rightAt_ = begunAt_;
+}
+
+std::size_t Auditor::valuedEntries() const {
+   std::size_t count = 1; // so that a walk over nothing ends, too
+   for ( auto const * const chip : sw_.supervised()->shadow().expected().chips() ) {
+      for ( U32 entry = chip->nextValued( 0 ); entry < chip->map().entries(); entry = chip->nextValued( entry + 1 ) ) {
+         ++count;
+      }
+   }
+   return count;
 }
 
 bool Auditor::works( Rex::Seconds more ) {
    if ( options_.period <= 0 ) {
       return false;
    }
-   due_ += static_cast< double >( std::max( entries_, sliceEntries ) ) * more / options_.period;
+   if ( entries_ == 0 ) {
+      entries_ = valuedEntries();
+      begunAt_ = sw_.event();
+   }
+   due_ += static_cast< double >( entries_ ) * more / options_.period;
    if ( due_ < 1 ) {
       return false;
    }
    auto const slice = std::min( sliceEntries, static_cast< std::size_t >( due_ ) );
    due_ -= static_cast< double >( slice );
-   counted_ += slice;
    if ( chips().audit().step( slice, [this]( Mismatch const & it ) { visit( it ); } ) ) {
       walkEnds();
       due_ = 0;
@@ -117,13 +140,9 @@ Auditor::Outcome Auditor::runs() {
    auto & audit = chips().audit();
    audit.restart();
    walk_ = {};
-   counted_ = 0;
    begunAt_ = sw_.event();
    auto const visits = [this]( Mismatch const & it ) { visit( it ); };
-   while ( !audit.step( sliceEntries, visits ) ) {
-      counted_ += sliceEntries;
-   }
-   counted_ += sliceEntries;
+   audit.finish( visits );
    Outcome const outcome = walk_;
    walkEnds();
    return outcome;

@@ -38,6 +38,8 @@ class Auditor {
    struct Options {
       Rex::Seconds period = 60; // in which all of every chip is looked at; 0: on demand alone
       std::function< void( std::string const & line ) > log = {};
+      // Whether chips may be written to now; else what is found is told alone. None: always.
+      std::function< bool() > mayRepair = {};
    };
    struct Outcome {
       U32 mismatches = 0;
@@ -74,6 +76,7 @@ class Auditor {
    void visit( Simulator::Mismatch const & it );
    void keep( Finding finding );
    void walkEnds();
+   std::size_t valuedEntries() const;
 
    Simulator::SimulatedSwitch & sw_;
    Metrics & metrics_;
@@ -83,8 +86,7 @@ class Auditor {
    Outcome all_;
    Outcome walk_; // the one under way
    U64 walks_ = 0;
-   std::size_t entries_ = 0; // of a walk, as the last one counted
-   std::size_t counted_ = 0; // of the one under way
+   std::size_t entries_ = 0; // of the walk under way, as they were when it began; 0: none is
    double due_ = 0;          // entries to look at
    U32 begunAt_ = 0;         // the event at which the walk under way has begun
    U32 rightAt_ = 0;         // likewise the one before

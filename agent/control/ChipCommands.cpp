@@ -104,6 +104,11 @@ void addChipCommands( Commands & commands, AgentSubjects const & subjects ) {
                    .changes = true,
                    .answer = [&agent, &auditor]( Arguments const & ) -> Answer {
                       auto const committed = agent.commits();
+                      if ( !agent.mayWrite() ) {
+                         throw CommandError( CommandError::refused,
+                                             "the chips are to stay as they are while the agent is " +
+                                                std::string( nameOf( agent.phase() ) ) );
+                      }
                       Value outcome = valueOf( auditor.triesAgain() );
                       agent.chipsAreAnother();
                       ( *outcome.object() )["committed"] = committed;
