@@ -10,6 +10,8 @@ namespace {
 
 // Between two tries where the cluster has no space.
 constexpr Rex::Seconds pause = 5;
+// Between two reports: each is a write that a majority's disks wait for, and there are many agents.
+constexpr Rex::Seconds breath = 0.1;
 
 bool isOfSpace( std::string const & error ) {
    return error.find( "database space exceeded" ) != std::string::npos;
@@ -118,10 +120,12 @@ void EtcdPublisher::written( EtcdReply const & reply ) {
       write();
       return;
    }
-   isUnderWay_ = false;
-   if ( waiting_ ) {
-      gather();
-   }
+   again_ = loop_.timer( breath, [this] {
+      isUnderWay_ = false;
+      if ( waiting_ ) {
+         gather();
+      }
+   } );
 }
 
 } // namespace Live
