@@ -1,6 +1,6 @@
 // What an agent tells of itself, written into the database: one transaction a report, or some where it doesn't fit into
-// one, the agent's own key last. While one is under way, and for a tenth of a second after it, the next ones become one:
-// a slow server costs no memory, and an agent that plays much writes little.
+// one, the agent's own key last. While one is under way, and for a tenth of a second after it, the next ones become
+// one: a slow server costs no memory, and an agent that plays much writes little.
 //
 // The first on a connection is to be whole (Report::isWhole): what another process has left there goes.
 //
