@@ -150,6 +150,20 @@ TEST_F( ServedChips, areGivenByAnUpgradeWhatItsPlanHasTold ) {
    EXPECT_NE( agent.ctl( "show" ), before );
 }
 
+TEST_F( ServedChips, areLeftAsTheyAreWhileTheirAgentIsFrozen ) {
+   ServedAgent agent( folder, "Linecard3", one, "" );
+   ASSERT_TRUE( agent.isSoon( "running" ) ) << agent.log();
+   auto const before = agent.ctl( "show" );
+   agent.ctl( "freeze" );
+   agent.ctl( "fault add IppdFerTrapCfg[3] --copy 0 --kind flip:3" );
+   EXPECT_THAT( agent.ctl( "audit run" ), HasSubstr( "\"mismatches\": 1,\n \"repaired\": 0" ) );
+   EXPECT_THAT( agent.ctl( "repair" ), HasSubstr( "the chips are to stay as they are while the agent is frozen" ) );
+   EXPECT_NE( agent.ctl( "show" ), before );
+   agent.ctl( "thaw" );
+   EXPECT_THAT( agent.ctl( "audit run" ), HasSubstr( "\"mismatches\": 1,\n \"repaired\": 1" ) );
+   EXPECT_EQ( agent.ctl( "show" ), before );
+}
+
 TEST_F( ServedChips, beginAnewWhereTheFileIsNoneOfChips ) {
    folder.file( "chips", "{\"state\": {}}" );
    ServedAgent agent( folder, "Linecard3", one, "", { "--chips-file", folder / "chips" } );
