@@ -1,7 +1,8 @@
 // A place of a chip that doesn't hold what was written to it, as people and programs read it.
 //
 //    for ( WrongPlace const & it : wrongPlacesOf( sw ) ) {            // a whole audit of a supervised switch
-//       it.text();                                                   // "FAP 0 IppdFerTrapCfg[3] copy 1: cpuSnoopCodeN is 0x195, not 0x115"
+//       it.text();                                                   // "FAP 0 IppdFerTrapCfg[3] copy 1: cpuSnoopCodeN
+//       is 0x195, not 0x115"
 //    }
 //
 // Threading: the agent's scheduler thread.

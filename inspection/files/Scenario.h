@@ -29,7 +29,7 @@ struct Event {
    std::optional< std::string > attribute = {};
    std::optional< std::string > key = {};
    Rex::Value value = {};
-   std::vector< Event > changes = {}; // of a transaction, each a set or a remove; it has nothing else
+   std::vector< Event > changes = {};            // of a transaction, each a set or a remove; it has nothing else
    std::optional< Simulator::Fault > fault = {}; // of a fault, which has nothing else
 
    // "set evpn/status evpnDciEnabled = true"

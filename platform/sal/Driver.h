@@ -26,8 +26,8 @@ struct SchanAddress {
    friend constexpr bool operator==( SchanAddress const &, SchanAddress const & ) = default;
 };
 
-// A chip hasn't carried an operation out: nothing was read, nothing was written. Thrown by drivers whose chips can fail;
-// it costs those that always answer nothing.
+// A chip hasn't carried an operation out: nothing was read, nothing was written. Thrown by drivers whose chips can
+// fail; it costs those that always answer nothing.
 class SchanError : public std::runtime_error {
  public:
    using std::runtime_error::runtime_error;

@@ -103,18 +103,17 @@ TEST( WrongEvents, areLookedAtAfterThoseBeforeThem ) {
 }
 
 TEST( WrongEvents, areToldTogether ) {
-   expectTold(
-      { member( "with what is wrong elsewhere",
-                R"("toggles": {"Dace.json": {§"J2SRv6": true}}, "state": {"evpn/status": {§"speed": 1}},)"
-                "\n\"chips\": {\"0\": {\"IppdFerTrapCfg\": {\"0\": {§\"9\": {}}}}}, \"events\": [§{},"
-                "\n{\"set\": {\"path\": \"evpn/status\", \"attribute\": \"mplsEnabled\", \"value\": §0}}]",
-                "s.json:§: /toggles/Dace.json/J2SRv6: this toggle is read from DaceToggles.json\n"
-                "s.json:§: /state/evpn~1status/speed: Evpn::EvpnStatus has no attribute \"speed\"; it has "
-                "vxlanEnabled, mplsEnabled, evpnDciEnabled\n"
-                "s.json:§: /chips/0/IppdFerTrapCfg/0/9: no such array index; there is 0 to 7\n"
-                "s.json:§: event 1: an event is {\"set\": {...}}, {\"delete\": {...}}, "
-                "{\"transaction\": [...]}, or {\"fault\": {...}}\n"
-                "s.json:§: event 2, /set/value: expected true or false, got 0" ) } );
+   expectTold( { member( "with what is wrong elsewhere",
+                         R"("toggles": {"Dace.json": {§"J2SRv6": true}}, "state": {"evpn/status": {§"speed": 1}},)"
+                         "\n\"chips\": {\"0\": {\"IppdFerTrapCfg\": {\"0\": {§\"9\": {}}}}}, \"events\": [§{},"
+                         "\n{\"set\": {\"path\": \"evpn/status\", \"attribute\": \"mplsEnabled\", \"value\": §0}}]",
+                         "s.json:§: /toggles/Dace.json/J2SRv6: this toggle is read from DaceToggles.json\n"
+                         "s.json:§: /state/evpn~1status/speed: Evpn::EvpnStatus has no attribute \"speed\"; it has "
+                         "vxlanEnabled, mplsEnabled, evpnDciEnabled\n"
+                         "s.json:§: /chips/0/IppdFerTrapCfg/0/9: no such array index; there is 0 to 7\n"
+                         "s.json:§: event 1: an event is {\"set\": {...}}, {\"delete\": {...}}, "
+                         "{\"transaction\": [...]}, or {\"fault\": {...}}\n"
+                         "s.json:§: event 2, /set/value: expected true or false, got 0" ) } );
 }
 
 // Only the cause is wrong, not what it leads to.
@@ -147,7 +146,8 @@ TEST( WrongEvents, areNotToldWithoutAnEnd ) {
       list += event == 1 ? "§{}" : ",\n§{}";
       if ( event <= 20 ) {
          lines += ( event == 1 ? "" : "\n" ) + std::string( "s.json:§: event " ) + std::to_string( event );
-         lines += ": an event is {\"set\": {...}}, {\"delete\": {...}}, {\"transaction\": [...]}, or {\"fault\": {...}}";
+         lines +=
+            ": an event is {\"set\": {...}}, {\"delete\": {...}}, {\"transaction\": [...]}, or {\"fault\": {...}}";
       }
    }
    expectTold( { events( "a hundred", list, lines + "\n... and 80 more" ) } );
