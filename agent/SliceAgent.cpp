@@ -79,7 +79,7 @@ void SliceAgent::end() {
    sw_.stop();
 }
 
-void SliceAgent::phaseIs( Phase phase, std::string reason ) {
+bool SliceAgent::phaseIs( Phase phase, std::string reason ) {
    if ( phase == Phase::running && isFrozen_ ) {
       phase = Phase::frozen;
    } else if ( phase == Phase::running && !sw_.supervised()->shadow().degraded().empty() ) {
@@ -87,7 +87,7 @@ void SliceAgent::phaseIs( Phase phase, std::string reason ) {
       reason = failure_;
    }
    if ( phase == phase_ && reason == reason_ ) {
-      return;
+      return false;
    }
    phaseSince_ = phase == phase_ ? phaseSince_ : Rex::now();
    phase_ = phase;
@@ -95,6 +95,7 @@ void SliceAgent::phaseIs( Phase phase, std::string reason ) {
    for ( auto * const onlooker : onlookers_ ) {
       onlooker->phaseIs( phase_, reason_ );
    }
+   return true;
 }
 
 // ---- following
@@ -163,11 +164,15 @@ void SliceAgent::start( std::vector< Event > const & changes ) {
       sw_.start();
       return;
    }
+   startChangingWrites_ = 0;
    staged_.emplace( sw_.supervised()->shadow() );
    DaceSal::schanDriverIs( &*staged_ );
    sw_.start();
-   drift_ = 0;
-   staged_->eachChange( [this]( auto const & ) { ++drift_; } );
+   auto const drifts = driftOf( sw_.description(), *staged_ );
+   drift_ = drifts.size();
+   for ( auto * const onlooker : onlookers_ ) {
+      onlooker->startIsStaged( drifts );
+   }
    if ( !isHeld_ || drift_ == 0 ) {
       commits();
    }
@@ -189,8 +194,8 @@ std::size_t SliceAgent::commits() {
 }
 
 void SliceAgent::chipsAreAnother() {
-   if ( phase_ == Phase::running || phase_ == Phase::degraded ) {
-      phaseIs( Phase::running );
+   bool const isServing = phase_ == Phase::running || phase_ == Phase::degraded;
+   if ( isServing && phaseIs( Phase::running ) ) {
       report( false );
    }
 }

@@ -27,6 +27,7 @@
 #include "agent/Phase.h"
 #include "agent/PublishedState.h"
 #include "agent/StateDoor.h"
+#include "agent/audit/Drift.h"
 #include "agent/database/Database.h"
 #include "simulator/ChipsMapping.h"
 #include "simulator/StagedDriver.h"
@@ -46,6 +47,8 @@ class AgentOnlooker {
    // One event is over, which took so long. Of a resync: all differences are one.
    virtual void transactionPlayed( [[maybe_unused]] Transaction const & transaction,
                                    [[maybe_unused]] Rex::Seconds duration ) {}
+   // What the start would change on chips that an agent had before; it is not on them yet.
+   virtual void startIsStaged( [[maybe_unused]] std::vector< Drift > const & drifts ) {}
    // Why a whole state is taken again: a word or two, from a small set.
    virtual void resyncs( [[maybe_unused]] std::string const & reason ) {}
 };
@@ -75,7 +78,7 @@ class SliceAgent final : private Database::Follower {
    std::size_t drift() const { return staged_ ? drift_ : 0; }
    // Brings what is held to the chips, and goes on. Returns how much there was.
    std::size_t commits();
-   // How many writes of its own start have changed a chip that was programmed already; none: the chips were new.
+   // How many writes of its start have changed a chip that was programmed already; none: the chips were new.
    std::optional< std::size_t > startChangingWrites() const { return startChangingWrites_; }
    // The chips may have failed, or answer again.
    void chipsAreAnother();
@@ -119,7 +122,8 @@ class SliceAgent final : private Database::Follower {
    void refused( std::string reason ) override;
 
    void start( std::vector< Inspection::Event > const & changes );
-   void phaseIs( Phase phase, std::string reason = {} );
+   // Whether it became another, or has another reason.
+   bool phaseIs( Phase phase, std::string reason = {} );
    void follow();
    void again();
    void playWaiting();
