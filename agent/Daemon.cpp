@@ -24,8 +24,8 @@ namespace Live {
 
 namespace {
 
-// How often the agent looks after itself where no service manager asks for it: seldom, as an idle agent is to sleep, but
-// twice in the time in which all of its chips are looked at.
+// How often the agent looks after itself where no service manager asks for it: seldom, as an idle agent is to sleep,
+// but twice in the time in which all of its chips are looked at.
 Rex::Seconds tickPeriod( Rex::Seconds audit ) {
    return audit > 0 ? std::clamp( audit / 2, 1.0, 5.0 ) : 5.0;
 }
