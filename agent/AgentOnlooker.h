@@ -9,6 +9,7 @@
 #pragma once
 
 #include "agent/Phase.h"
+#include "agent/audit/Drift.h"
 #include "agent/database/Database.h"
 
 namespace Live {
@@ -23,6 +24,8 @@ class AgentOnlooker {
    // One event is over, which took so long. Of a resync: all differences are one.
    virtual void transactionPlayed( [[maybe_unused]] Transaction const & transaction,
                                    [[maybe_unused]] Rex::Seconds duration ) {}
+   // What the start would change on chips that an agent had before; it is not on them yet.
+   virtual void startIsStaged( [[maybe_unused]] std::vector< Drift > const & drifts ) {}
    // Why a whole state is taken again: a word or two, from a small set.
    virtual void resyncs( [[maybe_unused]] std::string const & reason ) {}
 };

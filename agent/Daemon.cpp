@@ -13,7 +13,6 @@
 #include "agent/metrics/MetricsFile.h"
 #include "agent/metrics/MetricsServer.h"
 #include "agent/recording/RecordCommands.h"
-
 #include "inspection/views/Terminal.h"
 #include "simulator/RandomFaults.h"
 
@@ -25,8 +24,11 @@ namespace Live {
 
 namespace {
 
-// How often the agent looks after itself where no service manager asks for it, in seconds.
-constexpr Rex::Seconds tickPeriod = 5;
+// How often the agent looks after itself where no service manager asks for it: seldom, as an idle agent is to sleep,
+// but twice in the time in which all of its chips are looked at.
+Rex::Seconds tickPeriod( Rex::Seconds audit ) {
+   return audit > 0 ? std::clamp( audit / 2, 1.0, 5.0 ) : 5.0;
+}
 
 constexpr char const * keptChips = "chips"; // the name under which the service manager keeps them
 
@@ -66,6 +68,21 @@ std::optional< Simulator::ChipsMapping > chipsOf( DaemonOptions const & options 
    return newChips( options );
 }
 
+// Tells what a start finds to change on chips that an agent had before.
+class DriftLog final : public AgentOnlooker {
+   void startIsStaged( std::vector< Drift > const & drifts ) override {
+      constexpr std::size_t mostTold = 20;
+      for ( std::size_t index = 0; index < std::min( drifts.size(), mostTold ); ++index ) {
+         say( drifts[index].known.empty() ? Level::warning : Level::notice,
+              "the start has another value for " + drifts[index].text() );
+      }
+      if ( drifts.size() > mostTold ) {
+         say( Level::warning,
+              "and for " + Inspection::counted( drifts.size() - mostTold, "place", "places" ) + " more" );
+      }
+   }
+};
+
 // Where to listen. Nobody has named a place, and the usual one can't be had: told, and the agent does without.
 std::string controlOf( DaemonOptions const & options ) {
    if ( !options.socket.empty() ) {
@@ -101,7 +118,7 @@ struct Daemon::Parts {
                  { .period = options.audit,
                    .log = []( std::string const & line ) { say( Level::warning, line ); },
                    .mayRepair = [this] { return agent.mayWrite(); } } ),
-        auditedAt( begun ) {
+        tickPeriod( Live::tickPeriod( options.audit ) ), auditedAt( begun ) {
       agent.driftIsHeld( options.isDriftHeld );
       if ( agent.isWarm() ) {
          auto const found = auditor.runs();
@@ -120,6 +137,7 @@ struct Daemon::Parts {
       }
       agent.onlookerAdd( counts );
       agent.onlookerAdd( manager );
+      agent.onlookerAdd( driftLog );
       addAgentCommands( commands,
                         { .agent = agent,
                           .ring = ring,
@@ -169,7 +187,6 @@ struct Daemon::Parts {
       if ( agent.mayWrite() && auditor.works( time ) ) {
          loop.soon( [this] { audits( 0 ); } );
       }
-      agent.chipsAreAnother();
    }
 
    // What can be changed without a new start.
@@ -192,9 +209,11 @@ struct Daemon::Parts {
    std::optional< Simulator::ChipsMapping > chips;
    SliceAgent agent;
    ServiceManager manager;
+   DriftLog driftLog;
    AgentMetrics counts;
    Recorder recorder;
    Auditor auditor;
+   Rex::Seconds const tickPeriod;
    Rex::Seconds auditedAt;
    std::optional< Simulator::RandomFaults > faults;
    std::optional< ControlServer > control;
@@ -211,7 +230,7 @@ int Daemon::run() {
    auto const terminate = it.loop.signal( SIGTERM, ends );
    auto const interrupt = it.loop.signal( SIGINT, ends );
    auto const reread = it.loop.signal( SIGHUP, [&] { it.rereads(); } );
-   it.loop.watchdog( tickPeriod, [&] { it.tick(); } );
+   it.loop.watchdog( it.tickPeriod, [&] { it.tick(); } );
    it.agent.begin();
    int const status = it.loop.run();
    it.control.reset();

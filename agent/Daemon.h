@@ -13,6 +13,8 @@
 namespace Live {
 
 struct DaemonOptions {
+   static constexpr Rex::Seconds usualAudit = 60;
+
    Inspection::Scenario scenario; // without events; its slice is the agent's
    U32 cell = 1;
    std::string database = {}; // an URL; empty: the process itself
@@ -21,7 +23,7 @@ struct DaemonOptions {
    std::string record = {};    // a folder; empty: nothing is recorded
    std::string metrics = {};   // a file or an address; empty: they can be asked for
    std::string trace = {};     // a file (TraceFile.h); empty: nothing is traced before `trace set`
-   Rex::Seconds audit = 60;    // in which all of every chip is looked at; 0: on demand alone
+   Rex::Seconds audit = usualAudit;   // in which all of every chip is looked at; 0: on demand alone
    std::string chipsFile = {}; // that the chips stand in; empty: what the service manager keeps, where there is one
    bool isDriftHeld = false;   // what a start would change waits for `ctl repair`
    std::optional< U32 > faultSeed = {}; // chips fail now and then, under this seed

@@ -8,9 +8,11 @@
 #pragma once
 
 #include "agent/SliceAgent.h"
-#include "agent/control/ControlSocket.h"
+#include "simulator/Descriptor.h"
 
 namespace Live {
+
+using Simulator::Descriptor;
 
 class ServiceManager final : public AgentOnlooker {
  public:

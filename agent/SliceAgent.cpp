@@ -69,11 +69,15 @@ void SliceAgent::start( std::vector< Event > const & changes ) {
       sw_.start();
       return;
    }
+   startChangingWrites_ = 0;
    staged_.emplace( sw_.supervised()->shadow() );
    DaceSal::schanDriverIs( &*staged_ );
    sw_.start();
-   drift_ = 0;
-   staged_->eachChange( [this]( auto const & ) { ++drift_; } );
+   auto const drifts = driftOf( sw_.description(), *staged_ );
+   drift_ = drifts.size();
+   for ( auto * const onlooker : onlookers() ) {
+      onlooker->startIsStaged( drifts );
+   }
    if ( !isHeld_ || drift_ == 0 ) {
       commits();
    }
@@ -91,8 +95,8 @@ std::size_t SliceAgent::commits() {
 }
 
 void SliceAgent::chipsAreAnother() {
-   if ( phase() == Phase::running || phase() == Phase::degraded ) {
-      phaseIs( Phase::running );
+   bool const isServing = phase() == Phase::running || phase() == Phase::degraded;
+   if ( isServing && phaseIs( Phase::running ) ) {
       report( false );
    }
 }

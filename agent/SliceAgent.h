@@ -48,7 +48,7 @@ class SliceAgent final : public StateFollower {
    std::size_t drift() const { return placesHeld().value_or( 0 ); }
    // Brings what is held to the chips, and goes on. Returns how much there was.
    std::size_t commits();
-   // How many writes of its own start have changed a chip that was programmed already; none: the chips were new.
+   // How many writes of its start have changed a chip that was programmed already; none: the chips were new.
    std::optional< std::size_t > startChangingWrites() const { return startChangingWrites_; }
    // The chips may have failed, or answer again.
    void chipsAreAnother();

@@ -76,6 +76,7 @@ class StateFollower : private Database::Follower {
    // What is published: all of it, or what has changed since it was asked for last.
    virtual Paths takePublished( [[maybe_unused]] bool isWhole ) { return {}; }
 
+   std::vector< AgentOnlooker * > const & onlookers() const { return onlookers_; }
    // Whether it became another, or has another reason.
    bool phaseIs( Phase phase, std::string reason = {} );
    // What was held is there.

@@ -142,7 +142,7 @@ class Chaos(Live):
         for name, _ in SLICES:
             self.clear(name)
         self.settle()
-        time.sleep(PERIOD + 6)  # an audit, and the tick of the agent that begins it
+        time.sleep(2 * PERIOD)  # an audit, and the tick of the agent that begins it
         for name, chips in SLICES:
             self.ctl(name, 'repair')  # bits that were stuck, and chips that failed, are given up by design
             differs = self.compare(name, chips)

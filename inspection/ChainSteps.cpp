@@ -30,6 +30,11 @@ std::string wordsKeyOf( Row const & row ) {
    return key;
 }
 
+// At places of a table.
+bool isAccess( Row const & row ) {
+   return row.isOfChip() && row.kind != Row::Kind::control;
+}
+
 // Rows with the same key are one step.
 std::string changesKeyOf( Row const & row, std::vector< FieldChange > const & changes ) {
    std::string key = std::to_string( static_cast< int >( row.kind ) );
@@ -39,7 +44,9 @@ std::string changesKeyOf( Row const & row, std::vector< FieldChange > const & ch
    switch ( row.kind ) {
    case Row::Kind::write:
    case Row::Kind::read:
+   case Row::Kind::fault:
       addTo( key, row.table );
+      addTo( key, row.reason );
       addTo( key,
              std::to_string( row.variant ) + " " + std::to_string( row.scope == Row::Scope::core ? row.core : -1 ) );
       addTo( key, row.changed ? "changed" : "" );
@@ -52,7 +59,6 @@ std::string changesKeyOf( Row const & row, std::vector< FieldChange > const & ch
       addTo( key, std::to_string( row.control ) + ( row.changed ? " changed " : " " ) + std::to_string( row.value ) );
       break;
    case Row::Kind::gate:
-   case Row::Kind::fault:
       addTo( key, row.reason );
       break;
    case Row::Kind::publish:
@@ -82,7 +88,8 @@ ChainStep newStep( Row const & row, std::vector< FieldChange > const & changes )
                    .source = std::string( row.source ),
                    .seq = row.seq,
                    .changed = row.changed };
-   if ( row.kind == Row::Kind::read || row.kind == Row::Kind::write ) {
+   step.reason = row.reason;
+   if ( isAccess( row ) ) {
       step.table = Catalogue::table( row.table );
       step.variant = row.variant;
       step.isArrayed = row.layout && isArrayed( *row.layout );
@@ -96,9 +103,7 @@ ChainStep newStep( Row const & row, std::vector< FieldChange > const & changes )
    } else if ( row.kind == Row::Kind::control ) {
       step.control = row.control;
       step.changes.push_back( { .width = 32, .after = std::to_string( row.value ) } );
-   } else if ( row.kind == Row::Kind::gate || row.kind == Row::Kind::fault ) {
-      step.reason = row.reason;
-   } else {
+   } else if ( row.kind == Row::Kind::publish ) {
       step.path = row.key ? row.path : row.path.substr( 0, row.path.rfind( '/' ) );
       step.attribute = row.attribute;
       step.before = *row.publishedBefore;
@@ -131,6 +136,7 @@ void ChainSteps::add( Row const & row, std::vector< FieldChange > const & change
    switch ( row.kind ) {
    case Row::Kind::read:
    case Row::Kind::write:
+   case Row::Kind::fault:
       step.places[row.fap][static_cast< U32 >( row.array )].insert( row.entry.value_or( 0 ) );
       for ( FieldChange const & change : changes ) {
          auto told = std::ranges::find( step.changes, change.field->name, &ChainStep::Change::name );
@@ -149,7 +155,6 @@ void ChainSteps::add( Row const & row, std::vector< FieldChange > const & change
                  row.valueBefore ? std::optional( std::to_string( *row.valueBefore ) ) : std::nullopt );
       break;
    case Row::Kind::gate:
-   case Row::Kind::fault:
       if ( row.isOfFap ) {
          step.faps.insert( row.fap );
       }

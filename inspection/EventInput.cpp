@@ -1,5 +1,6 @@
 #include "inspection/EventInput.h"
 
+#include "inspection/EventRows.h"
 #include "inspection/files/Json.h"
 
 namespace Inspection {
@@ -14,6 +15,11 @@ EventInput EventInput::of( Rex::Value const & what ) {
    auto const & [word, change] = *object->begin();
    if ( word == "start" ) {
       input.kind = Kind::start;
+      return input;
+   }
+   if ( word == "fault" ) {
+      input.kind = Kind::fault;
+      input.value = what;
       return input;
    }
    auto const * const of = change.object();
@@ -48,7 +54,9 @@ std::vector< EventInput > EventInput::allOf( Rex::Value const & what ) {
 }
 
 std::string EventInput::cause() const {
-   return kind == Kind::start ? "start" : path + ( attribute.empty() ? "" : " " + attribute );
+   return kind == Kind::start   ? "start"
+          : kind == Kind::fault ? "fault"
+                                : path + ( attribute.empty() ? "" : " " + attribute );
 }
 
 std::string EventInput::text() const {
@@ -59,6 +67,8 @@ std::string EventInput::text() const {
       return cause() + ( key ? "[" + *key + "]" : "" ) + " = " + toJson( value, 0 );
    case Kind::remove:
       return "delete " + cause() + ( key ? "[" + *key + "]" : "" );
+   case Kind::fault:
+      return eventText( value );
    case Kind::other:
       break;
    }

@@ -13,13 +13,13 @@
 namespace Inspection {
 
 struct EventInput {
-   enum class Kind : U8 { start, set, remove, other };
+   enum class Kind : U8 { start, set, remove, fault, other };
 
    Kind kind = Kind::other;
    std::string path = {};
    std::string attribute = {}; // empty: the entity at the path is removed
    std::optional< std::string > key = {};
-   Rex::Value value = {}; // of Kind::other the whole
+   Rex::Value value = {}; // of a fault, and of Kind::other, the whole
 
    static EventInput of( Rex::Value const & what );
    // The changes that an event consists of: those of a transaction, or the one.

@@ -1,6 +1,7 @@
 #include "inspection/EventRows.h"
 
 #include "inspection/files/Json.h"
+#include "inspection/files/ScenarioReading.h"
 
 namespace Inspection {
 
@@ -101,7 +102,8 @@ std::string eventText( Rex::Value const & what ) {
    auto const & [kind, inner] = *kinds->begin();
    auto const & parts = *inner.object();
    if ( kind == "fault" ) {
-      return kind + " " + Simulator::faultOf( inner ).text();
+      Event event;
+      return Rex::ValueErrors().of( [&] { readEvent( what, event ); } ) ? event.text() : toJson( what, 0 );
    }
    std::string text = kind;
    for ( char const * part : { "path", "attribute", "key" } ) {

@@ -299,7 +299,7 @@ Plan planOf( Scenario const & scenario, std::string const & plugin, PlanOptions 
    loadPlugin( plugin );
    auto description = scenario.description;
    description.journalled = Simulator::SwitchDescription::Journalled::streamed;
-   description.hasFaults = false; // what is planned is what the agent does
+   description.supervised = Simulator::SwitchDescription::Supervised::never; // what is planned is what the agent does
    Simulator::SimulatedSwitch sw( description );
    scenario.fillChips( sw.driver() );
    Scenario played = scenario;

@@ -80,7 +80,7 @@ void ReplayedChips::eventBegins( U32 event, Value const & ) {
 
 void ReplayedChips::row( Row const & row ) {
    bool const isFault = row.kind == Row::Kind::fault;
-   if ( ( !row.isOperation() && !isFault ) || ( last_ && row.event > *last_ ) ) {
+   if ( !row.isOfChip() || ( last_ && row.event > *last_ ) ) {
       return;
    }
    if ( journal_.format() == 1 ) {

@@ -81,9 +81,8 @@ class ReplayedChips final : public Simulator::RowReader {
    std::map< U16, Hardware::ChipType > chipTypes_;
    std::vector< Simulator::Chip * > chips_; // by FAP
    bool isBeginKnown_ = true;
-   std::unordered_set< U64 > written_;
-   std::unordered_set< U64 >
-      failing_; // where a fault has fired // entries, where it isn't known what the run began with
+   std::unordered_set< U64 > written_; // entries, where it isn't known what the run began with
+   std::unordered_set< U64 > failing_; // entries in which a fault has fired
    std::optional< U32 > last_;
    U32 event_ = 0;
    U64 reads_ = 0;

@@ -22,7 +22,7 @@ Left endOf( Scenario const & scenario, std::vector< Simulator::RowReader * > con
    auto description = scenario.description;
    using enum Simulator::SwitchDescription::Journalled;
    description.journalled = others.empty() ? none : streamed;
-   description.hasFaults = false;
+   description.supervised = Simulator::SwitchDescription::Supervised::never;
    Simulator::SimulatedSwitch sw( description );
    for ( auto * const other : others ) {
       sw.journal().readerAdd( *other );

@@ -75,12 +75,4 @@ WrongPlace wrongPlaceOf( Simulator::SwitchDescription const & description, Misma
    return wrong;
 }
 
-std::vector< WrongPlace > wrongPlacesOf( Simulator::SimulatedSwitch & sw ) {
-   std::vector< WrongPlace > all;
-   auto & audit = sw.supervised()->audit();
-   audit.restart();
-   audit.finish( [&]( Mismatch const & it ) { all.push_back( wrongPlaceOf( sw.description(), it ) ); } );
-   return all;
-}
-
 } // namespace Inspection

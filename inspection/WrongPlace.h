@@ -1,9 +1,8 @@
 // A place of a chip that doesn't hold what was written to it, as people and programs read it.
 //
-//    for ( WrongPlace const & it : wrongPlacesOf( sw ) ) {            // a whole audit of a supervised switch
-//       it.text();                                                   // "FAP 0 IppdFerTrapCfg[3] copy 1: cpuSnoopCodeN
-//       is 0x195, not 0x115"
-//    }
+//    audit.finish( [&]( Simulator::Mismatch const & it ) {
+//       wrongPlaceOf( sw.description(), it ).text();   // "FAP 0 IppdFerTrapCfg[3] copy 1: cpuSnoopCodeN is 0x195, not …"
+//    } );
 //
 // Threading: the agent's scheduler thread.
 #pragma once
@@ -31,7 +30,4 @@ struct WrongPlace {
 };
 
 WrongPlace wrongPlaceOf( Simulator::SwitchDescription const & description, Simulator::Mismatch const & it );
-// All of them; FAPs that are degraded aren't looked at.
-std::vector< WrongPlace > wrongPlacesOf( Simulator::SimulatedSwitch & sw );
-
 } // namespace Inspection

@@ -97,10 +97,4 @@ AddressMap::Range const & AddressMap::rangeOf( U32 entry ) const {
    return *std::prev( std::ranges::upper_bound( ranges_, entry, {}, &Range::firstEntry ) );
 }
 
-DaceSal::SchanAddress AddressMap::addressOf( U32 entry, U32 copy ) const {
-   Range const & range = rangeOf( entry );
-   U32 const block = range.blocks[copy];
-   return { range.base + entry - range.firstEntry, block >> 8, block & 0xff };
-}
-
 } // namespace Simulator

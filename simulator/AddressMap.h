@@ -45,6 +45,10 @@ class AddressMap {
 
       // Words from a copy to the next.
       U32 copyStep() const { return count * width; }
+      // Where an entry lies, by its number among all of the chip.
+      DaceSal::SchanAddress at( U32 entry, U32 copy ) const {
+         return { base + entry - firstEntry, blocks[copy] >> 8, blocks[copy] & 0xff };
+      }
    };
 
    // Two equal ranges are one: formats of one memory. Ranges that overlap otherwise, or lie in blocks or copies that
@@ -53,9 +57,8 @@ class AddressMap {
 
    // The range that holds the address in the block, or null.
    Range const * find( U32 selectorA, U32 selectorB, U32 address ) const;
-   // Entries have numbers, over all of the chip: where one lies. The number is below entries().
+   // The range of an entry, by its number among all of the chip, which is below entries().
    Range const & rangeOf( U32 entry ) const;
-   DaceSal::SchanAddress addressOf( U32 entry, U32 copy ) const;
    // Whether anything lies in the block.
    bool hasBlock( U32 selectorA, U32 selectorB ) const;
 

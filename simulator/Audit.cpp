@@ -12,8 +12,7 @@ void Audit::compare( Chip const & chip, U32 entry, Visit const & visit ) {
    std::array< U32, Raw1024::words > found;
    std::span< U32 > const words( found.data(), range.width );
    for ( U32 copy = 0; copy < range.copies; ++copy ) {
-      U32 const block = range.blocks[copy];
-      SchanAddress const at{ range.base + entry - range.firstEntry, block >> 8, block & 0xff };
+      SchanAddress const at = range.at( entry, copy );
       if ( !shadow_.readChip( chip.id(), at, words ) ) {
          return;
       }

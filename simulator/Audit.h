@@ -35,14 +35,7 @@ class Audit {
    // The rest of the walk.
    void finish( Visit const & visit );
    // From the beginning.
-   void restart() { *this = Audit( chips_, shadow_ ); }
-
-   Audit( Audit const & ) = default;
-   Audit & operator=( Audit const & other ) {
-      chip_ = other.chip_;
-      entry_ = other.entry_;
-      return *this;
-   }
+   void restart() { chip_ = entry_ = 0; }
 
  private:
    void compare( Chip const & chip, U32 entry, Visit const & visit );
@@ -50,8 +43,8 @@ class Audit {
 
    ChipDriver const & chips_;
    ShadowDriver & shadow_;
-   std::size_t chip_ = 0; // in the order of their numbers
-   U32 entry_ = 0;        // the next to look at
+   U32 chip_ = 0;  // in the order of their numbers
+   U32 entry_ = 0; // the next to look at
 };
 
 } // namespace Simulator

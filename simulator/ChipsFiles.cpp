@@ -30,7 +30,7 @@ void writeAt( int file, U64 at, std::span< std::byte const > bytes ) {
    }
 }
 
-// What was never touched stays a hole in the file.
+// What was never touched is nothing already.
 void writeImage( int file, U64 at, std::span< std::byte const > image ) {
    static constexpr std::array< std::byte, ChipMemory::page > nothing{};
    for ( std::size_t begin = 0; begin < image.size(); begin += nothing.size() ) {
@@ -44,7 +44,9 @@ void writeImage( int file, U64 at, std::span< std::byte const > image ) {
 // The header comes last: without it there is nothing.
 void writeAll( int file, SwitchDescription const & of, ChipsMapping::Fill const & fill ) {
    ChipsHeader const header( of );
-   if ( ::ftruncate( file, static_cast< off_t >( header.fileBytes() ) ) != 0 ) {
+   // All of its room at once: a disk that is full later must not end the process at some write to the mapping.
+   errno = ::posix_fallocate( file, 0, static_cast< off_t >( header.fileBytes() ) );
+   if ( errno != 0 ) {
       refuseBySystem( "can't be written" );
    }
    ChipDriver chips;
@@ -101,20 +103,14 @@ void lock( int file ) {
 
 } // namespace
 
-ChipsFile::~ChipsFile() {
-   if ( number_ >= 0 ) {
-      ::close( number_ );
-   }
-}
-
 void refuseBySystem( std::string const & what ) {
    throw ChipsRefused( what + ": " + std::strerror( errno ) );
 }
 
-ChipsFile lockedFile( std::string const & path, int flags ) {
+Descriptor lockedFile( std::string const & path, int flags ) {
    for ( ;; ) {
       // Should it be something that waits for the other end, it doesn't.
-      ChipsFile file( ::open( path.c_str(), O_RDWR | O_CLOEXEC | O_NONBLOCK | flags, 0640 ) );
+      Descriptor file( ::open( path.c_str(), O_RDWR | O_CLOEXEC | O_NONBLOCK | flags, 0640 ) );
       if ( !file && errno == ENOENT && !( flags & O_CREAT ) ) {
          return file;
       }
@@ -129,8 +125,8 @@ ChipsFile lockedFile( std::string const & path, int flags ) {
    }
 }
 
-ChipsFile lockedAgain( int file ) {
-   ChipsFile again( ::open( ( "/proc/self/fd/" + std::to_string( file ) ).c_str(), O_RDWR | O_CLOEXEC ) );
+Descriptor lockedAgain( int file ) {
+   Descriptor again( ::open( ( "/proc/self/fd/" + std::to_string( file ) ).c_str(), O_RDWR | O_CLOEXEC ) );
    if ( !again ) {
       refuseBySystem( "can't be opened" );
    }
@@ -138,10 +134,10 @@ ChipsFile lockedAgain( int file ) {
    return again;
 }
 
-ChipsFile madeFile( std::string const & path, SwitchDescription const & of, ChipsMapping::Fill const & fill ) {
-   ChipsFile const former = lockedFile( path, 0 ); // until the other one is there
+Descriptor madeFile( std::string const & path, SwitchDescription const & of, ChipsMapping::Fill const & fill ) {
+   Descriptor const former = lockedFile( path, 0 ); // until the other one is there
    std::string const unfinished = path + ".new";
-   ChipsFile made = lockedFile( unfinished, O_CREAT );
+   Descriptor made = lockedFile( unfinished, O_CREAT );
    if ( ::ftruncate( made.number(), 0 ) != 0 ) {
       refuseBySystem( "can't be written" );
    }
@@ -151,13 +147,13 @@ ChipsFile madeFile( std::string const & path, SwitchDescription const & of, Chip
       refuseBySystem( "can't be written" );
    }
    auto const folder = std::filesystem::absolute( path ).parent_path();
-   ChipsFile const directory( ::open( folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC ) );
+   Descriptor const directory( ::open( folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC ) );
    isOnDisk( directory.number() );
    return made;
 }
 
-ChipsFile madeInMemory( SwitchDescription const & of, ChipsMapping::Fill const & fill ) {
-   ChipsFile made( ::memfd_create( "chips", MFD_CLOEXEC | MFD_ALLOW_SEALING ) );
+Descriptor madeInMemory( SwitchDescription const & of, ChipsMapping::Fill const & fill ) {
+   Descriptor made( ::memfd_create( "chips", MFD_CLOEXEC | MFD_ALLOW_SEALING ) );
    if ( !made ) {
       refuseBySystem( "can't be made" );
    }

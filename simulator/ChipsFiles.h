@@ -8,35 +8,19 @@
 
 #include "simulator/ChipsHeader.h"
 #include "simulator/ChipsMapping.h"
+#include "simulator/Descriptor.h"
 
 namespace Simulator {
 
-// An open file, closed with it.
-class ChipsFile {
- public:
-   explicit ChipsFile( int number = -1 ) : number_( number ) {}
-   ~ChipsFile();
-   ChipsFile( ChipsFile && other ) noexcept : number_( std::exchange( other.number_, -1 ) ) {}
-   ChipsFile & operator=( ChipsFile && other ) noexcept {
-      ChipsFile old( std::exchange( number_, std::exchange( other.number_, -1 ) ) );
-      return *this;
-   }
-   explicit operator bool() const { return number_ >= 0; }
-   int number() const { return number_; }
-
- private:
-   int number_;
-};
-
 // The file at the path, locked; none: there is none. ChipsInUse: somebody else has locked it. `flags`: O_CREAT, or 0.
-ChipsFile lockedFile( std::string const & path, int flags );
+Descriptor lockedFile( std::string const & path, int flags );
 // Another opening of a file that is open, locked.
-ChipsFile lockedAgain( int file );
+Descriptor lockedAgain( int file );
 
 // A file at the path in place of the one that is there, and one in memory: with the boot image and what `fill` adds to
 // it in both images of each FAP.
-ChipsFile madeFile( std::string const & path, SwitchDescription const & of, ChipsMapping::Fill const & fill );
-ChipsFile madeInMemory( SwitchDescription const & of, ChipsMapping::Fill const & fill );
+Descriptor madeFile( std::string const & path, SwitchDescription const & of, ChipsMapping::Fill const & fill );
+Descriptor madeInMemory( SwitchDescription const & of, ChipsMapping::Fill const & fill );
 
 // Throws ChipsRefused unless it holds the chips.
 void check( int file, ChipsHeader const & header );

@@ -13,7 +13,7 @@ namespace Simulator {
 
 class ChipsMapping::Mapped {
  public:
-   Mapped( ChipsFile file, ChipsFile lock, ChipsHeader header );
+   Mapped( Descriptor file, Descriptor lock, ChipsHeader header );
    ~Mapped();
    Mapped( Mapped const & ) = delete;
    Mapped & operator=( Mapped const & ) = delete;
@@ -34,8 +34,8 @@ class ChipsMapping::Mapped {
    static std::vector< Mapped * > & all();
 
    ChipsHeader const header_;
-   ChipsFile file_;
-   ChipsFile lock_; // where it isn't that of the file
+   Descriptor file_;
+   Descriptor lock_; // where it isn't that of the file
    std::byte * begin_;
    void * apart_ = MAP_FAILED;
 };
@@ -63,7 +63,7 @@ std::vector< ChipsMapping::Mapped * > & ChipsMapping::Mapped::all() {
    return all;
 }
 
-ChipsMapping::Mapped::Mapped( ChipsFile file, ChipsFile lock, ChipsHeader header )
+ChipsMapping::Mapped::Mapped( Descriptor file, Descriptor lock, ChipsHeader header )
    : header_( std::move( header ) ), file_( std::move( file ) ), lock_( std::move( lock ) ) {
    check( file_.number(), header_ );
    void * const begin = ::mmap( nullptr, header_.fileBytes(), PROT_READ | PROT_WRITE, MAP_SHARED, file_.number(), 0 );
@@ -133,8 +133,8 @@ void ChipsMapping::Mapped::copyTakesItsPlace() {
       ::munmap( begin_, size );
    }
    // The lock is the agent's: it goes when the agent does.
-   file_ = ChipsFile();
-   lock_ = ChipsFile();
+   file_ = Descriptor();
+   lock_ = Descriptor();
 }
 
 ChipsHeader::Place const & ChipsMapping::Mapped::place( Hardware::Dace::FapId fap ) const {
@@ -151,14 +151,14 @@ std::optional< ChipsMapping > ChipsMapping::open( std::string const & path, Swit
       if ( !file ) {
          return std::nullopt;
       }
-      return ChipsMapping( std::make_shared< Mapped >( std::move( file ), ChipsFile(), ChipsHeader( of ) ) );
+      return ChipsMapping( std::make_shared< Mapped >( std::move( file ), Descriptor(), ChipsHeader( of ) ) );
    } );
 }
 
 ChipsMapping ChipsMapping::make( std::string const & path, SwitchDescription const & of, Fill const & fill ) {
    return named( path, [&] {
       auto file = madeFile( path, of, fill );
-      return ChipsMapping( std::make_shared< Mapped >( std::move( file ), ChipsFile(), ChipsHeader( of ) ) );
+      return ChipsMapping( std::make_shared< Mapped >( std::move( file ), Descriptor(), ChipsHeader( of ) ) );
    } );
 }
 
@@ -172,7 +172,7 @@ ChipsMapping ChipsMapping::makeInMemory( SwitchDescription const & of, Fill cons
 
 ChipsMapping ChipsMapping::of( int file, SwitchDescription const & of ) {
    return named( nameInMemory, [&] {
-      ChipsFile own( ::fcntl( file, F_DUPFD_CLOEXEC, 0 ) );
+      Descriptor own( ::fcntl( file, F_DUPFD_CLOEXEC, 0 ) );
       if ( !own ) {
          refuseBySystem( "can't be had" );
       }

@@ -2,6 +2,7 @@
 
 #include "generated/Catalogue.h"
 #include "rex/Nearest.h"
+#include "simulator/PlaceAt.h"
 #include "simulator/TableMap.h"
 
 #include <algorithm>
@@ -30,17 +31,6 @@ U32 numberIn( std::string const & part, std::string const & text ) {
    } catch ( ValueError const & ) {
       refuseKind( text );
    }
-}
-
-// The formats of a table on a kind of chip.
-std::vector< Catalogue::Layout const * > layoutsOf( Catalogue::Table const & table, Hardware::ChipType chipType ) {
-   std::vector< Catalogue::Layout const * > all;
-   for ( Catalogue::Layout const & layout : table.layouts ) {
-      if ( table.hasMemory && layout.chipType == static_cast< U8 >( chipType ) ) {
-         all.push_back( &layout );
-      }
-   }
-   return all;
 }
 
 std::string rangeText( U32 first, U32 last ) {
@@ -228,6 +218,22 @@ Rex::Value valueOf( Fault const & fault ) {
    return object;
 }
 
+void check( Fault const & fault, std::map< U16, Hardware::ChipType > const & faps ) {
+   std::optional< ValueError > wrong;
+   for ( auto const & [fap, chipType] : faps ) {
+      if ( fault.fap.value_or( fap ) != fap ) {
+         continue;
+      }
+      try {
+         check( fault, chipType );
+         return;
+      } catch ( ValueError const & error ) {
+         wrong = error;
+      }
+   }
+   throw wrong.value_or( ValueError( "/fap", "the switch has no such FAP" ) );
+}
+
 void check( Fault const & fault, Hardware::ChipType chipType ) {
    std::string const on = std::string( " on " ) + Hardware::chipTypeName( chipType );
    if ( fault.table.empty() ) {
@@ -244,11 +250,11 @@ void check( Fault const & fault, Hardware::ChipType chipType ) {
       }
       throw ValueError( "/table", "there is no table " + fault.table + Rex::didYouMean( fault.table, known ) );
    }
-   auto const layouts = layoutsOf( *table, chipType );
-   if ( layouts.empty() ) {
+   auto const * const found = firstLayout( *table, chipType );
+   if ( !found ) {
       throw ValueError( "/table", fault.table + " has no memory" + on );
    }
-   Catalogue::Layout const & layout = *layouts.front();
+   Catalogue::Layout const & layout = *found;
    U32 const first = layout.arrayIndexFirst;
    if ( fault.array && *fault.array - first >= layout.arrayElements ) {
       throw ValueError( "/array",

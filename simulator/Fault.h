@@ -13,6 +13,7 @@
 #include "rex/Value.h"
 #include "sal/Driver.h"
 
+#include <map>
 #include <optional>
 #include <string>
 
@@ -61,5 +62,7 @@ Rex::Value valueOf( Fault const & fault );
 
 // Whether a chip of the kind can have it. Throws Rex::ValueError, its place seen from the fault's members.
 void check( Fault const & fault, Hardware::ChipType chipType );
+// Likewise, whether one of the chips of a switch can, of those that it means; by FAP.
+void check( Fault const & fault, std::map< U16, Hardware::ChipType > const & faps );
 
 } // namespace Simulator

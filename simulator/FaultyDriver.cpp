@@ -26,16 +26,6 @@ void turn( std::span< U32 > words, U32 bit ) {
    words[bit / 32] ^= U32{ 1 } << bit % 32;
 }
 
-// How the table lies on a kind of chip; null if it doesn't.
-Catalogue::Layout const * formatOf( Catalogue::Table const & table, Hardware::ChipType chipType ) {
-   for ( Catalogue::Layout const & layout : table.layouts ) {
-      if ( table.hasMemory && layout.chipType == static_cast< U8 >( chipType ) ) {
-         return &layout;
-      }
-   }
-   return nullptr;
-}
-
 bool isThere( std::span< U32 const > words, U32 bit ) {
    return bit / 32 < words.size();
 }
@@ -45,30 +35,14 @@ bool isThere( std::span< U32 const > words, U32 bit ) {
 FaultyDriver::FaultyDriver( ChipDriver & chips, SwitchDescription const & description, Options options )
    : chips_( chips ), options_( std::move( options ) ) {
    for ( auto const & fap : description.faps ) {
-      chipTypes_[fap.fapId.value()] = fap.revision.chipType();
+      if ( chips.chip( fap.fapId ) ) { // a chip of another family isn't there
+         chipTypes_[fap.fapId.value()] = fap.revision.chipType();
+      }
    }
 }
 
 U32 FaultyDriver::arm( Fault const & fault ) {
-   if ( fault.fap && !chipTypes_.contains( *fault.fap ) ) {
-      throw Rex::ValueError( "/fap", "the switch has no FAP " + std::to_string( *fault.fap ) );
-   }
-   std::optional< Rex::ValueError > wrong;
-   bool canBe = false;
-   for ( auto const & [fap, chipType] : chipTypes_ ) {
-      if ( fault.fap.value_or( fap ) != fap ) {
-         continue;
-      }
-      try {
-         check( fault, chipType );
-         canBe = true;
-      } catch ( Rex::ValueError const & error ) {
-         wrong = error;
-      }
-   }
-   if ( !canBe && wrong ) {
-      throw *wrong;
-   }
+   check( fault, chipTypes_ );
    Armed & armed = armed_.emplace_back(
       Armed{ .number = ++last_, .fault = fault, .begun = Rex::now(), .chance = std::mt19937_64( fault.seed ) } );
    bool const isStuckHere = fault.kind == Kind::stuck && !fault.table.empty();
@@ -92,19 +66,9 @@ std::optional< TablePlace > FaultyDriver::placeOf( Fault const & fault, ChipId c
       return fault.array.value_or( place.array ) == place.array && fault.entry.value_or( place.entry ) == place.entry &&
              fault.copy.value_or( place.copy ) == place.copy;
    };
-   if ( fault.table.empty() ) {
-      auto const place = placeAt( chipTypeOf( chip ), at );
-      return place && isMeant( *place ) ? place : std::nullopt;
-   }
-   Catalogue::Table const & table = *Catalogue::table( fault.table );
-   for ( Catalogue::Layout const & layout : table.layouts ) {
-      if ( table.hasMemory && layout.chipType == static_cast< U8 >( chipTypeOf( chip ) ) ) {
-         if ( auto const place = placeIn( table, layout, at ); place && isMeant( *place ) ) {
-            return place;
-         }
-      }
-   }
-   return std::nullopt;
+   auto const place = fault.table.empty() ? placeAt( chipTypeOf( chip ), at )
+                                          : placeIn( *Catalogue::table( fault.table ), chipTypeOf( chip ), at );
+   return place && isMeant( *place ) ? place : std::nullopt;
 }
 
 // Of its table: all that hold a value, and an entry that is named whether it has one or not.
@@ -113,7 +77,7 @@ std::vector< FaultyDriver::Decaying > FaultyDriver::placesOf( Fault const & faul
    Catalogue::Table const & table = *Catalogue::table( fault.table );
    for ( auto const & [fap, chipType] : chipTypes_ ) {
       ChipId const id{ fap };
-      auto const * const layout = formatOf( table, chipType );
+      auto const * const layout = firstLayout( table, chipType );
       if ( !layout || fault.fap.value_or( fap ) != fap ) {
          continue;
       }
@@ -144,16 +108,17 @@ std::optional< FaultyDriver::Decaying > FaultyDriver::anyPlace( Armed & armed ) 
       }
    }
    ChipId const id{ faps[armed.chance() % faps.size()] };
-   AddressMap const & map = chips_.chip( id )->map();
-   U32 const number = chips_.chip( id )->nextValued( static_cast< U32 >( armed.chance() % map.entries() ) );
-   if ( number == map.entries() ) {
+   Chip const & chip = *chips_.chip( id );
+   U32 const number = chip.nextValued( static_cast< U32 >( armed.chance() % chip.map().entries() ) );
+   if ( number == chip.map().entries() ) {
       return std::nullopt;
    }
-   U32 const copy = armed.fault.copy.value_or( static_cast< U32 >( armed.chance() % map.rangeOf( number ).copies ) );
-   if ( copy >= map.rangeOf( number ).copies ) {
+   AddressMap::Range const & range = chip.map().rangeOf( number );
+   U32 const copy = armed.fault.copy.value_or( static_cast< U32 >( armed.chance() % range.copies ) );
+   if ( copy >= range.copies ) {
       return std::nullopt;
    }
-   auto const at = map.addressOf( number, copy );
+   auto const at = range.at( number, copy );
    auto const place = placeAt( chipTypeOf( id ), at );
    return place ? std::optional( Decaying{ id, at, *place } ) : std::nullopt;
 }

@@ -53,6 +53,7 @@ void Journal::hearsNoMore() {
 void Journal::eventBegins( U32 event, Rex::Value what ) {
    event_ = event;
    what_ = std::move( what );
+   takeFaults(); // of whoever looked at the chips between two events
    causeIsAnother();
 }
 
@@ -61,7 +62,6 @@ void Journal::eventIsDropped() {
 }
 
 void Journal::eventEnds() {
-   takeFaults();
    handOver();
    for ( RowReader * const reader : readers_ ) {
       reader->eventEnds( event_ );
@@ -70,6 +70,7 @@ void Journal::eventEnds() {
 }
 
 void Journal::handOver() {
+   takeFaults();
    for ( RowReader * const reader : readers_ ) {
       reader->eventBegins( event_, what_ );
    }
@@ -198,6 +199,9 @@ void Journal::faultFired( FiredFault const & fired ) {
 
 // Those that fired at an operation stand behind it.
 void Journal::takeFaults() {
+   for ( Record & fault : faults_ ) {
+      fault.event = event_;
+   }
    records_.insert( records_.end(), faults_.begin(), faults_.end() );
    faults_.clear();
 }

@@ -2,6 +2,8 @@
 
 #include "simulator/TableMap.h"
 
+#include <algorithm>
+
 namespace Simulator {
 
 std::optional< TablePlace >
@@ -20,18 +22,32 @@ placeIn( Catalogue::Table const & table, Catalogue::Layout const & layout, DaceS
    return std::nullopt;
 }
 
-std::optional< TablePlace > placeAt( Hardware::ChipType chipType, DaceSal::SchanAddress const & at ) {
-   for ( Catalogue::Table const & table : Catalogue::tables() ) {
-      for ( Catalogue::Layout const & layout : table.layouts ) {
-         if ( !table.hasMemory || layout.chipType != static_cast< U8 >( chipType ) ) {
-            continue;
-         }
-         if ( auto const place = placeIn( table, layout, at ) ) {
-            return place;
-         }
+std::optional< TablePlace >
+placeIn( Catalogue::Table const & table, Hardware::ChipType chipType, DaceSal::SchanAddress const & at ) {
+   for ( Catalogue::Layout const & layout : table.layouts ) {
+      if ( !table.hasMemory || layout.chipType != static_cast< U8 >( chipType ) ) {
+         continue;
+      }
+      if ( auto const place = placeIn( table, layout, at ) ) {
+         return place;
       }
    }
    return std::nullopt;
+}
+
+std::optional< TablePlace > placeAt( Hardware::ChipType chipType, DaceSal::SchanAddress const & at ) {
+   for ( Catalogue::Table const & table : Catalogue::tables() ) {
+      if ( auto const place = placeIn( table, chipType, at ) ) {
+         return place;
+      }
+   }
+   return std::nullopt;
+}
+
+Catalogue::Layout const * firstLayout( Catalogue::Table const & table, Hardware::ChipType chipType ) {
+   auto const found =
+      std::ranges::find( table.layouts, static_cast< U8 >( chipType ), &Catalogue::Layout::chipType );
+   return table.hasMemory && found != table.layouts.end() ? &*found : nullptr;
 }
 
 } // namespace Simulator

@@ -26,5 +26,10 @@ std::optional< TablePlace > placeAt( Hardware::ChipType chipType, DaceSal::Schan
 // In this table alone; `layout` is of it.
 std::optional< TablePlace >
 placeIn( Catalogue::Table const & table, Catalogue::Layout const & layout, DaceSal::SchanAddress const & at );
+// Likewise, in the first of its formats on the kind of chip.
+std::optional< TablePlace >
+placeIn( Catalogue::Table const & table, Hardware::ChipType chipType, DaceSal::SchanAddress const & at );
+// The first format in which a kind of chip has the table; null where it has no memory there.
+Catalogue::Layout const * firstLayout( Catalogue::Table const & table, Hardware::ChipType chipType );
 
 } // namespace Simulator

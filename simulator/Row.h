@@ -74,6 +74,8 @@ struct Row {
    Rex::Value const * publishedBefore = nullptr; // likewise
 
    bool isOperation() const { return kind <= Kind::control; }
+   // Of a FAP's chip: what was done to it, or befell it.
+   bool isOfChip() const { return isOperation() || kind == Kind::fault; }
 };
 
 // How a run ended.

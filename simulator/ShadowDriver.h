@@ -61,11 +61,10 @@ class ShadowDriver final : public DaceSal::SchanDriver {
  private:
    template< class Try >
    bool carriesOut( ChipId chip, Try const & tryOnce );
+   void writeChip( ChipId chip, SchanAddress const & at, std::span< U32 const > words );
 
    ChipDriver & expected_;
    DaceSal::SchanDriver * under_;
-   void writeChip( ChipId chip, SchanAddress const & at, std::span< U32 const > words );
-
    Degraded degraded_;
    Missed missed_;
    std::set< U16 > chips_; // that are degraded

@@ -75,7 +75,7 @@ SimulatedSwitch::SimulatedSwitch( SwitchDescription description, ChipsMapping co
      scheduler_( makePtr< Orb::TaskScheduler >() ),
      entityManager_( makePtr< Stordb::EntityManager >( state_.database(), scheduler_ ) ),
      context_( makePtr< Agent::MounterPlugin::MounterContext >( entityManager_, state_.shared() ) ), mapping_( chips ) {
-   makeChips( chips );
+   makeChips();
    shareObjects();
    cellStatus_ = tell( description_, state_ );
    DaceSal::schanDriverIs( &driver_ );
@@ -92,13 +92,13 @@ SimulatedSwitch::~SimulatedSwitch() {
    stop();
 }
 
-void SimulatedSwitch::makeChips( ChipsMapping const * chips ) {
+void SimulatedSwitch::makeChips() {
    for ( auto const & fap : description_.faps ) {
       auto const chipType = fap.revision.chipType();
       // A chip of another family has no address that is known here.
       if ( auto const * name = Hardware::chipTypeName( chipType ) ) {
-         if ( chips ) {
-            driver_.chipIs( fap.fapId, name, addressMap( chipType ), chips->chip( fap.fapId ) );
+         if ( mapping_ ) {
+            driver_.chipIs( fap.fapId, name, addressMap( chipType ), mapping_->chip( fap.fapId ) );
          } else {
             boot( driver_.chipIs( fap.fapId, name, addressMap( chipType ) ), chipType, description_.bootNoise );
          }

@@ -114,7 +114,7 @@ class SimulatedSwitch {
  private:
    enum class Phase : U8 { made, chipInit, starting, running, stopped };
 
-   void makeChips( ChipsMapping const * chips );
+   void makeChips();
    void shareObjects();
    void initChips();
    std::string publishedPath( Rex::Entity const & entity ) const;

@@ -1,24 +1,25 @@
 #include "simulator/SupervisedChips.h"
 
 #include "simulator/ChipsMapping.h"
-#include "simulator/TableMap.h"
 
 namespace Simulator {
 
 namespace {
 
-ChipDriver imagesOf( ChipDriver & chips, SwitchDescription const & description, ChipsMapping const * mapping ) {
+ChipDriver imagesOf( ChipDriver const & chips, SwitchDescription const & description, ChipsMapping const * mapping ) {
    ChipDriver images;
+   bool const isWarm = mapping && mapping->generation() > 1;
    for ( auto const & fap : description.faps ) {
-      auto const chipType = fap.revision.chipType();
-      AddressMap const & map = addressMap( chipType );
-      bool const isWarm = mapping && mapping->generation() > 1;
-      auto & image = images.chipIs( ChipId{ fap.fapId.value() },
-                                    Hardware::chipTypeName( chipType ),
-                                    map,
-                                    mapping ? mapping->expected( fap.fapId ) : ChipMemory::own( map ) );
+      auto const * const chip = chips.chip( fap.fapId );
+      if ( !chip ) {
+         continue; // of another family
+      }
+      auto & image = images.chipIs( fap.fapId,
+                                    Hardware::chipTypeName( fap.revision.chipType() ),
+                                    chip->map(),
+                                    mapping ? mapping->expected( fap.fapId ) : ChipMemory::own( chip->map() ) );
       if ( !isWarm ) {
-         image.takeContents( *chips.chip( fap.fapId ) );
+         image.takeContents( *chip );
       }
    }
    return images;
@@ -31,14 +32,13 @@ SupervisedChips::SupervisedChips( ChipDriver & chips,
                                   Journal & journal,
                                   ChipsMapping const * mapping,
                                   Supervision supervision )
-   : chips_( chips ), journal_( journal ), supervision_( std::move( supervision ) ),
-     expected_( imagesOf( chips, description, mapping ) ),
+   : chips_( chips ), journal_( journal ), expected_( imagesOf( chips, description, mapping ) ),
      faulty_( chips,
               description,
-              { .fired = [this]( FiredFault const & it ) { fires( it ); }, .delays = supervision_.delays } ),
+              { .fired = [this]( FiredFault const & it ) { fires( it ); }, .delays = std::move( supervision.delays ) } ),
      shadow_( expected_,
               chips,
-              supervision_.degraded,
+              std::move( supervision.degraded ),
               [this]( ChipId chip, SchanAddress const & at ) { misses( chip, at ); } ),
      audit_( chips, shadow_ ) {
    DaceSal::schanDriverIs( &shadow_ );
@@ -53,9 +53,6 @@ SupervisedChips::~SupervisedChips() {
 void SupervisedChips::fires( FiredFault const & fired ) {
    ++fired_;
    journal_.faultFired( fired );
-   if ( supervision_.fired ) {
-      supervision_.fired( fired );
-   }
 }
 
 void SupervisedChips::misses( ChipId chip, SchanAddress const & at ) {

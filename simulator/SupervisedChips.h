@@ -23,7 +23,6 @@ class ChipsMapping;
 struct Supervision {
    std::function< void( Rex::Seconds ) > delays = {}; // lets time pass; none: the clock of the process is moved
    ShadowDriver::Degraded degraded = {};
-   std::function< void( FiredFault const & ) > fired = {}; // behind the journal
 };
 
 class SupervisedChips {
@@ -55,7 +54,6 @@ class SupervisedChips {
 
    ChipDriver & chips_;
    Journal & journal_;
-   Supervision supervision_;
    U64 fired_ = 0;
    ChipDriver expected_;
    FaultyDriver faulty_;

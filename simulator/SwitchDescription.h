@@ -32,8 +32,9 @@ struct SwitchDescription {
    enum class Journalled : U8 { none, streamed, kept };
    Journalled journalled = Journalled::kept;
    BootNoise bootNoise = BootNoise::plain;
-   // Else its chips never fail, whatever the events say.
-   bool hasFaults = true;
+   // Whether what its chips are expected to hold stands beside them. never: they don't fail, whatever the events say.
+   enum class Supervised : U8 { never, whereChipsFail, always };
+   Supervised supervised = Supervised::whereChipsFail;
 };
 
 // Puts into a fresh state what the description tells: the cell, which it returns, the slice, and the directories that

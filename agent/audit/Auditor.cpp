@@ -35,24 +35,24 @@ std::string Finding::text() const {
 Auditor::Auditor( Simulator::SimulatedSwitch & sw, Metrics & metrics, Options options )
    : sw_( sw ), metrics_( metrics ), options_( std::move( options ) ) {}
 
-void Auditor::visit( Mismatch const & it ) {
-   if ( options_.mayRepair && !options_.mayRepair() ) {
-      ++walk_.mismatches;
-      keep( { .wrong = Inspection::wrongPlaceOf( sw_.description(), it ),
-              .event = sw_.event(),
-              .rightAt = rightAt_,
-              .found = Rex::now(),
-              .isHard = false,
-              .isRepaired = false } );
-      return;
+// Whether the copy holds what it is to hold since.
+bool Auditor::isRepaired( Mismatch const & it ) {
+   auto & shadow = chips().shadow();
+   if ( it.control ) {
+      return shadow.repairControl( it.chip, *it.control );
    }
+   std::vector< U32 > now( it.expected.size() );
+   return shadow.repair( it.chip, it.at ) && shadow.readChip( it.chip, it.at, now ) &&
+          std::ranges::equal( now, it.expected );
+}
+
+void Auditor::visit( Mismatch const & it ) {
    Key const key = it.control ? Key{ it.chip.value, controlBlock, *it.control }
                               : Key{ it.chip.value, it.at.selectorA << 8 | it.at.selectorB, it.at.address };
-   auto const [known, isNew] = places_.try_emplace( key );
-   Place & place = known->second;
-   place.walk = walks_;
    ++walk_.mismatches;
-   if ( place.isHard ) {
+   auto const known = places_.find( key );
+   if ( known != places_.end() && known->second.finding.isHard ) {
+      known->second.walk = walks_;
       ++walk_.hard; // told already
       return;
    }
@@ -62,20 +62,17 @@ void Auditor::visit( Mismatch const & it ) {
                     .found = Rex::now(),
                     .isHard = false,
                     .isRepaired = false };
-   place.isHard = finding.isHard = !isNew && finding.found - place.found < hardWithin;
-   place.found = finding.found;
-   std::string const fap = std::to_string( it.chip.value );
-   metrics_.add( Metric::auditMismatches, { fap, finding.isHard ? "hard" : "soft" } );
-   if ( finding.isHard ) {
-      ++walk_.hard;
-   } else {
-      auto & shadow = chips().shadow();
-      std::vector< U32 > now( it.expected.size() );
-      finding.isRepaired = it.control ? shadow.repairControl( it.chip, *it.control )
-                                      : shadow.repair( it.chip, it.at ) && shadow.readChip( it.chip, it.at, now ) &&
-                                           std::ranges::equal( now, it.expected );
+   if ( !options_.mayRepair || options_.mayRepair() ) {
+      std::string const fap = std::to_string( it.chip.value );
+      finding.isHard = known != places_.end() && finding.found - known->second.finding.found < hardWithin;
+      finding.isRepaired = !finding.isHard && isRepaired( it );
+      walk_.hard += finding.isHard ? 1 : 0;
       walk_.repaired += finding.isRepaired ? 1 : 0;
-      metrics_.add( Metric::repairs, { fap, finding.isRepaired ? "repaired" : "failed" } );
+      metrics_.add( Metric::auditMismatches, { fap, finding.isHard ? "hard" : "soft" } );
+      if ( !finding.isHard ) {
+         metrics_.add( Metric::repairs, { fap, finding.isRepaired ? "repaired" : "failed" } );
+      }
+      places_.insert_or_assign( key, Place{ finding, walks_ } );
    }
    keep( std::move( finding ) );
 }
@@ -94,7 +91,7 @@ void Auditor::keep( Finding finding ) {
 void Auditor::walkEnds() {
    std::erase_if( places_, [&]( auto const & it ) {
       Place const & place = it.second;
-      return place.walk != walks_ && ( place.isHard || Rex::now() - place.found >= hardWithin );
+      return place.walk != walks_ && ( place.finding.isHard || Rex::now() - place.finding.found >= hardWithin );
    } );
    all_.mismatches += walk_.mismatches;
    all_.repaired += walk_.repaired;
@@ -159,8 +156,13 @@ Auditor::Outcome Auditor::triesAgain() {
 Value Auditor::status() const {
    Value::List hard;
    Value::List latest;
+   for ( auto const & [key, place] : places_ ) {
+      if ( place.finding.isHard ) {
+         hard.push_back( place.finding.value() );
+      }
+   }
    for ( auto const & finding : latest_ ) {
-      ( finding.isHard ? hard : latest ).push_back( finding.value() );
+      latest.push_back( finding.value() );
    }
    Value::List degraded;
    for ( U16 const fap : sw_.supervised()->shadow().degraded() ) {

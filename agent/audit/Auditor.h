@@ -36,7 +36,7 @@ struct Finding {
 class Auditor {
  public:
    struct Options {
-      Rex::Seconds period = 60; // in which all of every chip is looked at; 0: on demand alone
+      Rex::Seconds period; // in which all of every chip is looked at; 0: on demand alone
       std::function< void( std::string const & line ) > log = {};
       // Whether chips may be written to now; else what is found is told alone. None: always.
       std::function< bool() > mayRepair = {};
@@ -67,13 +67,13 @@ class Auditor {
       auto operator<=>( Key const & ) const = default;
    };
    struct Place {
-      Rex::Seconds found;
-      bool isHard = false;
-      U64 walk = 0; // that has found it last
+      Finding finding; // the last one there
+      U64 walk;        // that has found it last
    };
 
    Simulator::SupervisedChips & chips() { return *sw_.supervised(); }
    void visit( Simulator::Mismatch const & it );
+   bool isRepaired( Simulator::Mismatch const & it );
    void keep( Finding finding );
    void walkEnds();
    std::size_t valuedEntries() const;

@@ -62,17 +62,6 @@ bool isListenedOn( std::string const & path ) {
 
 } // namespace
 
-Descriptor::~Descriptor() {
-   if ( number_ >= 0 ) {
-      ::close( number_ );
-   }
-}
-Descriptor::Descriptor( Descriptor && other ) noexcept : number_( std::exchange( other.number_, -1 ) ) {}
-Descriptor & Descriptor::operator=( Descriptor && other ) noexcept {
-   std::swap( number_, other.number_ );
-   return *this;
-}
-
 std::string controlPath( std::string const & slice, std::string const & folder ) {
    return folder + "/" + slice + suffix;
 }

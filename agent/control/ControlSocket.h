@@ -7,7 +7,7 @@
 // Threading: none.
 #pragma once
 
-#include "corvo/Types.h"
+#include "simulator/Descriptor.h"
 
 #include <string>
 #include <sys/types.h>
@@ -15,19 +15,7 @@
 
 namespace Live {
 
-// An open file, closed with it.
-class Descriptor {
- public:
-   explicit Descriptor( int number = -1 ) : number_( number ) {}
-   ~Descriptor();
-   Descriptor( Descriptor && other ) noexcept;
-   Descriptor & operator=( Descriptor && other ) noexcept;
-   explicit operator bool() const { return number_ >= 0; }
-   int number() const { return number_; }
-
- private:
-   int number_;
-};
+using Simulator::Descriptor;
 
 inline constexpr char const * controlFolder = "/run/l3sm";
 

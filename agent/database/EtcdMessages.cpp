@@ -49,7 +49,6 @@ bool flagIn( element of, char const * name ) {
 EtcdKey keyOf( element of ) {
    return { .key = fromBase64( textIn( of, "key" ) ),
             .value = fromBase64( textIn( of, "value" ) ),
-            .created = numberIn( of, "create_revision" ),
             .modified = numberIn( of, "mod_revision" ),
             .version = numberIn( of, "version" ),
             .lease = numberIn( of, "lease" ) };
@@ -125,10 +124,6 @@ void EtcdTransaction::ifNotModifiedSince( std::string const & key, U64 revision 
    compare( key, "MOD", "LESS", "\"mod_revision\":" + std::to_string( revision + 1 ) );
 }
 
-void EtcdTransaction::ifCreatedAt( std::string const & key, U64 revision ) {
-   compare( key, "CREATE", "EQUAL", "\"create_revision\":" + std::to_string( revision ) );
-}
-
 void EtcdTransaction::ifLeaseIs( std::string const & key, U64 lease ) {
    compare( key, "LEASE", "EQUAL", "\"lease\":" + std::to_string( lease ) );
 }
@@ -176,7 +171,6 @@ EtcdReply EtcdReply::of( std::string_view json ) {
    if ( element header; !all["header"].get( header ) ) {
       reply.cluster = textIn( header, "cluster_id" );
       reply.revision = numberIn( header, "revision" );
-      reply.term = numberIn( header, "raft_term" );
    }
    reply.succeeded = flagIn( all, "succeeded" );
    reply.hasMore = flagIn( all, "more" );

@@ -1,7 +1,7 @@
 // What is asked of an etcd, and what it answers, over its gateway for JSON.
 //
 //    EtcdTransaction transaction;
-//    transaction.onlyIf( EtcdCompare::modifiedAt( key, 7 ) );
+//    transaction.ifModifiedAt( key, 7 );
 //    transaction.put( key, "{}" );
 //    client.ask( "kv/txn", transaction.text(), [&]( EtcdReply const & reply ) { reply.succeeded; } );
 //
@@ -32,7 +32,6 @@ struct EtcdTransaction {
    void ifValueIs( std::string const & key, std::string const & value );
    void ifModifiedAt( std::string const & key, U64 revision ); // 0: it isn't there
    void ifNotModifiedSince( std::string const & key, U64 revision );
-   void ifCreatedAt( std::string const & key, U64 revision ); // 0: it isn't there
    void ifLeaseIs( std::string const & key, U64 lease );
 
    void put( std::string const & key, std::string const & value, U64 lease = 0 );
@@ -57,7 +56,6 @@ struct EtcdTransaction {
 struct EtcdKey {
    std::string key = {};
    std::string value = {};
-   U64 created = 0;
    U64 modified = 0;
    U64 version = 0;
    U64 lease = 0;
@@ -74,7 +72,6 @@ struct EtcdReply {
    std::string error = {}; // the server's: all else is empty
    std::string cluster = {};
    U64 revision = 0;
-   U64 term = 0;
    bool succeeded = false;                         // of a transaction
    std::vector< std::vector< EtcdKey > > ranges{}; // of a range, or of those in a transaction
    bool hasMore = false;

@@ -4,13 +4,17 @@ namespace Live {
 
 void AgentMetrics::phaseIs( Phase phase, std::string const & ) {
    metrics_.phaseIs( phase );
+   if ( auto const writes = agent_.startChangingWrites() ) { // which a start that was held makes later
+      metrics_.is( Metric::startChangingWrites, static_cast< double >( *writes ) );
+   }
 }
 
 void AgentMetrics::snapshotPlayed( Position const &, Paths const & ) {
    if ( !isStarted_ && agent_.isStarted() ) {
       isStarted_ = true;
-      metrics_.is( Metric::startChangingWrites,
-                   static_cast< double >( agent_.startChangingWrites().value_or( metrics_.changingWrites() ) ) );
+      if ( !agent_.isWarm() ) {
+         metrics_.is( Metric::startChangingWrites, static_cast< double >( metrics_.changingWrites() ) );
+      }
    }
    metrics_.is( Metric::rejectedEntries, static_cast< double >( agent_.rejected().size() ) );
 }

@@ -2,6 +2,7 @@
 
 #include "inspection/files/ChipsFile.h"
 #include "inspection/files/JsonElements.h"
+#include "inspection/files/RowNames.h"
 namespace Inspection {
 
 namespace {
@@ -12,7 +13,6 @@ using Simulator::Row;
 namespace dom = simdjson::dom;
 using namespace JsonElements;
 
-constexpr std::string_view kindNames[] = { "read", "write", "control", "gate", "publish", "fault" };
 constexpr std::string_view scopeNames[] = { "any", "all", "core" };
 constexpr std::string_view endingNames[] = { "complete", "interrupted", "assertion" };
 
@@ -60,7 +60,7 @@ JournalLineParser::Parsed JournalLineParser::parse( std::string_view line ) {
    if ( op == "end" ) {
       return endingOf( object );
    }
-   return row( object, oneOf< Row::Kind >( op, "op", kindNames ) );
+   return row( object, oneOf< Row::Kind >( op, "op", rowKindNames ) );
 }
 
 std::optional< Row > JournalLineParser::row( WrittenRow & written ) {

@@ -67,33 +67,11 @@ void Rehearsal::state( Value::Object & state ) {
    errors.end();
 }
 
-// Some chip of those that it names is to be one that can have it.
-void Rehearsal::fault( Simulator::Fault const & fault ) const {
-   std::optional< ValueError > wrong;
-   bool hasFap = false;
-   for ( auto const & [fap, chipType] : chipTypes_ ) {
-      if ( fault.fap.value_or( fap ) != fap ) {
-         continue;
-      }
-      hasFap = true;
-      try {
-         check( fault, chipType );
-         return;
-      } catch ( ValueError const & error ) {
-         wrong = error;
-      }
-   }
-   if ( wrong ) {
-      throw *wrong;
-   }
-   if ( !hasFap && !chipTypes_.empty() ) {
-      throw ValueError( "/fap", "the switch has no such FAP" );
-   }
-}
-
 void Rehearsal::event( Event const & event ) {
    if ( event.fault ) {
-      fault( *event.fault );
+      if ( !chipTypes_.empty() ) { // or nobody knows what is missing
+         Simulator::check( *event.fault, chipTypes_ );
+      }
       return;
    }
    if ( event.kind == Event::Kind::transaction ) {

@@ -30,7 +30,6 @@ class Rehearsal {
    bool isExpected( Event const & event, Rex::ValueError const & error ) const;
    bool isAsTold( std::string const & path, Rex::Value const & attributes ) const;
 
-   void fault( Simulator::Fault const & fault ) const;
    Simulator::StateTree tree_;
    std::map< U16, Hardware::ChipType > chipTypes_;
    std::vector< std::string > missing_; // paths where something could stand, but for an error

@@ -13,9 +13,9 @@ namespace Inspection {
 
 // Which rows to read. Events and the journal's end are always told.
 struct RowFilter {
-   std::vector< std::string > tables = {}; // reads and writes: only of these; none: of all
-   std::string function = {};              // operations: only of this function; empty: of all
-   std::optional< U16 > fap = {};          // operations: only of this FAP
+   std::vector< std::string > tables = {}; // reads, writes and faults: only of these; none: of all
+   std::string function = {};              // operations: only of this function, and no faults; empty: of all
+   std::optional< U16 > fap = {};          // operations and faults: only of this FAP
    std::optional< U32 > last = {};         // only up to this event
    bool readsToo = true;                   // else no reads
    bool operationsToo = true;              // else gates and publications alone
@@ -39,7 +39,7 @@ class RowsWanted {
    }
    bool is( Simulator::Row const & row ) const {
       return isKind( row.kind ) && isEvent( row.event ) &&
-             ( !row.isOperation() ||
+             ( !row.isOfChip() ||
                ( isFap( row.fap ) && ( row.kind == Simulator::Row::Kind::control || isTable( row.table ) ) &&
                  ( filter_.function.empty() || filter_.function == row.function ) ) );
    }

@@ -51,6 +51,8 @@ void Event::change( Simulator::StateTree & state ) const {
          Rex::below( std::to_string( at ),
                      [&] { Rex::below( changes[at].word(), [&] { changes[at].change( state ); } ); } );
       }
+   } else if ( fault ) {
+      // It is the chips' that change.
    } else if ( kind == Kind::set && key ) {
       state.entryIs( path, *attribute, *key, value );
    } else if ( kind == Kind::set ) {
@@ -118,8 +120,10 @@ void Scenario::prepare( Simulator::SimulatedSwitch & sw ) const {
          } );
       }
    } );
-   if ( sw.description().hasFaults &&
-        std::ranges::any_of( events, []( Event const & event ) { return event.fault.has_value(); } ) ) {
+   using enum Simulator::SwitchDescription::Supervised;
+   auto const wanted = sw.description().supervised;
+   bool const fails = std::ranges::any_of( events, []( Event const & event ) { return event.fault.has_value(); } );
+   if ( wanted == always || ( wanted == whereChipsFail && fails ) ) {
       sw.supervise();
    }
 }
@@ -127,10 +131,8 @@ void Scenario::prepare( Simulator::SimulatedSwitch & sw ) const {
 void Scenario::play( Simulator::SimulatedSwitch & sw, Event const & event ) const {
    inFile( file, [&] {
       try {
-         if ( event.fault && sw.description().hasFaults ) {
+         if ( event.fault && sw.supervised() ) {
             sw.fault( *event.fault );
-         } else if ( event.fault ) {
-            sw.change( [] {}, event.cause(), valueOf( event ) );
          } else {
             sw.change( [&] { event.change( sw.state() ); }, event.cause(), valueOf( event ) );
          }

@@ -38,7 +38,7 @@ struct Event {
    std::string cause() const;
    // The word that a scenario has for its kind: "set", "delete", "transaction", "fault".
    char const * word() const;
-   // Throws Rex::ValueError, its place seen from {"path", "attribute", "key", "value"}.
+   // A fault changes nothing of it. Throws Rex::ValueError, its place seen from {"path", "attribute", "key", "value"}.
    void change( Simulator::StateTree & state ) const;
 };
 

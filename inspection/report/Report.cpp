@@ -49,6 +49,10 @@ std::string reportOf( ReportData const & data, std::vector< std::string > const 
    for ( std::string const & remark : remarks ) {
       page += "<p>" + escaped( remark ) + "</p>";
    }
+   if ( data.faults() > 0 ) {
+      page += "<p>" + std::to_string( data.faults() ) + ( data.faults() == 1 ? " fault" : " faults" ) +
+              " fired: the page shows what was written, not what the chips hold since; l3sm show does</p>";
+   }
    upTo( "@DATA@" );
    appendAllData( page, data );
    upTo( "@SCRIPT@" );

@@ -192,7 +192,8 @@ void ReportData::met( Row const & row, RowKey const & key, U32 cause ) {
 
 void ReportData::row( Row const & row ) {
    if ( row.kind == Row::Kind::fault ) {
-      return; // the page tells what was done, not what befell the chips
+      ++faults_; // the page tells what was done, not what befell the chips
+      return;
    }
    if ( events_.empty() ) {
       eventBegins( row.event, {} );

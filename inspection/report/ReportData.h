@@ -29,6 +29,7 @@ class ReportData : public Simulator::RowReader {
    void ends( Simulator::Ending const & ending ) override;
 
    std::string const & title() const { return title_; }
+   U64 faults() const { return faults_; } // that fired
    // Once it has ended: JSON.
    std::string index() const;
    std::string values() const { return values_.json(); }
@@ -135,6 +136,7 @@ class ReportData : public Simulator::RowReader {
    Tallies byTable_;
    Tallies byFap_;
    std::unordered_map< U32, Published > published_; // by what the row is
+   U64 faults_ = 0;
    std::optional< Simulator::Ending > ending_;
 };
 

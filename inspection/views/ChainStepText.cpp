@@ -55,7 +55,9 @@ std::vector< std::string > placeLines( ChainStep const & step, Style const & sty
    for ( auto const & [places, faps] : byPlaces ) {
       std::string const where = fitting( places, lineWidth() / 3 );
       lines.push_back( fapsText( faps ) + variant + ( where.empty() ? "" : "  " + style.place( where ) ) +
-                       ( step.core ? "  core " + std::to_string( *step.core ) : "" ) );
+                       ( step.core
+                            ? ( step.kind == Row::Kind::fault ? "  copy " : "  core " ) + std::to_string( *step.core )
+                            : "" ) );
    }
    return lines;
 }
@@ -118,6 +120,14 @@ std::string fitting( std::string const & text, std::size_t width ) {
 void ChainStepText::write( ChainStep const & step, std::string & function ) {
    if ( step.kind == Row::Kind::publish ) {
       writePublication( step );
+      function.clear();
+      return;
+   }
+   if ( step.kind == Row::Kind::fault ) { // which nobody has called
+      for ( std::string const & place : placeLines( step, style_ ) ) {
+         out_ << "  " << style_.differs( "fault: " + step.reason ) << "  "
+              << ( isOfTable_ ? "" : std::string( step.table->name ) + "  " ) << place << '\n';
+      }
       function.clear();
       return;
    }

@@ -1,4 +1,5 @@
 // The answer to why as a value.
+#include "inspection/files/RowNames.h"
 #include "inspection/views/WhyText.h"
 
 namespace Inspection {
@@ -9,7 +10,6 @@ using Rex::Value;
 using Simulator::Row;
 
 constexpr char const * endingNames[] = { "complete", "interrupted", "assertion", "cut" };
-constexpr char const * kindNames[] = { "read", "write", "control", "gate", "publish" };
 constexpr char const * subjectNames[] = { "table", "control", "state", "function", "interface" };
 
 template< class Numbers >
@@ -46,8 +46,9 @@ Value changesValue( ChainStep const & step ) {
 }
 
 Value stepValue( ChainStep const & step ) {
-   Value::Object one{
-      { "op", kindNames[static_cast< std::size_t >( step.kind )] }, { "cause", step.cause }, { "times", step.times } };
+   Value::Object one{ { "op", std::string( rowKindNames[static_cast< std::size_t >( step.kind )] ) },
+                      { "cause", step.cause },
+                      { "times", step.times } };
    if ( !step.function.empty() ) {
       one["function"] = step.function;
       one["source"] = step.source;
@@ -58,10 +59,15 @@ Value stepValue( ChainStep const & step ) {
       [[fallthrough]];
    case Row::Kind::read:
       one["seq"] = step.seq;
+      [[fallthrough]];
+   case Row::Kind::fault:
       one["table"] = step.table->name;
       one["variant"] = step.variant;
       one["places"] = placesValue( step );
-      if ( step.core ) {
+      if ( step.kind == Row::Kind::fault ) {
+         one["reason"] = step.reason;
+         one["copy"] = *step.core;
+      } else if ( step.core ) {
          one["core"] = *step.core;
       }
       break;
@@ -77,7 +83,6 @@ Value stepValue( ChainStep const & step ) {
       break;
    }
    case Row::Kind::gate:
-   case Row::Kind::fault:
       one["reason"] = step.reason;
       one["faps"] = listOf( step.faps );
       break;
@@ -96,6 +101,7 @@ Value inputValue( EventInput const & input ) {
    switch ( input.kind ) {
    case EventInput::Kind::start:
       return Value::Object{ { "start", Value::Object() } };
+   case EventInput::Kind::fault:
    case EventInput::Kind::other:
       return input.value;
    case EventInput::Kind::set:

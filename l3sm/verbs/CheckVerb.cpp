@@ -1,7 +1,8 @@
 // The verb `check`: plays a scenario and verifies what can be verified: what the plug-in can read back, that a second
-// start changes nothing, and that no entry passes through a value that it doesn't keep.
+// start changes nothing, that no entry passes through a value that it doesn't keep, and that the chips hold what was
+// written to them.
 #include "inspection/Play.h"
-#include "inspection/WrongPlace.h"
+#include "inspection/views/AuditText.h"
 #include "inspection/views/RestartText.h"
 #include "inspection/views/VerdictsText.h"
 #include "inspection/views/WindowsText.h"
@@ -21,6 +22,7 @@ namespace {
 constexpr int foundAFault = 1;
 constexpr int judgedNothing = 3;
 constexpr std::size_t fewWindows = 20;
+constexpr std::size_t fewWrong = 20; // places of chips
 
 struct Options {
    std::string scenario;
@@ -84,45 +86,13 @@ int lookForWindows( Scenario const & scenario, Options const & options ) {
 
 // What the scenario's faults have left on the chips that the plug-in hasn't written.
 int auditChips( Scenario const & scenario, Options const & options ) {
-   loadPlugin( options.plugin );
-   Simulator::SimulatedSwitch sw( scenario.description );
-   scenario.prepare( sw );
-   if ( !sw.supervised() ) {
-      sw.supervise();
-   }
-   sw.start();
-   for ( Event const & event : scenario.events ) {
-      scenario.play( sw, event );
-   }
-   auto const & degraded = sw.supervised()->shadow().degraded();
-   auto const wrong = wrongPlacesOf( sw );
-   Rex::Value::List all;
-   for ( WrongPlace const & it : wrong ) {
-      all.emplace_back( it.value() );
-      if ( !options.json && ( options.all || all.size() <= fewWindows ) ) {
-         std::cout << it.text() << '\n';
-      }
-   }
+   ChipsAudit const audit = auditAfter( scenario, options.plugin );
    if ( options.json ) {
-      std::cout << toJson( Rex::Value::Object{ { "audit", std::move( all ) },
-                                               { "degraded", Rex::Value::List( degraded.begin(), degraded.end() ) },
-                                               { "faults", sw.supervised()->fired() } },
-                           3 )
-                << '\n';
+      std::cout << toJson( auditValue( audit ), 3 ) << '\n';
    } else {
-      if ( !options.all && all.size() > fewWindows ) {
-         std::cout << "… " << all.size() - fewWindows << " more: --all\n";
-      }
-      for ( U16 const fap : degraded ) {
-         std::cout << "FAP " << fap << " is degraded: an operation failed " << Simulator::ShadowDriver::mostTries
-                   << " times, and none reached it since\n";
-      }
-      std::cout << ( wrong.empty() && degraded.empty()
-                        ? "Every chip holds what was written to it: "
-                        : counted( wrong.size(), "place is", "places are" ) + " wrong: " )
-                << counted( sw.supervised()->fired(), "fault", "faults" ) << " fired.\n";
+      showAudit( std::cout, audit, options.all ? 0 : fewWrong );
    }
-   return wrong.empty() && degraded.empty() ? 0 : foundAFault;
+   return audit.isFine() ? 0 : foundAFault;
 }
 
 int answer( Options const & options ) {
@@ -136,10 +106,8 @@ int answer( Options const & options ) {
       throw InputError( "--chips is for what is read back; --restart and --windows play the scenario as it is" );
    }
    Scenario const scenario = scenarioToPlay( options.scenario, options.toggles, options.plugin );
-   if ( options.audit ) {
-      return auditChips( scenario, options );
-   }
-   return options.restart   ? startAgain( scenario, options )
+   return options.audit     ? auditChips( scenario, options )
+          : options.restart ? startAgain( scenario, options )
           : options.windows ? lookForWindows( scenario, options )
                             : readBack( scenario, options );
 }

@@ -202,23 +202,22 @@ bool isOption( std::string const & word, std::string const & name ) {
    return word == name || word.starts_with( name + "=" );
 }
 
-} // namespace
-
-namespace {
-
-// What stands behind the command `fault` is its own: the options of `ctl` come before it.
-std::vector< std::string > withFaultAlone( std::vector< std::string > words ) {
-   auto const fault = std::ranges::find( words, "fault" );
-   if ( fault == words.end() || std::ranges::find( words, "--" ) != words.end() ) {
-      return words;
+// Behind the command its own arguments stand, by name or by place; what is `ctl`'s comes before it.
+std::vector< std::string > withCommandLast( std::vector< std::string > const & words, std::size_t command ) {
+   static constexpr std::string_view flags[] = { "--json", "--help", "-h" };
+   static constexpr std::string_view withValue[] = { "-t", "--agent", "--socket", "--timeout" };
+   auto const begin = words.begin() + static_cast< std::ptrdiff_t >( command );
+   std::vector< std::string > ours( words.begin(), begin );
+   std::vector< std::string > others{ "--" };
+   for ( auto at = begin; at != words.end(); ++at ) {
+      bool const isWithValue =
+         std::ranges::any_of( withValue, [&]( auto const name ) { return isOption( *at, std::string( name ) ); } );
+      bool const isOurs = isWithValue || std::ranges::find( flags, *at ) != std::end( flags );
+      ( isOurs ? ours : others ).push_back( *at );
+      if ( isWithValue && at->find( '=' ) == std::string::npos && std::next( at ) != words.end() ) {
+         ours.push_back( *++at );
+      }
    }
-   std::vector< std::string > ours( words.begin(), fault );
-   std::vector< std::string > others( fault, words.end() );
-   if ( auto const json = std::ranges::find( others, "--json" ); json != others.end() ) {
-      others.erase( json );
-      ours.emplace_back( "--json" );
-   }
-   ours.emplace_back( "--" );
    ours.insert( ours.end(), others.begin(), others.end() );
    return ours;
 }
@@ -253,8 +252,11 @@ std::vector< std::string > withoutCtl( std::vector< std::string > const & words 
          others.insert( others.end(), { "--timeout", value } );
       }
    }
-   if ( at == words.size() || std::ranges::find( verbs, words[at] ) == std::end( verbs ) ) {
-      return at < words.size() && words[at] == "fault" ? withFaultAlone( words ) : words;
+   if ( at == words.size() ) {
+      return words;
+   }
+   if ( std::ranges::find( verbs, words[at] ) == std::end( verbs ) ) {
+      return withCommandLast( words, at );
    }
    std::vector< std::string > verb{ words[0], words[at], "--agent", agent.empty() ? theOnlyAgent() : agent };
    verb.insert( verb.end(), others.begin(), others.end() );

@@ -40,11 +40,17 @@ int shown( Plan const & plan, Options const & options ) {
 
 // What another build of the plug-in would change at its start, on the agent's chips and state as they are.
 int planUpgrade( Options const & options ) {
+   if ( !options.toggles.empty() ) {
+      throw InputError( "an agent has its toggles already: leave out --toggle" );
+   }
    JournalReader const journal( options.agent.journal() );
    Value begun = journal.scenario();
    ( *begun.object() )["state"] = Live::stateIn( options.agent.state() );
    Scenario scenario = scenarioOf( std::move( begun ), options.agent.name );
    scenario.name = options.agent.name + " with " + options.plugin;
+   if ( options.fap ) {
+      scenario.fap( *options.fap );
+   }
    for ( auto & [fap, it] : readChips( options.agent.chips( {} ) ) ) {
       scenario.chips[fap] = it.contents;
    }

@@ -13,8 +13,6 @@ using namespace Inspection;
 
 namespace {
 
-constexpr U32 auditPeriod = 60; // seconds
-
 struct Options {
    std::string file;
    std::string slice;
@@ -62,7 +60,7 @@ int serve( Options const & options ) {
                                    .record = options.record,
                                    .metrics = options.metrics,
                                    .trace = options.trace,
-                                   .audit = static_cast< double >( options.audit.value_or( auditPeriod ) ),
+                                   .audit = options.audit ? *options.audit : Live::DaemonOptions::usualAudit,
                                    .chipsFile = options.chipsFile,
                                    .isDriftHeld = options.onDrift == "hold",
                                    .faultSeed = options.faultSeed,

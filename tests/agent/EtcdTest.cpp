@@ -1,6 +1,7 @@
 // What is an etcd's alone: its quota, its leases, its users and certificates, and values that somebody writes by hand.
 #include "agent/CentralServer.h"
 #include "agent/DatabaseFollower.h"
+#include "agent/Served.h"
 #include "agent/database/EtcdDatabase.h"
 #include "agent/database/EtcdStore.h"
 #include "agent/database/StateWriter.h"
@@ -149,6 +150,36 @@ TEST( EtcdLease, isLostByWhoStandsStillAndTakenAgain ) {
    ASSERT_TRUE( follower.until( [&] { return follower.paths == etcd.state(); } ) );
    ASSERT_TRUE( follower.until( [&] { return etcd.isServed( "Linecard3" ); } ) );
    EXPECT_EQ( follower.timesTold( "snapshot" ), 1 );
+}
+
+// A whole agent, stopped for as long as its lease lasts; with L3SM_LONG_TESTS=1 for a minute.
+TEST( EtcdLease, isLostByAnAgentThatIsStoppedAndCatchesUpWhenItGoesOn ) {
+   std::string const theSwitch =
+      R"({"switch": {"faps": [{"fapId": 0, "revision": {"chipType": "BCM88690_B0", "sdkVersion": 7}}]},
+          "toggles": {"Dace.json": {"ArmOrderedSwTable": false}}})";
+   CentralEtcd etcd;
+   etcd.load( "e1", 0 );
+   Folder const folder;
+   ServedAgent agent( folder, "Linecard3", theSwitch, etcd.server.url() );
+   ASSERT_TRUE( agent.isSoon( "running" ) ) << agent.log();
+   auto const before = agent.ctl( "show" );
+   ::kill( agent.process(), SIGSTOP );
+   etcd.write( "evpnDciEnabled", "true" );
+   for ( int tries = 0; etcd.isServed( "Linecard3" ) && tries < 3000; ++tries ) {
+      ::usleep( 10'000 );
+   }
+   EXPECT_FALSE( etcd.isServed( "Linecard3" ) );
+   if ( std::getenv( "L3SM_LONG_TESTS" ) ) {
+      ::usleep( 50'000'000 );
+   }
+   ::kill( agent.process(), SIGCONT );
+   SCOPED_TRACE( agent.output( "state wait --timeout 30 --database " + etcd.server.url() ) );
+   ASSERT_TRUE( agent.isSoon( "running" ) ) << agent.log();
+   EXPECT_TRUE( etcd.isServed( "Linecard3" ) );
+   EXPECT_NE( agent.ctl( "show" ), before );
+   ServedAgent fresh( folder, "Linecard4", theSwitch, etcd.server.url() );
+   ASSERT_TRUE( fresh.isSoon( "running" ) ) << fresh.log();
+   EXPECT_EQ( agent.ctl( "show" ), fresh.ctl( "show" ) );
 }
 
 // ---- space

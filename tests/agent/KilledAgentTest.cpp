@@ -3,6 +3,7 @@
 //
 // L3SM_KILLS=N kills it N times instead of 20.
 #include "RandomTransactions.h"
+#include "l3sm/Command.h"
 
 namespace {
 
@@ -41,5 +42,60 @@ TEST( KilledAgent, endsWithTheChipsOfOneThatWasNeverKilled ) {
    EXPECT_EQ( unknownDifferences( folder, killed.ctl( "show" ), other.ctl( "show" ) ), "" ) << killed.log();
    EXPECT_NE( killed.ctl( "audit run" ).find( "\"mismatches\": 0" ), std::string::npos ) << killed.log();
 }
+
+struct RestartedAgent : testing::TestWithParam< std::string > {};
+
+// Each example is played through the database; then its agent is killed, and starts on the chips and the state that
+// are there.
+TEST_P( RestartedAgent, changesNothingOnItsChipsButWhatIsKnownToRemember ) {
+   auto const path = std::string( L3SM_SOURCE_DIR "/examples/" ) + GetParam() + ".json";
+   Scenario const example = readScenario( path );
+   Folder const folder;
+   RedisServer server;
+   auto const store = Live::stateStoreAt( server.url(), {}, 1 );
+   store->load( Live::stateOfFile( path ) );
+   ServedAgent agent( folder,
+                      "Linecard3",
+                      toJson( valueOf( example, Parts::withoutEvents ), 0 ),
+                      server.url(),
+                      { "--chips-file", folder / "chips" } );
+   ASSERT_TRUE( agent.isSoon( "running" ) ) << agent.log();
+   Live::StateWriter writer( *store );
+   for ( Event const & event : example.events ) {
+      if ( event.kind != Event::Kind::fault ) {
+         writer.write( event );
+      }
+   }
+   agent.output( "state wait --timeout 30 --database " + server.url() );
+   auto const before = agent.ctl( "show" );
+   agent.dies();
+   agent.starts();
+   ASSERT_TRUE( agent.isSoon( "running" ) ) << agent.log();
+   auto const metrics = agent.output( "ctl --socket '" + agent.socket() + "' metrics" );
+   bool const isUntouched = metrics.find( "\nl3sm_start_changing_writes 0\n" ) != std::string::npos;
+   bool const isKnown = agent.log().find( "; known: " ) != std::string::npos;
+   EXPECT_NE( isUntouched, isKnown ) << agent.log();
+   EXPECT_EQ( isUntouched, agent.ctl( "show" ) == before );
+   for ( std::string const & line : linesOf( agent.log() ) ) {
+      EXPECT_EQ( line.find( "the start has another value" ) == std::string::npos,
+                 line.find( "; known: " ) == std::string::npos )
+         << line;
+   }
+   EXPECT_EQ( isKnown, GetParam() == "gue" );
+}
+
+std::vector< std::string > exampleNames() {
+   std::vector< std::string > names;
+   for ( std::filesystem::path const & path : exampleScenarios() ) {
+      names.push_back( path.stem() );
+   }
+   return names;
+}
+
+INSTANTIATE_TEST_SUITE_P( Examples, RestartedAgent, testing::ValuesIn( exampleNames() ), []( auto const & of ) {
+   std::string name = of.param;
+   std::ranges::replace( name, '-', '_' );
+   return name;
+} );
 
 } // namespace

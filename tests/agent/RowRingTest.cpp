@@ -78,7 +78,7 @@ TEST( RowRing, PlaysEveryKindOfRowAsItWasHeard ) {
    lines.push_back( "complete 7 40" );
    EXPECT_EQ( played( ring ), lines );
    EXPECT_EQ( ring.firstEvent(), 0u );
-   EXPECT_EQ( ring.rows(), 3u * 10 );
+   EXPECT_EQ( ring.rows(), 3u * 11 );
 }
 
 TEST( RowRing, KeepsARealRunWithItsLayouts ) {

@@ -37,6 +37,7 @@ TEST_F( ServedChips, areRepairedWhereABitHasTurned ) {
    ServedAgent agent( folder, "Linecard3", one, "" );
    ASSERT_TRUE( agent.isSoon( "running" ) ) << agent.log();
    auto const before = agent.ctl( "show" );
+   EXPECT_THAT( agent.ctl( "audit status" ), HasSubstr( "\"period\": 60" ) ); // unless another is named
    EXPECT_THAT( agent.ctl( "fault add 'IppdFerTrapCfg[3]' --copy 1 --kind flip:7" ), HasSubstr( "\"fired\": 1" ) );
    EXPECT_NE( agent.ctl( "show" ), before );
    EXPECT_THAT( agent.ctl( "audit run" ), HasSubstr( "\"mismatches\": 1,\n \"repaired\": 1" ) );
@@ -60,8 +61,10 @@ TEST_F( ServedChips, areGivenUpWhereABitIsStuckUntilTheyAreTriedAgain ) {
    EXPECT_THAT( agent.ctl( "fault clear" ), HasSubstr( "\"cleared\": 1" ) );
    agent.ctl( "audit run" );
    EXPECT_NE( agent.ctl( "show" ), before ); // it is left
+   EXPECT_THAT( agent.ctl( "audit status" ), Not( HasSubstr( "\"hard\": []" ) ) );
    EXPECT_THAT( agent.ctl( "repair" ), HasSubstr( "\"repaired\": 1" ) );
    EXPECT_EQ( agent.ctl( "show" ), before );
+   EXPECT_THAT( agent.ctl( "audit status" ), HasSubstr( "\"hard\": []" ) );
 }
 
 TEST_F( ServedChips, areLeftAloneWhereTheyRefuseWhileTheOthersGoOn ) {
@@ -86,29 +89,33 @@ TEST_F( ServedChips, areLeftAloneWhereTheyRefuseWhileTheOthersGoOn ) {
    EXPECT_EQ( showOf( agent, 0 ), showOf( right, 0 ) );
 }
 
-TEST_F( ServedChips, areAsTheyWereWhenTheirAgentStartsAgain ) {
-   ServedAgent agent( folder, "Linecard3", one, "", { "--chips-file", folder / "chips" } );
-   ASSERT_TRUE( agent.isSoon( "running" ) ) << agent.log();
-   auto const before = agent.ctl( "show" );
-   agent.dies();
-   agent.starts();
-   ASSERT_TRUE( agent.isSoon( "running" ) ) << agent.log();
-   EXPECT_THAT( agent.log(), HasSubstr( "the chips are those that 1 agent had before; 0 places were wrong" ) );
-   EXPECT_EQ( agent.ctl( "show" ), before );
-   EXPECT_EQ( metric( agent, "l3sm_start_changing_writes" ), "0" );
-}
-
-TEST_F( ServedChips, areRepairedAtTheStartWhereTheyHaveChangedMeanwhile ) {
+TEST_F( ServedChips, areAsTheyWereWhenTheirAgentStartsAgainAndRepairedWhereTheyHaveChangedMeanwhile ) {
    ServedAgent agent( folder, "Linecard3", one, "", { "--chips-file", folder / "chips", "--audit", "0" } );
    ASSERT_TRUE( agent.isSoon( "running" ) ) << agent.log();
    auto const before = agent.ctl( "show" );
-   agent.ctl( "fault add IppdFerTrapCfg[3] --copy 0 --kind flip:3" );
-   agent.dies();
-   agent.starts();
+   for ( char const * const told :
+         { "1 agent had before; 0 places were wrong", "2 agents had before; 1 place was wrong" } ) {
+      agent.dies();
+      agent.starts();
+      ASSERT_TRUE( agent.isSoon( "running" ) ) << agent.log();
+      EXPECT_THAT( agent.log(), HasSubstr( "the chips are those that " + std::string( told ) ) );
+      EXPECT_EQ( agent.ctl( "show" ), before );
+      EXPECT_EQ( metric( agent, "l3sm_start_changing_writes" ), "0" );
+      agent.ctl( "fault add IppdFerTrapCfg[3] --copy 0 --kind flip:3" );
+   }
+}
+
+TEST_F( ServedChips, failAgainAsTheyDidWhereWhatWasRecordedIsPlayed ) {
+   std::filesystem::create_directory( folder / "records" );
+   ServedAgent agent( folder, "Linecard3", one, "", { "--record", folder / "records" } );
    ASSERT_TRUE( agent.isSoon( "running" ) ) << agent.log();
-   EXPECT_THAT( agent.log(), HasSubstr( "had before; 1 place was wrong" ) );
-   EXPECT_EQ( agent.ctl( "show" ), before );
-   EXPECT_EQ( metric( agent, "l3sm_start_changing_writes" ), "0" );
+   agent.ctl( "fault add IppdFerTrapCfg[3] --copy 0 --kind flip:3" );
+   agent.ctl( setDci( "true" ) );
+   agent.endsBy( SIGTERM );
+   EXPECT_THAT( agent.output( "replay '" + ( folder / "records" ) + "'" ),
+                HasSubstr( "every one did what it did then\n" ) );
+   EXPECT_THAT( agent.output( "replay '" + ( folder / "records" ) + "' --to-scenario /dev/stdout" ),
+                HasSubstr( "\"fault\"" ) );
 }
 
 TEST_F( ServedChips, areHeldAsTheyAreUntilSomebodyDecides ) {
@@ -121,12 +128,14 @@ TEST_F( ServedChips, areHeldAsTheyAreUntilSomebodyDecides ) {
    ASSERT_TRUE( agent.isSoon( "held" ) ) << agent.log();
    EXPECT_EQ( agent.ctl( "show" ), before );
    EXPECT_THAT( agent.ctl( "status" ), Not( HasSubstr( "\"drift\": 0" ) ) );
-   agent.ctl( setDci( "false" ) ); // waits likewise
+   EXPECT_EQ( metric( agent, "l3sm_start_changing_writes" ), "0" ); // none yet
+   agent.ctl( setDci( "false" ) );                                  // waits likewise
    EXPECT_EQ( agent.ctl( "show" ), before );
    EXPECT_THAT( agent.ctl( "repair" ), HasSubstr( "\"phase\": \"running\"" ) );
    ASSERT_TRUE( agent.isSoon( "running" ) );
    EXPECT_THAT( agent.ctl( "status" ), HasSubstr( "\"drift\": 0" ) );
    EXPECT_EQ( agent.ctl( "show" ), before ); // committed, and then taken back
+   EXPECT_GT( std::stoi( metric( agent, "l3sm_start_changing_writes" ) ), 0 );
 }
 
 // Another build of the plug-in, which writes one constant otherwise.

@@ -9,6 +9,7 @@
 #include <cstring>
 #include <fcntl.h>
 #include <gtest/gtest.h>
+#include <poll.h>
 #include <sys/prctl.h>
 #include <sys/socket.h>
 #include <sys/un.h>
@@ -35,6 +36,16 @@ class Manager {
       std::string text;
       int file = -1;
    };
+   // What it is told next with such a beginning; empty: nothing within 10 s.
+   Told hears( std::string const & beginning ) const {
+      pollfd it{ .fd = socket_, .events = POLLIN, .revents = 0 };
+      while ( ::poll( &it, 1, 10'000 ) == 1 ) {
+         if ( Told told = this->told(); told.text.starts_with( beginning ) ) {
+            return told;
+         }
+      }
+      return {};
+   }
    // What it was told next; empty: nothing more.
    Told told() const {
       std::array< char, 4096 > text;
@@ -54,8 +65,13 @@ class Manager {
    }
 
    // How an agent ends that is started with these files.
+   using Files = std::vector< std::pair< std::string, int > >;
    template< class What >
-   int agent( std::vector< std::pair< std::string, int > > const & files, What const & what ) const {
+   int agent( Files const & files, What const & what ) const {
+      return ended( starts( files, what ) );
+   }
+   template< class What >
+   pid_t starts( Files const & files, What const & what ) const {
       pid_t const process = ::fork();
       if ( process == 0 ) {
          ::prctl( PR_SET_PDEATHSIG, SIGKILL );
@@ -75,6 +91,9 @@ class Manager {
          what();
          ::_exit( testing::Test::HasFailure() ? 1 : 0 );
       }
+      return process;
+   }
+   static int ended( pid_t process ) {
       int status = 0;
       ::waitpid( process, &status, 0 );
       return WIFSIGNALED( status ) ? 128 + WTERMSIG( status ) : WEXITSTATUS( status );
@@ -122,6 +141,57 @@ TEST( ServiceManager, keepsTheChipsOfAnAgentThatIsKilledForTheNext ) {
    EXPECT_EQ( manager.told().text, "" );
    ::close( nothing );
    ::close( kept.file );
+}
+
+// A whole agent, as the manager starts it: the chips of the one before it, and ready once they are as they should be.
+TEST( ServiceManager, hasTheChipsOfAnAgentForTheNextWhichIsReadyOnceTheyAreRight ) {
+   Manager const manager;
+   Folder const folder;
+   std::string const socket = folder / "ctl";
+   auto const serve = [&]( char const * isDci ) {
+      std::string const it = folder.file(
+         std::string( "switch" ) + isDci + ".json",
+         R"({"switch": {"faps": [{"fapId": 0, "revision": {"chipType": "BCM88690_B0", "sdkVersion": 7}}]}, "toggles": )"
+         R"({"Dace.json": {"ArmOrderedSwTable": false}}, "state": {"evpn/status": {"evpnDciEnabled": )" +
+            std::string( isDci ) + "}}}" );
+      return [&folder, &socket, it] {
+         int const log = ::open( ( folder / "log" ).c_str(), O_WRONLY | O_CREAT | O_APPEND, 0600 );
+         ::dup2( log, STDERR_FILENO );
+         ::execl( L3SM_BINARY_DIR "/bin/l3sm",
+                  "l3sm",
+                  "serve",
+                  it.c_str(),
+                  "--slice",
+                  "a",
+                  "--socket",
+                  socket.c_str(),
+                  "--on-drift",
+                  "hold",
+                  nullptr );
+         ::_exit( 127 );
+      };
+   };
+   pid_t const first = manager.starts( {}, serve( "false" ) );
+   int const chips = manager.hears( "FDSTORE=1" ).file;
+   EXPECT_GE( chips, 0 );
+   EXPECT_EQ( manager.hears( "READY=1" ).text, "READY=1\nSTATUS=running" ) << folder.text( "log" );
+   ::kill( first, SIGKILL );
+   EXPECT_EQ( Manager::ended( first ), 128 + SIGKILL );
+
+   pid_t const second = manager.starts( { { "chips", chips } }, serve( "true" ) );
+   auto const held = manager.hears( "STATUS=held" ).text;
+   EXPECT_NE( held, "" ) << folder.text( "log" );
+   EXPECT_NE( folder.text( "log" ).find( "the chips are those that 1 agent had before; 0 places were wrong" ),
+              std::string::npos )
+      << folder.text( "log" );
+   EXPECT_EQ( manager.told().text, "" ) << "it is not ready";
+   std::string const repair = L3SM_BINARY_DIR "/bin/l3sm ctl --socket '" + socket + "' repair >/dev/null";
+   EXPECT_EQ( std::system( repair.c_str() ), 0 );
+   EXPECT_EQ( manager.hears( "READY=1" ).text, "READY=1\nSTATUS=running" ) << folder.text( "log" );
+   ::kill( second, SIGTERM );
+   EXPECT_EQ( Manager::ended( second ), 0 );
+   EXPECT_EQ( manager.hears( "STOPPING=1" ).text, "STOPPING=1" );
+   ::close( chips );
 }
 
 TEST( ServiceManager, keepsAFileNoMore ) {

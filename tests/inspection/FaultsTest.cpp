@@ -38,7 +38,9 @@ std::map< U16, Simulator::Contents > chipsAfter( Scenario scenario, std::optiona
       chips.disarmAll();
       chips.audit().restart();
       chips.audit().finish( repair );
-      EXPECT_TRUE( wrongPlacesOf( sw ).empty() );
+      chips.audit().finish( [&]( Simulator::Mismatch const & it ) {
+         ADD_FAILURE() << wrongPlaceOf( sw.description(), it ).text();
+      } );
    }
    std::map< U16, Simulator::Contents > all;
    for ( auto const & fap : scenario.description.faps ) {

@@ -82,11 +82,13 @@ TEST( JournalReader, PassesOverGatesPublicationsFapsAndLaterEvents ) {
       }
       return all;
    };
-   EXPECT_EQ( kinds( {} ), " rwwccggpp  rwwccggpp  " ); // by the letter that a kind begins with
-   EXPECT_EQ( kinds( { .gatesToo = false } ), " rwwccpp  rwwccpp  " );
-   EXPECT_EQ( kinds( { .publicationsToo = false } ), " rwwccgg  rwwccgg  " );
+   EXPECT_EQ( kinds( {} ), " rwwccfggpp  rwwccfggpp  " ); // by the letter that a kind begins with
+   EXPECT_EQ( kinds( { .gatesToo = false } ), " rwwccfpp  rwwccfpp  " );
+   EXPECT_EQ( kinds( { .publicationsToo = false } ), " rwwccfgg  rwwccfgg  " );
    EXPECT_EQ( kinds( { .fap = 7 } ), " ggpp  ggpp  " );
-   EXPECT_EQ( kinds( { .last = 0 } ), " rwwccggpp    " );
+   EXPECT_EQ( kinds( { .tables = { "EnablersVectors" } } ), " wccggpp  wccggpp  " );
+   EXPECT_EQ( kinds( { .function = "L3Sm::f" } ), " rwwccggpp  rwwccggpp  " );
+   EXPECT_EQ( kinds( { .last = 0 } ), " rwwccfggpp    " );
 }
 
 // A line of the program's own form is taken apart by where its parts stand; with one more space it is read as JSON.

@@ -79,6 +79,13 @@ inline void playSampleEvent( Simulator::RowReader & reader, U32 event = 0 ) {
    firstControl.value = 1;
    firstControl.changed = true;
    reader.row( firstControl );
+   auto fault = of( Row::Kind::fault, 0 );
+   fault.scope = Row::Scope::core;
+   fault.core = 1;
+   fault.reason = "flip:9";
+   fault.changed = true;
+   fault.function = fault.source = {};
+   reader.row( fault );
    auto gate = of( Row::Kind::gate, 0 );
    gate.reason = "FAP type 3 is \"not\" served";
    reader.row( gate );

@@ -17,7 +17,7 @@ TEST( JournalWriter, WritesEachKindOfRowAsALine ) {
    }
    std::string const shared = R"(, "function": "L3Sm::f", "source": "L3Sm.cpp:41", "cause": "chip-init"})";
    auto const lines = linesOf( folder.text( "run.jsonl" ) );
-   ASSERT_EQ( lines.size(), 12u );
+   ASSERT_EQ( lines.size(), 13u );
    EXPECT_TRUE(
       lines[0].starts_with( R"({"op": "begin", "format": 2, "l3sm": ")" + std::string( versionNumber() ) + R"(", )" ) )
       << lines[0];
@@ -42,15 +42,18 @@ TEST( JournalWriter, WritesEachKindOfRowAsALine ) {
    EXPECT_EQ( lines[6],
               R"({"op": "control", "seq": 5, "event": 0, "fap": 0, "control": 65, "value": 1, "changed": true)" +
                  shared );
-   EXPECT_EQ( lines[7], R"({"op": "gate", "event": 0, "fap": 0, "reason": "FAP type 3 is \"not\" served")" + shared );
-   EXPECT_EQ( lines[8], R"({"op": "gate", "event": 0, "reason": "FAP type 3 is \"not\" served")" + shared );
-   EXPECT_EQ( lines[9],
+   EXPECT_EQ( lines[7],
+              R"({"op": "fault", "event": 0, "fap": 0, )" + register3 +
+                 R"("scope": "core", "core": 1, "words": ["0x00000a00"], "reason": "flip:9", "cause": "chip-init"})" );
+   EXPECT_EQ( lines[8], R"({"op": "gate", "event": 0, "fap": 0, "reason": "FAP type 3 is \"not\" served")" + shared );
+   EXPECT_EQ( lines[9], R"({"op": "gate", "event": 0, "reason": "FAP type 3 is \"not\" served")" + shared );
+   EXPECT_EQ( lines[10],
               R"({"op": "publish", "event": 0, "path": "managed/intfStatusDir", "attribute": "mtu", "value": 2000, )"
               R"("before": 1500, "cause": "chip-init"})" );
-   EXPECT_EQ( lines[10],
+   EXPECT_EQ( lines[11],
               R"({"op": "publish", "event": 0, "path": "managed/intfStatusDir", "attribute": "mtu", )"
               R"("key": "Ethernet1", "value": 2000, "before": 1500, "cause": "chip-init"})" );
-   EXPECT_EQ( lines[11], R"({"op": "end", "ended": "complete", "events": 0, "operations": 5})" );
+   EXPECT_EQ( lines[12], R"({"op": "end", "ended": "complete", "events": 0, "operations": 5})" );
 }
 
 TEST( JournalWriter, TellsTheAssertionThatEndedTheRun ) {
@@ -80,7 +83,7 @@ TEST_P( JournalWriterStream, HasAnEventOnTheDiskWhenItIsOver ) {
    writer.eventBegins( 2, {} );
    Heard heard;
    JournalReader( path ).read( heard );
-   ASSERT_EQ( heard.lines.size(), 2 * 11u );
+   ASSERT_EQ( heard.lines.size(), 2 * 12u );
    EXPECT_EQ( heard.lines.back(), "cut 1 10" );
 }
 

@@ -24,6 +24,72 @@ TEST( FaultsOfAScenario, areToldWithTheEventThatTheyFiredIn ) {
    EXPECT_THAT( run.output, HasSubstr( "  fault  lost  FAP 0  ErppInlifOrientationMap[0].72  copy 1\n" ) );
 }
 
+TEST( FaultsOfAScenario, areARowBehindTheWriteThatTheyBefell ) {
+   Command const run(
+      "run s.json --quiet --journal j.jsonl",
+      { { "s.json",
+          scenario( R"({"fault": {"table": "ErppInlifOrientationMap", "entry": 72, "copy": 1, "kind": "lost"}}, )" +
+                    dci ) } } );
+   EXPECT_EQ( run.status, 0 ) << run.errors;
+   auto const lines = linesOf( run.file( "j.jsonl" ) );
+   auto const fault =
+      std::ranges::find_if( lines, []( auto const & line ) { return line.starts_with( R"({"op": "fault")" ); } );
+   ASSERT_NE( fault, lines.end() );
+   EXPECT_EQ( *fault,
+              R"({"op": "fault", "event": 2, "fap": 0, "table": "ErppInlifOrientationMap", "variant": 0, "array": 0, )"
+              R"("entry": 72, "scope": "core", "core": 1, "words": ["0x00000016"], "reason": "lost", )"
+              R"("cause": "evpn/status evpnDciEnabled"})" );
+   EXPECT_THAT(
+      *std::prev( fault ),
+      HasSubstr( R"("table": "ErppInlifOrientationMap", "variant": 0, "array": 0, "entry": 72, "scope": "all", )"
+                 R"("words": ["0x00000014"], "changed": true, "before": ["0x00000016"])" ) );
+}
+
+// One of two FAPs fails.
+std::string const ofOneOfTwo =
+   R"({"switch": {"faps": [{"fapId": 0, "revision": {"chipType": "BCM88690_B0", "sdkVersion": 7}},
+                           {"fapId": 1, "revision": {"chipType": "BCM88690_B0", "sdkVersion": 7}}]},
+       "toggles": {"Dace.json": {"ArmOrderedSwTable": false}}, "state": {"evpn/status": {}},
+       "events": [{"fault": {"fap": 1, "table": "IppdFerTrapCfg", "array": 3, "copy": 1, "kind": "flip:7"}},
+                  {"set": {"path": "evpn/status", "attribute": "evpnDciEnabled", "value": true}}]})";
+
+TEST( FaultsOfAScenario, areThoseOfTheirFapAlone ) {
+   auto const shown = []( std::string const & fap ) {
+      return Command( "run s.json --quiet --journal j.jsonl && '" L3SM_BINARY_DIR
+                      "/bin/l3sm' show j.jsonl IppdFerTrapCfg --array 3 --fap " +
+                         fap,
+                      { { "s.json", ofOneOfTwo } } );
+   };
+   EXPECT_EQ( shown( "0" ).output,
+              "FAP 0  BCM88690_B0\n"
+              "\n"
+              "IppdFerTrapCfg\n"
+              "       cpuSnoopCodeN  cpuStrengthN\n"
+              "  [3]    0x115 (277)           0x5\n" );
+   EXPECT_THAT( shown( "1" ).output,
+                HasSubstr( "  [3] instance 0    0x115 (277)           0x5\n"
+                           "  [3] instance 1    0x195 (405)           0x5\n" ) );
+}
+
+TEST( FaultsOfAScenario, standAmongTheReasonsOfAnEntry ) {
+   std::string const why = "run s.json --quiet --journal j.jsonl && '" L3SM_BINARY_DIR
+                           "/bin/l3sm' why j.jsonl IppdFerTrapCfg --array 3 --fap 1";
+   Command const text( why, { { "s.json", ofOneOfTwo } } );
+   EXPECT_THAT( text.output,
+                HasSubstr( "event 1  fault IppdFerTrapCfg[3] --fap 1 --copy 1 --kind flip:7\n"
+                           "  fault: flip:7  FAP 1  [3]  copy 1\n" ) )
+      << text.errors;
+   Command const json( why + " --json", { { "s.json", ofOneOfTwo } } );
+   EXPECT_THAT( json.output, HasSubstr( R"("op": "fault")" ) );
+   EXPECT_THAT( json.output, HasSubstr( R"("copy": 1)" ) );
+}
+
+TEST( FaultsOfAScenario, areToldAtTheTopOfThePage ) {
+   Command const report( "report s.json -o page.html", { { "s.json", ofOneOfTwo } } );
+   EXPECT_THAT( report.file( "page.html" ), HasSubstr( "<p>1 fault fired: the page shows what was written" ) )
+      << report.errors;
+}
+
 TEST( FaultsOfAScenario, areWhatAnAuditFinds ) {
    Command const check(
       "check --audit s.json",

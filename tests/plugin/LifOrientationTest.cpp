@@ -180,6 +180,41 @@ TEST_P( LifOrientationTest, programsOutLifProfilesInOrder ) {
    EXPECT_EQ( std::vector( writes[12].words.begin(), writes[12].words.end() ), ( Words{ 0x3440, 0, 0, 0, 0, 0 } ) );
 }
 
+// A chip whose reads fail.
+class FailingReads final : public DaceSal::SchanDriver {
+ public:
+   FailingReads() { DaceSal::schanDriverIs( this ); }
+   ~FailingReads() override { DaceSal::schanDriverIs( &under_ ); }
+   void read( DaceSal::ChipId, DaceSal::SchanAddress const &, std::span< U32 > ) override {
+      throw DaceSal::SchanError( "no answer" );
+   }
+   bool write( DaceSal::ChipId chip, DaceSal::SchanAddress const & at, std::span< U32 const > const words ) override {
+      return under_.write( chip, at, words );
+   }
+   bool exchange( DaceSal::ChipId chip,
+                  DaceSal::SchanAddress const & at,
+                  std::span< U32 const > const words,
+                  std::span< U32 > before ) override {
+      return under_.exchange( chip, at, words, before );
+   }
+   bool control( DaceSal::ChipId chip, U32 control, U32 value ) override {
+      return under_.control( chip, control, value );
+   }
+   std::optional< U32 > controlValue( DaceSal::ChipId chip, U32 control ) const override {
+      return under_.controlValue( chip, control );
+   }
+
+ private:
+   DaceSal::SchanDriver & under_ = *DaceSal::schanDriver();
+};
+
+// What the read returns is where the mapping starts.
+TEST_P( LifOrientationTest, endsTheProcessWhereTheRegisterCannotBeRead ) {
+   chipIs( GetParam() );
+   FailingReads const failing;
+   EXPECT_DEATH( L3Sm::initOutlifOrientationMap( fap() ), "x >= 0" );
+}
+
 TEST( LifOrientation, packsAnOrientationBesideTheOthers ) {
    Raw256 mapping;
    setOrientationForOutLifProfile( 1, mapping, 7 );

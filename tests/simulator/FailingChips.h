@@ -18,24 +18,22 @@ struct FailingChips : testing::Test {
 
    Simulator::SwitchDescription const description{
       .faps = { { .fapId = Hardware::Dace::FapId( 0 ), .revision = { 5, chipType, 7 } } } };
+   static Simulator::ChipDriver & withChip( Simulator::ChipDriver & driver ) {
+      driver.chipIs( fap, "BCM88690_B0", Simulator::addressMap( chipType ) );
+      return driver;
+   }
    Simulator::ChipDriver chips;
    Simulator::ChipDriver expected;
    std::vector< std::string > fired;
    Rex::Seconds waited = 0;
    Simulator::FaultyDriver faulty{
-      chips,
+      withChip( chips ),
       description,
       { .fired = [this]( auto const & it ) { fired.push_back( it.what + " " + std::to_string( it.place.copy ) ); },
         .delays = [this]( Rex::Seconds time ) { waited += time; } } };
    std::vector< std::string > degraded;
    Simulator::ShadowDriver shadow{
-      expected, faulty, [this]( ChipId, std::string const & why ) { degraded.push_back( why ); }, {} };
-
-   FailingChips() {
-      for ( auto * const each : { &chips, &expected } ) {
-         each->chipIs( fap, "BCM88690_B0", Simulator::addressMap( chipType ) );
-      }
-   }
+      withChip( expected ), faulty, [this]( ChipId, std::string const & why ) { degraded.push_back( why ); }, {} };
 
    // A register of one word with two copies, and of a memory the entry 72.
    static SchanAddress trapCfg( U32 copy = 0 ) { return at( "IppdFerTrapCfg", 3, 0, copy ); }

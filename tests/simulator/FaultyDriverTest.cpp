@@ -99,7 +99,7 @@ TEST_F( FaultyDriverTest, refusesWhatNoChipCanHave ) {
               "/copy: IppdFerTrapCfg has the copies 0 to 1 on BCM88690_B0, not 2" );
    other = fault( "lost" );
    other.fap = 4;
-   EXPECT_EQ( refusalOf( [&] { faulty.arm( other ); } ), "/fap: the switch has no FAP 4" );
+   EXPECT_EQ( refusalOf( [&] { faulty.arm( other ); } ), "/fap: the switch has no such FAP" );
    EXPECT_THAT( faulty.armed(), testing::IsEmpty() );
 }
 

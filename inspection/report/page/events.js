@@ -43,7 +43,6 @@ function eventsView(options) {
   const text = element('input', { type: 'text', value: options.text ?? '' });
   text.addEventListener('input', () => set('text', text.value.trim()));
   apply();
-  requestAnimationFrame(() => list.changed(events.length));
   return { title: 'Events', parts: [
     timeline.element,
     element('div.filters', null,
