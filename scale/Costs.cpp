@@ -39,7 +39,8 @@ Costs Costs::of( Rex::Value const & value ) {
          Inspection::Fields fields( all.required( "assumed" ) );
          costs.assumed = { .members = fields.required< U32 >( "members" ),
                            .cores = fields.required< U32 >( "cores of a member" ),
-                           .latency = seconds( fields, "latency" ) };
+                           .latency = seconds( fields, "latency" ),
+                           .breath = seconds( fields, "between two reports" ) };
          fields.end();
       } );
       return costs;

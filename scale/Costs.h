@@ -35,6 +35,7 @@ struct Costs {
       std::size_t members;  // of the cluster
       std::size_t cores;    // of each
       Rex::Seconds latency; // of the network, one way
+      Rex::Seconds breath;  // that an agent takes between two reports
    } assumed;
 
    static Costs of( Rex::Value const & value );

@@ -10,7 +10,6 @@ namespace Scale {
 namespace {
 
 constexpr std::size_t pageSize = 1000; // of a snapshot
-constexpr Rex::Seconds breath = 0.1;   // between two reports
 constexpr double renewals = 3;         // of a lease, while it lasts
 constexpr std::size_t keysOfAReport = Live::mostOperations - 2;
 
@@ -145,7 +144,7 @@ void FabricDatabase::published( std::size_t left ) {
          return;
       }
       reported_ = applied;
-      breath_ = loop_.timer( breath, [this] {
+      breath_ = loop_.timer( cluster_.costs().assumed.breath, [this] {
          isUnderWay_ = false;
          if ( isWaiting_ ) {
             report();

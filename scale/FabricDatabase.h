@@ -4,7 +4,7 @@
 //    StateFollower follows it as it follows any other
 //
 // Transactions that come while the agent is busy wait, and are told together; reports that come while one is under way,
-// and for a tenth of a second after it, become one; what is published is written in transactions of as many keys as a
+// and for a breath after it, become one; what is published is written in transactions of as many keys as a
 // server takes. A path of the state may stand for several of the fabric's, in what it costs.
 //
 // Threading: the agent's loop.

@@ -1,4 +1,5 @@
-// What a fabric of so many agents does, as JSON: times in microseconds, processors' time over all members.
+// What a fabric of so many agents does, as JSON: times in microseconds, processors' time over all members. The last one
+// once more with reports that are further apart.
 //
 //    fabric-simulation scale/costs.json 10 100 1000 > scale/simulated.json
 #include "scale/Fabric.h"
@@ -14,6 +15,7 @@ constexpr std::size_t interfaces = 1000;
 constexpr U64 seed = 1;
 constexpr std::size_t rates[] = { 1, 5, 20 }; // changes in a second
 constexpr std::size_t seconds = 10;
+constexpr Rex::Seconds longBreath = 2; // between two reports of an agent
 
 Rex::Value microseconds( Rex::Seconds time ) {
    return std::llround( time * 1e6 );
@@ -44,6 +46,7 @@ Rex::Value::Object fabricOf( Costs const & costs, std::size_t agents ) {
    }
    told["a member lost"] = valueOf( fabric.losesMember( 1, false ) );
    told["converged"] = fabric.isConverged();
+   told["agents"] = agents;
    return told;
 }
 
@@ -55,14 +58,19 @@ int main( int count, char ** arguments ) {
       return 2;
    }
    try {
-      auto const costs = Costs::of( Inspection::readJson( arguments[1] ) );
-      Rex::Value::Object all{ { "interfaces", interfaces }, { "seconds", seconds } };
+      auto costs = Costs::of( Inspection::readJson( arguments[1] ) );
       Rex::Value::Object fabrics;
+      std::size_t agents = 0;
       for ( int at = 2; at < count; ++at ) {
-         auto const agents = std::stoul( arguments[at] );
+         agents = std::stoul( arguments[at] );
          fabrics[std::to_string( agents )] = fabricOf( costs, agents );
       }
-      all["fabrics"] = std::move( fabrics );
+      costs.assumed.breath = longBreath;
+      Rex::Value::Object const all{ { "interfaces", interfaces },
+                                    { "seconds", seconds },
+                                    { "fabrics", std::move( fabrics ) },
+                                    { "most agents, with a longer breath", fabricOf( costs, agents ) },
+                                    { "longer breath", microseconds( longBreath ) } };
       std::cout << Inspection::toJson( all, 3 ) << "\n";
    } catch ( std::exception const & error ) {
       std::cerr << "fabric-simulation: " << error.what() << "\n";

@@ -72,15 +72,19 @@ class Etcd(Server):
     def text(of):
         return base64.b64encode(of.encode()).decode()
 
-    def range(self, key, end):
-        found = self.ask('kv/range', {'key': self.text(key), 'range_end': self.text(end)}).get('kvs', [])
-        return [(base64.b64decode(each['key']).decode(), base64.b64decode(each.get('value', '')).decode(), int(each['version']))
-                for each in found]
+    def ranges(self, *ranges):
+        """Of each its keys, values and how often each was written; all in one question."""
+        def decoded(text):
+            return base64.b64decode(text).decode()
+        answer = self.ask('kv/txn', {'success': [{'requestRange': {'key': self.text(key), 'range_end': self.text(end), 'limit': limit}}
+                                                 for key, end, limit in ranges]})
+        return [[(decoded(each['key']), decoded(each.get('value', '')), int(each['version'])) for each in one['response_range'].get('kvs', [])]
+                for one in answer['responses']]
 
     def write(self, cell, path, attribute, value):
         of_cell = f'l3sm:{cell}'
         if cell not in self.epochs:
-            self.epochs[cell] = self.text(self.range(of_cell + '#epoch', of_cell + '#epoci')[0][1])
+            self.epochs[cell] = self.text(self.ranges((of_cell + '#epoch', of_cell + '#epoci', 1))[0][0][1])
         puts = {f'{of_cell}:{path}': json.dumps({attribute: value}), of_cell + '#writes': 'FabricBench'}
         return int(self.ask('kv/txn', {
             'compare': [{'key': self.text(of_cell + '#epoch'), 'target': 'VALUE', 'result': 'EQUAL', 'value': self.epochs[cell]}],
@@ -89,8 +93,8 @@ class Etcd(Server):
 
     def agents(self, cells):
         all = {}
-        for cell in cells:
-            for key, value, version in self.range(f'l3sm:{cell}#agent:', f'l3sm:{cell}#agent;'):
+        for cell, those in zip(cells, self.ranges(*((f'l3sm:{cell}#agent:', f'l3sm:{cell}#agent;', 0) for cell in cells))):
+            for key, value, version in those:
                 fields = json.loads(value)
                 all[cell, key.split(':')[-1]] = Agent(fields.get('phase'), int(fields.get('applied') or 0), version)
         return all
@@ -100,11 +104,9 @@ class Etcd(Server):
 
     def read_all(self, cell):
         """As an agent does: in pages."""
-        key, end = f'l3sm:{cell}:', f'l3sm:{cell};'
-        while key:
-            page = self.ask('kv/txn', {'success': [{'requestRange': {'key': self.text(key), 'range_end': self.text(end), 'limit': 1000}}]})
-            page = page['responses'][0]['response_range']
-            key = base64.b64decode(page['kvs'][-1]['key']).decode() + '\0' if page.get('more') else None
+        key = f'l3sm:{cell}:'
+        while page := self.ranges((key, f'l3sm:{cell};', 1000))[0]:
+            key = page[-1][0] + '\0'
 
     def counts(self):
         connection = http.client.HTTPConnection(*self.address, timeout=60)
