@@ -94,8 +94,12 @@ class SliceAgent final : private Database::Follower {
    EventLoop & loop() { return loop_; }
 
    Phase phase() const { return phase_; }
-   // Whether it may write to its chips: not while they are to stay as they are.
-   bool mayWrite() const { return phase_ != Phase::frozen && phase_ != Phase::held && phase_ != Phase::disconnected; }
+   // Whether it may write to its chips: not while they are to stay as they are, nor before it is known whether they
+   // are.
+   bool mayWrite() const {
+      return phase_ != Phase::frozen && phase_ != Phase::held && phase_ != Phase::disconnected &&
+             ( isStarted_ || !isWarm_ || !isHeld_ );
+   }
    std::string const & reason() const { return reason_; }
    Rex::Seconds phaseSince() const { return phaseSince_; }
    // The plug-in has been started: there was a whole state.
