@@ -64,8 +64,8 @@ void RedisDatabase::since( Position const & position ) {
                   auto const done = std::move( reader_ );
                   follower()->gapIs( reason );
                },
-            .without = [this]( std::string const & reason ) { holdsNothing( reason ); },
-            .lost = [this]( std::string const & reason ) { fails( reason ); } } );
+            .without = [this]( std::string const & reason ) { holdsNothing( reason ); } },
+         [this]( std::string const & reason ) { fails( reason ); } );
    } );
 }
 
