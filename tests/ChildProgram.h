@@ -44,12 +44,11 @@ class ChildProgram {
    }
    pid_t process() const { return process_; }
    bool isThere() const { return process_ > 0; }
-   // By itself.
-   bool hasEnded() const {
+   // Not where it has ended by itself.
+   bool isRunning() const {
       siginfo_t info{};
-      return isThere() &&
-             ( ::waitid( P_PID, static_cast< id_t >( process_ ), &info, WEXITED | WNOHANG | WNOWAIT ) != 0 ||
-               info.si_pid != 0 );
+      return isThere() && ::waitid( P_PID, static_cast< id_t >( process_ ), &info, WEXITED | WNOHANG | WNOWAIT ) == 0 &&
+             info.si_pid == 0;
    }
    // Doesn't run for a while.
    void standsStill() const { ::kill( process_, SIGSTOP ); }
@@ -65,7 +64,7 @@ class ChildProgram {
    }
    int ended() {
       int status = 0;
-      while ( ::waitpid( process_, &status, 0 ) < 0 && errno == EINTR ) {
+      while ( isThere() && ::waitpid( process_, &status, 0 ) < 0 && errno == EINTR ) {
       }
       process_ = 0;
       return WIFSIGNALED( status ) ? 128 + WTERMSIG( status ) : WEXITSTATUS( status );

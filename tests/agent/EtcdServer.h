@@ -107,7 +107,7 @@ class EtcdServer {
             ::usleep( 10'000 );
          }
          for ( auto const & member : members ) {
-            if ( member->hasEnded() ) {
+            if ( member->isThere() && !member->isRunning() ) {
                throw std::runtime_error( "etcd doesn't start: " + member->log() );
             }
          }

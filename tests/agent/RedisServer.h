@@ -40,7 +40,7 @@ class RedisServer {
                    "local" };
       words.insert( words.end(), options_.begin(), options_.end() );
       program_.begins( std::move( words ), folder_ / "log" );
-      while ( !connect() && !program_.hasEnded() ) {
+      while ( !connect() && program_.isRunning() ) {
          ::usleep( 1000 );
       }
       if ( !client_ ) {
