@@ -1,18 +1,11 @@
 // One agent of a slice at a time.
+#include "agent/AnothersMachine.h"
 #include "agent/RedisFollower.h"
 #include "agent/RedisState.h"
-#include "agent/database/LeaseHolder.h"
 
 namespace {
 
 std::string const leaseKey = "l3sm:{1}#lease:Linecard3";
-
-Live::LeaseHolder anothersMachine() {
-   auto holder = Live::LeaseHolder::thisProcess();
-   holder.host = "gauss";
-   holder.boot = "another";
-   return holder;
-}
 
 TEST( RedisLease, isNotTakenFromAnotherSpaceOfProcesses ) {
    auto holder = Live::LeaseHolder::thisProcess();
