@@ -1,5 +1,5 @@
-// How a Redis keeps one agent of a slice at a time: a key with a time, which whoever holds it renews. An etcd has leases
-// of its own (EtcdTest.cpp); who is refused, and who isn't, is alike (CentralAgentsTest.cpp).
+// How a Redis keeps one agent of a slice at a time: a key with a time, which whoever holds it renews. An etcd has
+// leases of its own (EtcdTest.cpp); who is refused, and who isn't, is alike (CentralAgentsTest.cpp).
 #include "agent/AnothersMachine.h"
 #include "agent/RedisFollower.h"
 #include "agent/RedisState.h"
