@@ -56,6 +56,8 @@ class SliceAgent final : public StateFollower {
    Inspection::Scenario const & scenario() const { return scenario_; }
    Simulator::SimulatedSwitch & sw() { return sw_; }
    Simulator::SimulatedSwitch const & sw() const { return sw_; }
+   // Nor before it is known whether the chips are to stay as they are.
+   bool mayWrite() const override { return StateFollower::mayWrite() && ( isStarted() || !isWarm_ || !isHeld_ ); }
    Paths const & published() const { return published_.all(); }
 
  private:

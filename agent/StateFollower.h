@@ -46,7 +46,9 @@ class StateFollower : private Database::Follower {
 
    Phase phase() const { return phase_; }
    // Whether it may write to its chips: not while they are to stay as they are.
-   bool mayWrite() const { return phase_ != Phase::frozen && phase_ != Phase::held && phase_ != Phase::disconnected; }
+   virtual bool mayWrite() const {
+      return phase_ != Phase::frozen && phase_ != Phase::held && phase_ != Phase::disconnected;
+   }
    std::string const & reason() const { return reason_; }
    Rex::Seconds phaseSince() const { return phaseSince_; }
    // The plug-in has been started: there was a whole state.

@@ -71,6 +71,7 @@ class Chaos(Live):
 
     def is_held(self, name):
         self.settle()
+        self.ctl(name, 'freeze')  # no audit repairs what has just befallen the chips
         before = self.chips(name)
         self.kill_counted(name)
         self.apply(20)

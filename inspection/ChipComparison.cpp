@@ -27,12 +27,12 @@ class Comparer {
    }
 
  private:
-   using Runs = ByChip< Programming >;
+   using Runs = ByChip< ProgrammedValues >;
 
    // How many runs there are isn't known before the first ones have told which toggles they read.
    void flipEach( Runs const & base, std::vector< ChipComparison::Flip > & flips ) {
       std::map< std::pair< std::string, std::string >, bool > known;
-      for ( Programming const & run : base ) {
+      for ( ProgrammedValues const & run : base ) {
          for ( auto const & reading : run.toggles ) {
             known[{ reading.file, reading.name }] = reading.state;
          }
@@ -58,7 +58,7 @@ class Comparer {
          Scenario scenario = onChip( scenario_, Hardware::allChipTypes[chip] );
          scenario.description.toggles = toggles;
          try {
-            runs[chip] = programmingOf( scenario, options_.plugin );
+            runs[chip] = programmedValuesOf( scenario, options_.plugin );
          } catch ( InputError const & error ) {
             if ( std::string_view( error.what() ).starts_with( "--plugin" ) ) {
                throw;
@@ -83,7 +83,7 @@ class Comparer {
       return failures;
    }
 
-   static ChipComparison::Changes changesOf( Programming const & before, Programming const & after ) {
+   static ChipComparison::Changes changesOf( ProgrammedValues const & before, ProgrammedValues const & after ) {
       ChipComparison::Changes changes;
       for ( auto const & [place, value] : before.values ) {
          changes[place].before = value;

@@ -178,7 +178,7 @@ U32 number( std::string const & text ) {
 
 } // namespace
 
-Programming programmingOf( Scenario const & scenario, std::string const & plugin ) {
+ProgrammedValues programmedValuesOf( Scenario const & scenario, std::string const & plugin ) {
    Child const child = inChild( [&]( std::ostream & out ) {
       loadPlugin( plugin );
       Run const plain = playOnce( scenario, BootNoise::plain );
@@ -191,7 +191,7 @@ Programming programmingOf( Scenario const & scenario, std::string const & plugin
       }
       out << text.str();
    } );
-   Programming programming;
+   ProgrammedValues programming;
    if ( !child.isFine ) {
       programming.failure = child.errors.empty() ? "the run was ended by a signal" : child.errors;
       return programming;

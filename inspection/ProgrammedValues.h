@@ -1,6 +1,6 @@
 // What a run has programmed: the values that it has set on the chips, without those that it has left alone.
 //
-//    Programming const it = programmingOf( scenario, plugin );
+//    ProgrammedValues const it = programmedValuesOf( scenario, plugin );
 //    it.values.at( { 0, "IppdFerTrapCfg", "[3]", "cpuStrengthN" } );     // "0x5"
 //
 // A boot image holds something everywhere, and something else on every chip; a function that changes a part of an entry
@@ -29,7 +29,7 @@ struct ProgrammedPlace {
    }
 };
 
-struct Programming {
+struct ProgrammedValues {
    std::string failure; // the run's last words, where it didn't come to its end
    std::vector< Toggle::Reading > toggles;
    // The value as a dump has it. Where only some bits of a field were set: "<value>/<those bits>".
@@ -37,6 +37,6 @@ struct Programming {
 };
 
 // InputError where the scenario doesn't fit, or the library can't be loaded.
-Programming programmingOf( Scenario const & scenario, std::string const & plugin );
+ProgrammedValues programmedValuesOf( Scenario const & scenario, std::string const & plugin );
 
 } // namespace Inspection

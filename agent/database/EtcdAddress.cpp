@@ -1,9 +1,9 @@
 #include "agent/database/EtcdAddress.h"
 
+#include "agent/database/DatabaseAddress.h"
 #include "inspection/files/InputError.h"
 
 #include <algorithm>
-#include <cctype>
 #include <fstream>
 #include <string_view>
 
@@ -15,42 +15,17 @@ using Inspection::InputError;
 
 constexpr std::string_view plain = "etcd://";
 constexpr std::string_view secure = "etcds://";
-constexpr std::string_view usualPort = ":2379";
-constexpr std::size_t longestPort = 5;
-constexpr unsigned long lastPort = 65535;
-
-[[noreturn]] void refuse( std::string const & what ) {
-   throw InputError( "the address of the database " + what );
-}
-
-void checkPort( std::string_view text ) {
-   bool const isNumber =
-      !text.empty() && text.size() <= longestPort &&
-      std::ranges::all_of( text, []( unsigned char letter ) { return std::isdigit( letter ) != 0; } );
-   if ( !isNumber || std::stoul( std::string( text ) ) > lastPort || std::stoul( std::string( text ) ) == 0 ) {
-      refuse( "has \"" + std::string( text ) + "\" where a port is expected" );
-   }
-}
+constexpr U16 usualPort = 2379;
 
 std::string memberOf( std::string_view text ) {
-   bool const isBracketed = text.starts_with( '[' ); // an address of IPv6
-   auto const close = text.find( ']' );
-   if ( isBracketed && close == std::string_view::npos ) {
-      refuse( "has a \"[\" without its \"]\"" );
+   if ( text.empty() || text.starts_with( ':' ) || text.starts_with( "[]" ) ) {
+      refuseAddress( "names no host: etcd://host[:port][,host[:port]...][/prefix]" );
    }
-   auto const end = isBracketed ? close + 1 : text.find( ':' );
-   auto const behind = end >= text.size() ? std::string_view() : text.substr( end );
-   if ( text.empty() || end == 0 ) {
-      refuse( "names no host: etcd://host[:port][,host[:port]...][/prefix]" );
+   auto const at = HostPort::of( text, usualPort );
+   if ( at.port == 0 ) {
+      refuseAddress( R"(has "0" where a port is expected)" );
    }
-   if ( !behind.empty() && behind.front() != ':' ) {
-      refuse( "has \"" + std::string( behind ) + "\" behind the host" );
-   }
-   if ( behind.empty() ) {
-      return std::string( text ).append( usualPort );
-   }
-   checkPort( behind.substr( 1 ) );
-   return std::string( text );
+   return at.text();
 }
 
 std::string firstLineOf( std::string const & file ) {
@@ -93,7 +68,7 @@ EtcdAddress EtcdAddress::of( std::string const & url, DatabaseCredentials const 
    EtcdAddress address;
    address.isSecure = url.starts_with( secure );
    if ( !isOne( url ) ) {
-      refuse( "begins neither with etcd:// nor with etcds://" );
+      refuseAddress( "begins neither with etcd:// nor with etcds://" );
    }
    auto rest = std::string_view( url ).substr( address.isSecure ? secure.size() : plain.size() );
    auto const slash = rest.find( '/' );
@@ -102,7 +77,7 @@ EtcdAddress EtcdAddress::of( std::string const & url, DatabaseCredentials const 
    }
    rest = rest.substr( 0, slash );
    if ( rest.find( '@' ) != std::string_view::npos ) {
-      refuse( "has a user in it: that is --database-user NAME, with --database-password FILE" );
+      refuseAddress( "has a user in it: that is --database-user NAME, with --database-password FILE" );
    }
    for ( std::size_t comma = 0; comma != std::string_view::npos;
          rest.remove_prefix( std::min( comma + 1, rest.size() ) ) ) {

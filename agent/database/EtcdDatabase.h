@@ -7,12 +7,13 @@
 // All of it goes to one member of the cluster. When that is lost, stands still, or has no leader, everything is off;
 // the next call goes to the next one.
 //
-// Nothing is asked before the agent has the right to serve its slice (EtcdLease.h). Who stands still for longer than it
-// lasts has lost it, and takes it again, or is refused.
+// Who stands still for longer than the right to serve its slice lasts (EtcdLease.h) has lost it, and takes it again, or
+// is refused.
 //
 // Threading: the agent's loop. Answers come from the loop, never from within a call.
 #pragma once
 
+#include "agent/database/CentralDatabase.h"
 #include "agent/database/EtcdLease.h"
 #include "agent/database/EtcdPublisher.h"
 #include "agent/database/EtcdReader.h"
@@ -20,7 +21,7 @@
 
 namespace Live {
 
-class EtcdDatabase final : public Database {
+class EtcdDatabase final : public CentralDatabase< EtcdClient, EtcdSnapshot, EtcdReader > {
  public:
    EtcdDatabase( EventLoop & loop,
                  EtcdAddress const & address,
@@ -30,18 +31,16 @@ class EtcdDatabase final : public Database {
    ~EtcdDatabase() override;
 
    std::string name() const override { return address_.name(); }
-   void snapshot() override;
-   void since( Position const & position ) override;
    void publish( Report const & report ) override;
-   void stop() override;
 
  private:
-   void withRight( std::function< void() > what );
-   void forgetReader();
-   void ends();
-   void fails( std::string const & reason );
-   void refuses( std::string const & who );
-   void holdsNothing( std::string const & reason );
+   std::unique_ptr< EtcdClient > newConnection() override;
+   void takesRight() override;
+   void givesRightUp() override;
+   std::unique_ptr< EtcdSnapshot > newSnapshot( SnapshotAnswers answers ) override;
+   std::unique_ptr< EtcdReader > newReader( Position const & position, ReaderAnswers answers ) override;
+   void rests() override;
+   void fails( std::string const & reason ) override;
 
    EventLoop & loop_;
    EtcdAddress address_;
@@ -49,13 +48,8 @@ class EtcdDatabase final : public Database {
    EtcdLease lease_;
    EtcdPublisher publisher_;
    std::size_t member_; // that is asked
-   std::unique_ptr< EtcdClient > client_;
-   bool hasRight_ = false;
-   std::function< void() > wanted_; // once we have the right
-   std::unique_ptr< EtcdSnapshot > snapshot_;
-   std::unique_ptr< EtcdReader > reader_;
-   Position read_{}; // where a reader stood,
-   U64 quiet_ = 0;   // and up to which revision nothing had come behind it
+   Position read_{};    // where a reader stood,
+   U64 quiet_ = 0;      // and up to which revision nothing had come behind it
 };
 
 } // namespace Live

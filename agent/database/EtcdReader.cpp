@@ -35,8 +35,8 @@ U64 revisionOf( std::string_view text ) {
 
 EtcdReader::EtcdReader(
    EventLoop & loop, EtcdClient & client, EtcdLayout const & layout, Position position, U64 quiet, Answers answers )
-   : loop_( loop ), client_( client ), layout_( layout ), told_( std::move( position ) ),
-     read_( std::max( revisionOf( told_.entry ), quiet ) ), answers_( std::move( answers ) ) {
+   : StateReader( loop, std::move( position ), std::move( answers ) ), client_( client ), layout_( layout ),
+     read_( std::max( revisionOf( told().entry ), quiet ) ) {
    begin();
 }
 
@@ -51,11 +51,11 @@ void EtcdReader::isCurrently( EtcdReply const & reply ) {
    auto const * const epoch = reply.only();
    if ( !epoch || epoch->value.empty() ) {
       endsWith( answers_.without, noStateText );
-   } else if ( reply.cluster != told_.server ) {
+   } else if ( reply.cluster != told().server ) {
       endsWith( answers_.gap, "another cluster answers" );
    } else if ( reply.revision < read_ ) {
       endsWith( answers_.gap, "the database is behind what it has told: an older one was restored" );
-   } else if ( epoch->value != told_.epoch ) {
+   } else if ( epoch->value != told().epoch ) {
       endsWith( answers_.gap, "another state was loaded" );
    } else {
       std::string const body =
@@ -66,7 +66,7 @@ void EtcdReader::isCurrently( EtcdReply const & reply ) {
 }
 
 void EtcdReader::comes( EtcdReply const & reply ) {
-   if ( end_ ) {
+   if ( hasEnded() ) {
       return;
    }
    if ( reply.isCancelled ) {
@@ -90,7 +90,8 @@ void EtcdReader::comes( EtcdReply const & reply ) {
 }
 
 void EtcdReader::take( std::vector< EtcdEvent > const & events ) {
-   for ( auto at = events.begin(); at != events.end() && !end_; ) {
+   std::vector< Transaction > come;
+   for ( auto at = events.begin(); at != events.end() && !hasEnded(); ) {
       std::vector< EtcdEvent const * > together;
       U64 const revision = at->now.modified;
       for ( ; at != events.end() && at->now.modified == revision; ++at ) {
@@ -102,24 +103,24 @@ void EtcdReader::take( std::vector< EtcdEvent > const & events ) {
            mark != together.end() ) {
          lifeIs( **mark );
       }
-      if ( !end_ ) {
+      if ( !hasEnded() ) {
          auto transaction = transactionOf( together );
-         if ( !end_ ) {
-            page_.push_back( std::move( transaction ) );
+         if ( !hasEnded() ) {
+            come.push_back( std::move( transaction ) );
             read_ = revision;
          }
       }
    }
-   if ( !isWanted_ && page_.size() > mostWaiting && !isResting_ ) {
+   if ( !isWanted() && waiting() + come.size() > mostWaiting && !isResting_ ) {
       isResting_ = true;
       stream_->rests( true );
    }
-   tell();
+   waits( std::move( come ) );
 }
 
 Transaction EtcdReader::transactionOf( std::vector< EtcdEvent const * > const & events ) {
    std::string const entry = std::to_string( events.front()->now.modified );
-   Transaction transaction{ .position = { told_.server, told_.epoch, entry }, .changes = {} };
+   Transaction transaction{ .position = { told().server, told().epoch, entry }, .changes = {} };
    Paths before;
    Paths after;
    for ( auto const * const event : events ) {
@@ -160,49 +161,14 @@ Transaction EtcdReader::transactionOf( std::vector< EtcdEvent const * > const & 
 void EtcdReader::lifeIs( EtcdEvent const & event ) {
    if ( event.isDelete || event.now.value.empty() ) {
       endsWith( answers_.without, noStateText );
-   } else if ( event.now.value != told_.epoch ) {
+   } else if ( event.now.value != told().epoch ) {
       endsWith( answers_.gap, "another state was loaded" );
    }
 }
 
-bool EtcdReader::more( Position const & position ) {
-   if ( !( position == told_ ) ) {
-      return false;
-   }
-   isWanted_ = true;
-   if ( !page_.empty() || end_ ) {
-      loop_.soon( tether_.of( [this] { tell(); } ) );
-   } else if ( std::exchange( isResting_, false ) ) {
+void EtcdReader::readsOn() {
+   if ( std::exchange( isResting_, false ) ) {
       stream_->rests( false );
-   }
-   return true;
-}
-
-void EtcdReader::tell() {
-   if ( !isWanted_ ) {
-      return;
-   }
-   if ( !page_.empty() ) {
-      isWanted_ = false;
-      told_ = page_.back().position;
-      auto page = std::exchange( page_, {} );
-      if ( std::exchange( isResting_, false ) ) {
-         stream_->rests( false );
-      }
-      auto const are = answers_.are; // which may end this
-      are( std::move( page ) );
-   } else if ( end_ ) {
-      isWanted_ = false;
-      auto const ends = end_;
-      ends();
-   }
-}
-
-// It is told when what was read before is done.
-void EtcdReader::endsWith( std::function< void( std::string const & ) > const & answer, std::string const & reason ) {
-   if ( !end_ ) {
-      end_ = [answer, reason] { answer( reason ); };
-      loop_.soon( tether_.of( [this] { tell(); } ) );
    }
 }
 

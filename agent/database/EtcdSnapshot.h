@@ -3,26 +3,21 @@
 //    EtcdSnapshot snapshot( client, layout, { .is = …, .without = …, .fails = … } );
 //    EtcdSnapshot part( client, layout, { … }, partsAt( layout, "evpn/status" ) );
 //
-// It goes on as long as it lives and ends with one of the three, or with the client. From within them it may be
-// destroyed.
+// It goes on as long as it lives and ends with one of the three, or with the client.
 //
 // Threading: the agent's loop.
 #pragma once
 
-#include "agent/database/Database.h"
 #include "agent/database/EtcdClient.h"
 #include "agent/database/EtcdLayout.h"
+#include "agent/database/StateAnswers.h"
 #include "agent/database/Tether.h"
 
 namespace Live {
 
 class EtcdSnapshot {
  public:
-   struct Answers {
-      std::function< void( Snapshot & ) > is;
-      std::function< void( std::string const & ) > without;
-      std::function< void( std::string const & ) > fails;
-   };
+   using Answers = SnapshotAnswers;
    using Parts = std::vector< EtcdRange >;
 
    // `parts`: of the state; without them, all.

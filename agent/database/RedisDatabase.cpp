@@ -26,107 +26,61 @@ RedisDatabase::~RedisDatabase() {
    ends();
 }
 
-void RedisDatabase::snapshot() {
-   reader_.reset();
-   snapshot_.reset();
-   withRight( [this] {
-      snapshot_ = std::make_unique< RedisSnapshot >(
-         *asking_,
-         layout_,
-         RedisSnapshot::Answers{ .is =
-                                    [this]( Snapshot & snapshot ) {
-                                       auto const done = std::move( snapshot_ );
-                                       follower()->snapshotIs( std::move( snapshot ) );
-                                    },
-                                 .without = [this]( std::string const & reason ) { holdsNothing( reason ); },
-                                 .fails = [this]( std::string const & reason ) { fails( name() + ": " + reason ); } } );
-   } );
+// Which names the server by itself.
+RedisConnection::Lost RedisDatabase::lost() {
+   return [this]( std::string const & reason ) { unreachable( reason ); };
 }
 
-void RedisDatabase::since( Position const & position ) {
-   snapshot_.reset();
-   if ( reader_ && reader_->more( position ) ) {
-      return;
-   }
-   reader_.reset();
-   withRight( [this, position] {
-      reader_ = std::make_unique< RedisReader >(
-         loop_,
-         address_,
-         clientName_,
-         layout_,
-         position,
-         RedisReader::Answers{
-            .begins = [this] { follower()->follows(); },
-            .are = [this]( std::vector< Transaction > all ) { follower()->transactionsAre( std::move( all ) ); },
-            .gap =
-               [this]( std::string const & reason ) {
-                  auto const done = std::move( reader_ );
-                  follower()->gapIs( reason );
-               },
-            .without = [this]( std::string const & reason ) { holdsNothing( reason ); },
-            .lost = [this]( std::string const & reason ) { fails( reason ); } } );
-   } );
+std::unique_ptr< RedisConnection > RedisDatabase::newConnection() {
+   return std::make_unique< RedisConnection >( loop_, address_, clientName_, lost() );
 }
 
-void RedisDatabase::publish( Report const & report ) {
-   if ( hasRight_ ) {
-      publisher_.publish(
-         *asking_, report, tether_.of( [this]( std::string const & reason ) { fails( name() + ": " + reason ); } ) );
-   }
-}
-
-void RedisDatabase::stop() {
-   snapshot_.reset();
-   reader_.reset();
-   hearing_.reset();
-   if ( hasRight_ ) {
-      lease_.release( *asking_ );
-      asking_->flush();
-   }
-   ends();
-}
-
-void RedisDatabase::tick() {
-   bool const isSilent = ( asking_ && asking_->silentFor() > patience ) ||
-                         ( hearing_ && hearing_->silentFor() > patience ) ||
-                         ( reader_ && reader_->silentFor() > patience );
-   if ( isSilent ) {
-      fails( name() + ": no answer for " + std::to_string( static_cast< int >( patience ) ) + " s" );
-   } else if ( hasRight_ ) {
-      lease_.take(
-         *asking_, [] {}, [this]( std::string const & who ) { refuses( who ); } );
-      lookAtLog();
-   }
-}
-
-// Runs `what` as soon as we have the right to serve our slice.
-void RedisDatabase::withRight( std::function< void() > what ) {
-   if ( hasRight_ ) {
-      what();
-      return;
-   }
-   wanted_ = std::move( what );
-   if ( asking_ ) {
-      return;
-   }
-   asking_ = std::make_unique< RedisConnection >(
-      loop_, address_, clientName_, [this]( std::string const & reason ) { fails( reason ); } );
+void RedisDatabase::takesRight() {
    lease_.take(
-      *asking_,
+      *connection_,
       [this] {
-         hasRight_ = true;
-         publisher_.begin();
          hearOfEpochs();
-         std::exchange( wanted_, nullptr )();
+         rightIsOurs();
       },
       [this]( std::string const & who ) { refuses( who ); } );
 }
 
+void RedisDatabase::givesRightUp() {
+   lease_.release( *connection_ );
+   connection_->flush();
+}
+
+std::unique_ptr< RedisSnapshot > RedisDatabase::newSnapshot( SnapshotAnswers answers ) {
+   return std::make_unique< RedisSnapshot >( *connection_, layout_, std::move( answers ) );
+}
+
+std::unique_ptr< RedisReader > RedisDatabase::newReader( Position const & position, ReaderAnswers answers ) {
+   return std::make_unique< RedisReader >(
+      loop_, address_, clientName_, layout_, position, std::move( answers ), lost() );
+}
+
+void RedisDatabase::publish( Report const & report ) {
+   if ( hasRight() ) {
+      publisher_.publish( *connection_, report, [this]( std::string const & reason ) { fails( reason ); } );
+   }
+}
+
+void RedisDatabase::tick() {
+   bool const isSilent = ( connection_ && connection_->silentFor() > patience ) ||
+                         ( hearing_ && hearing_->silentFor() > patience ) ||
+                         ( reader_ && reader_->silentFor() > patience );
+   if ( isSilent ) {
+      fails( "no answer for " + std::to_string( static_cast< int >( patience ) ) + " s" );
+   } else if ( hasRight() ) {
+      lease_.take(
+         *connection_, [] {}, [this]( std::string const & who ) { refuses( who ); } );
+      lookAtLog();
+   }
+}
+
 // The server tells who tracks a key that it was changed, and who tracks any that all was flushed.
 void RedisDatabase::hearOfEpochs() {
-   hearing_ = std::make_unique< RedisConnection >(
-      loop_, address_, clientName_, [this]( std::string const & reason ) { fails( reason ); } );
+   hearing_ = newConnection();
    hearing_->ask(
       { "CLIENT", "ID" },
       [this]( RedisReply reply ) {
@@ -135,7 +89,7 @@ void RedisDatabase::hearOfEpochs() {
          }
          std::string const id = std::to_string( reply.number() );
          hearing_->subscribe( "__redis__:invalidate", [this]( RedisReply ) { lookAtLog(); } );
-         asking_->ask(
+         connection_->ask(
             { "CLIENT", "TRACKING", "ON", "REDIRECT", id, "BCAST", "PREFIX", layout_.epoch() },
             [this]( RedisReply ) { lookAtLog(); }, // what changed before
             RedisConnection::Errors::areTold );
@@ -145,35 +99,13 @@ void RedisDatabase::hearOfEpochs() {
 
 void RedisDatabase::lookAtLog() {
    if ( reader_ ) {
-      askState( *asking_, layout_, reader_->judge() );
+      askState( *connection_, layout_, reader_->judge() );
    }
 }
 
-void RedisDatabase::ends() {
-   hasRight_ = false;
-   tether_.cut();
-   wanted_ = nullptr;
+void RedisDatabase::rests() {
    publisher_.begin();
-   snapshot_.reset();
-   reader_.reset();
    hearing_.reset();
-   asking_.reset();
-}
-
-void RedisDatabase::fails( std::string const & reason ) {
-   ends();
-   follower()->unreachable( reason );
-}
-
-void RedisDatabase::refuses( std::string const & who ) {
-   ends();
-   follower()->refused( who );
-}
-
-void RedisDatabase::holdsNothing( std::string const & reason ) {
-   snapshot_.reset();
-   reader_.reset();
-   follower()->withoutState( reason );
 }
 
 } // namespace Live

@@ -8,15 +8,14 @@
 // that the epoch was changed, so that a flushed database is noticed while nothing is written. Where it can't tell that,
 // tick() finds it out.
 //
-// Nothing is asked before the agent has the right to serve its slice (RedisLease.h). Who stands still for longer than
-// it lasts, and finds it taken, is refused.
+// Who stands still for longer than the right to serve its slice lasts (RedisLease.h), and finds it taken, is refused.
 //
 // Transactions come in pages of up to 1,000. One more is read ahead; what waits behind it is in the log.
 //
 // Threading: the agent's loop. Answers come from the loop, never from within a call.
 #pragma once
 
-#include "agent/database/Database.h"
+#include "agent/database/CentralDatabase.h"
 #include "agent/database/RedisLease.h"
 #include "agent/database/RedisPublisher.h"
 #include "agent/database/RedisReader.h"
@@ -24,26 +23,26 @@
 
 namespace Live {
 
-class RedisDatabase final : public Database {
+class RedisDatabase final : public CentralDatabase< RedisConnection, RedisSnapshot, RedisReader > {
  public:
    RedisDatabase( EventLoop & loop, RedisAddress const & address, U32 cell, std::string const & slice );
    ~RedisDatabase() override;
 
    std::string name() const override { return address_.name(); }
-   void snapshot() override;
-   void since( Position const & position ) override;
    void publish( Report const & report ) override;
-   void stop() override;
    void tick() override;
 
  private:
-   void withRight( std::function< void() > what );
+   std::unique_ptr< RedisConnection > newConnection() override;
+   void takesRight() override;
+   void givesRightUp() override;
+   std::unique_ptr< RedisSnapshot > newSnapshot( SnapshotAnswers answers ) override;
+   std::unique_ptr< RedisReader > newReader( Position const & position, ReaderAnswers answers ) override;
+   void rests() override;
+
+   RedisConnection::Lost lost();
    void hearOfEpochs();
    void lookAtLog();
-   void ends();
-   void fails( std::string const & reason );
-   void refuses( std::string const & who );
-   void holdsNothing( std::string const & reason );
 
    EventLoop & loop_;
    RedisAddress address_;
@@ -51,13 +50,7 @@ class RedisDatabase final : public Database {
    std::string clientName_;
    RedisLease lease_;
    RedisPublisher publisher_;
-   std::unique_ptr< RedisConnection > asking_;
-   bool hasRight_ = false;
-   std::function< void() > wanted_; // once we have the right
    std::unique_ptr< RedisConnection > hearing_;
-   std::unique_ptr< RedisSnapshot > snapshot_;
-   std::unique_ptr< RedisReader > reader_;
-   Tether tether_;
 };
 
 } // namespace Live

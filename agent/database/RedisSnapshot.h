@@ -3,24 +3,20 @@
 //
 //    RedisSnapshot snapshot( connection, layout, { .is = …, .without = …, .fails = … } );
 //
-// It goes on as long as it lives and ends with one of the three, or with the connection. From within them it may be
-// destroyed.
+// It goes on as long as it lives and ends with one of the three, or with the connection.
 //
 // Threading: the agent's loop.
 #pragma once
 
 #include "agent/database/RedisLog.h"
+#include "agent/database/StateAnswers.h"
 #include "agent/database/Tether.h"
 
 namespace Live {
 
 class RedisSnapshot {
  public:
-   struct Answers {
-      std::function< void( Snapshot & ) > is;
-      std::function< void( std::string const & ) > without;
-      std::function< void( std::string const & ) > fails;
-   };
+   using Answers = SnapshotAnswers;
 
    // Only the wanted paths are read, where somebody wants some; what lies between may tell of others.
    RedisSnapshot( RedisConnection & connection,

@@ -31,8 +31,8 @@ void RedisWatch::begin( Position const & from ) {
                                                 reader_->more( all.back().position );
                                              },
                                           .gap = [this]( std::string const & reason ) { gap_ = reason; },
-                                          .without = [this]( std::string const & reason ) { failed_ = reason; },
-                                          .lost = [this]( std::string const & reason ) { failed_ = reason; } } );
+                                          .without = [this]( std::string const & reason ) { failed_ = reason; } },
+                    [this]( std::string const & reason ) { failed_ = reason; } );
 }
 
 void RedisWatch::turn() {

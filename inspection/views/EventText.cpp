@@ -1,5 +1,6 @@
 #include "inspection/views/EventText.h"
 
+#include "inspection/EventInput.h"
 #include "inspection/FoldedWrites.h"
 #include "inspection/files/Json.h"
 
@@ -26,16 +27,8 @@ using Block = std::vector< Line >;
 
 class EventText {
  public:
-   EventText( EventRows const & rows, EventTextOptions const & options ) : rows_( rows ), options_( options ) {
-      if ( auto const * kinds = rows.what().object(); kinds && !kinds->empty() && kinds->begin()->second.object() ) {
-         auto const & parts = *kinds->begin()->second.object();
-         for ( char const * part : { "path", "attribute" } ) {
-            if ( auto const found = parts.find( part ); found != parts.end() && found->second.text() ) {
-               cause_ += ( cause_.empty() ? "" : " " ) + *found->second.text();
-            }
-         }
-      }
-   }
+   EventText( EventRows const & rows, EventTextOptions const & options )
+      : rows_( rows ), options_( options ), cause_( EventInput::of( rows.what() ).cause() ) {}
 
    Block block() const {
       Block all;
@@ -209,16 +202,11 @@ class EventText {
       for ( auto const & [what, names] : alike ) {
          auto const & [folder, attribute, change] = what;
          std::string text = "published  " + folder + "/" + names.front();
-         if ( options_.isFull ) {
-            for ( std::size_t name = 1; name < names.size(); ++name ) {
-               text += ", " + names[name];
-            }
-         } else {
-            for ( std::size_t name = 1; name < std::min( names.size(), mostPaths ); ++name ) {
-               text += ", " + names[name];
-            }
-            text += names.size() > mostPaths ? " and " + std::to_string( names.size() - mostPaths ) + " more" : "";
+         std::size_t const told = options_.isFull ? names.size() : std::min( names.size(), mostPaths );
+         for ( std::size_t name = 1; name < told; ++name ) {
+            text += ", " + names[name];
          }
+         text += names.size() > told ? " and " + std::to_string( names.size() - told ) + " more" : "";
          text += ( attribute.empty() ? "" : "  " + attribute ) + "  " + change;
          all.push_back( { 2, text } );
       }
@@ -279,7 +267,7 @@ class EventText {
 
    EventRows const & rows_;
    EventTextOptions const & options_;
-   std::string cause_;
+   std::string const cause_;
 };
 
 } // namespace
@@ -287,9 +275,8 @@ class EventText {
 void writeEvent( Lines & lines, EventRows const & rows, EventTextOptions const & options ) {
    lines.title( "Event " + std::to_string( rows.event() ) + ": " + eventText( rows.what() ) );
    if ( rows.counts().isEmpty() ) {
-      bool const isFault = rows.what().object() && rows.what().object()->contains( "fault" );
       lines.put( 2,
-                 isFault           ? "from now on; it hasn't fired yet"
+                 EventInput::of( rows.what() ).kind == EventInput::Kind::fault ? "from now on; it hasn't fired yet"
                  : rows.isBroken() ? "the run broke off in it, before anything was done"
                                    : rows.reach().silence() );
       lines.blank();

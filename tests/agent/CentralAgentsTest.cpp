@@ -1,4 +1,5 @@
 // What agents leave in a central database of any kind: what they tell of themselves, and that there is one of a slice.
+#include "agent/AnothersMachine.h"
 #include "agent/CentralServer.h"
 #include "agent/DatabaseFollower.h"
 
@@ -96,13 +97,6 @@ struct CentralLease : testing::TestWithParam< char const * > {
 };
 
 INSTANTIATE_TEST_SUITE_P( Every, CentralLease, testing::ValuesIn( centralServers ), nameOfServer );
-
-Live::LeaseHolder anothersMachine() {
-   auto holder = Live::LeaseHolder::thisProcess();
-   holder.host = "gauss";
-   holder.boot = "another";
-   return holder;
-}
 
 TEST_P( CentralLease, refusesTheSecondAgentOfASlice ) {
    server->load();

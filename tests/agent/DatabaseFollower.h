@@ -123,6 +123,7 @@ class DatabaseFollower : public Live::Database::Follower {
    std::size_t count = 0; // of the transactions
    std::vector< std::string > told;
    bool isFollowing = false;
+   bool waitsToTryAgain = false;   // after a broken connection, or without a state
    bool hasBegun = false;          // what is written is heard of
    bool rests = false;             // it asks for no more
    bool takesUpWhereItWas = false; // after a broken connection: from its position on, not with a snapshot
@@ -133,7 +134,9 @@ class DatabaseFollower : public Live::Database::Follower {
       isFollowing = false;
    }
    void later() {
+      waitsToTryAgain = true;
       again_ = loop.timer( 0.002, [this] {
+         waitsToTryAgain = false;
          if ( takesUpWhereItWas && !position.server.empty() ) {
             isFollowing = true;
             database.since( position );

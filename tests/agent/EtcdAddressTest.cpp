@@ -37,6 +37,9 @@ TEST( EtcdAddress, isRefusedWithAClearReason ) {
    EXPECT_EQ( reasonFor( "etcd://db1,,db2" ),
               "the address of the database names no host: etcd://host[:port][,host[:port]...][/prefix]" );
    EXPECT_EQ( reasonFor( "etcd://db:70000" ), "the address of the database has \"70000\" where a port is expected" );
+   EXPECT_EQ( reasonFor( "etcd://db:0" ), "the address of the database has \"0\" where a port is expected" );
+   EXPECT_EQ( reasonFor( "etcd://[]:7" ),
+              "the address of the database names no host: etcd://host[:port][,host[:port]...][/prefix]" );
    EXPECT_EQ( reasonFor( "etcd://[::1" ), "the address of the database has a \"[\" without its \"]\"" );
    EXPECT_EQ( reasonFor( "etcd://me:secret@db" ),
               "the address of the database has a user in it: that is --database-user NAME, with --database-password "

@@ -6,16 +6,12 @@
 //    server.members[server.leader()]->dies();                // kill -9
 #pragma once
 
+#include "ChildProgram.h"
 #include "Folder.h"
 #include "agent/database/EtcdSession.h"
 
-#include <csignal>
-#include <fcntl.h>
 #include <gtest/gtest.h>
 #include <memory>
-#include <sys/prctl.h>
-#include <sys/wait.h>
-#include <unistd.h>
 
 // An address that belongs to this process: those of the loopback are many, and numbers of processes have 22 bits.
 inline std::string addressOfThisProcess() {
@@ -24,14 +20,9 @@ inline std::string addressOfThisProcess() {
    return "127." + std::to_string( 64 + ( number >> 16 & 63U ) ) + "." + part( 8 ) + "." + part( 0 );
 }
 
-class EtcdMember {
+class EtcdMember : public ChildProgram {
  public:
-   using Words = std::vector< std::string >;
-
    EtcdMember( Folder const & folder, unsigned number ) : folder_( folder ), number_( number ) {}
-   ~EtcdMember() { dies(); }
-   EtcdMember( EtcdMember const & ) = delete;
-   EtcdMember & operator=( EtcdMember const & ) = delete;
 
    std::string name() const { return "m" + std::to_string( number_ ); }
    std::string host() const { return addressOfThisProcess() + ":" + std::to_string( 2379 + 2 * number_ ); }
@@ -65,37 +56,12 @@ class EtcdMember {
                    "--election-timeout",
                    "300" };
       words.insert( words.end(), options.begin(), options.end() );
-      std::vector< char * > arguments;
-      for ( auto & word : words ) {
-         arguments.push_back( word.data() );
-      }
-      arguments.push_back( nullptr );
-      process_ = ::fork();
-      if ( process_ == 0 ) {
-         ::prctl( PR_SET_PDEATHSIG, SIGKILL );
-         int const to = ::open( ( folder_ / ( name() + ".log" ) ).c_str(), O_WRONLY | O_CREAT | O_APPEND, 0600 );
-         ::dup2( to, STDOUT_FILENO );
-         ::dup2( to, STDERR_FILENO );
-         ::execvp( arguments[0], arguments.data() );
-         ::_exit( 127 );
-      }
+      ChildProgram::begins( std::move( words ), folder_ / ( name() + ".log" ) );
    }
-   void dies() {
-      if ( process_ > 0 ) {
-         ::kill( process_, SIGKILL );
-         ::waitpid( process_, nullptr, 0 );
-         process_ = 0;
-      }
-   }
-   bool isThere() const { return process_ > 0; }
-   bool hasEnded() const { return process_ > 0 && ::waitpid( process_, nullptr, WNOHANG ) != 0; }
-   void standsStill() const { ::kill( process_, SIGSTOP ); }
-   void goesOn() const { ::kill( process_, SIGCONT ); }
 
  private:
    Folder const & folder_;
    unsigned number_;
-   pid_t process_ = 0;
 };
 
 class EtcdServer {
@@ -141,7 +107,7 @@ class EtcdServer {
             ::usleep( 10'000 );
          }
          for ( auto const & member : members ) {
-            if ( member->hasEnded() ) {
+            if ( member->isThere() && !member->isRunning() ) {
                throw std::runtime_error( "etcd doesn't start: " + member->log() );
             }
          }

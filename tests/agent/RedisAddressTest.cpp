@@ -42,6 +42,8 @@ TEST( RedisAddress, isRefusedWithAClearReason ) {
               "the address of the database has \"x\" where the number of a database is expected" );
    EXPECT_EQ( reasonFor( "redis+unix://path" ),
               "the address of the database has no path of a socket: redis+unix:///path.sock" );
+   EXPECT_EQ( reasonFor( "redis://db:0" ), "the address of the database names no host: redis://host[:port][/n]" );
+   EXPECT_EQ( reasonFor( "redis://[::1]x" ), "the address of the database has \"x\" behind the host" );
    EXPECT_EQ( reasonFor( "redis://[::1" ), "the address of the database has a \"[\" without its \"]\"" );
 }
 

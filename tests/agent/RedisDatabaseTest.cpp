@@ -1,4 +1,5 @@
-// A state in a Redis, followed: the whole, and what is written then.
+// What a Redis alone tells who follows: entries of its log, which may be half readable. An etcd has no log: what can't
+// be read there is a value (EtcdTest.cpp). What both do is in CentralDatabaseTest.cpp.
 #include "agent/RedisFollower.h"
 #include "agent/RedisState.h"
 

@@ -1,4 +1,9 @@
-// What may happen to a server, and to what it holds: who follows ends with what it holds, or is told why not.
+// What may happen to a Redis, and to what it holds: who follows ends with what it holds, or is told why not.
+//
+// It is a Redis's alone: a log beside the state (an etcd's revisions can't be trimmed apart from it), keys of several
+// kinds, a limit of output, the time in which it loads, its memory, one server whose standing still is the end. What
+// befalls any database is in CentralDatabaseTest.cpp; a cluster, its space and its users, in EtcdFaultsTest.cpp and
+// EtcdTest.cpp.
 #include "agent/RedisFollower.h"
 #include "agent/RedisState.h"
 

@@ -1,18 +1,12 @@
-// One agent of a slice at a time.
+// How a Redis keeps one agent of a slice at a time: a key with a time, which whoever holds it renews. An etcd has
+// leases of its own (EtcdTest.cpp); who is refused, and who isn't, is alike (CentralAgentsTest.cpp).
+#include "agent/AnothersMachine.h"
 #include "agent/RedisFollower.h"
 #include "agent/RedisState.h"
-#include "agent/database/LeaseHolder.h"
 
 namespace {
 
 std::string const leaseKey = "l3sm:{1}#lease:Linecard3";
-
-Live::LeaseHolder anothersMachine() {
-   auto holder = Live::LeaseHolder::thisProcess();
-   holder.host = "gauss";
-   holder.boot = "another";
-   return holder;
-}
 
 TEST( RedisLease, isNotTakenFromAnotherSpaceOfProcesses ) {
    auto holder = Live::LeaseHolder::thisProcess();

@@ -6,26 +6,20 @@
 //    server.starts();
 #pragma once
 
+#include "ChildProgram.h"
 #include "Folder.h"
 #include "agent/database/RedisAddress.h"
 #include "agent/database/RedisReply.h"
 
-#include <csignal>
 #include <gtest/gtest.h>
 #include <memory>
-#include <sys/prctl.h>
-#include <sys/wait.h>
-#include <unistd.h>
 
 class RedisServer {
  public:
-   using Words = std::vector< std::string >;
+   using Words = ChildProgram::Words;
 
    explicit RedisServer( Words options = {} ) : options_( std::move( options ) ) { starts(); }
    void optionsAre( Words options ) { options_ = std::move( options ); }
-   ~RedisServer() { dies(); }
-   RedisServer( RedisServer const & ) = delete;
-   RedisServer & operator=( RedisServer const & ) = delete;
 
    std::string url() const { return "redis+unix://" + socket(); }
    Live::RedisAddress address() const { return Live::RedisAddress::of( url() ); }
@@ -42,41 +36,24 @@ class RedisServer {
                    "",
                    "--appendonly",
                    "no",
-                   "--logfile",
-                   folder_ / "log",
                    "--enable-debug-command",
                    "local" };
       words.insert( words.end(), options_.begin(), options_.end() );
-      std::vector< char * > arguments;
-      for ( auto & word : words ) {
-         arguments.push_back( word.data() );
-      }
-      arguments.push_back( nullptr );
-      process_ = ::fork();
-      if ( process_ == 0 ) {
-         ::prctl( PR_SET_PDEATHSIG, SIGKILL );
-         ::execvp( arguments[0], arguments.data() );
-         ::_exit( 127 );
-      }
-      while ( !connect() && ::waitpid( process_, nullptr, WNOHANG ) == 0 ) {
+      program_.begins( std::move( words ), folder_ / "log" );
+      while ( !connect() && program_.isRunning() ) {
          ::usleep( 1000 );
       }
       if ( !client_ ) {
-         process_ = 0;
+         program_.dies();
          throw std::runtime_error( "redis-server doesn't start: " + folder_.text( "log" ) );
       }
    }
    void dies() {
       client_.reset();
-      if ( process_ > 0 ) {
-         ::kill( process_, SIGKILL );
-         ::waitpid( process_, nullptr, 0 );
-         process_ = 0;
-      }
+      program_.dies();
    }
-   // Doesn't run for a while.
-   void standsStill() const { ::kill( process_, SIGSTOP ); }
-   void goesOn() const { ::kill( process_, SIGCONT ); }
+   void standsStill() const { program_.standsStill(); }
+   void goesOn() const { program_.goesOn(); }
    // What it will hold when it starts again: what it holds now.
    void keepsDump() { ask( { "SAVE" } ); }
 
@@ -148,6 +125,6 @@ class RedisServer {
 
    Folder folder_;
    Words options_;
-   pid_t process_ = 0;
+   ChildProgram program_;
    std::unique_ptr< redisContext, Free > client_;
 };

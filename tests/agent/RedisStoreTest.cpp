@@ -1,4 +1,5 @@
-// How a state is written into a Redis: hashes, set of paths and log.
+// How a state is written into a Redis: hashes, set of paths and log, none of which an etcd has. What writers do anywhere
+// is in StateWriterTest.cpp.
 #include "agent/database/RedisStore.h"
 #include "agent/RedisState.h"
 #include "agent/database/StateWriter.h"

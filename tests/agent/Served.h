@@ -7,69 +7,29 @@
 //    agent.ctl( "show" );                        // what `l3sm ctl --json show` prints
 #pragma once
 
+#include "ChildProgram.h"
 #include "Folder.h"
 
-#include <csignal>
-#include <fcntl.h>
-#include <sys/prctl.h>
-#include <sys/wait.h>
-#include <unistd.h>
-
-class ServedAgent {
+class ServedAgent : public ChildProgram {
  public:
-   ServedAgent( Folder const & folder,
-                std::string slice,
-                std::string const & theSwitch,
-                std::string database,
-                std::vector< std::string > more = {} )
+   ServedAgent(
+      Folder const & folder, std::string slice, std::string const & theSwitch, std::string database, Words more = {} )
       : folder_( folder ), slice_( std::move( slice ) ), database_( std::move( database ) ),
         more_( std::move( more ) ) {
       folder_.file( slice_ + ".json", theSwitch );
       starts();
    }
-   ~ServedAgent() { dies(); }
-   ServedAgent( ServedAgent const & ) = delete;
-   ServedAgent & operator=( ServedAgent const & ) = delete;
 
    void starts() {
-      std::vector< std::string > words{
-         program(), "serve", folder_ / ( slice_ + ".json" ), "--slice", slice_, "--socket", socket() };
+      Words words{ program(), "serve", folder_ / ( slice_ + ".json" ), "--slice", slice_, "--socket", socket() };
       if ( !database_.empty() ) {
          words.insert( words.end(), { "--database", database_ } );
       }
       words.insert( words.end(), more_.begin(), more_.end() );
-      std::vector< char * > arguments;
-      for ( auto & word : words ) {
-         arguments.push_back( word.data() );
-      }
-      arguments.push_back( nullptr );
-      process_ = ::fork();
-      if ( process_ == 0 ) {
-         ::prctl( PR_SET_PDEATHSIG, SIGKILL );
-         int const log = ::open( ( folder_ / ( slice_ + ".log" ) ).c_str(), O_WRONLY | O_CREAT | O_APPEND, 0600 );
-         ::dup2( log, STDERR_FILENO );
-         ::execv( arguments[0], arguments.data() );
-         ::_exit( 127 );
-      }
+      begins( words, folder_ / ( slice_ + ".log" ) );
    }
    // Its further options, from the next start on.
-   void moreIs( std::vector< std::string > more ) { more_ = std::move( more ); }
-   void dies() { endsBy( SIGKILL ); }
-   // Its exit status; 128 and the signal where one ended it.
-   int endsBy( int signal ) {
-      if ( process_ <= 0 ) {
-         return 0;
-      }
-      ::kill( process_, signal );
-      return ended();
-   }
-   int ended() {
-      int status = 0;
-      ::waitpid( process_, &status, 0 );
-      process_ = 0;
-      return WIFSIGNALED( status ) ? 128 + WTERMSIG( status ) : WEXITSTATUS( status );
-   }
-   pid_t process() const { return process_; }
+   void moreIs( Words more ) { more_ = std::move( more ); }
    std::string log() const { return folder_.text( slice_ + ".log" ); }
    std::string socket() const { return folder_ / ( slice_ + ".ctl" ); }
 
@@ -108,6 +68,5 @@ class ServedAgent {
    Folder const & folder_;
    std::string slice_;
    std::string database_;
-   std::vector< std::string > more_;
-   pid_t process_ = 0;
+   Words more_;
 };

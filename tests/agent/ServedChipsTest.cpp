@@ -119,9 +119,13 @@ TEST_F( ServedChips, failAgainAsTheyDidWhereWhatWasRecordedIsPlayed ) {
 }
 
 TEST_F( ServedChips, areHeldAsTheyAreUntilSomebodyDecides ) {
-   ServedAgent agent( folder, "Linecard3", one, "", { "--chips-file", folder / "chips", "--on-drift", "hold" } );
+   ServedAgent agent(
+      folder, "Linecard3", one, "", { "--chips-file", folder / "chips", "--on-drift", "hold", "--audit", "0" } );
    ASSERT_TRUE( agent.isSoon( "running" ) ) << agent.log();
+   auto const right = agent.ctl( "show" );
+   agent.ctl( "fault add IppdFerTrapCfg[3] --copy 0 --kind flip:3" );
    auto const before = agent.ctl( "show" );
+   EXPECT_NE( before, right );
    agent.dies();
    folder.file( "Linecard3.json", switchWith( fap( 0 ), true ) );
    agent.starts();
@@ -134,7 +138,7 @@ TEST_F( ServedChips, areHeldAsTheyAreUntilSomebodyDecides ) {
    EXPECT_THAT( agent.ctl( "repair" ), HasSubstr( "\"phase\": \"running\"" ) );
    ASSERT_TRUE( agent.isSoon( "running" ) );
    EXPECT_THAT( agent.ctl( "status" ), HasSubstr( "\"drift\": 0" ) );
-   EXPECT_EQ( agent.ctl( "show" ), before ); // committed, and then taken back
+   EXPECT_EQ( agent.ctl( "show" ), right ); // committed, and then taken back
    EXPECT_GT( std::stoi( metric( agent, "l3sm_start_changing_writes" ) ), 0 );
 }
 

@@ -6,13 +6,10 @@
 //    EXPECT_EQ( l3sm.wait(), 128 + SIGTERM );
 #pragma once
 
+#include "ChildProgram.h"
 #include "l3sm/Command.h"
 
-#include <csignal>
-#include <fcntl.h>
 #include <sys/stat.h>
-#include <unistd.h>
-#include <vector>
 
 class Running {
  public:
@@ -28,19 +25,12 @@ class Running {
       }
       std::string const line = "cd '" + folder_.string() + "' && exec '" L3SM_BINARY_DIR "/bin/l3sm' " + arguments +
                                " </dev/null >.out 2>.errors";
-      child_ = ::fork();
-      if ( child_ == 0 ) {
-         ::execl( "/bin/sh", "sh", "-c", line.c_str(), nullptr );
-         ::_exit( 127 );
-      }
+      child_.begins( { "/bin/sh", "-c", line }, folder_ / ".errors" );
    }
    Running( Running const & ) = delete;
    Running & operator=( Running const & ) = delete;
    ~Running() {
-      if ( child_ > 0 ) {
-         kill( SIGKILL );
-         wait();
-      }
+      child_.dies();
       if ( pipe_ >= 0 ) {
          ::close( pipe_ );
       }
@@ -55,7 +45,7 @@ class Running {
    // Until a signal has its usual effect.
    bool waitsUntilNotCaught( int signal ) {
       return until( [&] {
-         std::istringstream status( contentsOf( "/proc/" + std::to_string( child_ ) + "/status" ) );
+         std::istringstream status( contentsOf( "/proc/" + std::to_string( child_.process() ) + "/status" ) );
          for ( std::string line; std::getline( status, line ); ) {
             if ( line.starts_with( "SigCgt:" ) ) {
                return ( std::stoull( line.substr( 7 ), nullptr, 16 ) >> ( signal - 1 ) & 1 ) == 0;
@@ -75,15 +65,9 @@ class Running {
       } );
    }
 
-   void kill( int signal ) const { ::kill( child_, signal ); }
+   void kill( int signal ) const { ::kill( child_.process(), signal ); }
    // Its exit status; 128 + signal where a signal ended it, as shells say it.
-   int wait() {
-      int status = 0;
-      while ( child_ > 0 && ::waitpid( child_, &status, 0 ) < 0 && errno == EINTR ) {
-      }
-      child_ = 0;
-      return WIFSIGNALED( status ) ? 128 + WTERMSIG( status ) : WEXITSTATUS( status );
-   }
+   int wait() { return child_.ended(); }
    std::string file( std::string const & name ) const { return contentsOf( folder_ / name ); }
    std::string output() const { return file( ".out" ); }
    std::string errors() const { return file( ".errors" ); }
@@ -92,9 +76,7 @@ class Running {
    template< class Condition >
    bool until( Condition const & holds ) const {
       while ( !holds() ) {
-         siginfo_t info{};
-         if ( ::waitid( P_PID, static_cast< id_t >( child_ ), &info, WEXITED | WNOHANG | WNOWAIT ) != 0 ||
-              info.si_pid != 0 ) {
+         if ( !child_.isRunning() ) {
             return holds();
          }
          ::usleep( 1000 );
@@ -104,5 +86,5 @@ class Running {
 
    std::filesystem::path const folder_;
    int pipe_ = -1;
-   pid_t child_ = 0;
+   ChildProgram child_;
 };
