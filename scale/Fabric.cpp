@@ -68,7 +68,7 @@ Seen Fabric::seen( std::function< void() > const & what ) {
               .last = percentile( lags_, 1 ),
               .worked = cluster_.worked() - worked };
    auto const & assumed = cluster_.costs().assumed;
-   seen.share = seen.worked / seen.lasted / static_cast< double >( assumed.members * assumed.cores );
+   seen.share = std::min( 1.0, seen.worked / seen.lasted / static_cast< double >( assumed.members * assumed.cores ) );
    seen.counts = { after.writes - before.writes,
                    after.deliveries - before.deliveries,
                    after.reports - before.reports,

@@ -7,7 +7,8 @@ namespace Scale {
 
 FabricCluster::FabricCluster( VirtualTime & time, Costs const & costs, Paths state )
    : time_( time ), costs_( costs ),
-     members_( costs.assumed.members, { std::vector< VirtualTime::Nanoseconds >( costs.assumed.cores ), {}, true } ),
+     members_( costs.assumed.members,
+               { std::vector< VirtualTime::Nanoseconds >( costs.assumed.cores ), {}, {}, true } ),
      state_( std::make_shared< Paths >( std::move( state ) ) ) {}
 
 void FabricCluster::works( std::size_t member, Rex::Seconds cost, std::function< void() > done ) {
@@ -92,8 +93,19 @@ std::size_t FabricCluster::memberFor( std::size_t wanted ) const {
 
 void FabricCluster::dies( std::size_t member ) {
    members_[member].isUp = false;
-   for ( auto * const watch : std::exchange( members_[member].watches, {} ) ) {
-      watch->isLost();
+   members_[member].watches.clear();
+   for ( auto * const client : std::exchange( members_[member].clients, {} ) ) {
+      client->isLost();
+   }
+}
+
+void FabricCluster::comes( std::size_t member, Client & client ) {
+   members_[member].clients.push_back( &client );
+}
+
+void FabricCluster::goes( Client & client ) {
+   for ( auto & member : members_ ) {
+      std::erase( member.clients, &client );
    }
 }
 

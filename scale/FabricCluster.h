@@ -33,6 +33,11 @@ class FabricCluster {
       virtual ~Watch() = default;
       // On the wire already.
       virtual void comes( Told const & transaction ) = 0;
+   };
+   // Who has a connection to a member.
+   class Client {
+    public:
+      virtual ~Client() = default;
       virtual void isLost() = 0;
    };
    struct Counts {
@@ -63,6 +68,8 @@ class FabricCluster {
    bool isUp( std::size_t member ) const { return members_[member].isUp; }
    std::size_t memberFor( std::size_t wanted ) const;
    void dies( std::size_t member );
+   void comes( std::size_t member, Client & client );
+   void goes( Client & client );
    // From behind a revision on; false: that is compacted.
    bool watch( std::size_t member, Watch & watch, U64 behind );
    void forget( Watch & watch );
@@ -74,6 +81,7 @@ class FabricCluster {
    struct Member {
       std::vector< VirtualTime::Nanoseconds > busyUntil; // its processors
       std::vector< Watch * > watches;
+      std::vector< Client * > clients;
       bool isUp = true;
    };
 
