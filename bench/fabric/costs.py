@@ -7,6 +7,7 @@
     read        the whole state, in pages   a key of a snapshot
     bare        agents start without state  a start, without what it grows with
     start       agents start                a key that is published
+    nobody      nothing happens, no agents  what the server does for itself
     idle        nothing happens             leases, for each agent and second
     frozen      all follow, none plays      a delivery, for each change and agent
     spaced      a change when the one before is reported by all: a report
@@ -20,7 +21,7 @@ import tempfile, time
 from agents import Agents, PATHS_OF_AN_INTERFACE, load
 from proxy import Proxy
 
-INTERFACES, IDLE = 1000, 8.0
+INTERFACES, IDLE = 1000, 12.0
 KEYS = INTERFACES * PATHS_OF_AN_INTERFACE
 PUBLISHED = 2 * INTERFACES  # each has its status, and that it is managed
 
@@ -71,6 +72,8 @@ class Steps:
                 change(number)
         with self.named('read', Step(server)):
             server.read_all(1)
+        with self.named('nobody', Step(server)):
+            time.sleep(IDLE)
         for name, those in (('bare', bare), ('start', agents)):
             with self.named(name, Step(server, those, proxy)):
                 those.begin()
@@ -124,7 +127,7 @@ def costs_of(steps, counted):
     return {
         'server': {'write': write, 'delivery': delivery, 'report': report, 'snapshot key': read,
                    'published key': (start.of_server - bare.of_server - read * KEYS * count) / (PUBLISHED * count),
-                   'start': bare.of_server / count, 'idle second': idle / count, 'sync': step['written'].sync_seconds / step['written'].syncs},
+                   'start': bare.of_server / count, 'idle second': (idle - step['nobody'].of_server / IDLE) / count, 'sync': step['written'].sync_seconds / step['written'].syncs},
         'agent': {'delivery': plays, 'report': reports, 'start': bare.of_agents / count,
                   'snapshot key': (start.of_agents - bare.of_agents) / (KEYS * count)},
         'bytes': {'delivery': counted.of_each('frozen', Steps.AT_ONCE, 'read'),

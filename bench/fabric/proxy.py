@@ -24,12 +24,22 @@ class Proxy:
                 self.url = self.server.url_at(listening.sockets[0].getsockname())
             ready.set()
         self.loop.create_task(listens())
-        threading.Thread(target=self.loop.run_forever, daemon=True).start()
+        self.thread = threading.Thread(target=self.loop.run_forever, daemon=True)
+        self.thread.start()
         ready.wait()
         return self
 
     def __exit__(self, *_):
-        self.loop.call_soon_threadsafe(self.loop.stop)
+        self.loop.set_exception_handler(lambda *_: None)  # of connections that are cut in the middle
+
+        async def ends():
+            others = asyncio.all_tasks() - {asyncio.current_task()}
+            for each in others:
+                each.cancel()
+            await asyncio.gather(*others, return_exceptions=True)
+            self.loop.stop()
+        asyncio.run_coroutine_threadsafe(ends(), self.loop)
+        self.thread.join(5)
 
     async def serves(self, reader, writer):
         there = self.server.address
