@@ -4,6 +4,7 @@
 #include <cerrno>
 #include <chrono>
 #include <csignal>
+#include <stdexcept>
 #include <system_error>
 #include <systemd/sd-daemon.h>
 #include <systemd/sd-event.h>
@@ -34,6 +35,20 @@ struct EventLoop::Source::Impl {
    std::exception_ptr * failure = nullptr;
    sd_event_source * source = nullptr;
    std::function< void( U32 ) > ready;
+   // Of a timer, where time is virtual.
+   VirtualTime * time = nullptr;
+   VirtualTime::Processor * processor = nullptr;
+   VirtualTime::Appointment appointment = {};
+
+   void comesBy( Rex::Seconds after ) {
+      appointment = time->appointment(
+         after,
+         [this] {
+            auto const call = ready; // which may end this source
+            call( 0 );
+         },
+         processor );
+   }
 
    ~Impl() { sd_event_source_disable_unref( source ); }
 
@@ -66,11 +81,18 @@ void EventLoop::Source::eventsIs( U32 events ) {
 }
 
 void EventLoop::Source::timeIs( Rex::Seconds after ) {
+   if ( impl_->time ) {
+      impl_->comesBy( after );
+      return;
+   }
    checked( sd_event_source_set_time_relative( impl_->source, inMicroseconds( after ) ), "time of a timer" );
    checked( sd_event_source_set_enabled( impl_->source, SD_EVENT_ONESHOT ), "timer" );
 }
 
-EventLoop::EventLoop() : loop_( nullptr ) {
+EventLoop::EventLoop( VirtualTime & time )
+   : time_( &time ), processor_( std::make_unique< VirtualTime::Processor >() ) {}
+
+EventLoop::EventLoop() {
    checked( sd_event_new( &loop_ ), "event loop" );
    deferred_ = std::make_unique< Source::Impl >();
    *deferred_ = { loop_, &failure_, nullptr, [this]( U32 ) {
@@ -94,7 +116,14 @@ EventLoop::~EventLoop() {
    sd_event_unref( loop_ );
 }
 
+void EventLoop::refuseVirtual() const {
+   if ( time_ ) {
+      throw std::logic_error( "a loop of virtual time has neither files nor signals, and runs with its time" );
+   }
+}
+
 EventLoop::Source EventLoop::io( int file, U32 events, std::function< void( U32 ) > ready ) {
+   refuseVirtual();
    auto impl = std::make_unique< Source::Impl >();
    *impl = { loop_, &failure_, nullptr, std::move( ready ) };
    checked( sd_event_add_io(
@@ -112,6 +141,13 @@ EventLoop::Source EventLoop::io( int file, U32 events, std::function< void( U32 
 
 EventLoop::Source EventLoop::timer( Rex::Seconds after, std::function< void() > come ) {
    auto impl = std::make_unique< Source::Impl >();
+   if ( time_ ) {
+      impl->ready = [does = std::move( come )]( U32 ) { does(); };
+      impl->time = time_;
+      impl->processor = processor_.get();
+      impl->comesBy( after );
+      return Source( std::move( impl ) );
+   }
    *impl = { loop_, &failure_, nullptr, [does = std::move( come )]( U32 ) { does(); } };
    checked(
       sd_event_add_time_relative(
@@ -127,6 +163,7 @@ EventLoop::Source EventLoop::timer( Rex::Seconds after, std::function< void() > 
 }
 
 EventLoop::Source EventLoop::signal( int number, std::function< void() > come ) {
+   refuseVirtual();
    sigset_t set;
    sigemptyset( &set );
    sigaddset( &set, number );
@@ -146,15 +183,23 @@ EventLoop::Source EventLoop::signal( int number, std::function< void() > come ) 
 }
 
 void EventLoop::soon( std::function< void() > what ) {
+   if ( time_ ) {
+      time_->after( 0, std::move( what ), processor_.get() );
+      return;
+   }
    soon_.push_back( std::move( what ) );
    checked( sd_event_source_set_enabled( deferred_->source, SD_EVENT_ONESHOT ), "what is to be done soon" );
 }
 
 Rex::Seconds EventLoop::clock() {
+   if ( auto const * const time = VirtualTime::ofProcess() ) {
+      return time->now();
+   }
    return std::chrono::duration< double >( std::chrono::steady_clock::now().time_since_epoch() ).count();
 }
 
 int EventLoop::run() {
+   refuseVirtual();
    int const status = checked( sd_event_loop( loop_ ), "event loop" );
    if ( failure_ ) {
       std::rethrow_exception( std::exchange( failure_, nullptr ) );
@@ -163,10 +208,13 @@ int EventLoop::run() {
 }
 
 void EventLoop::end( int status ) {
-   sd_event_exit( loop_, status );
+   if ( loop_ ) {
+      sd_event_exit( loop_, status );
+   }
 }
 
 bool EventLoop::turn( Rex::Seconds wait ) {
+   refuseVirtual();
    int const served = checked( sd_event_run( loop_, inMicroseconds( wait ) ), "event loop" );
    if ( failure_ ) {
       std::rethrow_exception( std::exchange( failure_, nullptr ) );

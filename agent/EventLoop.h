@@ -8,17 +8,16 @@
 // Whenever the loop calls somebody, the clock of the process (rex/Clock.h) stands at its time: nobody else asks the
 // machine what time it is.
 //
+// A loop may have a virtual time (VirtualTime.h) in place of the machine's: then whoever drives that drives it, too.
+//
 // An exception that leaves a call ends the loop, and run() throws it.
 //
 // Threading: everything runs on the thread that runs the loop.
 #pragma once
 
-#include "corvo/Types.h"
-#include "rex/Clock.h"
+#include "agent/VirtualTime.h"
 
 #include <exception>
-#include <functional>
-#include <memory>
 #include <vector>
 
 struct sd_event;
@@ -47,6 +46,7 @@ class EventLoop {
    };
 
    EventLoop();
+   explicit EventLoop( VirtualTime & time );
    ~EventLoop();
    EventLoop( EventLoop const & ) = delete;
    EventLoop & operator=( EventLoop const & ) = delete;
@@ -60,7 +60,7 @@ class EventLoop {
    // Once, when everything that is ready now has been served.
    void soon( std::function< void() > what );
 
-   // The machine's steady time: for measuring how long something takes, alone.
+   // The machine's steady time, or the virtual one: for measuring how long something takes, alone.
    static Rex::Seconds clock();
 
    // Runs until somebody ends it; what end() was told. A loop that has ended looks after nothing any more.
@@ -75,7 +75,11 @@ class EventLoop {
    void watchdog( Rex::Seconds otherwise, std::function< void() > tick );
 
  private:
-   sd_event * loop_;
+   void refuseVirtual() const;
+
+   sd_event * loop_ = nullptr;    // null where
+   VirtualTime * time_ = nullptr; // there is that
+   std::unique_ptr< VirtualTime::Processor > processor_;
    std::exception_ptr failure_;
    std::vector< std::function< void() > > soon_;
    std::unique_ptr< Source::Impl > deferred_; // what serves them

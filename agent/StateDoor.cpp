@@ -35,22 +35,7 @@ void change( Simulator::StateTree & state, Event const & event ) {
    }
 }
 
-// How many rejected places are told; all of them can be asked for.
-constexpr std::size_t mostTold = 100;
-
 } // namespace
-
-Rex::Value StateDoor::told() const {
-   Rex::Value::Object told;
-   for ( auto const & [place, what] : rejected_ ) {
-      if ( told.size() == mostTold ) {
-         told["..."] = std::to_string( rejected_.size() - mostTold ) + " more";
-         break;
-      }
-      told[place] = what;
-   }
-   return told;
-}
 
 void StateDoor::set( Event const & event ) {
    try {

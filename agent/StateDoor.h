@@ -1,44 +1,28 @@
-// The door through which changes of state come to a switch: what fits is set, what doesn't is listed, and harms nothing
-// else.
+// The door through which changes of state come to a switch.
 //
 //    StateDoor door( sw );
-//    door.play( transaction.changes );               // one event of the switch, whatever is wrong with some of it
-//    door.rejected();                                // "evpn/status vxlanEnabled" → "expected true or false, got 3"
-//
-// A value that doesn't fit leaves the last good one in place. It is listed until another comes for the same place, or
-// the entity goes.
+//    door.play( transaction.changes );               // one event of the switch
 //
 // Threading: the agent's loop.
 #pragma once
 
-#include "agent/database/Paths.h"
+#include "agent/Door.h"
 
 namespace Live {
 
-class StateDoor {
+class StateDoor final : public Door {
  public:
-   using Rejected = std::map< std::string, std::string >; // "path attribute[key]" to what is wrong
-
    explicit StateDoor( Simulator::SimulatedSwitch & sw ) : sw_( sw ) {}
 
    // Before the switch is started.
    void prepare( std::vector< Inspection::Event > const & changes );
-   // All of them at once, as one event.
-   void play( std::vector< Inspection::Event > const & changes );
-   // Something is wrong with what stands at a place, told by others.
-   void reject( std::string const & place, std::string const & what ) { rejected_[place] = what; }
-   Rejected const & rejected() const { return rejected_; }
-   // The first hundred of them, and how many more there are.
-   Rex::Value told() const;
-   // Everything is judged anew: a whole state follows.
-   void forget() { rejected_.clear(); }
+   void play( std::vector< Inspection::Event > const & changes ) override;
 
  private:
    void set( Inspection::Event const & change );
    void set( std::vector< Inspection::Event > const & changes );
 
    Simulator::SimulatedSwitch & sw_;
-   Rejected rejected_;
 };
 
 } // namespace Live

@@ -1,5 +1,5 @@
-// How an agent plays what it has been told, and reports it.
-#include "agent/SliceAgent.h"
+// How a follower plays what it has been told, and reports it.
+#include "agent/StateFollower.h"
 
 namespace Live {
 
@@ -12,7 +12,7 @@ constexpr Rex::Seconds longestTurn = 0.005;
 
 } // namespace
 
-void SliceAgent::playWaiting() {
+void StateFollower::playWaiting() {
    isPlaying_ = false;
    auto const begun = EventLoop::clock();
    while ( !waiting_.empty() && !isFrozen_ && !isOver_ ) {
@@ -36,14 +36,14 @@ void SliceAgent::playWaiting() {
 }
 
 // What is wrong with a transaction is listed by the place, or by the entry of the log where there is none.
-void SliceAgent::list( Transaction const & transaction ) {
+void StateFollower::list( Transaction const & transaction ) {
    for ( auto const & what : transaction.unreadable ) {
       auto const colon = what.find( ": " );
       door_.reject( what.substr( 0, colon ), colon == std::string::npos ? "can't be read" : what.substr( colon + 2 ) );
    }
 }
 
-void SliceAgent::hold( Event const & change ) {
+void StateFollower::hold( Event const & change ) {
    try {
       for ( PathChange const & one : pathChangesOf( change, lookup_ ) ) {
          apply( one, held_ );
@@ -54,7 +54,7 @@ void SliceAgent::hold( Event const & change ) {
 }
 
 // A path that the file names, or one that is always there, becomes what it is without a database.
-std::vector< Event > SliceAgent::reset( Event const & removal ) {
+std::vector< Event > StateFollower::reset( Event const & removal ) {
    Paths before;
    for ( auto const & path : lookup_.below( removal.path ) ) {
       before[path] = held_[path];
@@ -64,11 +64,11 @@ std::vector< Event > SliceAgent::reset( Event const & removal ) {
    for ( auto const & path : PathLookup( base_ ).below( removal.path ) ) {
       after[path] = held_[path] = base_[path];
    }
-   StateDoor::Rejected wrong; // the file was read before
+   Door::Rejected wrong; // the file was read before
    return eventsBetween( before, after, wrong );
 }
 
-bool SliceAgent::isReset( Event const & change ) const {
+bool StateFollower::isReset( Event const & change ) const {
    if ( change.kind != Event::Kind::remove || change.attribute ) {
       return false;
    }
@@ -80,7 +80,7 @@ bool SliceAgent::isReset( Event const & change ) const {
 }
 
 // The changes as the switch is to play them, once what is held has followed.
-std::vector< Event > SliceAgent::taken( std::vector< Event > changes ) {
+std::vector< Event > StateFollower::taken( std::vector< Event > changes ) {
    for ( std::size_t at = 0; at < changes.size(); ++at ) {
       if ( isReset( changes[at] ) ) {
          auto const instead = reset( changes[at] );
@@ -94,7 +94,7 @@ std::vector< Event > SliceAgent::taken( std::vector< Event > changes ) {
    return changes;
 }
 
-void SliceAgent::play( Transaction & transaction ) {
+void StateFollower::play( Transaction & transaction ) {
    auto const begun = EventLoop::clock();
    position_ = transaction.position;
    list( transaction );
@@ -106,19 +106,13 @@ void SliceAgent::play( Transaction & transaction ) {
    }
 }
 
-void SliceAgent::report( bool isWhole ) {
-   Report report{ .applied = position_, .isWhole = isWhole };
+void StateFollower::report( bool isWhole ) {
+   Report report{ .applied = position_, .published = takePublished( isWhole ), .isWhole = isWhole };
    report.fields = { { "phase", std::string( nameOf( phase_ ) ) },
                      { "reason", reason_ },
-                     { "drift", std::to_string( drift() ) },
+                     { "drift", std::to_string( placesHeld().value_or( 0 ) ) },
                      { "rejected", rejected().empty() ? "{}" : Rex::toText( door_.told() ) },
                      { "version", version_ } };
-   if ( isWhole ) {
-      published_.takeChanged();
-      report.published = published_.all();
-   } else if ( published_.hasChanged() ) {
-      report.published = published_.takeChanged();
-   }
    database_.publish( report );
 }
 
