@@ -16,8 +16,9 @@ using Placed = JsonText::Placed;
 using Rex::Value;
 
 constexpr std::size_t deepest = 64;
-constexpr std::size_t told = 20;     // of many faults
-constexpr std::size_t longest = 600; // of a fault's text, which may quote what stands in the file
+constexpr std::string_view fractionKey = "probability"; // the one that has fractions, which are kept as their text
+constexpr std::size_t told = 20;                        // of many faults
+constexpr std::size_t longest = 600;                    // of a fault's text, which may quote what stands in the file
 
 constexpr std::string_view byteOrderMark = "\xef\xbb\xbf";
 
@@ -71,6 +72,9 @@ class ValueBuilder {
       return put( value );
    }
    bool number_float( number_float_t, string_t const & text ) {
+      if ( !levels_.empty() && levels_.back().key == fractionKey ) {
+         return put( text );
+      }
       note( text + " is no whole number" );
       return put( nullptr );
    }

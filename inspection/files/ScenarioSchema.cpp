@@ -3,6 +3,7 @@
 #include "generated/Catalogue.h"
 #include "inspection/KnownToggles.h"
 #include "inspection/StatePaths.h"
+#include "inspection/files/FaultSchema.h"
 #include "inspection/files/TypeSchema.h"
 #include "state/CellStatus.h"
 
@@ -234,9 +235,11 @@ Value eventSchema( EntitySchemas & entities ) {
    Value const one = List{ Object{ { "required", List{ "set" } } }, Object{ { "required", List{ "delete" } } } };
    ( *change.object() )["oneOf"] = one;
    Value const changes = Object{ { "type", "array" }, { "minItems", 1 }, { "items", change } };
-   Value event = objectSchema( Object{ { "set", set }, { "delete", remove }, { "transaction", changes } } );
+   Value event = objectSchema(
+      Object{ { "set", set }, { "delete", remove }, { "transaction", changes }, { "fault", faultSchema() } } );
    auto kinds = *one.list();
    kinds.push_back( Object{ { "required", List{ "transaction" } } } );
+   kinds.push_back( Object{ { "required", List{ "fault" } } } );
    ( *event.object() )["oneOf"] = std::move( kinds );
    return event;
 }

@@ -92,7 +92,13 @@ Value everything() {
    }
    events.push_back(
       parseJson( R"({"delete": {"path": "shared/portStateInfo", "attribute": "portState", "key": "1"}})", "" ) );
-   events.push_back( parseJson( R"({"delete": {"path": "evpn/status"}})", "" ) );
+   events.push_back( parseJson( R"({"transaction": [{"delete": {"path": "evpn/status"}}]})", "" ) );
+   events.push_back( parseJson( R"({"delete": {"path": "vxlan/ecnConfig"}})", "" ) );
+   events.push_back( parseJson( R"({"fault": {"kind": "lost"}})", "" ) );
+   events.push_back( parseJson(
+      R"({"fault": {"fap": 0, "table": "IppdFerTrapCfg", "array": 3, "entry": 0, "copy": 1, "kind": "stuck:7=1",
+                    "count": 2, "probability": "0.25", "for": 60, "seed": 17}})",
+      "" ) );
    Value scenario = parseJson( R"({
       "$schema": "../share/l3sm/scenario.schema.json",
       "name": "everything",
@@ -164,6 +170,12 @@ TEST( Schema, refusesWhatTheProgramRefuses ) {
         R"({"events": [{"set": {"path": "shared/portStateInfo", "attribute": "portState", "key": "E", "value": {}}}]})" },
       { "an entry with a wrong value",
         R"({"events": [{"set": {"path": "shared/portStateInfo", "attribute": "portState", "key": "1", "value": {"intfid": "E"}}}]})" },
+      { "a fault without a kind", R"({"events": [{"fault": {"fap": 0}}]})" },
+      { "a fault of a kind that is none", R"({"events": [{"fault": {"kind": "flip"}}]})" },
+      { "a fault of a table that is none", R"({"events": [{"fault": {"kind": "lost", "table": "IppdFer"}}]})" },
+      { "a fault that never fires", R"({"events": [{"fault": {"kind": "lost", "count": 0}}]})" },
+      { "a fault that isn't likely", R"({"events": [{"fault": {"kind": "lost", "probability": "2"}}]})" },
+      { "a fault with something more", R"({"events": [{"fault": {"kind": "lost", "duration": 1}}]})" },
       { "a deletion without a key",
         R"({"events": [{"delete": {"path": "shared/portStateInfo", "attribute": "portState"}}]})" },
       { "a table that is none", R"({"chips": {"0": {"IppdFerTrapCgf": {}}}})" },

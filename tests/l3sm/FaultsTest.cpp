@@ -90,6 +90,29 @@ TEST( FaultsOfAScenario, areToldAtTheTopOfThePage ) {
       << report.errors;
 }
 
+// The lines of a journal that tell of them.
+std::vector< std::string > faultsIn( Command const & run ) {
+   auto lines = linesOf( run.file( "j.jsonl" ) );
+   std::erase_if( lines, []( auto const & line ) { return !line.starts_with( R"({"op": "fault")" ); } );
+   return lines;
+}
+
+TEST( FaultsOfAScenario, areAsLikelyAsANumberOrATextSays ) {
+   auto const scenarioOf = []( std::string const & probability ) {
+      return scenario( R"({"fault": {"kind": "lost", "seed": 5, "probability": )" + probability + "}}, " + dci );
+   };
+   auto const fired = [&]( std::string const & probability ) {
+      return faultsIn( Command( "run s.json --quiet --journal j.jsonl", { { "s.json", scenarioOf( probability ) } } ) );
+   };
+   EXPECT_GT( fired( "0.5" ).size(), 0u );
+   EXPECT_EQ( fired( "0.5" ), fired( "\"0.5\"" ) );
+   EXPECT_GT( fired( "0.9" ).size(), fired( "0.1" ).size() );
+   Command const wrong( "run s.json --quiet", { { "s.json", scenarioOf( "1.5" ) } } );
+   EXPECT_EQ( wrong.status, 2 );
+   EXPECT_THAT( wrong.errors,
+                HasSubstr( "/fault/probability: expected a probability above 0 and up to 1, got 1.5\n" ) );
+}
+
 TEST( FaultsOfAScenario, areWhatAnAuditFinds ) {
    Command const check(
       "check --audit s.json",
