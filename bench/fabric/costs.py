@@ -28,7 +28,7 @@ PUBLISHED = 2 * INTERFACES  # each has its status, and that it is managed
 
 class Step:
     """How much of everything goes by within."""
-    NAMES = ('seconds', 'of_server', 'of_agents', 'reports', 'read', 'written', 'syncs', 'sync_seconds')
+    NAMES = ('seconds', 'of_server', 'of_agents', 'reports', 'read', 'written', 'requests', 'syncs', 'sync_seconds')
 
     def __init__(self, server, agents=None, proxy=None):
         self.server, self.agents, self.proxy = server, agents, proxy
@@ -36,7 +36,7 @@ class Step:
     def now(self):
         counts = self.server.counts()
         return (time.monotonic(), self.server.processor_time(), self.agents.processor_time() if self.agents else 0,
-                self.server.reports(1), self.proxy.read if self.proxy else 0, self.proxy.written if self.proxy else 0,
+                self.server.reports(1), *(getattr(self.proxy, name) if self.proxy else 0 for name in ('read', 'written', 'requests')),
                 counts.get('syncs', 0), counts.get('sync seconds', 0))
 
     def __enter__(self):
@@ -123,7 +123,7 @@ def costs_of(steps, counted):
     plays, reports = two_costs((Steps.SPACED * count, spaced.reports, spaced.of_agents), (Steps.AT_ONCE * count, at_once.reports, at_once.of_agents))
 
     def both(name, changes):
-        return {'read': counted.of_each(name, changes, 'read'), 'written': counted.of_each(name, changes, 'written')}
+        return {what: counted.of_each(name, changes, what) for what in ('read', 'written')}
     return {
         'server': {'write': write, 'delivery': delivery, 'report': report, 'snapshot key': read,
                    'published key': (start.of_server - bare.of_server - read * KEYS * count) / (PUBLISHED * count),

@@ -1,16 +1,17 @@
-"""Stands between agents and their database, and counts the bytes of both directions.
+"""Stands between agents and their database, and counts the bytes of both directions, and what is asked.
 
     with Proxy(server, folder) as proxy:
         proxy.url                           # for the agents
         proxy.read, proxy.written           # by the agents, so far
+        proxy.requests
 """
-import asyncio, os, threading
+import asyncio, os, re, threading
 
 
 class Proxy:
     def __init__(self, server, folder):
         self.server, self.path = server, os.path.join(folder, 'proxy.sock')
-        self.read = self.written = 0
+        self.read = self.written = self.requests = 0
 
     def __enter__(self):
         self.loop, ready = asyncio.new_event_loop(), threading.Event()
@@ -50,6 +51,8 @@ class Proxy:
         try:
             while part := await source.read(1 << 16):
                 setattr(self, count, getattr(self, count) + len(part))
+                if count == 'written':
+                    self.requests += len(re.findall(self.server.request, part))
                 to.write(part)
                 await to.drain()
         except OSError:

@@ -35,7 +35,7 @@ class Server:
 
 class Etcd(Server):
     """One member, that waits for its disk as it is meant to."""
-    name = 'etcd'
+    name, request = 'etcd', rb'POST /v3/'  # as it begins on the wire
 
     def start(self):
         ports = []
@@ -123,7 +123,7 @@ class Etcd(Server):
 
 
 class Redis(Server):
-    name = 'redis'
+    name, request = 'redis', rb'\*\d+\r\n\$'
 
     def start(self):
         self.address = os.path.join(self.folder, 'redis.sock')
