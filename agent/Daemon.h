@@ -19,11 +19,11 @@ struct DaemonOptions {
    U32 cell = 1;
    std::string database = {}; // an URL; empty: the process itself
    DatabaseCredentials credentials = {};
-   std::string socket = {};    // empty: the usual one of the slice
-   std::string record = {};    // a folder; empty: nothing is recorded
-   std::string metrics = {};   // a file or an address; empty: they can be asked for
-   std::string trace = {};     // a file (TraceFile.h); empty: nothing is traced before `trace set`
-   Rex::Seconds audit = usualAudit;   // in which all of every chip is looked at; 0: on demand alone
+   std::string socket = {};         // empty: the usual one of the slice
+   std::string record = {};         // a folder; empty: nothing is recorded
+   std::string metrics = {};        // a file or an address; empty: they can be asked for
+   std::string trace = {};          // a file (TraceFile.h); empty: nothing is traced before `trace set`
+   Rex::Seconds audit = usualAudit; // in which all of every chip is looked at; 0: on demand alone
    std::string chipsFile = {}; // that the chips stand in; empty: what the service manager keeps, where there is one
    bool isDriftHeld = false;   // what a start would change waits for `ctl repair`
    std::optional< U32 > faultSeed = {}; // chips fail now and then, under this seed
