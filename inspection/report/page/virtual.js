@@ -86,6 +86,7 @@ function virtualList({ label, length, row, detail = null, className = '' }) {
     if (!by || event.target.matches('select, input')) return;
     if (!item && event.target !== box) return;
     event.preventDefault();
+    layOut(); // a key may come before the first frame
     focus(item ? Number(item.dataset.number) + by : numberAt(box.scrollTop));
   });
   new ResizeObserver(layOut).observe(box);
