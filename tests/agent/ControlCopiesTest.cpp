@@ -56,8 +56,8 @@ TEST( ControlCopies, AnswerAtLengthWhileTheAgentGoesOn ) {
    EXPECT_EQ( numbers, manyNumbers );
    EXPECT_GT( bytes, 50'000'000 );
    EXPECT_GT( others, 100 );
-   RecordProperty( "LongestTurnMicroseconds", static_cast< int >( world.longestTurn * 1e6 ) );
-   EXPECT_LT( world.longestTurn, 0.005 ) << "of the processor, in " << world.turns << " turns";
+   // How long the longest of them takes is measured by bench/ControlBench; here: no turn is most of the work.
+   EXPECT_LT( world.longestTurn, world.allTurns / 2 ) << "of the processor, in " << world.turns << " turns";
 }
 
 TEST( ControlCopies, TellOfTheMomentOfTheCall ) {

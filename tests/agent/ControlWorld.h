@@ -122,7 +122,9 @@ class ControlWorld {
       while ( !isOver ) {
          auto const before = processorTime();
          loop.turn( 0.002 );
-         longestTurn = std::max( longestTurn, processorTime() - before );
+         auto const turn = processorTime() - before;
+         longestTurn = std::max( longestTurn, turn );
+         allTurns += turn;
          ++turns;
       }
       other.join();
@@ -144,6 +146,7 @@ class ControlWorld {
    std::vector< std::string > log;
    std::optional< U32 > number;
    double longestTurn = 0; // seconds of the processor
+   double allTurns = 0;
    std::size_t turns = 0;
 
  private:
