@@ -6,7 +6,7 @@ namespace Scale {
 
 namespace {
 
-constexpr Rex::Seconds renewalPeriod = Live::usualLeaseSeconds / 3.0;
+constexpr Rex::Seconds renewalPeriod = Live::usualLeaseSeconds / Live::leaseRenewals;
 
 } // namespace
 

@@ -1,14 +1,10 @@
 #include "scale/FabricReading.h"
 
+#include "agent/database/EtcdLayout.h"
+
 #include <algorithm>
 
 namespace Scale {
-
-namespace {
-
-constexpr std::size_t pageSize = 1000;
-
-} // namespace
 
 FabricSnapshot::FabricSnapshot( FabricConnection & connection, std::size_t weight, Live::SnapshotAnswers answers )
    : connection_( connection ), answers_( std::move( answers ) ), state_( connection.cluster().state() ),
@@ -18,7 +14,7 @@ FabricSnapshot::FabricSnapshot( FabricConnection & connection, std::size_t weigh
 
 void FabricSnapshot::reads( std::size_t left ) {
    auto & cluster = connection_.cluster();
-   auto const size = std::min( left, pageSize );
+   auto const size = std::min( left, Live::snapshotPage );
    auto const keys = static_cast< double >( size );
    cluster.counts().snapshotKeys += size;
    connection_.asks( keys * cluster.costs().server.snapshotKey, tether_.of( [this, &cluster, left, size, keys] {

@@ -17,7 +17,7 @@
 // Threading: plain data.
 #pragma once
 
-#include "corvo/Types.h"
+#include "rex/Clock.h"
 
 #include <string>
 #include <string_view>
@@ -42,6 +42,9 @@ struct EtcdLayout {
 
 // A server refuses transactions of more, unless told otherwise.
 constexpr std::size_t mostOperations = 128;
+constexpr std::size_t snapshotPage = 1000;    // keys of a snapshot that are read at once
+constexpr double leaseRenewals = 3;           // while a lease lasts
+constexpr Rex::Seconds breathOfReports = 0.1; // between two: each is a write that a majority's disks wait for
 
 // The end of all keys that begin so.
 inline std::string endOf( std::string prefix ) {

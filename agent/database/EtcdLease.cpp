@@ -6,8 +6,6 @@ namespace Live {
 
 namespace {
 
-constexpr double renewals = 3; // while a lease lasts
-
 std::string idText( U64 id ) {
    return "{\"ID\":" + std::to_string( id ) + "}";
 }
@@ -108,13 +106,13 @@ void EtcdLease::refuse( std::string const & token, U64 id ) {
 }
 
 void EtcdLease::has() {
-   renewal_ = loop_.timer( seconds_ / renewals, [this] { renew(); } );
+   renewal_ = loop_.timer( seconds_ / leaseRenewals, [this] { renew(); } );
    auto const ours = answers_.ours; // which may end this
    ours();
 }
 
 void EtcdLease::renew() {
-   renewal_.timeIs( seconds_ / renewals );
+   renewal_.timeIs( seconds_ / leaseRenewals );
    client_->ask( "lease/keepalive", idText( id_ ), tether_.of( [this]( EtcdReply const & reply ) {
       if ( reply.ttl <= 0 ) {
          id_ = 0;

@@ -10,8 +10,6 @@ namespace {
 
 // Between two tries where the cluster has no space.
 constexpr Rex::Seconds pause = 5;
-// Between two reports: each is a write that a majority's disks wait for, and there are many agents.
-constexpr Rex::Seconds breath = 0.1;
 
 bool isOfSpace( std::string const & error ) {
    return error.find( "database space exceeded" ) != std::string::npos;
@@ -120,7 +118,7 @@ void EtcdPublisher::written( EtcdReply const & reply ) {
       write();
       return;
    }
-   again_ = loop_.timer( breath, [this] {
+   again_ = loop_.timer( breathOfReports, [this] {
       isUnderWay_ = false;
       if ( waiting_ ) {
          gather();

@@ -4,7 +4,6 @@ namespace Live {
 
 namespace {
 
-constexpr U64 pageSize = 1000;
 // As often as the revisions that it is read at may be compacted meanwhile.
 constexpr unsigned mostTries = 8;
 
@@ -46,7 +45,7 @@ void EtcdSnapshot::next() {
    if ( revision_ == 0 ) {
       transaction.range( { .key = layout_.epoch() } );
    }
-   transaction.range( { .key = from_, .end = parts_[part_].end, .limit = pageSize, .revision = revision_ } );
+   transaction.range( { .key = from_, .end = parts_[part_].end, .limit = snapshotPage, .revision = revision_ } );
    client_.ask( "kv/txn",
                 transaction.text(),
                 tether_.of( [this]( EtcdReply const & reply ) { take( reply ); } ),

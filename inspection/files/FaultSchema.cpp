@@ -24,16 +24,18 @@ Value faultSchema() {
         List{ Object{ { "type", "number" }, { "exclusiveMinimum", 0 }, { "maximum", 1 } },
               Object{ { "type", "string" }, { "pattern", "^(0?\\.[0-9]+|[01](\\.[0-9]*)?|[0-9.]+e-[0-9]+)$" } } } } };
    return objectSchema(
-      Object{ { "kind", Object{ { "pattern", "^(lost|flip:[0-9]+|stuck:[0-9]+=[01]|error|delay:[0-9]+)$" } } },
-              { "fap", schemaOf( Rex::Codec< U16 >::type() ) },
-              { "table", Object{ { "enum", tables } } },
-              { "array", number },
-              { "entry", number },
-              { "copy", number },
-              { "count", some },
-              { "probability", probability },
-              { "for", number },
-              { "seed", Object{ { "type", "integer" }, { "minimum", 0 } } } },
+      Object{
+         { "kind",
+           Object{ { "type", "string" }, { "pattern", "^(lost|flip:[0-9]+|stuck:[0-9]+=[01]|error|delay:[0-9]+)$" } } },
+         { "fap", schemaOf( Rex::Codec< U16 >::type() ) },
+         { "table", Object{ { "enum", tables } } },
+         { "array", number },
+         { "entry", number },
+         { "copy", number },
+         { "count", some },
+         { "probability", probability },
+         { "for", number },
+         { "seed", Object{ { "type", "integer" }, { "minimum", 0 } } } },
       { "kind" } );
 }
 

@@ -84,18 +84,6 @@ TEST_P( RestartedAgent, changesNothingOnItsChipsButWhatIsKnownToRemember ) {
    EXPECT_EQ( isKnown, GetParam() == "gue" );
 }
 
-std::vector< std::string > exampleNames() {
-   std::vector< std::string > names;
-   for ( std::filesystem::path const & path : exampleScenarios() ) {
-      names.push_back( path.stem() );
-   }
-   return names;
-}
-
-INSTANTIATE_TEST_SUITE_P( Examples, RestartedAgent, testing::ValuesIn( exampleNames() ), []( auto const & of ) {
-   std::string name = of.param;
-   std::ranges::replace( name, '-', '_' );
-   return name;
-} );
+INSTANTIATE_TEST_SUITE_P( Examples, RestartedAgent, testing::ValuesIn( exampleNames() ), NameOfExample() );
 
 } // namespace

@@ -38,9 +38,8 @@ std::map< U16, Simulator::Contents > chipsAfter( Scenario scenario, std::optiona
       chips.disarmAll();
       chips.audit().restart();
       chips.audit().finish( repair );
-      chips.audit().finish( [&]( Simulator::Mismatch const & it ) {
-         ADD_FAILURE() << wrongPlaceOf( sw.description(), it ).text();
-      } );
+      chips.audit().finish(
+         [&]( Simulator::Mismatch const & it ) { ADD_FAILURE() << wrongPlaceOf( sw.description(), it ).text(); } );
    }
    std::map< U16, Simulator::Contents > all;
    for ( auto const & fap : scenario.description.faps ) {

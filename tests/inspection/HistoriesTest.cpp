@@ -112,19 +112,7 @@ TEST_P( HistoriesOfExample, areAllKnown ) {
    }
 }
 
-std::vector< std::string > exampleNames() {
-   std::vector< std::string > names;
-   for ( fs::path const & path : exampleScenarios() ) {
-      names.push_back( path.stem() );
-   }
-   return names;
-}
-
-INSTANTIATE_TEST_SUITE_P( Examples, HistoriesOfExample, testing::ValuesIn( exampleNames() ), []( auto const & of ) {
-   std::string name = of.param;
-   std::ranges::replace( name, '-', '_' );
-   return name;
-} );
+INSTANTIATE_TEST_SUITE_P( Examples, HistoriesOfExample, testing::ValuesIn( exampleNames() ), NameOfExample() );
 
 TEST( Histories, ofRandomStatesAreAllKnown ) {
    char const * const wanted = std::getenv( "L3SM_STATES" );

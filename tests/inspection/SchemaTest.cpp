@@ -172,6 +172,7 @@ TEST( Schema, refusesWhatTheProgramRefuses ) {
         R"({"events": [{"set": {"path": "shared/portStateInfo", "attribute": "portState", "key": "1", "value": {"intfid": "E"}}}]})" },
       { "a fault without a kind", R"({"events": [{"fault": {"fap": 0}}]})" },
       { "a fault of a kind that is none", R"({"events": [{"fault": {"kind": "flip"}}]})" },
+      { "a fault whose kind is no text", R"({"events": [{"fault": {"kind": 7}}]})" },
       { "a fault of a table that is none", R"({"events": [{"fault": {"kind": "lost", "table": "IppdFer"}}]})" },
       { "a fault that never fires", R"({"events": [{"fault": {"kind": "lost", "count": 0}}]})" },
       { "a fault that isn't likely", R"({"events": [{"fault": {"kind": "lost", "probability": "2"}}]})" },

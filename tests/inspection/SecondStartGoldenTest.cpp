@@ -113,19 +113,7 @@ TEST_P( SecondStartGolden, isAsItWasFound ) {
    EXPECT_EQ( text, contentsOf( path ) ) << "To write it anew: ./dev golden";
 }
 
-std::vector< std::string > exampleNames() {
-   std::vector< std::string > names;
-   for ( fs::path const & path : exampleScenarios() ) {
-      names.push_back( path.stem() );
-   }
-   return names;
-}
-
-INSTANTIATE_TEST_SUITE_P( Examples, SecondStartGolden, testing::ValuesIn( exampleNames() ), []( auto const & of ) {
-   std::string name = of.param;
-   std::ranges::replace( name, '-', '_' );
-   return name;
-} );
+INSTANTIATE_TEST_SUITE_P( Examples, SecondStartGolden, testing::ValuesIn( exampleNames() ), NameOfExample() );
 
 TEST( KnownMemories, areEachShownByTheExampleThatTheyName ) {
    for ( KnownMemory const & known : knownMemories() ) {

@@ -7,10 +7,12 @@
 
 #include "Folder.h"
 
+#include <algorithm>
 #include <map>
 #include <set>
 #include <string>
 #include <sys/wait.h>
+#include <vector>
 
 // The scenarios among the examples of the tree, in the order of their names.
 inline std::set< std::filesystem::path > exampleScenarios() {
@@ -22,6 +24,25 @@ inline std::set< std::filesystem::path > exampleScenarios() {
    }
    return all;
 }
+
+// Their names, without the folder.
+inline std::vector< std::string > exampleNames() {
+   std::vector< std::string > names;
+   for ( auto const & path : exampleScenarios() ) {
+      names.push_back( path.stem() );
+   }
+   return names;
+}
+
+// What a test of an example is called, where the example is its parameter.
+struct NameOfExample {
+   template< class Info >
+   std::string operator()( Info const & of ) const {
+      std::string name = of.param;
+      std::replace( name.begin(), name.end(), '-', '_' );
+      return name;
+   }
+};
 
 class Command {
  public:

@@ -1,5 +1,6 @@
 // A small fabric in a virtual time: what follows is the code of real agents, what goes by are costs.
 #include "scale/Fabric.h"
+#include "agent/database/EtcdLayout.h"
 
 #include <gtest/gtest.h>
 
@@ -102,6 +103,12 @@ TEST( Fabric, isTheSameUnderTheSameSeed ) {
    };
    EXPECT_EQ( lasted( 1 ), lasted( 1 ) );
    EXPECT_NE( lasted( 1 ), lasted( 2 ) );
+}
+
+// What is entered by hand and stands in the agent's code, too.
+TEST( Fabric, isReportedToAsOftenAsAnAgentReports ) {
+   auto const kept = Costs::of( Inspection::readJson( L3SM_SOURCE_DIR "/scale/costs.json" ) );
+   EXPECT_EQ( kept.assumed.breath, Live::breathOfReports );
 }
 
 } // namespace
