@@ -154,7 +154,8 @@ class Explorer {
          fingerprints_.insert( fingerprint );
          out << "end " << fingerprint << '\n';
          for ( EndDifference const & it : player.differencesFrom( shorter_.own() ) ) {
-            if ( keys_.insert( it.key() ).second ) {
+            bool const isWanted = !options_.isPassedOver || !options_.isPassedOver( it );
+            if ( isWanted && keys_.insert( it.key() ).second ) {
                out << "new " << stand_->walk << ' ' << stand_->leg << ' ' << it.key() << '\n';
             }
          }

@@ -36,6 +36,7 @@ struct HistoryOptions {
    double seconds = 10; // for playing; 0: as long as it takes
    U64 seed = 1;
    std::size_t mostFailures = 20; // of roads that end the process, after which no more are looked for
+   bool ( *isPassedOver )( EndDifference const & ) = nullptr; // for no such difference a road is cut down, or told
 };
 
 // The plug-in is loaded already. InputError where the scenario itself doesn't come to its end.

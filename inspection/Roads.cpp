@@ -46,18 +46,22 @@ Rex::Value publishedBy( SimulatedSwitch const & sw ) {
 
 } // namespace
 
+std::size_t RoadEnd::Hash::operator()( Place const & place ) const {
+   return hashOf( place, {} );
+}
+
 // Hands on, and keeps what stood at each place before it first became different.
 class RoadPlayer::Driver final : public DaceSal::SchanDriver {
  public:
    explicit Driver( DaceSal::SchanDriver & under ) : under_( &under ) {}
    // Puts contents on chips that have just booted, and goes on with those.
-   void moveTo( DaceSal::SchanDriver & under, std::map< Place, std::vector< U32 > > const & contents ) {
+   void moveTo( DaceSal::SchanDriver & under, RoadEnd const & left ) {
       under_ = &under;
-      for ( auto const & [place, words] : contents ) {
+      for ( auto const & [place, words] : left.changed ) {
          if ( place.block == controlBlock ) {
-            under.control( DaceSal::ChipId{ static_cast< U16 >( place.chip ) }, place.address, words.front() );
+            under.control( DaceSal::ChipId{ static_cast< U16 >( place.chip ) }, place.address, words.now.front() );
          } else {
-            under.write( DaceSal::ChipId{ static_cast< U16 >( place.chip ) }, atOf( place ), words );
+            under.write( DaceSal::ChipId{ static_cast< U16 >( place.chip ) }, atOf( place ), words.now );
          }
       }
    }
@@ -92,21 +96,18 @@ class RoadPlayer::Driver final : public DaceSal::SchanDriver {
    }
 
    U64 fingerprint() const { return fingerprint_; }
-   std::map< Place, std::vector< U32 > > booted() const { return { booted_.begin(), booted_.end() }; }
-   std::map< Place, std::vector< U32 > > contentsNow() const {
-      std::map< Place, std::vector< U32 > > all;
-      for ( auto const & [place, words] : booted_ ) {
-         auto & now = all[place];
-         DaceSal::ChipId const chip{ static_cast< U16 >( place.chip ) };
-         if ( place.block == controlBlock ) {
-            auto const value = under_->controlValue( chip, place.address );
-            now = value ? std::vector< U32 >{ *value } : std::vector< U32 >();
-         } else {
-            now.resize( words.size() );
-            under_->read( chip, atOf( place ), now );
-         }
+   std::unordered_map< Place, std::vector< U32 >, RoadEnd::Hash > const & booted() const { return booted_; }
+   // What stands there now, into words that are used again.
+   void contentsOf( Place const & place, std::vector< U32 > & words ) const {
+      DaceSal::ChipId const chip{ static_cast< U16 >( place.chip ) };
+      if ( place.block != controlBlock ) {
+         words.resize( booted_.at( place ).size() );
+         under_->read( chip, atOf( place ), words );
+      } else if ( auto const value = under_->controlValue( chip, place.address ) ) {
+         words.assign( 1, *value );
+      } else {
+         words.clear();
       }
-      return all;
    }
 
    static DaceSal::SchanAddress atOf( Place const & place ) {
@@ -114,10 +115,6 @@ class RoadPlayer::Driver final : public DaceSal::SchanDriver {
    }
 
  private:
-   struct Hash {
-      std::size_t operator()( Place const & place ) const { return hashOf( place, {} ); }
-   };
-
    void became( Place const & place, std::span< U32 const > before, std::span< U32 const > after ) {
       fingerprint_ += hashOf( place, after ) - hashOf( place, before );
       booted_.try_emplace( place, before.begin(), before.end() );
@@ -125,7 +122,7 @@ class RoadPlayer::Driver final : public DaceSal::SchanDriver {
 
    DaceSal::SchanDriver * under_;
    U64 fingerprint_ = 0;
-   std::unordered_map< Place, std::vector< U32 >, Hash > booted_;
+   std::unordered_map< Place, std::vector< U32 >, RoadEnd::Hash > booted_;
 };
 
 Road ownRoad( Scenario const & scenario ) {
@@ -183,7 +180,7 @@ void RoadPlayer::step( RoadStep const & step ) {
 }
 
 void RoadPlayer::start() {
-   auto const left = driver_ ? driver_->contentsNow() : std::map< Place, std::vector< U32 > >();
+   RoadEnd const left = driver_ ? end() : RoadEnd();
    letGo();
    switch_ = std::make_unique< SimulatedSwitch >( description_ );
    scenario_.prepare( *switch_ );
@@ -204,28 +201,41 @@ U64 RoadPlayer::fingerprint() const {
 }
 
 RoadEnd RoadPlayer::end() const {
-   return { driver_->contentsNow(), driver_->booted(), publishedBy( *switch_ ) };
+   RoadEnd all{ .changed = {}, .published = publishedBy( *switch_ ) };
+   all.changed.reserve( driver_->booted().size() );
+   for ( auto const & [place, booted] : driver_->booted() ) {
+      RoadEnd::Contents & contents = all.changed[place];
+      contents.booted = booted;
+      driver_->contentsOf( place, contents.now );
+   }
+   return all;
 }
 
 std::vector< EndDifference > RoadPlayer::differencesFrom( RoadEnd const & own ) const {
-   RoadEnd const here = end();
-   std::set< Place > places;
-   for ( RoadEnd const * const of : { &own, &here } ) {
-      for ( auto const & [place, words] : of->contents ) {
-         places.insert( place );
+   // Most places are alike: those that aren't are looked for first, and put into order.
+   struct Pair {
+      Place place;
+      std::vector< U32 > own;
+      std::vector< U32 > here;
+   };
+   std::vector< Pair > pairs;
+   std::vector< U32 > now;
+   for ( auto const & [place, booted] : driver_->booted() ) {
+      auto const found = own.changed.find( place );
+      auto const & there = found == own.changed.end() ? booted : found->second.now;
+      driver_->contentsOf( place, now );
+      if ( now != there ) {
+         pairs.push_back( { place, there, now } );
       }
    }
-   auto const wordsOf = []( RoadEnd const & of, RoadEnd const & other, Place const & place ) {
-      auto const found = of.contents.find( place );
-      return found != of.contents.end() ? found->second : other.booted.at( place );
-   };
-   std::vector< EndDifference > all;
-   for ( Place const & place : places ) {
-      auto const a = wordsOf( own, here, place );
-      auto const b = wordsOf( here, own, place );
-      if ( a == b ) {
-         continue;
+   for ( auto const & [place, contents] : own.changed ) {
+      if ( contents.now != contents.booted && !driver_->booted().contains( place ) ) {
+         pairs.push_back( { place, contents.now, contents.booted } );
       }
+   }
+   std::ranges::sort( pairs, {}, &Pair::place );
+   std::vector< EndDifference > all;
+   for ( auto const & [place, a, b] : pairs ) {
       auto const fap = static_cast< U16 >( place.chip );
       auto const text = []( std::vector< U32 > const & words ) {
          return words.empty() ? "unset" : std::to_string( words.front() );
@@ -251,7 +261,7 @@ std::vector< EndDifference > RoadPlayer::differencesFrom( RoadEnd const & own ) 
          }
       }
    }
-   eachPathDifference( own.published, here.published, [&]( PathDifference const & it ) {
+   eachPathDifference( own.published, publishedBy( *switch_ ), [&]( PathDifference const & it ) {
       all.push_back(
          { 0, "published", it.path, it.value.name, it.value.a.value_or( "null" ), it.value.b.value_or( "null" ) } );
    } );

@@ -50,7 +50,7 @@ struct EndDifference {
    std::string key() const { return std::to_string( fap ) + " " + table + " " + place + " " + field; }
 };
 
-// Where a road has ended: contents by place, those alone that some write has changed, and what is published.
+// Where a road has ended: the places that some write has changed, and what is published.
 struct RoadEnd {
    struct Place {
       U32 chip;
@@ -58,8 +58,15 @@ struct RoadEnd {
       U32 address;
       friend auto operator<=>( Place const &, Place const & ) = default;
    };
-   std::map< Place, std::vector< U32 > > contents; // a control without a value: no word
-   std::map< Place, std::vector< U32 > > booted;   // the same places before
+   struct Hash {
+      std::size_t operator()( Place const & place ) const;
+   };
+   // Words, as many as the place has; of a control one, or none while it has no value.
+   struct Contents {
+      std::vector< U32 > booted;
+      std::vector< U32 > now;
+   };
+   std::unordered_map< Place, Contents, Hash > changed;
    Rex::Value published = {};
 };
 

@@ -1,8 +1,7 @@
 // Cuts a road down to what it takes to show something.
 //
-//    ShorterRoad const shorter( scenario );                     // plays the scenario's own road; InputError where it
-//    fails Road const road = shorter.thatShows( key, longRoad );      // leads to the same state, and ends with that
-//    difference
+//    ShorterRoad const shorter( scenario );                 // plays the scenario's own road; InputError where it fails
+//    Road const road = shorter.thatShows( key, longRoad );  // leads to the same state, and ends with that difference
 //
 // Every attempt is played in a child process, as one may end it.
 #pragma once
