@@ -67,6 +67,7 @@ void Planner::row( Row const & row ) {
 }
 
 void Planner::eventEnds( U32 ) {
+   plan_.events.back().changes.reserve( staged_.placeCount() );
    staged_.eachChange( [this]( StagedDriver::ChangeView const & change ) { take( change ); } );
    staged_.commit();
 }
@@ -83,7 +84,8 @@ void Planner::keep( Row const & row ) {
                          .fap = row.fap,
                          .table = row.tableNumber,
                          .variant = row.variant,
-                         .isRegister = !row.entry } );
+                         .isRegister = !row.entry,
+                         .isOfAllCopies = row.scope != Row::Scope::core } );
 }
 
 void Planner::wrote( U32 number, U32 copy ) {
@@ -142,8 +144,12 @@ void Planner::take( StagedDriver::ChangeView const & change ) {
       row.core = static_cast< int >( place.copy );
       bool const isAlone = row.layout->selectors.size() == 1;
       row.scope = isAlone ? Row::Scope::all : Row::Scope::core;
-      if ( !isAlone && isOtherCopyOfAChange( row ) ) {
-         plan_.events.back().changes.pop_back();
+      auto & changes = plan_.events.back().changes;
+      Written & written = written_[by->written];
+      if ( !isAlone && isOtherCopyOfAChange( row, written ) ) {
+         changes.pop_back();
+      } else {
+         written.change = static_cast< U32 >( changes.size() - 1 );
       }
    }
 }
@@ -173,16 +179,22 @@ Row & Planner::add( Writing const & by ) {
    return row;
 }
 
-bool Planner::isOtherCopyOfAChange( Row const & row ) {
+bool Planner::isOtherCopyOfAChange( Row const & row, Written const & written ) {
    constexpr std::size_t close = 64;
    auto & rows = plan_.events.back().changes;
+   auto const isOther = [&]( Row & other ) {
+      bool const is = other.entry == row.entry && other.array == row.array && other.layout == row.layout &&
+                      other.fap == row.fap && other.kind == Row::Kind::write && other.core != row.core &&
+                      other.originNumber == row.originNumber && other.words == row.words && other.before == row.before;
+      other.scope = is ? Row::Scope::all : other.scope;
+      return is;
+   };
+   if ( written.isOfAllCopies ) {
+      return written.change != none && isOther( rows[written.change] );
+   }
    std::size_t const last = rows.size() - 1; // the row itself
    for ( std::size_t at = last; at > 0 && last - at < close; --at ) {
-      Row & other = rows[at - 1];
-      if ( other.entry == row.entry && other.array == row.array && other.layout == row.layout && other.fap == row.fap &&
-           other.kind == Row::Kind::write && other.core != row.core && other.originNumber == row.originNumber &&
-           other.words == row.words && other.before == row.before ) {
-         other.scope = Row::Scope::all;
+      if ( isOther( rows[at - 1] ) ) {
          return true;
       }
    }

@@ -38,6 +38,8 @@ class Planner final : public Simulator::RowReader {
       U16 table;
       U8 variant;
       bool isRegister;
+      bool isOfAllCopies;
+      U32 change = none; // the last of the plan that it makes
    };
 
    // Who wrote to a place in the event, and the next who did.
@@ -64,8 +66,9 @@ class Planner final : public Simulator::RowReader {
    Writing const & setterOf( Catalogue::Field const & field, Place const & place, U32 const * before ) const;
    void take( Simulator::StagedDriver::ChangeView const & change );
    Simulator::Row & add( Writing const & by );
-   // Copies that would change alike are one change of all: that of another copy stands close by, mostly right before.
-   bool isOtherCopyOfAChange( Simulator::Row const & row );
+   // Copies that would change alike are one change of all. That of another copy was made by the same write; where each
+   // copy was written by itself, it stands close by, mostly right before.
+   bool isOtherCopyOfAChange( Simulator::Row const & row, Written const & written );
    U32 const * wordsOf( Writing const & writing ) const { return written_[writing.written].words; }
 
    Plan & plan_;

@@ -33,9 +33,11 @@ Rows rowsOf( PlannedEvent const & event, U16 fap, Row::Kind kind ) {
 
 std::set< U16 > fapsOf( PlannedEvent const & event, std::optional< U16 > wanted ) {
    std::set< U16 > faps;
+   std::optional< U16 > latest; // changes of one FAP mostly stand together
    for ( Row const & row : event.changes ) {
-      if ( isOf( row, wanted ) ) {
+      if ( row.fap != latest && isOf( row, wanted ) ) {
          faps.insert( row.fap );
+         latest = row.fap;
       }
    }
    return faps;
