@@ -88,6 +88,7 @@ class Tests:
             # A toggle is read once in a process, so some tests don't go with others.
             for piece in [suite + "*"] if self.measure(suite + "*") else tests:
                 self.measure(piece)
+        os.makedirs(folder, exist_ok=True)
         with open(known, "w", encoding="utf-8") as file:
             json.dump({"stamp": stamp, "seconds": self.seconds}, file)
 

@@ -1,4 +1,5 @@
 // A real agent, asked as a person would: it answers as the files do that a run of the same scenario writes.
+#include "BuildFolder.h"
 #include "ControlWorld.h"
 #include "inspection/files/Json.h"
 
@@ -26,9 +27,8 @@ class ServedExample {
       folder.file( "switch.json", Inspection::toJson( scenario, 2 ) );
       agent_ = ::fork();
       if ( agent_ == 0 ) {
-         std::string const line = "cd '" + folder / "" +
-                                  "' && exec '" L3SM_BINARY_DIR "/bin/l3sm' serve switch.json --socket a.ctl " +
-                                  options + " 2>log";
+         std::string const line = "cd '" + folder / "" + "' && exec '" + buildFolder() +
+                                  "/bin/l3sm' serve switch.json --socket a.ctl " + options + " 2>log";
          ::execl( "/bin/sh", "sh", "-c", line.c_str(), nullptr );
          ::_exit( 127 );
       }
@@ -47,7 +47,7 @@ class ServedExample {
 
    // What it says, on both outputs, and its exit status.
    std::string ask( std::string const & arguments ) {
-      std::string const line = "cd '" + folder / "" + "' && COLUMNS=100 '" L3SM_BINARY_DIR "/bin/l3sm' " + arguments +
+      std::string const line = "cd '" + folder / "" + "' && COLUMNS=100 '" + buildFolder() + "/bin/l3sm' " + arguments +
                                " </dev/null >.out 2>&1";
       status = WEXITSTATUS( std::system( line.c_str() ) );
       return folder.text( ".out" );
@@ -196,7 +196,7 @@ TEST( ControlAnswers, SayHowFarBackTheyReach ) {
    ControlWorld world;
    auto const run = [&]( std::string const & arguments ) {
       std::string const line =
-         "cd '" + world.folder / "" + "' && '" L3SM_BINARY_DIR "/bin/l3sm' " + arguments + " </dev/null >.out 2>&1";
+         "cd '" + world.folder / "" + "' && '" + buildFolder() + "/bin/l3sm' " + arguments + " </dev/null >.out 2>&1";
       EXPECT_EQ( WEXITSTATUS( std::system( line.c_str() ) ), 0 );
       return world.folder.text( ".out" );
    };

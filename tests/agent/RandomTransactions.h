@@ -2,6 +2,7 @@
 // through them.
 #pragma once
 
+#include "BuildFolder.h"
 #include "Served.h"
 #include "agent/RedisServer.h"
 #include "agent/database/Databases.h"
@@ -37,7 +38,7 @@ inline std::string switchOf( std::vector< ChipType > const & chips ) {
 inline std::string chipsAfterStart( std::string const & theSwitch, Scenario const & told ) {
    Child const child = inChild( [&]( std::ostream & out ) {
       Rex::logSinkIs( []( auto const & ) {} );
-      loadPlugin( L3SM_BINARY_DIR "/lib/libL3SmPlugin.so" );
+      loadPlugin( buildFolder() + "/lib/libL3SmPlugin.so" );
       Scenario const scenario = scenarioOf( parseJson( theSwitch, "switch" ), "switch" );
       Simulator::SimulatedSwitch sw( scenario.description );
       for ( auto const & [path, attributes] : told.state ) {
@@ -59,7 +60,7 @@ inline std::string chipsAfterStart( std::string const & theSwitch, Scenario cons
 inline std::optional< U32 > firstBad( std::string const & theSwitch, Scenario const & told ) {
    Child const child = inChild( [&]( std::ostream & out ) {
       Rex::logSinkIs( []( auto const & ) {} );
-      loadPlugin( L3SM_BINARY_DIR "/lib/libL3SmPlugin.so" );
+      loadPlugin( buildFolder() + "/lib/libL3SmPlugin.so" );
       Scenario scenario = scenarioOf( parseJson( theSwitch, "switch" ), "switch" );
       scenario.description.journalled = Simulator::SwitchDescription::Journalled::none;
       scenario.state = told.state;

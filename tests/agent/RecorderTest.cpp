@@ -1,5 +1,6 @@
 // A recording: what is in its files, that it can be played again, and that nothing that happens to it harms the agent.
 #include "agent/recording/Recorder.h"
+#include "BuildFolder.h"
 #include "Folder.h"
 #include "agent/SliceAgent.h"
 #include "agent/database/EmbeddedDatabase.h"
@@ -108,7 +109,7 @@ class RecorderTest : public testing::Test {
  protected:
    RecorderTest() {
       Rex::logSinkIs( []( auto const & ) {} );
-      Inspection::loadPlugin( L3SM_BINARY_DIR "/lib/libL3SmPlugin.so" );
+      Inspection::loadPlugin( buildFolder() + "/lib/libL3SmPlugin.so" );
    }
    std::vector< std::string > files() const {
       std::vector< std::string > names;

@@ -1,4 +1,5 @@
 // l3sm replay of recordings, as a person runs it.
+#include "BuildFolder.h"
 #include "agent/SliceAgent.h"
 #include "agent/database/EmbeddedDatabase.h"
 #include "agent/recording/Recorder.h"
@@ -18,7 +19,7 @@ using testing::HasSubstr;
 std::string recording() {
    Folder const folder;
    Rex::logSinkIs( []( auto const & ) {} );
-   Inspection::loadPlugin( L3SM_BINARY_DIR "/lib/libL3SmPlugin.so" );
+   Inspection::loadPlugin( buildFolder() + "/lib/libL3SmPlugin.so" );
    EventLoop loop;
    EmbeddedDatabase database( loop );
    SliceAgent agent( loop, database, Inspection::scenarioOf( Inspection::parseJson( scenarioWith( "" ), "s" ), "s" ) );
@@ -62,8 +63,8 @@ TEST( RecordingReplay, NamesTheFirstEventThatDiffersWithStatus1 ) {
 }
 
 TEST( RecordingReplay, WritesAScenarioThatRuns ) {
-   Command const replay( "replay a-1.rec.jsonl --to-scenario s.json && '" L3SM_BINARY_DIR
-                         "/bin/l3sm' run s.json --json",
+   Command const replay( "replay a-1.rec.jsonl --to-scenario s.json && '" + buildFolder() +
+                            "/bin/l3sm' run s.json --json",
                          { { "a-1.rec.jsonl", recording() } } );
    EXPECT_EQ( replay.status, 0 ) << replay.errors;
    EXPECT_THAT( replay.file( "s.json" ), HasSubstr( "\"transaction\"" ) );

@@ -1,5 +1,6 @@
 // The last rows of an agent: what is played is what was heard, however much was forgotten before.
 #include "agent/RowRing.h"
+#include "BuildFolder.h"
 #include "inspection/JournalSample.h"
 #include "inspection/Play.h"
 
@@ -92,7 +93,7 @@ TEST( RowRing, KeepsARealRunWithItsLayouts ) {
       std::set< std::pair< U32, std::string > > numbers; // with what they stand for
    };
    auto const scenario = Inspection::builtInScenario();
-   Inspection::loadPlugin( std::string( L3SM_BINARY_DIR ) + "/lib/libL3SmPlugin.so" );
+   Inspection::loadPlugin( buildFolder() + "/lib/libL3SmPlugin.so" );
    Simulator::SimulatedSwitch sw( scenario.description );
    RowRing ring;
    Heard heard;

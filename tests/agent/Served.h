@@ -7,6 +7,7 @@
 //    agent.ctl( "show" );                        // what `l3sm ctl --json show` prints
 #pragma once
 
+#include "BuildFolder.h"
 #include "ChildProgram.h"
 #include "Folder.h"
 
@@ -63,7 +64,7 @@ class ServedAgent : public ChildProgram {
    }
 
  private:
-   static std::string program() { return L3SM_BINARY_DIR "/bin/l3sm"; }
+   static std::string program() { return buildFolder() + "/bin/l3sm"; }
 
    Folder const & folder_;
    std::string slice_;

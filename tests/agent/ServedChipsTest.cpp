@@ -1,4 +1,5 @@
 // Chips that fail under a running agent, and chips that outlive it.
+#include "BuildFolder.h"
 #include "Served.h"
 
 #include <gmock/gmock.h>
@@ -144,7 +145,7 @@ TEST_F( ServedChips, areHeldAsTheyAreUntilSomebodyDecides ) {
 
 // Another build of the plug-in, which writes one constant otherwise.
 TEST_F( ServedChips, areGivenByAnUpgradeWhatItsPlanHasTold ) {
-   std::string const upgrade = L3SM_BINARY_DIR "/changed/lib/libL3SmPluginChanged.so";
+   std::string const upgrade = buildFolder() + "/changed/lib/libL3SmPluginChanged.so";
    ServedAgent agent( folder, "Linecard3", one, "", { "--chips-file", folder / "chips" } );
    ASSERT_TRUE( agent.isSoon( "running" ) ) << agent.log();
    auto const before = agent.ctl( "show" );
@@ -152,9 +153,9 @@ TEST_F( ServedChips, areGivenByAnUpgradeWhatItsPlanHasTold ) {
    EXPECT_THAT( plan, HasSubstr( "would change 1 entry" ) );
    EXPECT_THAT( plan, HasSubstr( "IppbProgTrapCfg" ) );
    EXPECT_EQ( agent.ctl( "show" ), before );
-   EXPECT_THAT(
-      agent.output( "plan --agent '" + agent.socket() + "' --stat --plugin " L3SM_BINARY_DIR "/lib/libL3SmPlugin.so" ),
-      HasSubstr( "Nothing would change: " ) );
+   EXPECT_THAT( agent.output( "plan --agent '" + agent.socket() + "' --stat --plugin " + buildFolder() +
+                              "/lib/libL3SmPlugin.so" ),
+                HasSubstr( "Nothing would change: " ) );
    agent.dies();
    agent.moreIs( { "--chips-file", folder / "chips", "--plugin", upgrade } );
    agent.starts();

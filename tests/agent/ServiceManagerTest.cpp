@@ -1,6 +1,7 @@
 // The service manager is played by the test: it has the socket that an agent notifies, and hands files over as the
 // manager does.
 #include "agent/ServiceManager.h"
+#include "BuildFolder.h"
 
 #include "Folder.h"
 #include "simulator/ChipsMapping.h"
@@ -157,7 +158,7 @@ TEST( ServiceManager, hasTheChipsOfAnAgentForTheNextWhichIsReadyOnceTheyAreRight
       return [&folder, &socket, it] {
          int const log = ::open( ( folder / "log" ).c_str(), O_WRONLY | O_CREAT | O_APPEND, 0600 );
          ::dup2( log, STDERR_FILENO );
-         ::execl( L3SM_BINARY_DIR "/bin/l3sm",
+         ::execl( ( buildFolder() + "/bin/l3sm" ).c_str(),
                   "l3sm",
                   "serve",
                   it.c_str(),
@@ -185,7 +186,7 @@ TEST( ServiceManager, hasTheChipsOfAnAgentForTheNextWhichIsReadyOnceTheyAreRight
               std::string::npos )
       << folder.text( "log" );
    EXPECT_EQ( manager.told().text, "" ) << "it is not ready";
-   std::string const repair = L3SM_BINARY_DIR "/bin/l3sm ctl --socket '" + socket + "' repair >/dev/null";
+   std::string const repair = buildFolder() + "/bin/l3sm ctl --socket '" + socket + "' repair >/dev/null";
    EXPECT_EQ( std::system( repair.c_str() ), 0 );
    EXPECT_EQ( manager.hears( "READY=1" ).text, "READY=1\nSTATUS=running" ) << folder.text( "log" );
    ::kill( second, SIGTERM );

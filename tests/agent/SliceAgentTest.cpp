@@ -1,5 +1,6 @@
 // The agent of one slice: given what a database tells, these words are on the chips, or they stay as they are.
 #include "agent/SliceAgent.h"
+#include "BuildFolder.h"
 #include "ScriptedDatabase.h"
 #include "agent/database/EmbeddedDatabase.h"
 #include "inspection/Play.h"
@@ -46,7 +47,7 @@ class SliceAgentTest : public testing::Test {
  protected:
    SliceAgentTest() {
       Rex::logSinkIs( []( auto const & ) {} );
-      Inspection::loadPlugin( L3SM_BINARY_DIR "/lib/libL3SmPlugin.so" );
+      Inspection::loadPlugin( buildFolder() + "/lib/libL3SmPlugin.so" );
       agent.emplace( loop, database, scenario() );
       agent->onlookerAdd( phases );
       agent->begin();
@@ -248,7 +249,7 @@ TEST_F( SliceAgentTest, waitsLongerEachTimeAndNeverLongerThanFiveSeconds ) {
 // Given a state of the process itself, changed while it is followed.
 TEST( EmbeddedDatabase, isFollowedLikeAnyOther ) {
    Rex::logSinkIs( []( auto const & ) {} );
-   Inspection::loadPlugin( L3SM_BINARY_DIR "/lib/libL3SmPlugin.so" );
+   Inspection::loadPlugin( buildFolder() + "/lib/libL3SmPlugin.so" );
    EventLoop loop;
    EmbeddedDatabase database( loop );
    SliceAgent agent( loop, database, Inspection::scenarioOf( Inspection::parseJson( file, "s" ), "s" ) );

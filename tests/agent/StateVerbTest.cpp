@@ -1,4 +1,5 @@
 // `l3sm state`, as a person types it.
+#include "BuildFolder.h"
 #include "agent/CentralServer.h"
 #include "agent/DatabaseFollower.h"
 #include "l3sm/Running.h"
@@ -97,9 +98,8 @@ TEST_P( StateVerb, appliesTheEventsOfAScenario ) {
 }
 
 TEST_P( StateVerb, loadsWhatARunHasLeft ) {
-   Command const run( "run s.json --quiet --state state.json && '" L3SM_BINARY_DIR
-                      "/bin/l3sm' state load state.json --database " +
-                         server->url(),
+   Command const run( "run s.json --quiet --state state.json && '" + buildFolder() +
+                         "/bin/l3sm' state load state.json --database " + server->url(),
                       { { "s.json", scenarioWith( R"(, "state": {"evpn/status": {"mplsEnabled": true}})" ) } } );
    EXPECT_EQ( run.status, 0 ) << run.errors;
    EXPECT_THAT( l3sm( "get evpn" ).output, HasSubstr( "evpn/status mplsEnabled = true\n" ) );

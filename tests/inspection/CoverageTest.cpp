@@ -1,6 +1,7 @@
 // What the examples and random states with fixed seeds cover: every table that the plug-in can write, on every chip
 // that has it. What it never writes stands in Coverage.cpp, with its reason.
 #include "inspection/Coverage.h"
+#include "BuildFolder.h"
 #include "inspection/OnChip.h"
 #include "inspection/RandomScenario.h"
 #include "inspection/files/Json.h"
@@ -13,7 +14,7 @@ namespace {
 using namespace Inspection;
 using Hardware::allChipTypes;
 
-std::string const plugin = L3SM_BINARY_DIR "/lib/libL3SmPlugin.so";
+std::string const plugin = buildFolder() + "/lib/libL3SmPlugin.so";
 
 // On the chips in turn: half of the random states each has two of them.
 Coverage coverageOfAll() {
@@ -66,7 +67,7 @@ TEST( Coverage, goesFromOneProcessToAnother ) {
 }
 
 TEST( Coverage, ofAJournalIsThatOfItsScenario ) {
-   Command const l3sm( "run '" L3SM_SOURCE_DIR "/examples/gue.json' --quiet --journal j && '" L3SM_BINARY_DIR
+   Command const l3sm( "run '" L3SM_SOURCE_DIR "/examples/gue.json' --quiet --journal j && '" + buildFolder() +
                        "/bin/l3sm' coverage j --json" );
    Command const played( "coverage '" L3SM_SOURCE_DIR "/examples/gue.json' --json" );
    EXPECT_EQ( l3sm.status, 0 ) << l3sm.errors;

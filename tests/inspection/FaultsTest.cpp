@@ -1,5 +1,6 @@
 // Chips that fail while a scenario is played: what they are expected to hold is what they would hold without, and a
 // repair never undoes what was written last.
+#include "BuildFolder.h"
 #include "inspection/Play.h"
 #include "inspection/RandomScenario.h"
 #include "inspection/WrongPlace.h"
@@ -51,7 +52,7 @@ std::map< U16, Simulator::Contents > chipsAfter( Scenario scenario, std::optiona
 
 TEST( Faults, leaveNothingBehindOnceTheyAreRepaired ) {
    Rex::logSinkIs( []( auto const & ) {} );
-   loadPlugin( L3SM_BINARY_DIR "/lib/libL3SmPlugin.so" );
+   loadPlugin( buildFolder() + "/lib/libL3SmPlugin.so" );
    U64 all = 0; // faults that fired
    for ( U64 seed = 1; seed <= 10; ++seed ) {
       Scenario const scenario = randomScenario(

@@ -1,6 +1,7 @@
 // Whom each attribute of the state reaches is found by changing it: in a switch under way, and before the start. The
 // switch stands in several states, so that a function that only a gate stops is heard of, too. ./dev golden writes the
 // list anew.
+#include "BuildFolder.h"
 #include "inspection/GoldenList.h"
 #include "inspection/Play.h"
 #include "inspection/SampleValues.h"
@@ -218,7 +219,7 @@ Functions inChildren( World const & world, At const & at ) {
    std::size_t next = 0;
    for ( bool isAtEnd = false; !isAtEnd; ++next ) {
       Child const child = inChild( [&]( std::ostream & out ) {
-         loadPlugin( L3SM_BINARY_DIR "/lib/libL3SmPlugin.so" );
+         loadPlugin( buildFolder() + "/lib/libL3SmPlugin.so" );
          at( scenarioOf( world ), next, out );
       } );
       Place place;

@@ -3,6 +3,7 @@
 //
 // L3SM_STATES=10000 explores ten thousand random states instead of a few; L3SM_FIRST_STATE=N those from the Nth on.
 #include "inspection/Histories.h"
+#include "BuildFolder.h"
 #include "inspection/KnownMemories.h"
 #include "inspection/OnChip.h"
 #include "inspection/Play.h"
@@ -23,7 +24,7 @@ Scenario example( std::string const & name ) {
 }
 
 Histories explored( Scenario const & scenario, std::size_t count ) {
-   loadPlugin( L3SM_BINARY_DIR "/lib/libL3SmPlugin.so" );
+   loadPlugin( buildFolder() + "/lib/libL3SmPlugin.so" );
    return explore( scenario, { .count = count, .seconds = 0, .seed = 7 } );
 }
 
@@ -91,7 +92,7 @@ TEST( Histories, areTheSameForTheSameSeed ) {
 }
 
 TEST( Histories, endWhenTheirTimeIsOver ) {
-   loadPlugin( L3SM_BINARY_DIR "/lib/libL3SmPlugin.so" );
+   loadPlugin( buildFolder() + "/lib/libL3SmPlugin.so" );
    Histories const found = explore( example( "gue" ), { .count = 1'000'000'000, .seconds = 0.05 } );
    EXPECT_TRUE( found.isCut );
    EXPECT_LT( found.played, 1'000'000u );
@@ -126,7 +127,7 @@ U64 numberIn( char const * variable, U64 otherwise ) {
 TEST( Histories, ofRandomStatesAreAllKnown ) {
    U64 const states = numberIn( "L3SM_STATES", 6 );
    U64 const first = numberIn( "L3SM_FIRST_STATE", 1 );
-   loadPlugin( L3SM_BINARY_DIR "/lib/libL3SmPlugin.so" );
+   loadPlugin( buildFolder() + "/lib/libL3SmPlugin.so" );
    for ( U64 seed = first; seed < first + states; ++seed ) {
       // A toggle has one value for the life of a process.
       Child const child = inChild( [&]( std::ostream & out ) {

@@ -1,5 +1,6 @@
 // A plan tells what a run would do: carried out, it leaves what the run leaves.
 #include "inspection/Plan.h"
+#include "BuildFolder.h"
 #include "inspection/AnyScenario.h"
 #include "inspection/ChipDifferences.h"
 #include "inspection/Play.h"
@@ -13,7 +14,7 @@ namespace {
 using namespace Inspection;
 using Simulator::Row;
 
-std::string const plugin = L3SM_BINARY_DIR "/lib/libL3SmPlugin.so";
+std::string const plugin = buildFolder() + "/lib/libL3SmPlugin.so";
 
 // The bits that a planned change differs in, put on the chip.
 void carryOut( Row const & change, Simulator::ChipDriver & chips ) {

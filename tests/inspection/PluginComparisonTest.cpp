@@ -1,5 +1,6 @@
 // Two builds of the plug-in: the tree's with itself, and with one in which one constant is another.
 #include "inspection/PluginComparison.h"
+#include "BuildFolder.h"
 #include "inspection/files/Json.h"
 #include "l3sm/Command.h"
 
@@ -11,8 +12,8 @@ using namespace Inspection;
 using Rex::Value;
 
 std::string const example = L3SM_SOURCE_DIR "/examples/urpf-and-ip-traps.json";
-std::string const own = L3SM_BINARY_DIR "/lib/libL3SmPlugin.so";
-std::string const changed = L3SM_BINARY_DIR "/changed/lib/libL3SmPluginChanged.so";
+std::string const own = buildFolder() + "/lib/libL3SmPlugin.so";
+std::string const changed = buildFolder() + "/changed/lib/libL3SmPluginChanged.so";
 
 Value const & at( Value const & value, std::string const & name ) {
    return value.object()->at( name );

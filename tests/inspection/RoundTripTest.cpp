@@ -1,6 +1,7 @@
 // A saved scenario begins where the run ended: played without events, it ends in the same chips, controls and state.
 //
 // RC_PARAMS="max_success=1000" tries a thousand random runs instead of a hundred.
+#include "BuildFolder.h"
 #include "inspection/AnyScenario.h"
 #include "inspection/FileDifferences.h"
 #include "inspection/KnownMemories.h"
@@ -26,7 +27,7 @@ struct Left {
 Left playOf( Scenario const & scenario ) {
    Child const child = inChild( [&]( std::ostream & out ) {
       Rex::logSinkIs( []( auto const & ) {} );
-      loadPlugin( L3SM_BINARY_DIR "/lib/libL3SmPlugin.so" );
+      loadPlugin( buildFolder() + "/lib/libL3SmPlugin.so" );
       Simulator::SimulatedSwitch sw( scenario.description );
       play( scenario, sw );
       writeScenario( out, savedScenario( scenario, sw ) );

@@ -1,6 +1,7 @@
 // What a second start does to the chips, and which values fields pass through without keeping them: over all examples,
 // on every kind of chip, with each toggle as the example has it and flipped. tests/golden/second-start/ has what was
 // found, a file for each example; what ends as another also has its reason (inspection/KnownMemories.h).
+#include "BuildFolder.h"
 #include "inspection/KnownMemories.h"
 #include "inspection/KnownToggles.h"
 #include "inspection/OnChip.h"
@@ -18,7 +19,7 @@ namespace fs = std::filesystem;
 using namespace Inspection;
 using Simulator::Row;
 
-std::string const plugin = L3SM_BINARY_DIR "/lib/libL3SmPlugin.so";
+std::string const plugin = buildFolder() + "/lib/libL3SmPlugin.so";
 
 Scenario example( std::string const & name ) {
    return readScenario( std::string( L3SM_SOURCE_DIR "/examples/" ) + name + ".json" );
@@ -71,11 +72,9 @@ std::vector< Toggle::Settings > settingsOf( Scenario const & scenario ) {
 struct SecondStartGolden : testing::TestWithParam< std::string > {};
 
 TEST_P( SecondStartGolden, isAsItWasFound ) {
-#ifdef __SANITIZE_ADDRESS__
-   if ( GetParam() != "gue" ) {
+   if ( isSanitized() && GetParam() != "gue" ) {
       GTEST_SKIP() << "a second start takes the same way on every example; one is enough for the sanitizers";
    }
-#endif
    Scenario const base = example( GetParam() );
    std::map< std::string, std::set< std::string > > chipsOf; // that show a finding
    for ( auto const chipType : Hardware::allChipTypes ) {

@@ -1,5 +1,6 @@
 // On a terminal answers are coloured, unless NO_COLOR is set. `script` runs a command on a terminal of its own.
 #include "inspection/views/Terminal.h"
+#include "BuildFolder.h"
 #include "l3sm/Command.h"
 
 #include <gtest/gtest.h>
@@ -12,7 +13,7 @@ bool hasTerminals() {
 
 // Stands at the end of a command's line: the program itself has nothing to do there.
 std::string onTerminal( std::string const & environment, std::string const & arguments ) {
-   return "--help >/dev/null; " + environment + " script -qec '" L3SM_BINARY_DIR "/bin/l3sm " + arguments +
+   return "--help >/dev/null; " + environment + " script -qec '" + buildFolder() + "/bin/l3sm " + arguments +
           "' /dev/null";
 }
 

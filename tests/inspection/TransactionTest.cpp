@@ -1,4 +1,5 @@
 // Several changes at once: one event, as a database's transaction makes it.
+#include "BuildFolder.h"
 #include "inspection/EventInput.h"
 #include "inspection/Play.h"
 #include "inspection/files/Json.h"
@@ -29,7 +30,7 @@ TEST( Transaction, isOneEventOfARun ) {
               toJson( *parseJson( text, "t" ).object()->at( "events" ).list()->begin(), 0 ) );
 
    Rex::logSinkIs( []( auto const & ) {} );
-   loadPlugin( L3SM_BINARY_DIR "/lib/libL3SmPlugin.so" );
+   loadPlugin( buildFolder() + "/lib/libL3SmPlugin.so" );
    Simulator::SimulatedSwitch sw( scenario.description );
    play( scenario, sw );
    std::map< U32, std::set< std::string > > causes;

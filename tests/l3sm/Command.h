@@ -5,6 +5,7 @@
 //    EXPECT_EQ( l3sm.errors, "l3sm: scenario.json:1: ...\n" );
 #pragma once
 
+#include "BuildFolder.h"
 #include "Folder.h"
 
 #include <algorithm>
@@ -52,8 +53,8 @@ class Command {
       for ( auto const & [name, text] : files ) {
          std::ofstream( folder / name ) << text;
       }
-      std::string const line =
-         "cd '" + folder.string() + "' && '" L3SM_BINARY_DIR "/bin/l3sm' " + arguments + " </dev/null >.out 2>.errors";
+      std::string const line = "cd '" + folder.string() + "' && '" + buildFolder() + "/bin/l3sm' " + arguments +
+                               " </dev/null >.out 2>.errors";
       int const result = std::system( line.c_str() );
       status = WEXITSTATUS( result );
       output = contentsOf( folder / ".out" );

@@ -1,5 +1,6 @@
 // What can follow on a line that is being typed: as the program says it, and as the shells offer it.
 #include "l3sm/Completion.h"
+#include "BuildFolder.h"
 #include "l3sm/Command.h"
 #include "l3sm/CommandLine.h"
 
@@ -153,7 +154,7 @@ TEST( Completion, hasNothingToSayOfWhatItDoesNotKnow ) {
 // Runs a shell's script, where the program can be found and `line` is what is being typed.
 Names inShell( std::string const & shell, std::string const & script, std::string const & line, Command::Files files ) {
    files["script"] = script;
-   Command const run( "--help > /dev/null; PATH='" L3SM_BINARY_DIR "/bin':$PATH " + shell + " script '" +
+   Command const run( "--help > /dev/null; PATH='" + buildFolder() + "/bin':$PATH " + shell + " script '" +
                          std::string( L3SM_SOURCE_DIR "/completions" ) + "' '" + line + "'",
                       files );
    EXPECT_EQ( run.errors, "" );

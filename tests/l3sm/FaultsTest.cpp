@@ -1,4 +1,5 @@
 // Scenarios whose chips fail, as a person plays them.
+#include "BuildFolder.h"
 #include "l3sm/Running.h"
 
 #include <gmock/gmock.h>
@@ -55,9 +56,8 @@ std::string const ofOneOfTwo =
 
 TEST( FaultsOfAScenario, areThoseOfTheirFapAlone ) {
    auto const shown = []( std::string const & fap ) {
-      return Command( "run s.json --quiet --journal j.jsonl && '" L3SM_BINARY_DIR
-                      "/bin/l3sm' show j.jsonl IppdFerTrapCfg --array 3 --fap " +
-                         fap,
+      return Command( "run s.json --quiet --journal j.jsonl && '" + buildFolder() +
+                         "/bin/l3sm' show j.jsonl IppdFerTrapCfg --array 3 --fap " + fap,
                       { { "s.json", ofOneOfTwo } } );
    };
    EXPECT_EQ( shown( "0" ).output,
@@ -72,7 +72,7 @@ TEST( FaultsOfAScenario, areThoseOfTheirFapAlone ) {
 }
 
 TEST( FaultsOfAScenario, standAmongTheReasonsOfAnEntry ) {
-   std::string const why = "run s.json --quiet --journal j.jsonl && '" L3SM_BINARY_DIR
+   std::string const why = "run s.json --quiet --journal j.jsonl && '" + buildFolder() +
                            "/bin/l3sm' why j.jsonl IppdFerTrapCfg --array 3 --fap 1";
    Command const text( why, { { "s.json", ofOneOfTwo } } );
    EXPECT_THAT( text.output,
@@ -141,7 +141,7 @@ TEST( FaultsOfAScenario, leaveTheJournalTellingWhatIsOnTheChips ) {
    for ( char const * const kind : { "lost", "flip:1", "stuck:2=1", "error" } ) {
       std::string const fault =
          R"({"fault": {"table": "ErppInlifOrientationMap", "kind": ")" + std::string( kind ) + "\"}}, ";
-      std::string const then = " >/dev/null && '" L3SM_BINARY_DIR "/bin/l3sm' ";
+      std::string const then = " >/dev/null && '" + buildFolder() + "/bin/l3sm' ";
       Command const both( "run s.json --journal j.jsonl --chips c.json" + then + "replay j.jsonl" + then +
                              "diff j.jsonl c.json",
                           { { "s.json", scenario( fault + dci ) } } );

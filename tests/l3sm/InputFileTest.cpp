@@ -1,4 +1,5 @@
 // Where a scenario may come from: files, pipes and standard input, each read whole; what has no end is not swallowed.
+#include "BuildFolder.h"
 #include "l3sm/Command.h"
 
 #include <gtest/gtest.h>
@@ -9,7 +10,7 @@ std::string const one =
    R"({"name": "from outside", "switch": {"faps": [{"fapId": 0, "revision": {"chipType": "BCM88690_B0"}}]}})";
 // The program at the end of a shell's line. Its own line has no standard input.
 Command shell( std::string const & line, std::string const & arguments, Command::Files const & files = {} ) {
-   return Command( "--help >/dev/null; { " + line + " '" L3SM_BINARY_DIR "/bin/l3sm' " + arguments + " 2>&1; }",
+   return Command( "--help >/dev/null; { " + line + " '" + buildFolder() + "/bin/l3sm' " + arguments + " 2>&1; }",
                    files );
 }
 
@@ -43,7 +44,7 @@ TEST( InputFile, isNoTerminal ) {
    }
    std::string const rest = "is a terminal; name a file, or give the text through a pipe\r\n";
    auto const onTerminal = []( std::string const & arguments ) {
-      return Command( "--help >/dev/null; script -qec '" L3SM_BINARY_DIR "/bin/l3sm " + arguments + "' /dev/null" )
+      return Command( "--help >/dev/null; script -qec '" + buildFolder() + "/bin/l3sm " + arguments + "' /dev/null" )
          .output;
    };
    EXPECT_EQ( onTerminal( "run -" ), "l3sm: standard input: " + rest );
@@ -52,9 +53,9 @@ TEST( InputFile, isNoTerminal ) {
 
 // 300 MB of blanks are a scenario by their form alone.
 TEST( InputFile, isNotSwallowedWhereItHasNoEnd ) {
-#ifdef __SANITIZE_ADDRESS__
-   GTEST_SKIP() << "the sanitizer's own memory is beyond every limit";
-#endif
+   if ( isSanitized() ) {
+      GTEST_SKIP() << "the sanitizer's own memory is beyond every limit";
+   }
    std::string const told =
       "holds more than the 256 MB that are read; a scenario need only name what differs from the defaults\n";
    std::string const limited = "ulimit -v 2000000; ";

@@ -1,4 +1,5 @@
 // Scenarios to start from: whatever they are about, they are played to their end on chips that are served.
+#include "BuildFolder.h"
 #include "l3sm/Command.h"
 
 #include "inspection/KeptRows.h"
@@ -26,8 +27,8 @@ constexpr char const * allChips = "BCM88690_B0 BCM88800_A0 BCM88850_A0 BCM88859_
 
 // Writes a scenario and plays it; every FAP must be served, and every event do something.
 void expectToBePlayed( std::string const & arguments, std::size_t faps ) {
-   Command const l3sm( "new " + arguments +
-                       " -o s.json && '" L3SM_BINARY_DIR "/bin/l3sm' run s.json --quiet --journal j" );
+   Command const l3sm( "new " + arguments + " -o s.json && '" + buildFolder() +
+                       "/bin/l3sm' run s.json --quiet --journal j" );
    ASSERT_EQ( l3sm.status, 0 ) << arguments << l3sm.errors;
    auto const scenario = parseJson( l3sm.file( "s.json" ), "s.json" );
    EXPECT_EQ( scenario.object()->at( "switch" ).object()->at( "faps" ).list()->size(), faps );

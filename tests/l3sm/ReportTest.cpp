@@ -1,4 +1,5 @@
 // The verb `report`: where its page comes from, and what it refuses.
+#include "BuildFolder.h"
 #include "l3sm/Command.h"
 
 #include <gtest/gtest.h>
@@ -13,7 +14,7 @@ std::string playing( std::string const & options ) {
 
 // A second run of the program in the folder of the first.
 std::string then( std::string const & arguments ) {
-   return " && '" L3SM_BINARY_DIR "/bin/l3sm' " + arguments;
+   return " && '" + buildFolder() + "/bin/l3sm' " + arguments;
 }
 
 TEST( Report, isTheSameOfARunOfItsJournalAndOfItsScenario ) {

@@ -1,4 +1,5 @@
 // What `l3sm run` writes: chips, journal, state, traces, summary.
+#include "BuildFolder.h"
 #include "l3sm/Command.h"
 
 #include "inspection/Version.h"
@@ -63,7 +64,7 @@ TEST( Run, beginsAJournalWithTheProgramAndThePlugIn ) {
    std::string const journal = l3sm.file( "j" );
    Value const begin = Inspection::parseJson( journal.substr( 0, journal.find( '\n' ) ), "j" );
    EXPECT_EQ( text( begin, "l3sm" ), Inspection::versionNumber() );
-   EXPECT_EQ( text( begin, "plugin" ), Inspection::libraryId( L3SM_BINARY_DIR "/lib/libL3SmPlugin.so" ) );
+   EXPECT_EQ( text( begin, "plugin" ), Inspection::libraryId( buildFolder() + "/lib/libL3SmPlugin.so" ) );
 }
 
 TEST( Run, saysWhatKeepsAFapFromBeingServedAndHowToOpenTheGate ) {

@@ -6,6 +6,7 @@
 //    EXPECT_EQ( l3sm.wait(), 128 + SIGTERM );
 #pragma once
 
+#include "BuildFolder.h"
 #include "ChildProgram.h"
 #include "l3sm/Command.h"
 
@@ -23,7 +24,7 @@ class Running {
          ::mkfifo( ( folder_ / name ).c_str(), 0600 );
          pipe_ = ::open( ( folder_ / name ).c_str(), O_RDONLY | O_NONBLOCK );
       }
-      std::string const line = "cd '" + folder_.string() + "' && exec '" L3SM_BINARY_DIR "/bin/l3sm' " + arguments +
+      std::string const line = "cd '" + folder_.string() + "' && exec '" + buildFolder() + "/bin/l3sm' " + arguments +
                                " </dev/null >.out 2>.errors";
       child_.begins( { "/bin/sh", "-c", line }, folder_ / ".errors" );
    }

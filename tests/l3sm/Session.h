@@ -7,6 +7,7 @@
 // numbers of the source are written as `N`: they change with every edit of a file.
 #pragma once
 
+#include "BuildFolder.h"
 #include "l3sm/Command.h"
 
 #include <regex>
@@ -29,9 +30,8 @@ class Session {
 
    // The command's line, and below it what it answered.
    std::string play( std::string const & command ) const {
-      std::string const line = "ulimit -c 0; cd '" + folder.string() +
-                               "' && PATH='" L3SM_BINARY_DIR "/bin':$PATH && unset COLUMNS && { " + command +
-                               "\n} </dev/null >.answer 2>&1";
+      std::string const line = "ulimit -c 0; cd '" + folder.string() + "' && PATH='" + buildFolder() +
+                               "/bin':$PATH && unset COLUMNS && { " + command + "\n} </dev/null >.answer 2>&1";
       int const status = WEXITSTATUS( std::system( line.c_str() ) );
       std::string answer = "$ " + command + "\n" + withoutMachine( contentsOf( folder / ".answer" ) );
       answer += status == 0 ? "" : "[" + std::to_string( status ) + "]\n";
@@ -43,8 +43,7 @@ class Session {
    static std::string withoutMachine( std::string const & text ) {
       static std::regex const number( R"((\.cpp):\d+ *( |\n|"|:|$))" );
       static std::regex const fromBuildFolder( R"(\.\./\.\./(DaceL3Unicast/))" );
-      static std::regex const prefix(
-         std::regex_replace( std::string( L3SM_BINARY_DIR ), std::regex( R"([.+])" ), R"(\$&)" ) );
+      static std::regex const prefix( std::regex_replace( buildFolder(), std::regex( R"([.+])" ), R"(\$&)" ) );
       std::string out = std::regex_replace( text, number, "$1:N$2" );
       out = std::regex_replace( out, fromBuildFolder, "$1" );
       return std::regex_replace( out, prefix, "/usr" );

@@ -1,3 +1,4 @@
+#include "BuildFolder.h"
 #include "ChipView.h"
 #include "rex/Log.h"
 
@@ -290,7 +291,7 @@ class ElfFile {
 };
 
 TEST( MplsLog, theLibraryHoldsOneMessageInItsSection ) {
-   ElfFile const library( L3SM_BINARY_DIR "/lib/libL3SmPlugin.so" );
+   ElfFile const library( buildFolder() + "/lib/libL3SmPlugin.so" );
    auto const section = library.section( ".veloro_logmsg" );
    ASSERT_TRUE( section );
    ASSERT_EQ( section->sh_size, 4 * 8u + 2 * 4 );
