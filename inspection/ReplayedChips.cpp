@@ -23,22 +23,47 @@ U64 keyOf( U16 fap, Simulator::SchanAddress const & at ) {
 
 ReplayedChips::ReplayedChips( JournalReader const & journal, std::optional< U16 > only )
    : journal_( journal ), only_( only ), isBeginKnown_( journal.format() != 1 ) {
+   // A boot image is put together once for each kind of chip.
+   std::map< Hardware::ChipType, Chip const * > booted;
    for ( auto const & [fap, chipType] : journal.chipTypes() ) {
-      if ( !only || *only == fap ) {
+      if ( only && *only != fap ) {
+         continue;
+      }
+      auto & image = booted[chipType];
+      if ( image ) {
+         make( fap, chipType ).takeContents( *image );
+      } else {
          chipIs( fap, chipType );
+         image = chips_[fap];
       }
    }
    fill( journal.path(), journal.scenario() );
 }
 
+ReplayedChips::ReplayedChips( ReplayedChips const & before )
+   : RowReader( before ), journal_( before.journal_ ), only_( before.only_ ), isBeginKnown_( before.isBeginKnown_ ),
+     written_( before.written_ ), failing_( before.failing_ ), event_( before.event_ ), reads_( before.reads_ ),
+     writes_( before.writes_ ), controls_( before.controls_ ), begunWith_( before.begunWith_ ),
+     others_( before.others_ ) {
+   for ( auto const & [fap, chipType] : before.chipTypes_ ) {
+      make( fap, chipType ).takeContents( *before.chips_[fap] );
+   }
+}
+
+// With nothing in it.
+Chip & ReplayedChips::make( U16 fap, Hardware::ChipType chipType ) {
+   auto & made =
+      driver_.chipIs( DaceSal::ChipId{ fap }, Hardware::chipTypeName( chipType ), Simulator::addressMap( chipType ) );
+   chipTypes_[fap] = chipType;
+   chips_.resize( std::max< std::size_t >( chips_.size(), fap + 1u ) );
+   chips_[fap] = &made;
+   return made;
+}
+
 void ReplayedChips::chipIs( U16 fap, Hardware::ChipType chipType ) {
-   auto const [known, isNew] = chipTypes_.emplace( fap, chipType );
-   if ( isNew ) {
-      auto & made = driver_.chipIs(
-         DaceSal::ChipId{ fap }, Hardware::chipTypeName( chipType ), Simulator::addressMap( chipType ) );
-      Simulator::boot( made, chipType );
-      chips_.resize( std::max< std::size_t >( chips_.size(), fap + 1u ) );
-      chips_[fap] = &made;
+   auto const known = chipTypes_.find( fap );
+   if ( known == chipTypes_.end() ) {
+      Simulator::boot( make( fap, chipType ), chipType );
    } else if ( known->second != chipType ) {
       throw InputError( "FAP " + std::to_string( fap ) + " is a " + Hardware::chipTypeName( known->second ) +
                         " in one file and a " + Hardware::chipTypeName( chipType ) + " in another" );
@@ -75,12 +100,12 @@ Simulator::Contents ReplayedChips::contents( U16 fap ) const {
 }
 
 void ReplayedChips::eventBegins( U32 event, Value const & ) {
-   event_ = last_ ? std::min( event, *last_ ) : event;
+   event_ = event;
 }
 
 void ReplayedChips::row( Row const & row ) {
    bool const isFault = row.kind == Row::Kind::fault;
-   if ( !row.isOfChip() || ( last_ && row.event > *last_ ) ) {
+   if ( !row.isOfChip() ) {
       return;
    }
    if ( journal_.format() == 1 ) {
