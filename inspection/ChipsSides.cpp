@@ -79,7 +79,9 @@ ChipsOfJournal::ChipsOfJournal( std::string const & path,
    for ( auto const & event : events ) {
       last = last && event ? std::optional( std::max( *last, *event ) ) : std::nullopt;
    }
-   InTurn chips( std::make_unique< ReplayedChips >( journal_, filter.fap() ), events, chips_ );
+   auto begin = std::make_unique< ReplayedChips >( journal_, filter.fap() );
+   begin->isTrusted();
+   InTurn chips( std::move( begin ), events, chips_ );
    auto const ending = journal_.read( chips,
                                       { .tables = filter.tables(),
                                         .fap = filter.fap(),
