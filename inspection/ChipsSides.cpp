@@ -3,24 +3,60 @@
 #include "inspection/files/ChipsReader.h"
 #include "simulator/ContentsApart.h"
 
+#include <algorithm>
+#include <numeric>
+
 namespace Inspection {
 
 namespace {
 
 using Part = ChipsReader::Part;
 
-// Hands each row to several.
-class Several final : public Simulator::RowReader {
+// Chips as they stand after several events: what leads up to an earlier one is done once, and the later go on from
+// there.
+class InTurn final : public Simulator::RowReader {
  public:
-   explicit Several( std::vector< std::unique_ptr< ReplayedChips > > const & all ) : all_( all ) {}
+   using Events = std::vector< std::optional< U32 > >; // none: the end
+   using All = std::vector< std::unique_ptr< ReplayedChips > >;
+
+   // Puts one for each event into `all`, in the order of the events.
+   InTurn( std::unique_ptr< ReplayedChips > begin, Events const & events, All & all )
+      : events_( events ), all_( all ), chips_( std::move( begin ) ), open_( events.size() ) {
+      all_.resize( events.size() );
+      std::iota( open_.begin(), open_.end(), std::size_t{ 0 } );
+      std::ranges::stable_sort( open_, std::greater<>(), [&]( std::size_t which ) { return endOf( which ); } );
+   }
+   void eventBegins( U32 event, Rex::Value const & what ) override {
+      while ( !open_.empty() && endOf( open_.back() ) < event ) {
+         stop();
+      }
+      if ( !open_.empty() ) {
+         chips_->eventBegins( event, what );
+      }
+   }
    void row( Simulator::Row const & row ) override {
-      for ( auto const & each : all_ ) {
-         each->row( row );
+      if ( !open_.empty() ) {
+         chips_->row( row );
+      }
+   }
+   void ends( Simulator::Ending const & ) override {
+      while ( !open_.empty() ) {
+         stop();
       }
    }
 
  private:
-   std::vector< std::unique_ptr< ReplayedChips > > const & all_;
+   U64 endOf( std::size_t which ) const { return events_[which] ? U64{ *events_[which] } : ~U64{ 0 }; }
+   void stop() {
+      bool const isLast = open_.size() == 1;
+      all_[open_.back()] = isLast ? std::move( chips_ ) : std::make_unique< ReplayedChips >( *chips_ );
+      open_.pop_back();
+   }
+
+   Events const & events_;
+   All & all_;
+   std::unique_ptr< ReplayedChips > chips_; // under way
+   std::vector< std::size_t > open_;        // the events that aren't over, the next at the end
 };
 
 ChipsFilter partsWanted( ContentsFilter const & filter ) {
@@ -41,14 +77,12 @@ ChipsOfJournal::ChipsOfJournal( std::string const & path,
    : journal_( path ) {
    std::optional< U32 > last = 0;
    for ( auto const & event : events ) {
-      auto & made = chips_.emplace_back( std::make_unique< ReplayedChips >( journal_, filter.fap() ) );
-      if ( event ) {
-         made->stopsAfter( *event );
-      }
       last = last && event ? std::optional( std::max( *last, *event ) ) : std::nullopt;
    }
-   Several several( chips_ );
-   auto const ending = journal_.read( several,
+   auto begin = std::make_unique< ReplayedChips >( journal_, filter.fap() );
+   begin->isTrusted();
+   InTurn chips( std::move( begin ), events, chips_ );
+   auto const ending = journal_.read( chips,
                                       { .tables = filter.tables(),
                                         .fap = filter.fap(),
                                         .last = last,

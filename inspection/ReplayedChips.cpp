@@ -23,22 +23,47 @@ U64 keyOf( U16 fap, Simulator::SchanAddress const & at ) {
 
 ReplayedChips::ReplayedChips( JournalReader const & journal, std::optional< U16 > only )
    : journal_( journal ), only_( only ), isBeginKnown_( journal.format() != 1 ) {
+   // A boot image is put together once for each kind of chip.
+   std::map< Hardware::ChipType, Chip const * > booted;
    for ( auto const & [fap, chipType] : journal.chipTypes() ) {
-      if ( !only || *only == fap ) {
+      if ( only && *only != fap ) {
+         continue;
+      }
+      auto & image = booted[chipType];
+      if ( image ) {
+         make( fap, chipType ).takeContents( *image );
+      } else {
          chipIs( fap, chipType );
+         image = chips_[fap].chip;
       }
    }
    fill( journal.path(), journal.scenario() );
 }
 
+ReplayedChips::ReplayedChips( ReplayedChips const & before )
+   : RowReader( before ), journal_( before.journal_ ), only_( before.only_ ), isBeginKnown_( before.isBeginKnown_ ),
+     comparesAll_( before.comparesAll_ ), written_( before.written_ ), failing_( before.failing_ ),
+     event_( before.event_ ), reads_( before.reads_ ), writes_( before.writes_ ), controls_( before.controls_ ),
+     begunWith_( before.begunWith_ ), others_( before.others_ ) {
+   for ( auto const & [fap, chipType] : before.chipTypes_ ) {
+      make( fap, chipType ).takeContents( *before.chips_[fap].chip );
+   }
+}
+
+// With nothing in it.
+Chip & ReplayedChips::make( U16 fap, Hardware::ChipType chipType ) {
+   auto & made =
+      driver_.chipIs( DaceSal::ChipId{ fap }, Hardware::chipTypeName( chipType ), Simulator::addressMap( chipType ) );
+   chipTypes_[fap] = chipType;
+   chips_.resize( std::max< std::size_t >( chips_.size(), fap + 1u ) );
+   chips_[fap] = { &made, chipType };
+   return made;
+}
+
 void ReplayedChips::chipIs( U16 fap, Hardware::ChipType chipType ) {
-   auto const [known, isNew] = chipTypes_.emplace( fap, chipType );
-   if ( isNew ) {
-      auto & made = driver_.chipIs(
-         DaceSal::ChipId{ fap }, Hardware::chipTypeName( chipType ), Simulator::addressMap( chipType ) );
-      Simulator::boot( made, chipType );
-      chips_.resize( std::max< std::size_t >( chips_.size(), fap + 1u ) );
-      chips_[fap] = &made;
+   auto const known = chipTypes_.find( fap );
+   if ( known == chipTypes_.end() ) {
+      Simulator::boot( make( fap, chipType ), chipType );
    } else if ( known->second != chipType ) {
       throw InputError( "FAP " + std::to_string( fap ) + " is a " + Hardware::chipTypeName( known->second ) +
                         " in one file and a " + Hardware::chipTypeName( chipType ) + " in another" );
@@ -75,12 +100,12 @@ Simulator::Contents ReplayedChips::contents( U16 fap ) const {
 }
 
 void ReplayedChips::eventBegins( U32 event, Value const & ) {
-   event_ = last_ ? std::min( event, *last_ ) : event;
+   event_ = event;
 }
 
 void ReplayedChips::row( Row const & row ) {
    bool const isFault = row.kind == Row::Kind::fault;
-   if ( !row.isOfChip() || ( last_ && row.event > *last_ ) ) {
+   if ( !row.isOfChip() ) {
       return;
    }
    if ( journal_.format() == 1 ) {
@@ -89,21 +114,21 @@ void ReplayedChips::row( Row const & row ) {
          chipIs( row.fap, told->second );
       }
    }
-   if ( row.fap >= chips_.size() || !chips_[row.fap] ) {
+   if ( row.fap >= chips_.size() || !chips_[row.fap].chip ) {
       throw Rex::ValueError(
          "", "nothing says what kind of chip FAP " + std::to_string( row.fap ) + " is; give --chips or --scenario" );
    }
-   auto & chip = *chips_[row.fap];
+   auto & chip = *chips_[row.fap].chip;
+   auto const chipType = static_cast< U8 >( chips_[row.fap].chipType );
    if ( row.kind == Row::Kind::control ) {
       chip.controlIs( row.control, row.value );
       ++controls_;
       return;
    }
    auto const * layout = row.layout;
-   if ( layout->chipType != static_cast< U8 >( chipTypes_.at( row.fap ) ) ) {
+   if ( layout->chipType != chipType ) {
       // The journal didn't say what kind of chip it is, and another file has.
-      layout = Catalogue::layout(
-         Catalogue::tables()[row.tableNumber], static_cast< U8 >( chipTypes_.at( row.fap ) ), row.variant );
+      layout = Catalogue::layout( Catalogue::tables()[row.tableNumber], chipType, row.variant );
       if ( !layout || layout->width != row.words.size() ||
            row.entry.value_or( 0 ) >= Simulator::entryCount( *layout ) ||
            static_cast< U32 >( row.array ) - layout->arrayIndexFirst >= layout->arrayElements ||
@@ -121,11 +146,13 @@ void ReplayedChips::row( Row const & row ) {
    }
    if ( row.kind == Row::Kind::read ) {
       ++reads_;
-      compare( row, *layout, chip, row.words );
+      if ( comparesAll_ ) {
+         compare( row, *layout, chip, row.words );
+      }
       return;
    }
    ++writes_;
-   if ( !row.before.empty() ) {
+   if ( comparesAll_ && !row.before.empty() ) {
       compare( row, *layout, chip, row.before );
    }
    bool const isCore = row.scope == Row::Scope::core;

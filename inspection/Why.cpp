@@ -67,7 +67,7 @@ RowFilter WhyReader::rowsOfSubject() const {
    std::vector< std::string > const tables( filter_.table.empty() ? 0 : 1, filter_.table );
    switch ( subject.kind ) {
    case Kind::part:
-      return { .tables = { subject.part.table->name }, .publicationsToo = false };
+      return { .tables = { subject.part.table->name }, .controlsToo = false, .publicationsToo = false };
    case Kind::control:
       return { .tables = { subject.text() }, .publicationsToo = false }; // no table is called so: no reads and writes
    case Kind::interface:

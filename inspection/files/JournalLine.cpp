@@ -3,6 +3,9 @@
 #include "inspection/files/ChipsFile.h"
 #include "inspection/files/JsonElements.h"
 #include "inspection/files/RowNames.h"
+
+#include <algorithm>
+
 namespace Inspection {
 
 namespace {
@@ -34,6 +37,12 @@ std::string counted( std::size_t words ) {
 }
 
 } // namespace
+
+void JournalLineParser::chipIs( U16 fap, Hardware::ChipType chipType ) {
+   chipTypes_[fap] = chipType;
+   chips_.resize( std::max< std::size_t >( chips_.size(), fap + 1u ) );
+   chips_[fap] = chipType;
+}
 
 JournalLineParser::Parsed JournalLineParser::parse( std::string_view line ) {
    gatesBefore_.clear();
@@ -67,18 +76,16 @@ std::optional< Row > JournalLineParser::row( WrittenRow & written ) {
    Row row{ .kind = written.kind, .event = written.event, .seq = written.seq };
    row.isOfFap = written.isOfFap;
    row.fap = written.fap;
-   if ( written.kind == Row::Kind::publish || ( areChipsAll_ && row.isOfFap && !chipTypes_.contains( row.fap ) ) ) {
+   if ( written.kind == Row::Kind::publish || ( areChipsAll_ && row.isOfFap && !hasFap( row.fap ) ) ) {
       return std::nullopt;
    }
    if ( written.kind == Row::Kind::read || written.kind == Row::Kind::write ) {
-      if ( !latestTable_ || latestTable_->name != written.table ) {
-         latestTable_ = Catalogue::table( written.table );
-      }
-      if ( !latestTable_ || !latestTable_->hasMemory || !written.access( row, words_, before_ ) ) {
+      auto const * const table = tableOf( written.table );
+      if ( !table || !table->hasMemory || !written.access( row, words_, before_ ) ) {
          return std::nullopt;
       }
-      row.table = latestTable_->name;
-      row.tableNumber = latestTable_->number;
+      row.table = table->name;
+      row.tableNumber = table->number;
       row.layout = layoutOf( row );
       if ( !row.layout || ( row.scope == Row::Scope::core &&
                             static_cast< std::size_t >( row.core ) >= row.layout->selectors.size() ) ) {
@@ -140,7 +147,7 @@ Row JournalLineParser::row( dom::object const & object, Row::Kind kind ) {
 }
 
 void JournalLineParser::checkFap( U16 fap ) const {
-   if ( areChipsAll_ && !chipTypes_.contains( fap ) ) {
+   if ( areChipsAll_ && !hasFap( fap ) ) {
       throw ValueError( "/fap", "the switch that the journal begins with has no FAP " + std::to_string( fap ) );
    }
 }
@@ -162,7 +169,7 @@ void JournalLineParser::gatesInto( std::vector< Row > & gates, dom::object const
 void JournalLineParser::operation( dom::object const & object, Row & row ) {
    std::string_view chip; // format 1
    if ( !object["chip"].get( chip ) ) {
-      chipTypes_[row.fap] = Rex::below( "chip", [&] { return chipTypeFromValue( std::string( chip ) ); } );
+      chipIs( row.fap, Rex::below( "chip", [&] { return chipTypeFromValue( std::string( chip ) ); } ) );
    }
    checkFap( row.fap );
    row.changed = row.kind != Row::Kind::read && boolean( object, "changed" );
@@ -229,12 +236,27 @@ void JournalLineParser::publication( dom::object const & object, Row & row ) {
    row.publishedBefore = &publishedBefore_;
 }
 
+// Looked up once for most rows: its name is a dozen comparisons away otherwise.
+Catalogue::Table const * JournalLineParser::tableOf( std::string_view name ) {
+   if ( name.empty() ) {
+      return nullptr;
+   }
+   auto const letter = [&]( std::size_t at ) { return std::size_t{ static_cast< unsigned char >( name[at] ) }; };
+   std::size_t const few = name.size() + 5 * letter( name.size() - 1 ) + 37 * letter( name.size() / 2 );
+   auto & known = knownTables_[few % knownTables_.size()];
+   if ( known.name != name ) {
+      auto const * const table = Catalogue::table( name );
+      known = { table ? table->name : std::string_view(), table };
+   }
+   return known.table;
+}
+
 // Where the journal doesn't say what kind of chip it was, the first of the table's layouts that has the place.
 Catalogue::Layout const * JournalLineParser::layoutOf( Row const & row ) const {
-   auto const chip = chipTypes_.find( row.fap );
+   bool const isKnown = hasFap( row.fap );
    auto const array = static_cast< U32 >( row.array );
    for ( auto const & layout : Catalogue::tables()[row.tableNumber].layouts ) {
-      bool const isChip = chip == chipTypes_.end() || static_cast< U8 >( chip->second ) == layout.chipType;
+      bool const isChip = !isKnown || static_cast< U8 >( *chips_[row.fap] ) == layout.chipType;
       bool const hasArray = array >= layout.arrayIndexFirst && array - layout.arrayIndexFirst < layout.arrayElements;
       bool const hasEntry = row.entry ? *row.entry < layout.entries : layout.entries == 0;
       if ( isChip && hasArray && hasEntry && layout.variant == row.variant && layout.width == row.words.size() ) {

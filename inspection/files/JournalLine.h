@@ -7,6 +7,7 @@
 #include "inspection/files/RowTexts.h"
 #include "inspection/files/WrittenRow.h"
 
+#include <array>
 #include <map>
 #include <optional>
 #include <simdjson.h>
@@ -28,7 +29,7 @@ class JournalLineParser {
    using Parsed = std::variant< Simulator::Row, EventLine, BeginLine, Simulator::Ending >;
 
    // A FAP's kind of chip: its rows have their layout from now on.
-   void chipIs( U16 fap, Hardware::ChipType chipType ) { chipTypes_[fap] = chipType; }
+   void chipIs( U16 fap, Hardware::ChipType chipType );
    std::map< U16, Hardware::ChipType > const & chipTypes() const { return chipTypes_; }
    // Every FAP is known: rows of another are wrong.
    void chipsAreAll() { areChipsAll_ = true; }
@@ -51,16 +52,23 @@ class JournalLineParser {
    void access( simdjson::dom::object const & object, Simulator::Row & row );
    void publication( simdjson::dom::object const & object, Simulator::Row & row );
    void gatesInto( std::vector< Simulator::Row > & gates, simdjson::dom::object const & object, char const * key );
+   bool hasFap( U16 fap ) const { return fap < chips_.size() && chips_[fap]; }
    void checkFap( U16 fap ) const;
+   Catalogue::Table const * tableOf( std::string_view name );
    Catalogue::Layout const * layoutOf( Simulator::Row const & row ) const;
 
    simdjson::dom::parser parser_;
    std::map< U16, Hardware::ChipType > chipTypes_;
+   std::vector< std::optional< Hardware::ChipType > > chips_; // the same by FAP, as every row asks for it
    bool areChipsAll_ = false;
    std::vector< Simulator::Row > gatesBefore_;
    std::vector< Simulator::Row > gatesAfter_;
    RowTexts texts_;
-   Catalogue::Table const * latestTable_ = nullptr;
+   struct KnownTable {
+      std::string_view name{};
+      Catalogue::Table const * table = nullptr;
+   };
+   std::array< KnownTable, 256 > knownTables_{}; // by a few letters of their names
    std::vector< U32 > words_;
    std::vector< U32 > before_;
    Rex::Value published_;

@@ -21,6 +21,7 @@ bool isSpace( char letter ) {
 // Where the bytes of a block are `letter`, once those of `fold` are set.
 inline std::uint64_t whereIs( __m128i const ( &block )[4], char letter, char fold = 0 ) {
    std::uint64_t mask = 0;
+#pragma GCC unroll 4
    for ( int part = 0; part < 4; ++part ) {
       auto const folded = _mm_or_si128( block[part], _mm_set1_epi8( fold ) );
       auto const hits = _mm_movemask_epi8( _mm_cmpeq_epi8( folded, _mm_set1_epi8( letter ) ) );
@@ -38,7 +39,8 @@ inline bool has( __m128i const ( &block )[4], char letter ) {
 
 // Each bit: whether an odd number of bits stands up to there.
 inline std::uint64_t parity( std::uint64_t bits ) {
-   for ( unsigned const by : { 1u, 2u, 4u, 8u, 16u, 32u } ) {
+#pragma GCC unroll 6
+   for ( unsigned by = 1; by < 64; by *= 2 ) {
       bits ^= bits << by;
    }
    return bits;
@@ -213,7 +215,7 @@ char const * JsonStream::endOfBytes( char const * from, char const * to, Scan & 
    return nullptr;
 }
 
-// The inside of an object or list goes 64 bytes at a time, as long as it can't end in them.
+// The inside of an object or list goes 64 bytes at a time, and where it may end in them, from bracket to bracket.
 char const * JsonStream::endOf( char const * from, char const * to, Scan & scan ) {
    if ( scan.depth == 0 ) {
       auto const few = std::min< std::ptrdiff_t >( to - from, 64 );
@@ -222,22 +224,31 @@ char const * JsonStream::endOf( char const * from, char const * to, Scan & scan 
       }
       from += few;
    }
-   while ( scan.depth > 0 && to - from >= 64 ) {
+   for ( ; scan.depth > 0 && to - from >= 64; from += 64 ) {
       __m128i block[4];
       std::memcpy( block, from, sizeof block );
-      auto const inside = parity( whereIs( block, '"' ) ) ^ ( scan.isInString ? ~std::uint64_t{ 0 } : 0 );
-      auto const closes = whereIs( block, '}', ' ' ) & ~inside;
-      auto const closed = static_cast< std::size_t >( std::popcount( closes ) );
-      if ( scan.isEscaped || closed >= scan.depth || has( block, '\\' ) ) {
+      if ( scan.isEscaped || has( block, '\\' ) ) {
          if ( auto const * end = endOfBytes( from, from + 64, scan ) ) {
             return end;
          }
-      } else {
-         auto const opens = whereIs( block, '{', ' ' ) & ~inside;
-         scan.depth += static_cast< std::size_t >( std::popcount( opens ) ) - closed;
-         scan.isInString = inside >> 63 != 0;
+         continue;
       }
-      from += 64;
+      auto const inside = parity( whereIs( block, '"' ) ) ^ ( scan.isInString ? ~std::uint64_t{ 0 } : 0 );
+      auto const closes = whereIs( block, '}', ' ' ) & ~inside;
+      auto const opens = whereIs( block, '{', ' ' ) & ~inside;
+      auto const closed = static_cast< std::size_t >( std::popcount( closes ) );
+      scan.isInString = inside >> 63 != 0;
+      if ( closed < scan.depth ) {
+         scan.depth += static_cast< std::size_t >( std::popcount( opens ) ) - closed;
+         continue;
+      }
+      for ( auto left = opens | closes; left != 0; left &= left - 1 ) {
+         auto const at = std::countr_zero( left );
+         scan.depth += ( opens >> at & 1 ) != 0 ? 1 : std::size_t{ 0 } - 1;
+         if ( scan.depth == 0 ) {
+            return from + at + 1;
+         }
+      }
    }
    return endOfBytes( from, to, scan );
 }

@@ -18,6 +18,7 @@ struct RowFilter {
    std::optional< U16 > fap = {};          // operations and faults: only of this FAP
    std::optional< U32 > last = {};         // only up to this event
    bool readsToo = true;                   // else no reads
+   bool controlsToo = true;                // else no controls
    bool operationsToo = true;              // else gates and publications alone
    bool gatesToo = true;                   // else no gates
    bool publicationsToo = true;            // else no publications
@@ -49,6 +50,8 @@ class RowsWanted {
       switch ( kind ) {
       case Simulator::Row::Kind::read:
          return filter_.operationsToo && filter_.readsToo;
+      case Simulator::Row::Kind::control:
+         return filter_.operationsToo && filter_.controlsToo;
       case Simulator::Row::Kind::gate:
          return filter_.gatesToo;
       case Simulator::Row::Kind::publish:

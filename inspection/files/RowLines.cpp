@@ -24,7 +24,17 @@ class Put {
    char * at() const { return at_; }
 
    Put & operator<<( std::string_view text ) {
-      at_ = std::ranges::copy( text, at_ ).out; // of no text, too, which has no place
+      if ( !text.empty() ) { // which may have no place
+         std::memcpy( at_, text.data(), text.size() );
+         at_ += text.size();
+      }
+      return *this;
+   }
+   // With a text whose length the compiler knows: most of what a line has.
+   template< std::size_t size >
+   Put & operator<<( char const ( &text )[size] ) {
+      std::memcpy( at_, text, size - 1 );
+      at_ += size - 1;
       return *this;
    }
    template< std::integral Number >
