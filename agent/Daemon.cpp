@@ -1,8 +1,8 @@
 #include "agent/Daemon.h"
 
-#include "agent/Log.h"
 #include "agent/RowRing.h"
 #include "agent/ServiceManager.h"
+#include "agent/SystemLog.h"
 #include "agent/TraceFile.h"
 #include "agent/audit/Auditor.h"
 #include "agent/control/AgentCommands.h"

@@ -1,6 +1,6 @@
 #include "agent/LastWords.h"
 
-#include "agent/Log.h"
+#include "agent/SystemLog.h"
 #include "assert/Assert.h"
 #include "inspection/EventInput.h"
 #include "inspection/FailureReport.h"

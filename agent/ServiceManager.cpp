@@ -1,6 +1,6 @@
 #include "agent/ServiceManager.h"
 
-#include "agent/Log.h"
+#include "agent/SystemLog.h"
 
 #include <cstdlib>
 #include <cstring>

@@ -1,5 +1,6 @@
 #include "inspection/ChipsSides.h"
 
+#include "inspection/EndOfRun.h"
 #include "inspection/files/ChipsReader.h"
 #include "simulator/ContentsApart.h"
 
@@ -90,10 +91,8 @@ ChipsOfJournal::ChipsOfJournal( std::string const & path,
                                         .gatesToo = false,
                                         .publicationsToo = false } );
    for ( auto const & event : events ) {
-      if ( event && *event > ending.events ) {
-         throw InputError( journal_.path(),
-                           "there is no event " + std::to_string( *event ) + "; the last is " +
-                              std::to_string( ending.events ) );
+      if ( event ) {
+         checkEvent( journal_.path(), *event, ending );
       }
    }
 }

@@ -22,7 +22,8 @@
 namespace Inspection {
 
 struct InterfaceStory {
-   bool isKnown = false; // the run names it
+   bool isKnown = false;    // the run names it
+   std::string parent = {}; // of a subinterface, which has the MTU of this interface; the rest is the parent's
    bool isServed = false;
    bool isActive = false; // the slice; else standby
    bool isConfigured = false;
@@ -36,7 +37,9 @@ struct InterfaceStory {
 
 class InterfaceModel {
  public:
-   explicit InterfaceModel( std::string name ) : name_( std::move( name ) ) {}
+   // A subinterface is called as its interface is, with a dot and a number behind it.
+   explicit InterfaceModel( std::string const & name )
+      : name_( name.substr( 0, name.find( '.' ) ) ), subInterface_( name == name_ ? "" : name ) {}
 
    void beginsWith( Rex::Value const & scenario );
    // The input of an event, before what follows from it.
@@ -66,6 +69,7 @@ class InterfaceModel {
    std::string whoIsBehind( U32 mtu ) const;
 
    std::string name_;
+   std::string subInterface_; // that is asked about, or nothing
    Rex::Value state_ = Rex::Value::Object();
    std::map< std::string, U32 > lastEvent_; // what has changed when: "enabled", "smMode", …
    bool isServed_ = false;

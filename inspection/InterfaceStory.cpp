@@ -68,7 +68,9 @@ InterfaceStory InterfaceModel::story() const {
    auto const * const followed = isServed_ && replacedConfig_ ? &*replacedConfig_ : now;
    auto const * const status = at( statusPath() );
    auto const known = names();
-   InterfaceStory story{ .isKnown = std::ranges::find( known, name_ ) != known.end(),
+   std::string const & asked = subInterface_.empty() ? name_ : subInterface_;
+   InterfaceStory story{ .isKnown = std::ranges::find( known, asked ) != known.end(),
+                         .parent = subInterface_.empty() ? "" : name_,
                          .isServed = isServed_,
                          .isActive = numberAt( at( slice ), "smMode", activeMode ) == activeMode,
                          .isConfigured = isThere( now ),
@@ -78,7 +80,12 @@ InterfaceStory InterfaceModel::story() const {
    if ( isThere( status ) ) {
       story.statusMtu = numberAt( status, "mtu", 0 );
    }
-   std::string const behind = whoIsBehind( story.l3Mtu );
+   std::string behind = whoIsBehind( story.l3Mtu );
+   if ( !subInterface_.empty() ) {
+      auto const * const own = at( subInterfaces + "/" + subInterface_ );
+      story.statusMtu = isThere( own ) ? std::optional( numberAt( own, "mtu", 0 ) ) : std::nullopt;
+      behind = story.statusMtu == story.l3Mtu ? "" : subInterface_;
+   }
    story.hasItsMtu = isServed_ && isThere( status ) && behind.empty();
    if ( story.hasItsMtu ) {
       return story;

@@ -1,6 +1,5 @@
 #include "inspection/Why.h"
 
-#include "inspection/FunctionTables.h"
 #include "inspection/GateReach.h"
 
 #include <algorithm>
@@ -12,8 +11,6 @@ namespace {
 using Kind = WhySubject::Kind;
 using Simulator::Row;
 
-constexpr std::string_view interfaceMachine = "L3IntfSm::RexIpIntfConfigFilter::";
-
 // The path and the attribute that a cause names.
 std::pair< std::string_view, std::string_view > stateOf( std::string_view cause ) {
    auto const space = cause.rfind( ' ' );
@@ -21,35 +18,11 @@ std::pair< std::string_view, std::string_view > stateOf( std::string_view cause 
                                           : std::pair( cause.substr( 0, space ), cause.substr( space + 1 ) );
 }
 
-std::set< std::string, std::less<> > functionsThatTouch( WhySubject const & subject ) {
-   std::set< std::string, std::less<> > all;
-   std::string const table = subject.kind == Kind::part      ? subject.part.table->name
-                             : subject.kind == Kind::control ? subject.text()
-                                                             : "";
-   for ( Touch const & touch : knownTouches() ) {
-      if ( touch.table == table ) {
-         all.insert( touch.function );
-      }
-   }
-   if ( subject.kind == Kind::function ) {
-      all.insert( subject.name );
-   }
-   // What is published of interfaces goes through their machine.
-   bool const isStatus = subject.path.find( "intfStatus" ) != std::string::npos;
-   if ( subject.kind == Kind::interface || ( subject.kind == Kind::state && isStatus ) ) {
-      for ( std::string const & function : knownFunctions() ) {
-         if ( function.starts_with( interfaceMachine ) ) {
-            all.insert( function );
-         }
-      }
-   }
-   return all;
-}
-
 } // namespace
 
 WhyReader::WhyReader( WhySubject subject, WhyFilter filter ) : filter_( std::move( filter ) ) {
    answer_.subject = std::move( subject );
+   answer_.filter = filter_;
    known_ = functionsThatTouch( answer_.subject );
    if ( answer_.subject.kind == Kind::interface ) {
       model_.emplace( answer_.subject.name );
@@ -173,6 +146,9 @@ void WhyReader::row( Row const & row ) {
    }
    if ( row.isOperation() ) {
       faps_.insert( row.fap );
+      if ( isOfTable() ) {
+         ran( row );
+      }
    }
    if ( !isWanted( row ) ) {
       return;
@@ -194,21 +170,31 @@ void WhyReader::habit( std::vector< Habit > & habits, Row const & row ) const {
    found->lastEvent = row.event;
 }
 
+// Whichever event, place or function was asked for: what ran, ran.
+void WhyReader::ran( Row const & row ) {
+   WhySubject const & subject = answer_.subject;
+   bool const isOfSubject = subject.kind == Kind::part
+                               ? row.table == subject.part.table->name
+                               : row.kind == Row::Kind::control && row.control == subject.control;
+   if ( isOfSubject && ( !filter_.fap || row.fap == *filter_.fap ) && !ran_.contains( row.function ) ) {
+      ran_.emplace( row.function );
+   }
+}
+
 void WhyReader::touched( Row const & row ) {
    WhySubject const & subject = answer_.subject;
    answer_.isReached = true;
-   if ( row.isOperation() ) {
+   if ( row.isOperation() && !isOfTable() && !ran_.contains( row.function ) ) {
       ran_.emplace( row.function );
    }
-   bool const isOfTable = subject.kind == Kind::part || subject.kind == Kind::control;
-   if ( row.kind == Row::Kind::read && isOfTable ) {
+   if ( row.kind == Row::Kind::read && isOfTable() ) {
       habit( answer_.looks, row );
       return;
    }
    auto const changes = row.kind == Row::Kind::write ? changesOf( row, subject.part.field, subject.part.bit )
                                                      : std::vector< FieldChange >();
    bool const isSame = row.kind == Row::Kind::write ? changes.empty() : row.kind == Row::Kind::control && !row.changed;
-   if ( isSame && isOfTable ) {
+   if ( isSame && isOfTable() ) {
       habit( answer_.unchanged, row );
       return;
    }

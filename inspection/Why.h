@@ -35,6 +35,8 @@ struct ChainEvent {
    U32 event = 0;
    EventInput input = {};
    std::vector< ChainStep > steps = {};
+   // The functions that are known to run when the input changes: a publication doesn't name the one that made it.
+   std::vector< std::string > hearers = {};
 };
 
 // A function that did something again and again, told once.
@@ -61,6 +63,7 @@ struct StoppedStep {
 
 struct WhyAnswer {
    WhySubject subject = {};
+   WhyFilter filter = {}; // what was asked for of it
    Simulator::Ending ending = {};
    std::vector< std::string > remarks = {}; // on the journal
    bool isReached = false;                  // the run has told something of it
@@ -71,7 +74,8 @@ struct WhyAnswer {
    std::vector< Habit > looks = {};     // who read it
    std::vector< StoppedStep > stopped = {};
    std::vector< StoppedStep > others = {}; // gates of which it is not known that they have to do with it
-   // Functions that are known to touch it, and that neither ran nor were stopped.
+   // Functions that are known to touch its table, and that neither did so in the run, on the FAP that was asked for,
+   // nor were stopped.
    std::vector< std::string > idle = {};
    std::optional< Rex::Value > atStart = {}; // of an attribute, as the run began with it, where that says so
    std::optional< InterfaceStory > interface = {};
@@ -99,10 +103,12 @@ class WhyReader final : public Simulator::RowReader {
 
  private:
    RowFilter rowsOfSubject() const;
+   bool isOfTable() const { return answer_.subject.kind <= WhySubject::Kind::control; }
    bool isTooLate( U32 event ) const { return filter_.at && event > *filter_.at; }
    bool isWanted( Simulator::Row const & row ) const;
    bool isAbout( Simulator::Row const & row ) const;
    bool isAboutInterface( Simulator::Row const & row ) const;
+   void ran( Simulator::Row const & row );
    void touched( Simulator::Row const & row );
    void stopped( Simulator::Row const & row );
    std::vector< std::string > keptBy( std::string_view function ) const;

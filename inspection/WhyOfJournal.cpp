@@ -1,5 +1,7 @@
 // The answer of a journal: what it can't know is refused.
+#include "inspection/EndOfRun.h"
 #include "inspection/FunctionTables.h"
+#include "inspection/StatePaths.h"
 #include "inspection/Why.h"
 #include "rex/Nearest.h"
 
@@ -33,6 +35,22 @@ std::vector< std::string > knownControls() {
    return all;
 }
 
+// Who is known to run when an input of the state changes.
+std::vector< std::string > hearersOf( EventInput const & input ) {
+   std::vector< std::string > names;
+   if ( input.kind == EventInput::Kind::set || input.kind == EventInput::Kind::remove ) {
+      auto const * const path = statePathOf( input.path );
+      for ( StateAttribute const & it : path ? path->attributes : std::vector< StateAttribute >() ) {
+         for ( Hearer const & hearer : it.hearers ) {
+            if ( hearer.atChange && it.attribute->name == input.attribute ) {
+               names.emplace_back( hearer.function );
+            }
+         }
+      }
+   }
+   return names;
+}
+
 void checkFap( JournalReader const & journal, WhyReader const & reader, U16 fap ) {
    auto const & chips = journal.chipTypes();
    if ( chips.empty() ? reader.hasHeardOf( fap ) : chips.contains( fap ) ) {
@@ -54,7 +72,8 @@ void checkSubject( JournalReader const & journal,
    if ( subject.kind == Kind::interface && !( answer.interface && answer.interface->isKnown ) ) {
       throw InputError( journal.path(),
                         "it tells nothing of an interface " + subject.name +
-                           ( interfaces.empty() ? "; it tells of none" : "; it tells of " + listed( interfaces ) ) );
+                           ( interfaces.empty() ? "; it tells of none" : "; it tells of " + listed( interfaces ) ) +
+                           whereItEnded( answer.ending ) );
    }
    if ( answer.isReached ) {
       return;
@@ -65,7 +84,7 @@ void checkSubject( JournalReader const & journal,
          throw InputError( "nothing is known to set a control " + std::to_string( subject.control ) + "; there is " +
                            listed( controls ) );
       }
-   } else if ( subject.kind == Kind::function ) {
+   } else if ( subject.kind == Kind::function && answer.ending.function != subject.name ) {
       auto const functions = knownFunctions();
       if ( std::ranges::find( functions, subject.name ) == functions.end() ) {
          throw InputError( "no function " + subject.name + " is known, and " + journal.path() + " tells of none" +
@@ -92,7 +111,10 @@ WhyAnswer WhyReader::take() {
    std::ranges::stable_sort( answer_.stopped, std::greater<>(), &StoppedStep::lastEvent );
    if ( isFollowed ) {
       answer_.others.clear();
-   } else {
+      for ( ChainEvent & event : answer_.chain ) {
+         event.hearers = hearersOf( event.input );
+      }
+   } else if ( isOfTable() ) {
       std::ranges::copy_if( known_, std::back_inserter( answer_.idle ), [&]( std::string const & function ) {
          return !ran_.contains( function ) && !kept.contains( function );
       } );
@@ -111,10 +133,8 @@ WhyAnswer whyOf( JournalReader & journal, WhyReader & reader ) {
       checkFap( journal, reader, *reader.filter().fap );
    }
    for ( auto const & event : { reader.filter().event, reader.filter().at } ) {
-      if ( event && *event > ending.events ) {
-         throw InputError( journal.path(),
-                           "there is no event " + std::to_string( *event ) + "; the last is " +
-                              std::to_string( ending.events ) );
+      if ( event ) {
+         checkEvent( journal.path(), *event, ending );
       }
    }
    auto const interfaces = reader.interfaces();

@@ -3,6 +3,7 @@
 #include "inspection/FunctionTables.h"
 #include "inspection/GateReach.h"
 #include "inspection/KnownToggles.h"
+#include "inspection/NearSubjects.h"
 #include "inspection/files/InputError.h"
 #include "rex/Entity.h"
 #include "rex/Nearest.h"
@@ -126,6 +127,16 @@ WhySubject checked( WhySubject subject ) {
    return subject;
 }
 
+// Nearer than a function.
+bool isNearATable( std::string const & typed, std::vector< std::string > const & functions ) {
+   std::vector< std::string > names;
+   for ( auto const & table : Catalogue::tables() ) {
+      names.emplace_back( table.name );
+   }
+   std::ranges::transform( functions, std::back_inserter( names ), lastPart );
+   return Catalogue::table( Rex::nearest( typed, names ) ) != nullptr;
+}
+
 WhySubject functionAsTyped( std::string const & typed ) {
    return { .kind = WhySubject::Kind::function, .name = typed };
 }
@@ -142,6 +153,9 @@ std::vector< std::string > knownFunctions() {
          all.emplace( function );
       }
    }
+   for ( Hearer const & hearer : knownHearers() ) {
+      all.emplace( hearer.function );
+   }
    for ( KnownToggle const & toggle : knownToggles() ) {
       std::istringstream readers{ std::string( toggle.readers ) };
       for ( std::string name; readers >> name; ) {
@@ -149,6 +163,30 @@ std::vector< std::string > knownFunctions() {
       }
    }
    return { all.begin(), all.end() };
+}
+
+std::set< std::string, std::less<> > functionsThatTouch( WhySubject const & subject ) {
+   std::set< std::string, std::less<> > all;
+   std::string const table = subject.kind == WhySubject::Kind::part      ? subject.part.table->name
+                             : subject.kind == WhySubject::Kind::control ? subject.text()
+                                                                         : "";
+   for ( Touch const & touch : knownTouches() ) {
+      if ( touch.table == table ) {
+         all.insert( touch.function );
+      }
+   }
+   if ( subject.kind == WhySubject::Kind::function ) {
+      all.insert( subject.name );
+   }
+   bool const isStatus = subject.path.find( "intfStatus" ) != std::string::npos;
+   if ( subject.kind == WhySubject::Kind::interface || ( subject.kind == WhySubject::Kind::state && isStatus ) ) {
+      for ( std::string const & function : knownFunctions() ) {
+         if ( function.starts_with( interfaceMachine ) ) {
+            all.insert( function );
+         }
+      }
+   }
+   return all;
 }
 
 std::string WhySubject::text() const {
@@ -232,14 +270,18 @@ WhySubject whySubjectOf( std::string const & typed ) {
       throw InputError( "\"" + typed + "\" is a function of several classes; say which, as in " + alike.front() );
    }
    if ( !isPart && typed.find( '.' ) == std::string::npos ) {
-      std::vector< std::string > names;
-      for ( auto const & table : Catalogue::tables() ) {
-         names.emplace_back( table.name );
+      auto const paths = pathsWith( typed );
+      if ( paths.size() == 1 && !paths.front()->hasKey() ) {
+         return checked( stateAsTyped( paths.front()->path + "." + typed ) );
       }
-      std::ranges::transform( functions, std::back_inserter( names ), lastPart );
-      if ( std::string const near = Rex::nearest( head, names ); near.empty() || !Catalogue::table( near ) ) {
-         throw InputError( "\"" + typed + "\" is no table, field, control.N, path of the state, function or interface" +
-                           Rex::didYouMean( head, names ) );
+      std::string const refusal =
+         "\"" + typed + "\" is no table, field, control.N, path of the state, function or interface";
+      if ( !paths.empty() ) {
+         throw InputError( refusal + "; an attribute is said with its path, as in " + paths.front()->path + "." +
+                           typed );
+      }
+      if ( !isNearATable( head, functions ) ) {
+         throw InputError( refusal + remedyOf( head, functions ) );
       }
    }
    return { .part = partNamed( typed ) };

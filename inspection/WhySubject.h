@@ -11,6 +11,8 @@
 #include "inspection/NamesAsTyped.h"
 #include "rex/Value.h"
 
+#include <set>
+
 namespace Inspection {
 
 struct WhySubject {
@@ -33,7 +35,13 @@ struct WhySubject {
 
 WhySubject whySubjectOf( std::string const & typed );
 
-// The functions of the plug-in that this program knows: those that touch a chip, ask a toggle or stand behind a gate.
+// The functions of the plug-in that this program knows: those that touch a chip, hear of the state, ask a toggle or
+// stand behind a gate.
 std::vector< std::string > knownFunctions();
+// Those that are known to have to do with what was asked about.
+std::set< std::string, std::less<> > functionsThatTouch( WhySubject const & subject );
+
+// What is published of interfaces goes through their machine.
+constexpr std::string_view interfaceMachine = "L3IntfSm::RexIpIntfConfigFilter::";
 
 } // namespace Inspection

@@ -3,11 +3,11 @@
 #include "chip/ChipType.h"
 #include "generated/Catalogue.h"
 #include "inspection/Facilities.h"
-#include "inspection/FunctionTables.h"
 #include "inspection/KnownControls.h"
 #include "inspection/KnownToggles.h"
 #include "inspection/NewScenario.h"
 #include "inspection/StatePaths.h"
+#include "inspection/WhySubject.h"
 #include "l3sm/LiveCandidates.h"
 
 #include <algorithm>
@@ -136,23 +136,9 @@ std::set< std::string > fieldsOf( std::string const & table ) {
    return fields;
 }
 
-std::set< std::string > allFunctions() {
-   std::set< std::string > functions;
-   for ( Touch const & touch : knownTouches() ) {
-      functions.insert( touch.function );
-   }
-   for ( Hearer const & hearer : knownHearers() ) {
-      functions.emplace( hearer.function );
-   }
-   for ( KnownControl const & control : knownControls() ) {
-      functions.emplace( control.function );
-   }
-   return functions;
-}
-
 Candidates functions( std::string const &, Before const & ) {
    List all;
-   for ( auto const & function : allFunctions() ) {
+   for ( auto const & function : knownFunctions() ) {
       all.push_back( { function } );
    }
    return { .list = all };

@@ -1,6 +1,6 @@
 #include "agent/database/EtcdPublisher.h"
 
-#include "agent/Log.h"
+#include "agent/SystemLog.h"
 
 #include <algorithm>
 

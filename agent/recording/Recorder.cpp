@@ -1,6 +1,6 @@
 #include "agent/recording/Recorder.h"
 
-#include "agent/Log.h"
+#include "agent/SystemLog.h"
 #include "inspection/Play.h"
 #include "inspection/Version.h"
 #include "inspection/files/RecordingFolder.h"

@@ -3,6 +3,7 @@
 #include "inspection/FoldedWrites.h"
 #include "inspection/NamesAsTyped.h"
 #include "inspection/files/Json.h"
+#include "inspection/views/Lines.h"
 
 #include <algorithm>
 #include <utility>
@@ -97,6 +98,19 @@ std::string changeText( ChainStep::Change const & change, Style const & style ) 
              style.after( fitting( after, lineWidth() / 3 ) ) + ( bits.empty() ? "" : style.faint( "  " + bits ) );
    }
    return name + style.differs( fitting( bits, lineWidth() / 2 ) );
+}
+
+// A path without its first steps where it doesn't fit: its end tells more.
+std::string endOf( std::string const & path, std::size_t width ) {
+   if ( widthOf( path ) <= width ) {
+      return path;
+   }
+   for ( auto slash = path.find( '/' ); slash != std::string::npos; slash = path.find( '/', slash + 1 ) ) {
+      if ( std::string const rest = path.substr( slash ); widthOf( rest ) < width ) {
+         return "…" + rest;
+      }
+   }
+   return shortened( path, width );
 }
 
 std::string valueText( Rex::Value const & value ) {
@@ -194,7 +208,7 @@ void ChainStepText::writePublication( ChainStep const & step ) {
    names = fitting( names, rest );
    out_ << "  publishes " << step.attribute << "  " << style_.after( fitting( change, lineWidth() / 2 ) ) << "  "
         << names
-        << style_.faint( rest > names.size() + 12 ? "  in " + fitting( step.path, rest - names.size() - 5 ) : "" )
+        << style_.faint( rest > names.size() + 12 ? "  in " + endOf( step.path, rest - names.size() - 5 ) : "" )
         << '\n';
 }
 

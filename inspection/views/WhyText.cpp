@@ -1,5 +1,6 @@
 #include "inspection/views/WhyText.h"
 
+#include "inspection/FunctionTables.h"
 #include "inspection/ServedFaps.h"
 #include "inspection/files/Json.h"
 #include "inspection/views/ChainStepText.h"
@@ -11,7 +12,6 @@ namespace Inspection {
 namespace {
 
 using Kind = WhySubject::Kind;
-using Simulator::Ending;
 using Simulator::Row;
 
 constexpr std::size_t mostSteps = 8; // of one event
@@ -60,8 +60,12 @@ class Writer {
                               : story.isConfigured
                                  ? "configured: no MTU of its own, so the global " + std::to_string( story.globalMtu )
                                  : "not configured";
+      if ( !story.parent.empty() ) {
+         line( "a subinterface of " + story.parent + ", whose MTU it has:", 0 );
+      }
       line( own + ( story.isServed ? "; served" : "; not served" ) + ( story.isActive ? ", active" : ", standby" ) +
-               "; its status has " + ( story.statusMtu ? "the MTU " + std::to_string( *story.statusMtu ) : "no MTU" ),
+               ( story.parent.empty() ? "; its status has " : "; the subinterface's status has " ) +
+               ( story.statusMtu ? "the MTU " + std::to_string( *story.statusMtu ) : "no MTU" ),
             0 );
       if ( story.hasItsMtu ) {
          line( "it has the MTU that is configured", 0 );
@@ -73,15 +77,28 @@ class Writer {
       }
    }
 
+   char const * nothingText() const {
+      switch ( answer_.subject.kind ) {
+      case Kind::state:
+         return "Nothing changed it or was published there";
+      case Kind::function:
+         return "It asked nothing of any chip";
+      case Kind::interface:
+         return "Nothing was published for it";
+      default:
+         return "Nothing changed it";
+      }
+   }
+
    void writeChain() {
       if ( answer_.chain.empty() ) {
-         bool const isState = answer_.subject.kind == Kind::state;
-         out_ << '\n'
-              << ( isState                                   ? "No event changed it, and nothing was published there"
-                   : answer_.subject.kind == Kind::function  ? "It did nothing in this run"
-                   : answer_.subject.kind == Kind::interface ? "Nothing was published for it"
-                                                             : "Nothing changed it in this run" )
-              << '\n';
+         out_ << '\n';
+         line( nothingText() + whereText( answer_.filter ), 0 );
+         auto const touches = knownTouches();
+         bool const isOfChips = std::ranges::find( touches, answer_.subject.name, &Touch::function ) != touches.end();
+         if ( answer_.subject.kind == Kind::function && !isOfChips ) {
+            line( "what it publishes is told by the path, the attribute or the interface", 0 );
+         }
          return;
       }
       for ( ChainEvent const & event : answer_.chain ) {
@@ -98,11 +115,13 @@ class Writer {
       out_ << '\n'
            << style_.strong( head ) << fitting( printable( event.input.text() ), lineWidth() - head.size() ) << '\n';
       if ( event.steps.empty() ) {
+         writeHearers( event );
          line( "nothing followed: no write, no publication, no gate", 2 );
       }
       std::string cause = event.input.cause();
       std::string function;
       std::size_t shown = 0;
+      bool areHearersTold = event.hearers.empty();
       for ( ChainStep const & step : event.steps ) {
          if ( bounded_ && shown == mostSteps && event.steps.size() > mostSteps + 1 ) {
             counted( event.steps.size() - shown,
@@ -118,7 +137,17 @@ class Writer {
             cause = step.cause;
             function.clear();
          }
+         if ( !areHearersTold && step.kind == Row::Kind::publish && step.cause == event.input.cause() ) {
+            writeHearers( event );
+            areHearersTold = true;
+         }
          stepText_.write( step, function );
+      }
+   }
+
+   void writeHearers( ChainEvent const & event ) {
+      for ( std::string const & hearer : event.hearers ) {
+         line( "heard by " + hearer, 2 );
       }
    }
 
@@ -188,7 +217,12 @@ class Writer {
       if ( answer_.idle.empty() ) {
          return;
       }
-      out_ << '\n' << style_.strong( "Known to touch it, but did not run here" ) << '\n';
+      std::string const what = answer_.subject.kind == Kind::control ? "Known to set it"
+                               : answer_.subject.part.field.empty()  ? "Known to touch it"
+                                                                     : "Known to touch its table";
+      out_ << '\n';
+      WhyFilter const whole{ .fap = answer_.filter.fap, .at = answer_.filter.at };
+      out_ << style_.strong( fitting( what + ", but did not" + whereText( whole ), lineWidth() ) ) << '\n';
       for ( std::string const & function : answer_.idle ) {
          line( function, 2 );
       }
@@ -222,23 +256,6 @@ class Writer {
 };
 
 } // namespace
-
-std::string endingText( WhyAnswer const & answer ) {
-   Ending const & ending = answer.ending;
-   if ( ending.kind == Ending::Kind::complete || answer.isReached ) {
-      return {}; // a remark tells of the journal itself
-   }
-   std::string const event = "event " + std::to_string( ending.events );
-   std::string const there = "The run did not get there: ";
-   switch ( ending.kind ) {
-   case Ending::Kind::interrupted:
-      return there + "it was interrupted after " + event;
-   case Ending::Kind::assertion:
-      return there + "it ended in " + event + " by an assertion in " + ending.function;
-   default:
-      return there + "the journal is cut in " + event;
-   }
-}
 
 void writeWhy( std::ostream & out, WhyAnswer const & answer, WhyShown shown, Style const & style ) {
    Writer( out, answer, shown, style ).write();

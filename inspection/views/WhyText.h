@@ -20,4 +20,7 @@ Rex::Value whyValue( WhyAnswer const & answer );
 // "The run did not get there: …"; empty for a run that did, or that is complete.
 std::string endingText( WhyAnswer const & answer );
 
+// " in event 2 on FAP 0": of which part of the run an answer is true.
+std::string whereText( WhyFilter const & filter );
+
 } // namespace Inspection

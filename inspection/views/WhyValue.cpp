@@ -129,8 +129,11 @@ Value chainValue( WhyAnswer const & answer ) {
       for ( ChainStep const & step : event.steps ) {
          steps.push_back( stepValue( step ) );
       }
-      chain.emplace_back(
-         Value::Object{ { "event", event.event }, { "input", inputValue( event.input ) }, { "steps", steps } } );
+      Value::Object told{ { "event", event.event }, { "input", inputValue( event.input ) }, { "steps", steps } };
+      if ( !event.hearers.empty() ) {
+         told["heardBy"] = listOf( event.hearers );
+      }
+      chain.emplace_back( told );
    }
    return chain;
 }
@@ -162,7 +165,8 @@ Value stoppedValue( std::vector< StoppedStep > const & all ) {
 }
 
 Value interfaceValue( InterfaceStory const & story ) {
-   return Value::Object{ { "served", story.isServed },
+   return Value::Object{ { "parent", story.parent.empty() ? Value() : Value( story.parent ) },
+                         { "served", story.isServed },
                          { "active", story.isActive },
                          { "configured", story.isConfigured },
                          { "configuredMtu", story.configuredMtu },

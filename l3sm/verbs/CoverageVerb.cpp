@@ -7,6 +7,7 @@
 #include "inspection/files/Json.h"
 #include "inspection/views/CoverageText.h"
 #include "inspection/views/Progress.h"
+#include "inspection/views/ReplayText.h"
 #include "l3sm/ScenarioToPlay.h"
 #include "l3sm/verbs/Verbs.h"
 
@@ -44,13 +45,12 @@ void play( Coverage & coverage, Scenario const & scenario, Options const & optio
    }
 }
 
-void read( Coverage & coverage, std::string const & path ) {
+// What is odd about the journal is added to the remarks.
+void read( Coverage & coverage, std::string const & path, std::vector< std::string > & remarks ) {
    JournalReader journal( path );
    coverage.beginsWith( journal.chipTypes() );
    journal.read( coverage, { .readsToo = false } );
-   for ( auto const & remark : journal.remarks() ) {
-      std::cerr << "l3sm: " << printable( remark ) << '\n';
-   }
+   remarks.insert( remarks.end(), journal.remarks().begin(), journal.remarks().end() );
 }
 
 int answer( Options const & options ) {
@@ -58,6 +58,7 @@ int answer( Options const & options ) {
       throw InputError( "name a journal or a scenario, or give --random" );
    }
    Coverage coverage;
+   std::vector< std::string > remarks;
    Progress progress( "covering" );
    std::size_t const all = options.files.size() + options.random.value_or( 0 );
    std::size_t done = 0;
@@ -65,7 +66,7 @@ int answer( Options const & options ) {
       if ( kindOfFile( file ) == FileKind::scenario ) {
          play( coverage, scenarioToPlay( file, {}, options.plugin ), options );
       } else {
-         read( coverage, file );
+         read( coverage, file, remarks );
       }
       progress.stands( ++done, all );
    }
@@ -82,8 +83,13 @@ int answer( Options const & options ) {
       }
    }
    if ( options.json ) {
-      std::cout << toJson( coverageValue( coverage ), 3 ) << '\n';
+      Rex::Value value = coverageValue( coverage );
+      if ( !remarks.empty() ) {
+         ( *value.object() )["remarks"] = Rex::Value::List( remarks.begin(), remarks.end() );
+      }
+      std::cout << toJson( value, 3 ) << '\n';
    } else {
+      showRemarks( std::cout, remarks, Style::of( std::cout ) );
       showCoverage( std::cout, coverage, options.all, Style::of( std::cout ) );
    }
    return options.least && coverage.pairs().percent() < *options.least ? isMissed : 0;

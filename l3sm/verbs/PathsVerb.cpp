@@ -1,5 +1,5 @@
 #include "inspection/files/Json.h"
-#include "inspection/views/Paths.h"
+#include "inspection/views/PathsText.h"
 #include "l3sm/verbs/Verbs.h"
 
 #include <iostream>

@@ -1,10 +1,15 @@
-// The verb `show`: chip contents, from a chips file or a journal, decoded by field.
+// The verb `show`: chip contents, from a chips file or a journal, decoded by field; and the state, from a state file or
+// a journal.
 #include "inspection/FileContents.h"
+#include "inspection/StateOfRun.h"
+#include "inspection/StatePaths.h"
 #include "inspection/views/ContentsText.h"
 #include "inspection/views/ReplayText.h"
+#include "inspection/views/StateText.h"
 #include "l3sm/AgentFiles.h"
 #include "l3sm/verbs/Verbs.h"
 
+#include <algorithm>
 #include <iostream>
 #include <memory>
 
@@ -64,12 +69,52 @@ int showJson( ContentsQuestion const & question, bool all ) {
    return 0;
 }
 
+constexpr int nothingThere = 1;
+
+// `path`: as typed; empty: all.
+std::vector< PathValue > askedState( ToldState const & told, std::string const & path ) {
+   auto const isBelow = [&]( std::string const & it ) { return it == path || it.starts_with( path + "/" ); };
+   auto found = partOf( told.paths, path );
+   if ( found.empty() && std::ranges::none_of( statePaths(), isBelow, &StatePath::path ) && !statePathOf( path ) ) {
+      statePathsNamed( path ); // InputError where there can't be anything
+   }
+   return found;
+}
+
+int showState( Options const & options, std::string const & file, std::vector< std::string > const & paths ) {
+   ToldState const told = toldState( file, options.at );
+   std::vector< PathValue > found;
+   for ( std::string const & path : paths.empty() ? std::vector< std::string >{ "" } : paths ) {
+      auto const part = askedState( told, path.substr( 0, path.find_last_not_of( '/' ) + 1 ) );
+      found.insert( found.end(), part.begin(), part.end() );
+   }
+   if ( options.json ) {
+      Value::Object answer;
+      for ( PathValue const & it : found ) {
+         answer[it.path] = it.value;
+      }
+      if ( !told.remarks.empty() ) {
+         answer["remarks"] = Value::List( told.remarks.begin(), told.remarks.end() );
+      }
+      std::cout << toJson( answer, 3 ) << '\n';
+   } else {
+      showRemarks( std::cout, told.remarks, Style::of( std::cout ) );
+      showState( std::cout, found );
+      std::cout << ( found.empty() ? "nothing stands there\n" : "" );
+   }
+   return found.empty() ? nothingThere : 0;
+}
+
 int answer( Options const & options ) {
    auto parts = options.parts;
    if ( options.agent.isGiven() && !options.file.empty() ) {
       parts.insert( parts.begin(), options.file ); // the first place is no file then
    } else if ( !options.agent.isGiven() && options.file.empty() ) {
       missing( "show", "FILE" );
+   }
+   if ( !parts.empty() && parts.front() == "state" ) {
+      parts.erase( parts.begin() );
+      return showState( options, options.agent.isGiven() ? options.agent.state() : options.file, parts );
    }
    parts.insert( parts.end(), options.tables.begin(), options.tables.end() );
    ContentsQuestion question{
@@ -84,8 +129,11 @@ int answer( Options const & options ) {
 
 Action defineShow( VerbOptions & verb ) {
    auto const options = std::make_shared< Options >();
-   verb.text( "FILE", options->file, "a file that `l3sm run --chips` or `--journal` wrote; `-`: standard input" );
-   verb.texts( "TABLE", options->parts, "only these: TABLE, TABLE.FIELD, `controls` or control.NUMBER" );
+   verb.text(
+      "FILE", options->file, "a file that `l3sm run --chips`, `--journal` or `--state` wrote; `-`: standard input" );
+   verb.texts( "TABLE",
+               options->parts,
+               "only these: TABLE, TABLE.FIELD, `controls` or control.NUMBER; or `state`, and behind it paths of it" );
    verb.texts( "--table", options->tables, "the same", "TABLE" );
    verb.number( "--fap", options->fap, "only this FAP" );
    verb.number( "--variant", options->place.variant, "only this variant" );

@@ -1,5 +1,6 @@
 #include "interface/SyncMtuSubIntfWalkSm.h"
 #include "rex/EntityAttributes.h"
+#include "rex/WriteListener.h"
 
 REX_DEFINE( Interface::SyncMtuSubIntfWalkSm, "Interface::SyncMtuSubIntfWalkSm" );
 
@@ -169,11 +170,28 @@ void SyncMtuSubIntfWalkSm::writeIntf( SyncMtuData const & data ) {
    }
 }
 
+namespace {
+
+// What is written for another agent isn't told by itself; here nobody but the walk knows of it.
+template< class Status >
+void tellMtu( Status const & status, U32 mtu ) {
+   auto * const listener = Rex::writeListener();
+   if ( listener && status.mtu() != mtu && listener->follows( status ) ) {
+      std::string const noKey;
+      auto const & attribute = *status.typeData().attribute( "mtu" );
+      listener->written( { status, attribute, noKey, Rex::Value( status.mtu() ), Rex::Value( mtu ) } );
+   }
+}
+
+} // namespace
+
 void SyncMtuSubIntfWalkSm::writeSubIntf( SubIntfStatus & subIntf, U32 mtu ) {
    Corvo::Publisher::ForeignWrite const onBehalfOfTheirAgent;
+   tellMtu( subIntf, mtu );
    subIntf.mtuIs( mtu );
    if ( auto const local =
            subIntfStatusLocalDir_ ? subIntfStatusLocalDir_->intfStatusLocal( subIntf.intfId() ) : nullptr ) {
+      tellMtu( *local, mtu );
       local->mtuIs( mtu );
    }
 }

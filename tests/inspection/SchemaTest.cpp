@@ -6,7 +6,7 @@
 #include "inspection/files/Scenario.h"
 #include "inspection/files/ScenarioSchema.h"
 #include "inspection/files/TypeSchema.h"
-#include "inspection/views/Paths.h"
+#include "inspection/views/PathsText.h"
 #include "l3sm/Command.h"
 
 #include <gtest/gtest.h>

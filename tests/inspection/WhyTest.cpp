@@ -136,6 +136,51 @@ TEST( Why, ofAPublishedAttributeTellsWhoSetIt ) {
    EXPECT_EQ( answer.chain.front().steps.front().cause, "interface/config/global l3Mtu" );
 }
 
+TEST( Why, namesWhoHearsOfAnInputWhereAPublicationDoesNotSay ) {
+   auto const answer = Played( "interface-mtu" ).why( "interface/config/global.l3Mtu" );
+   ASSERT_EQ( eventsOf( answer ), ( std::vector< U32 >{ 5, 3 } ) );
+   EXPECT_EQ( answer.chain.back().hearers,
+              std::vector< std::string >{ "L3IntfSm::RexIpIntfConfigFilter::handleMtuOrForwardingModel" } );
+}
+
+// What is asked for is a part of the run; what ran in the rest of it ran all the same.
+TEST( Why, doesNotSayThatAFunctionWasIdleWhereOnlyAPartWasAskedFor ) {
+   Played const played( "urpf-and-ip-traps" );
+   std::string const subject = "IppdFerTrapCfg.cpuStrengthN";
+   EXPECT_EQ( played.why( subject, { .event = U32{ 2 } } ).idle, std::vector< std::string >() );
+   EXPECT_EQ( played.why( subject, { .function = "handleUrpf" } ).idle, std::vector< std::string >() );
+   EXPECT_EQ( played.why( subject, { .cause = "urpfStrict" } ).idle, std::vector< std::string >() );
+   EXPECT_EQ( played.why( subject, { .place = { .array = 7 } } ).idle, std::vector< std::string >() );
+   EXPECT_EQ( Played( "gate" ).why( "EtppcEncapsulation2ContextSelectionCam", { .fap = U16{ 0 } } ).idle,
+              std::vector< std::string >{ "VxlanQosSm::handleBridgedQosPropagationEnabled" } );
+}
+
+std::string textOf( WhyAnswer const & answer ) {
+   std::ostringstream out;
+   writeWhy( out, answer, {}, Style( false ) );
+   return out.str();
+}
+
+TEST( Why, saysOfWhichPartOfTheRunItsNoIsTrue ) {
+   Played const played( "urpf-and-ip-traps" );
+   std::string const subject = "IppdFerTrapCfg.cpuStrengthN";
+   auto const tells = [&]( WhyFilter const & filter, std::string const & line ) {
+      auto const text = textOf( played.why( subject, filter ) );
+      EXPECT_NE( text.find( "\n" + line + "\n" ), std::string::npos ) << text;
+   };
+   tells( { .function = "initKaps" }, "Nothing changed it in this run by a function with \"initKaps\" in its name" );
+   tells( { .cause = "evpn" }, "Nothing changed it in this run on a cause with \"evpn\" in it" );
+   tells( { .fap = U16{ 1 }, .place = { .array = 7 } }, "Nothing changed it in this run at this place on FAP 1" );
+}
+
+// A publication doesn't say which function made it.
+TEST( Why, doesNotSayThatAFunctionDidNothingWhereItMayHavePublished ) {
+   auto const text = textOf( Played( "interface-mtu" ).why( "handleMtuOrForwardingModel" ) );
+   EXPECT_NE( text.find( "It asked nothing of any chip in this run\n" ), std::string::npos ) << text;
+   EXPECT_EQ( text.find( "did nothing" ), std::string::npos ) << text;
+   EXPECT_EQ( text.find( "Known to touch" ), std::string::npos ) << text;
+}
+
 TEST( Why, ofAnInterfaceTellsWhyItLacksItsMtu ) {
    auto const answer = Played( "interface-mtu" ).why( "Ethernet1" );
    ASSERT_TRUE( answer.interface );
@@ -143,6 +188,23 @@ TEST( Why, ofAnInterfaceTellsWhyItLacksItsMtu ) {
    EXPECT_EQ( answer.interface->statusMtu, 2000u );
    EXPECT_EQ( answer.interface->reasons, std::vector< std::string >{ "the interface is not enabled (event 4)" } );
    EXPECT_THROW( Played( "interface-mtu" ).why( "Ethernet77" ), InputError );
+}
+
+TEST( Why, ofAnInterfaceKnowsWhatReachedItsSubinterfaces ) {
+   Played const played( "interface-mtu" );
+   auto const own = played.why( "Ethernet1", { .at = U32{ 3 } } );
+   EXPECT_TRUE( own.interface->hasItsMtu ) << testing::PrintToString( own.interface->reasons );
+   auto const below = played.why( "Ethernet1.1", { .at = U32{ 3 } } );
+   EXPECT_EQ( below.interface->parent, "Ethernet1" );
+   EXPECT_EQ( below.interface->statusMtu, 2000u );
+   EXPECT_TRUE( below.interface->hasItsMtu );
+   ASSERT_FALSE( below.chain.empty() );
+   ASSERT_FALSE( below.chain.front().steps.empty() );
+   ChainStep const & step = below.chain.front().steps.front();
+   EXPECT_EQ( step.path, "interface/status/subintf/intfStatus" );
+   EXPECT_EQ( step.before, Rex::Value( 1500 ) );
+   EXPECT_EQ( step.after, Rex::Value( 2000 ) );
+   EXPECT_EQ( step.cause, "interface/config/global l3Mtu" );
 }
 
 // ---- a run that did not get there
@@ -166,6 +228,39 @@ TEST( Why, saysFirstThatAJournalIsCut ) {
    EXPECT_EQ( endingOf( played.path(), "IppdFerTrapCfg" ), "The run did not get there: the journal is cut in event 0" );
 }
 
+TEST( Why, saysWhereARunEndedThatDoesNotKnowWhatWasAskedFor ) {
+   Played const played( "interface-mtu" );
+   std::string const whole = contentsOf( played.path() );
+   std::ofstream( played.path() ) << whole.substr( 0, whole.find( "{\"op\": \"event\", \"event\": 2" ) + 20 );
+   auto const refusal = [&]( std::string const & subject, WhyFilter const & filter ) -> std::string {
+      try {
+         played.why( subject, filter );
+      } catch ( InputError const & error ) {
+         return std::string( error.what() ).substr( played.path().size() );
+      }
+      return "answered";
+   };
+   EXPECT_EQ( refusal( "IppdFerTrapCfg", { .at = U32{ 4 } } ),
+              ": there is no event 4; the last is 1; the journal is cut in or after event 1" );
+   EXPECT_EQ( refusal( "Ethernet77", {} ),
+              ": it tells nothing of an interface Ethernet77; it tells of Ethernet1, Ethernet1.1, Ethernet1.2, "
+              "Ethernet2, Ethernet2.1; the journal is cut in or after event 1" );
+}
+
+TEST( Why, ofTheFunctionThatEndedTheRunSaysSo ) {
+   Played const played( "interface-port" );
+   std::string const whole = contentsOf( played.path() );
+   std::ofstream( played.path() )
+      << whole.substr( 0, whole.find( "{\"op\": \"event\", \"event\": 1" ) )
+      << R"({"op": "event", "event": 1, "what": {}})"
+         "\n"
+      << R"({"op": "end", "ended": "assertion", "events": 1, "operations": 1, "text": "a < b", )"
+         R"("function": "L3IntfSm::doUpdate", "source": "a.cpp:1"})"
+         "\n";
+   EXPECT_EQ( endingOf( played.path(), "L3IntfSm::doUpdate" ), "The run ended here: in event 1 by an assertion in it" );
+   EXPECT_THROW( endingOf( played.path(), "L3IntfSm::doUpdateOther" ), InputError );
+}
+
 // ---- names as they are typed
 
 std::string refusalOf( std::string const & typed ) {
@@ -185,6 +280,10 @@ TEST( WhySubject, isUnderstoodWithoutItsTableWhereOneTableHasTheField ) {
               "IppbFlpLePd0.memData" );
 }
 
+TEST( WhySubject, isAnAttributeByItsNameWhereOnePathHasIt ) {
+   EXPECT_EQ( whySubjectOf( "l3Mtu" ).text(), "interface/config/global.l3Mtu" );
+}
+
 TEST( WhySubject, isRefusedWithWhatWasMeant ) {
    EXPECT_EQ( refusalOf( "EtherneTrap" ), "no table has the name \"EtherneTrap\"; did you mean \"EthernetTrap\"?" );
    EXPECT_EQ( refusalOf( "IppdFerTrapCfg.cpuStrengthN:4" ), "IppdFerTrapCfg.cpuStrengthN has the bits 0 to 3" );
@@ -194,6 +293,17 @@ TEST( WhySubject, isRefusedWithWhatWasMeant ) {
                  .find( "did you mean \"mtu\"?" ),
               std::string::npos );
    EXPECT_EQ( refusalOf( "shared/phySmStateData/allEthPhyIntfConfigDir/intfConfig/Ethernet1.mtu" ), "understood" );
+   std::string const refusal = " is no table, field, control.N, path of the state, function or interface; ";
+   EXPECT_EQ( refusalOf( "handleurpf" ),
+              "\"handleurpf\"" + refusal + "did you mean \"L3Sm::handleUrpfFailFwdConfig\"?" );
+   EXPECT_EQ( refusalOf( "ethernet1" ), "\"ethernet1\"" + refusal + "did you mean \"Ethernet1\"?" );
+   EXPECT_EQ( refusalOf( "control" ), "\"control\"" + refusal + "a control is said as in control.64" );
+   EXPECT_EQ( refusalOf( "l3Mt" ), "\"l3Mt\"" + refusal + "did you mean \"interface/config/global.l3Mtu\"?" );
+   EXPECT_EQ( refusalOf( "enabled" ),
+              "\"enabled\"" + refusal +
+                 "an attribute is said with its path, as in "
+                 "shared/phySmStateData/allEthPhyIntfConfigDir/intfConfig/INTERFACE.enabled" );
+   EXPECT_NE( refusalOf( "evpn" ).find( "evpn/status" ), std::string::npos ) << refusalOf( "evpn" );
    EXPECT_EQ( refusalOf( "foo" ), "\"foo\" is no table, field, control.N, path of the state, function or interface" );
 }
 

@@ -1,4 +1,4 @@
-#include "inspection/views/Paths.h"
+#include "inspection/views/PathsText.h"
 
 #include "inspection/SampleValues.h"
 #include "inspection/files/ScenarioText.h"

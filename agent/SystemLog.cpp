@@ -1,4 +1,4 @@
-#include "agent/Log.h"
+#include "agent/SystemLog.h"
 
 #include "inspection/views/Terminal.h"
 
