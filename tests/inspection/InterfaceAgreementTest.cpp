@@ -1,5 +1,6 @@
 // What `why` makes of a run's inputs and publications is what the machines of the switch know: of every interface,
 // after long runs over all that can happen to one.
+#include "BuildFolder.h"
 #include "inspection/Why.h"
 #include "inspection/files/Json.h"
 #include "l3sm/Command.h"
@@ -20,8 +21,8 @@ class InterfaceRuns : public testing::TestWithParam< int > {};
 TEST_P( InterfaceRuns, areToldOfAJournalAsOfTheSwitch ) {
    std::string const maker =
       "python3 " L3SM_SOURCE_DIR "/bench/full-size-scenario --faps 1 --interfaces 20 --events 250";
-   Command const l3sm( "--version >/dev/null && " + maker + " --seed " + std::to_string( GetParam() ) +
-                       " >s.json && " L3SM_BINARY_DIR "/bin/l3sm run s.json --journal j --json" );
+   Command const l3sm( "--version >/dev/null && " + maker + " --seed " + std::to_string( GetParam() ) + " >s.json && " +
+                       buildFolder() + "/bin/l3sm run s.json --journal j --json" );
    ASSERT_EQ( l3sm.status, 0 ) << l3sm.errors;
    Value const run = parseJson( l3sm.output, "run" );
    int compared = 0;

@@ -124,6 +124,23 @@ TEST_F( L3IntfSmTest, PortThatStopsBeingActiveChangesNothing ) {
    EXPECT_TRUE( world.manages( eth1 ) );
 }
 
+TEST_F( L3IntfSmTest, PortThatComesAndGoesBeforeTheStartIsPassedOver ) {
+   Texts seen;
+   Rex::traceLevelIs( "DaceFapNiL3Sm", 8 );
+   Rex::traceSinkIs( [&]( Rex::TraceRecord const & record ) {
+      seen.push_back( record.text );
+      if ( seen.size() == 1 ) { // the machine listens, and has not begun
+         world.port( 10, eth1 );
+         world.portDel( 10 );
+      }
+   } );
+   world.start();
+   Rex::traceSinkIs( {} );
+   Rex::traceLevelIs( "DaceFapNiL3Sm", -1 );
+   EXPECT_EQ( seen, Texts{ "L3IntfSm::handleInitialized adding ports to collection" } );
+   EXPECT_FALSE( world.sm->portStateHas( Hardware::Dace::SystemPhyPortId{ 10 } ) );
+}
+
 TEST_F( L3IntfSmTest, RemovedPortTakesItsInterfaceOutOfService ) {
    world.port( 10, eth1 );
    world.port( 11, eth2 );

@@ -265,6 +265,16 @@ TEST_F( VxlanSplitHorizonTest, wakingFromZombieReloadsForEachVtiAsWell ) {
    EXPECT_FALSE( writes().empty() );
 }
 
+TEST_F( VxlanSplitHorizonTest, doesNotReloadForAVtiThatIsAZombieAlready ) {
+   running();
+   auto const reactor = sm->vtiStatusIs( vtiIs( "Vxlan1" ) );
+   writes();
+   reactor->rexDoZombieReactors( true );
+   EXPECT_EQ( writes(), vxlan );
+   reactor->rexDoZombieReactors( true );
+   EXPECT_EQ( writes(), Strings{} );
+}
+
 TEST_F( VxlanSplitHorizonTest, catchesUpWithTheDirectoryWhenItsNotificationsAreTurnedOn ) {
    running();
    vtiIs( "Vxlan1" );
