@@ -171,6 +171,20 @@ TEST( ControlAnswers, OfAnAgentWithoutAStateTellWhatItWaitsFor ) {
    EXPECT_EQ( agent.ask( "ctl --socket a.ctl why IppdFerTrapCfg" ).find( "l3sm:" ), std::string::npos );
 }
 
+TEST( ControlAnswers, TellTheLastStepsWhateverTheLevels ) {
+   ServedExample agent( example );
+   auto const all = agent.ask( "ctl --socket a.ctl trace ring" );
+   EXPECT_NE( all.find( "DaceFapNiL3Sm/8 handleInitialized: slot:" ), std::string::npos ) << all;
+   EXPECT_GT( std::ranges::count( all, '\n' ), 2 ) << all;
+   auto const last = agent.ask( "ctl --socket a.ctl trace ring 2" );
+   EXPECT_EQ( std::ranges::count( last, '\n' ), 2 ) << last;
+   EXPECT_TRUE( all.ends_with( last ) ) << last;
+   auto const list = Inspection::parseJson( agent.ask( "ctl --socket a.ctl trace ring 1 --json" ), "ring" );
+   ASSERT_TRUE( list.list() );
+   ASSERT_EQ( list.list()->size(), 1u );
+   EXPECT_TRUE( all.ends_with( *list.list()->front().text() + "\n" ) );
+}
+
 TEST( ControlAnswers, FollowWhatTheAgentIsTold ) {
    ServedExample agent( example );
    EXPECT_EQ( agent.ask( "ctl --socket a.ctl freeze" ), "frozen\n" );
@@ -190,20 +204,6 @@ TEST( ControlAnswers, FollowWhatTheAgentIsTold ) {
    EXPECT_EQ( agent.ask( "ctl --socket a.ctl exit" ), "the agent ends\n" );
    EXPECT_EQ( agent.wait(), 0 );
    EXPECT_FALSE( std::filesystem::exists( agent.folder / "a.ctl" ) );
-}
-
-TEST( ControlAnswers, TellTheLastStepsWhateverTheLevels ) {
-   ServedExample agent( example );
-   auto const all = agent.ask( "ctl --socket a.ctl trace ring" );
-   EXPECT_NE( all.find( "DaceFapNiL3Sm/8 handleInitialized: slot:" ), std::string::npos ) << all;
-   EXPECT_GT( std::ranges::count( all, '\n' ), 2 ) << all;
-   auto const last = agent.ask( "ctl --socket a.ctl trace ring 2" );
-   EXPECT_EQ( std::ranges::count( last, '\n' ), 2 ) << last;
-   EXPECT_TRUE( all.ends_with( last ) ) << last;
-   auto const list = Inspection::parseJson( agent.ask( "ctl --socket a.ctl trace ring 1 --json" ), "ring" );
-   ASSERT_TRUE( list.list() );
-   ASSERT_EQ( list.list()->size(), 1u );
-   EXPECT_TRUE( all.ends_with( *list.list()->front().text() + "\n" ) );
 }
 
 // Of an agent that has forgotten its beginning: here one that says so.
