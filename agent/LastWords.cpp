@@ -4,6 +4,10 @@
 #include "assert/Assert.h"
 #include "inspection/EventInput.h"
 #include "inspection/FailureReport.h"
+#include "inspection/LastSteps.h"
+
+#include <algorithm>
+#include <iterator>
 
 namespace Live {
 
@@ -49,7 +53,9 @@ void LastWords::say() const {
                                           .eventText = what_ ? Inspection::EventInput::of( *what_ ).text() : "none",
                                           .fap = fap_ ? std::to_string( *fap_ ) + ", the last that was worked on"
                                                       : "none was worked on in this event" } );
-   for ( auto const & line : report.lines() ) {
+   auto lines = Inspection::lastStepsBeforeFailure();
+   std::ranges::copy( report.lines(), std::back_inserter( lines ) );
+   for ( auto const & line : lines ) {
       Live::say( Level::error, line );
    }
 }

@@ -1,4 +1,5 @@
-// What an agent says when an assertion ends it: event, FAP, function, cause, and what in its state is suspicious.
+// What an agent says when an assertion ends it: its last steps, then event, FAP, function, cause, and what in its state
+// is suspicious.
 //
 //    LastWords lastWords( scenario );                 // before the switch: hooks run from the last to the first
 //    SimulatedSwitch sw( scenario.description );

@@ -1,6 +1,8 @@
-// Which facilities trace, and up to which level: changed while the agent runs.
+// Which facilities trace, and up to which level: changed while the agent runs. And what was traced last, whatever the
+// levels.
 #include "agent/control/AgentCommands.h"
 
+#include "inspection/LastSteps.h"
 #include "rex/Nearest.h"
 #include "rex/Trace.h"
 
@@ -86,6 +88,20 @@ void addTraceCommands( Commands & commands ) {
                          }
                       }
                       return list();
+                   } } );
+   commands.add( { .name = "trace ring",
+                   .does = "the last steps, from the ring buffer, whatever the levels",
+                   .arguments = { { .name = "count",
+                                    .type = Argument::Type::number,
+                                    .isOptional = true,
+                                    .what = "the last that many; all without it" } },
+                   .answer = []( Arguments const & given ) -> Answer {
+                      Value::List steps;
+                      for ( auto & step : Inspection::lastSteps(
+                               given.optional< U32 >( "count" ).value_or( Rex::RingTrace::capacity ) ) ) {
+                         steps.push_back( std::move( step ) );
+                      }
+                      return Value( std::move( steps ) );
                    } } );
 }
 

@@ -88,6 +88,12 @@ void writeValue( std::ostream & out, Value const & value, Style const & style, N
       writeText( out, *text ); // lines that are meant for programs, too
       return;
    }
+   if ( auto const * list = value.list(); list && !isLong( value ) && !list->empty() ) {
+      for ( Value const & part : *list ) {
+         writeText( out, shortText( part ) );
+      }
+      return;
+   }
    write( out, value, style, 0, first );
 }
 

@@ -1,4 +1,5 @@
-// A value that no view knows more of, for people: an object as lines of name and value, a list of objects as a table.
+// A value that no view knows more of, for people: an object as lines of name and value, a list of texts as
+// lines, one of objects as one after the other.
 //
 //    writeValue( std::cout, value, style, { "phase" } );      // names that come first, where they are there
 //

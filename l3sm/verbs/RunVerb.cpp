@@ -1,6 +1,7 @@
 #include "assert/Assert.h"
 #include "inspection/FailureReport.h"
 #include "inspection/Interruption.h"
+#include "inspection/LastSteps.h"
 #include "inspection/Play.h"
 #include "inspection/RunSummaryValue.h"
 #include "inspection/Version.h"
@@ -19,6 +20,7 @@
 
 #include <algorithm>
 #include <iostream>
+#include <iterator>
 #include <memory>
 #include <sstream>
 
@@ -121,30 +123,10 @@ class Run {
       }
       if ( ring_.isWanted() ) {
          std::string text;
-         for ( auto const & record : Rex::RingTrace::records() ) {
-            text += lineOf( record ) + "\n";
+         for ( auto const & step : lastSteps() ) {
+            text += step + "\n";
          }
          ring_.write( text );
-      }
-   }
-
-   // As traces are written; a record of the ring buffer alone has no facility.
-   static std::string lineOf( Rex::TraceRecord const & record ) {
-      return ( *record.facility ? record.facility : "ring" ) + std::string( "/" ) + std::to_string( record.level ) +
-             " " + record.text;
-   }
-
-   // The last steps before the failure.
-   static void tellLastSteps() {
-      constexpr std::size_t most = 20;
-      auto const records = Rex::RingTrace::records();
-      if ( records.empty() ) {
-         return;
-      }
-      std::cerr << "The last steps, of " << records.size() << ( records.size() == 1 ? " record" : " records" )
-                << " in the ring buffer:\n";
-      for ( auto at = records.size() - std::min( records.size(), most ); at < records.size(); ++at ) {
-         std::cerr << "  " << printable( lineOf( records[at] ) ) << '\n';
       }
    }
 
@@ -211,8 +193,10 @@ class Run {
       if ( !sw_ ) {
          return;
       }
-      tellLastSteps();
-      for ( auto const & line : failureReportOf( scenario_, *sw_, summary_, isFollowed_ ).lines() ) {
+      auto lines = lastStepsBeforeFailure();
+      std::ranges::copy( failureReportOf( scenario_, *sw_, summary_, isFollowed_ ).lines(),
+                         std::back_inserter( lines ) );
+      for ( auto const & line : lines ) {
          std::cerr << printable( line ) << '\n';
       }
       std::cerr.flush();

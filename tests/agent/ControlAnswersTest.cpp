@@ -3,6 +3,7 @@
 #include "ControlWorld.h"
 #include "inspection/files/Json.h"
 
+#include <algorithm>
 #include <csignal>
 #include <regex>
 #include <sys/wait.h>
@@ -168,6 +169,20 @@ TEST( ControlAnswers, OfAnAgentWithoutAStateTellWhatItWaitsFor ) {
       "l3sm: agent ./a.ctl: the agent follows redis+unix:///nowhere/redis.sock, where its state is changed: l3sm "
       "state\n" );
    EXPECT_EQ( agent.ask( "ctl --socket a.ctl why IppdFerTrapCfg" ).find( "l3sm:" ), std::string::npos );
+}
+
+TEST( ControlAnswers, TellTheLastStepsWhateverTheLevels ) {
+   ServedExample agent( example );
+   auto const all = agent.ask( "ctl --socket a.ctl trace ring" );
+   EXPECT_NE( all.find( "DaceFapNiL3Sm/8 handleInitialized: slot:" ), std::string::npos ) << all;
+   EXPECT_GT( std::ranges::count( all, '\n' ), 2 ) << all;
+   auto const last = agent.ask( "ctl --socket a.ctl trace ring 2" );
+   EXPECT_EQ( std::ranges::count( last, '\n' ), 2 ) << last;
+   EXPECT_TRUE( all.ends_with( last ) ) << last;
+   auto const list = Inspection::parseJson( agent.ask( "ctl --socket a.ctl trace ring 1 --json" ), "ring" );
+   ASSERT_TRUE( list.list() );
+   ASSERT_EQ( list.list()->size(), 1u );
+   EXPECT_TRUE( all.ends_with( *list.list()->front().text() + "\n" ) );
 }
 
 TEST( ControlAnswers, FollowWhatTheAgentIsTold ) {

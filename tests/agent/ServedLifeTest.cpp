@@ -62,6 +62,23 @@ TEST( ServedLife, saysWhatItWasAtWhenAnAssertionEndsIt ) {
    EXPECT_TRUE( has( agent.log(), "suspicious: the state leaves out evpn/status (null)" ) ) << agent.log();
 }
 
+TEST( ServedLife, saysItsLastStepsFirstWhenAnAssertionEndsIt ) {
+   Folder const folder;
+   ServedAgent agent( folder,
+                      "Linecard3",
+                      R"({"switch": {"faps": [{"fapId": 0, "revision": {"chipType": "BCM88690_B0", "sdkVersion": 7}}]},
+                          "state": {"routing/mpls/routingInfo/status": {"mplsLookupLabelCount": 3}}})",
+                      "" );
+   EXPECT_EQ( agent.ended(), 128 + SIGABRT );
+   auto const log = agent.log();
+   auto const steps = log.find( "The last steps, of " );
+   auto const step = log.find( "DaceFapNiL3Vxlan/9 VxlanSplitHorizonCfgSm::reloadSplitHorizonCfg VXLAN configured: " );
+   ASSERT_NE( steps, std::string::npos ) << log;
+   ASSERT_NE( step, std::string::npos ) << log;
+   EXPECT_LT( steps, step );
+   EXPECT_LT( step, log.find( "event 0: start" ) ) << log;
+}
+
 TEST( ServedLife, refusesToServeASliceThatIsServed ) {
    Folder const folder;
    Folder const other;
