@@ -70,14 +70,14 @@ std::string changesKeyOf( Row const & row, std::vector< FieldChange > const & ch
    return key;
 }
 
-void addBefore( ChainStep::Change & change, std::optional< std::string > const & before ) {
-   if ( !before || std::ranges::find( change.befores, *before ) != change.befores.end() ) {
+void addBefore( ChainStep::Change & change, U16 fap, std::optional< std::string > const & before ) {
+   auto & here = change.onFap[fap];
+   if ( !before ) {
       return;
    }
-   if ( change.befores.size() < mostBefores ) {
-      change.befores.push_back( *before );
-   } else {
-      change.hasMoreBefores = true;
+   change.addBefore( *before );
+   if ( here.size() <= mostBefores && std::ranges::find( here, *before ) == here.end() ) {
+      here.push_back( *before );
    }
 }
 
@@ -114,6 +114,30 @@ ChainStep newStep( Row const & row, std::vector< FieldChange > const & changes )
 
 } // namespace
 
+void ChainStep::Change::addBefore( std::string const & before ) {
+   if ( std::ranges::find( befores, before ) != befores.end() ) {
+      return;
+   }
+   if ( befores.size() < mostBefores ) {
+      befores.push_back( before );
+   } else {
+      hasMoreBefores = true;
+   }
+}
+
+std::optional< ChainStep::Change > ChainStep::Change::onFaps( std::set< U16 > const & faps ) const {
+   std::optional< Change > there;
+   for ( auto const & [fap, some] : onFap ) {
+      if ( faps.contains( fap ) ) {
+         if ( !there ) {
+            there.emplace( Change{ .name = name, .width = width, .after = after } );
+         }
+         std::ranges::for_each( some, [&]( std::string const & before ) { there->addBefore( before ); } );
+      }
+   }
+   return there;
+}
+
 ChainStep & ChainSteps::stepOf( Row const & row, std::vector< FieldChange > const & changes ) {
    bool const isChange = row.kind == Row::Kind::write && !changes.empty();
    std::string const wordsKey = isChange ? wordsKeyOf( row ) : "";
@@ -146,12 +170,13 @@ void ChainSteps::add( Row const & row, std::vector< FieldChange > const & change
             told = step.changes.insert(
                told, { .name = change.field->name, .width = change.field->width, .after = change.after } );
          }
-         addBefore( *told, change.before );
+         addBefore( *told, row.fap, change.before );
       }
       break;
    case Row::Kind::control:
       step.places[row.fap];
       addBefore( step.changes.front(),
+                 row.fap,
                  row.valueBefore ? std::optional( std::to_string( *row.valueBefore ) ) : std::nullopt );
       break;
    case Row::Kind::gate:

@@ -28,6 +28,12 @@ struct ChainStep {
       std::vector< std::string > befores = {}; // the first few different ones; none where nobody knows
       bool hasMoreBefores = false;
       std::string after = {};
+      // On each FAP that has it: as many different ones, and one more where there are more.
+      std::map< U16, std::vector< std::string > > onFap = {};
+
+      void addBefore( std::string const & before );
+      // As if only these FAPs were in the step; nothing where none of them has the change.
+      std::optional< Change > onFaps( std::set< U16 > const & faps ) const;
    };
 
    Simulator::Row::Kind kind = Simulator::Row::Kind::write;

@@ -39,8 +39,13 @@ std::string arraysText( ChainStep const & step, ChainStep::Arrays const & arrays
    return text;
 }
 
+struct PlaceLine {
+   std::string text;
+   std::set< U16 > faps;
+};
+
 // FAPs with the same places stand together.
-std::vector< std::string > placeLines( ChainStep const & step, Style const & style ) {
+std::vector< PlaceLine > placeLines( ChainStep const & step, Style const & style ) {
    std::vector< std::pair< std::string, std::set< U16 > > > byPlaces;
    for ( auto const & [fap, arrays] : step.places ) {
       std::string const text = arraysText( step, arrays );
@@ -52,13 +57,14 @@ std::vector< std::string > placeLines( ChainStep const & step, Style const & sty
    }
    std::string const variant =
       step.table && hasVariants( *step.table ) ? "  variant " + std::to_string( step.variant ) : "";
-   std::vector< std::string > lines;
+   std::vector< PlaceLine > lines;
    for ( auto const & [places, faps] : byPlaces ) {
       std::string const where = fitting( places, lineWidth() / 3 );
-      lines.push_back( fapsText( faps ) + variant + ( where.empty() ? "" : "  " + style.place( where ) ) +
-                       ( step.core
-                            ? ( step.kind == Row::Kind::fault ? "  copy " : "  core " ) + std::to_string( *step.core )
-                            : "" ) );
+      lines.push_back(
+         { fapsText( faps ) + variant + ( where.empty() ? "" : "  " + style.place( where ) ) +
+              ( step.core ? ( step.kind == Row::Kind::fault ? "  copy " : "  core " ) + std::to_string( *step.core )
+                          : "" ),
+           faps } );
    }
    return lines;
 }
@@ -138,9 +144,9 @@ void ChainStepText::write( ChainStep const & step, std::string & function ) {
       return;
    }
    if ( step.kind == Row::Kind::fault ) { // which nobody has called
-      for ( std::string const & place : placeLines( step, style_ ) ) {
+      for ( auto const & place : placeLines( step, style_ ) ) {
          out_ << "  " << style_.differs( "fault: " + step.reason ) << "  "
-              << ( isOfTable_ ? "" : std::string( step.table->name ) + "  " ) << place << '\n';
+              << ( isOfTable_ ? "" : std::string( step.table->name ) + "  " ) << place.text << '\n';
       }
       function.clear();
       return;
@@ -157,15 +163,26 @@ void ChainStepText::write( ChainStep const & step, std::string & function ) {
    }
    auto const places = placeLines( step, style_ );
    if ( bounded_ && places.size() > mostPlaces ) {
-      writeChanges( step, places.front() + "  and on " + counted( step.places.size() - 1, "other FAP", "other FAPs" ) );
+      writeChanges( step,
+                    places.front().text + "  and on " +
+                       counted( step.places.size() - places.front().faps.size(), "other FAP", "other FAPs" ),
+                    step.changes );
       return;
    }
-   for ( std::string const & place : places ) {
-      writeChanges( step, place );
+   for ( PlaceLine const & place : places ) {
+      std::vector< ChainStep::Change > there;
+      for ( ChainStep::Change const & change : step.changes ) {
+         if ( auto it = change.onFaps( place.faps ) ) {
+            there.push_back( std::move( *it ) );
+         }
+      }
+      writeChanges( step, place.text, there );
    }
 }
 
-void ChainStepText::writeChanges( ChainStep const & step, std::string const & place ) {
+void ChainStepText::writeChanges( ChainStep const & step,
+                                  std::string const & place,
+                                  std::vector< ChainStep::Change > const & changes ) {
    std::string head = step.kind == Row::Kind::read ? "reads " : "";
    if ( step.kind == Row::Kind::control ) {
       head += "control " + std::to_string( step.control ) + "  ";
@@ -174,14 +191,13 @@ void ChainStepText::writeChanges( ChainStep const & step, std::string const & pl
    }
    head += place;
    Columns columns;
-   if ( step.changes.empty() ) {
+   if ( changes.empty() ) {
       columns.row( { head, step.kind == Row::Kind::write ? "no change" : "" } );
    }
    std::size_t fields = 0;
-   for ( ChainStep::Change const & change : step.changes ) {
-      if ( bounded_ && fields == mostFields && step.changes.size() > mostFields + 1 ) {
-         columns.row(
-            { "", style_.faint( "and " + std::to_string( step.changes.size() - fields ) + " more fields" ) } );
+   for ( ChainStep::Change const & change : changes ) {
+      if ( bounded_ && fields == mostFields && changes.size() > mostFields + 1 ) {
+         columns.row( { "", style_.faint( "and " + std::to_string( changes.size() - fields ) + " more fields" ) } );
          break;
       }
       ++fields;

@@ -20,7 +20,8 @@ class ChainStepText {
    void write( ChainStep const & step, std::string & function );
 
  private:
-   void writeChanges( ChainStep const & step, std::string const & place );
+   void
+   writeChanges( ChainStep const & step, std::string const & place, std::vector< ChainStep::Change > const & changes );
    void writePublication( ChainStep const & step );
 
    std::ostream & out_;

@@ -14,6 +14,7 @@
 #include "inspection/views/Pager.h"
 #include "inspection/views/RunSummaryText.h"
 #include "l3sm/RunEvents.h"
+#include "l3sm/RunLog.h"
 #include "l3sm/ScenarioToPlay.h"
 #include "l3sm/Tracing.h"
 #include "l3sm/verbs/Verbs.h"
@@ -105,6 +106,7 @@ class Run {
       using enum Simulator::Ending::Kind;
       journal.ends( isComplete ? complete : interrupted );
       tracing.flush();
+      log_.end();
       writeFiles();
       tell();
       return interruption.status( 0 );
@@ -212,6 +214,7 @@ class Run {
    OutputFile const ring_;
    bool isFollowed_ = true; // operations are
    RunSummary summary_;
+   RunLog log_{ [this] { return sw_ ? sw_->journal().event() : 0; } };
    Rex::Value::List events_;
    std::optional< Simulator::SimulatedSwitch > sw_; // goes first: it hands over to what stands above
 };

@@ -1,6 +1,7 @@
 // Why a chip is as it is, from journals: the chain, its folding, what a gate kept from running, and how a run ended.
 #include "inspection/Why.h"
 
+#include "inspection/views/ChainStepText.h"
 #include "inspection/views/WhyText.h"
 #include "l3sm/Command.h"
 
@@ -159,6 +160,28 @@ std::string textOf( WhyAnswer const & answer ) {
    std::ostringstream out;
    writeWhy( out, answer, {}, Style( false ) );
    return out.str();
+}
+
+TEST( Why, tellsOfEachFapWhatStoodThere ) {
+   auto const text = textOf( Played( "urpf-and-ip-traps" ).why( "IppdFerTrapCfg" ) );
+   EXPECT_NE( text.find( "    FAP 0  [3]  cpuStrengthN  0x0 → 0x5\n" ), std::string::npos ) << text;
+   EXPECT_NE( text.find( "    FAP 1  [3-4]  cpuStrengthN  0x6 or 0x3 → 0x5\n" ), std::string::npos ) << text;
+}
+
+TEST( Why, countsTheOtherFapsWhereItsPlacesAreMany ) {
+   ChainStep const step{ .kind = Row::Kind::write,
+                         .function = "f",
+                         .source = "a.cpp:1",
+                         .table = Catalogue::table( "IppdFerTrapCfg" ),
+                         .isArrayed = true,
+                         .places = { { U16{ 0 }, { { 3, { 0 } } } },
+                                     { U16{ 1 }, { { 3, { 0 } } } },
+                                     { U16{ 2 }, { { 4, { 0 } } } },
+                                     { U16{ 3 }, { { 5, { 0 } } } } } };
+   std::ostringstream out;
+   std::string function;
+   ChainStepText( out, true, true, Style( false ) ).write( step, function );
+   EXPECT_EQ( out.str(), "  f  a.cpp:1\n    FAPs 0-1  [3]  and on 2 other FAPs  no change\n" );
 }
 
 TEST( Why, saysOfWhichPartOfTheRunItsNoIsTrue ) {

@@ -255,4 +255,20 @@ TEST( Help, isAVerbToo ) {
    EXPECT_EQ( Command( "help rnu" ).errors, "l3sm: there is no verb \"rnu\"; did you mean \"run\"?\n" );
 }
 
+// What an operator is told at each event that leaves the contradiction as it is.
+TEST( Run, tellsAMessageOfThePlugInOnceAndThenHowOftenItCame ) {
+   std::string const status = R"({"set": {"path": "routing/mpls/routingInfo/status", "attribute": )";
+   std::string const both = status + R"("mplsLookupFallbackIp", "value": true}})";
+   std::string const one = status + R"("mplsLookupFallbackIp", "value": false}})";
+   Command const l3sm( "run s.json --quiet",
+                       { { "s.json",
+                           scenarioWith( R"(, "events": [)" + status + R"("mplsLookupLabelCount", "value": 2}}, )" +
+                                         both + ", " + one + ", " + both + ", " + one + ", " + both + "]" ) } } );
+   EXPECT_EQ( l3sm.status, 0 );
+   std::string const code = "DACE_MULTI_LABEL_LOOKUP_COUNT_MPLS_FALLBACK_IP_NOT_SUPPORTED: ";
+   EXPECT_TRUE( l3sm.errors.starts_with( "event 2: " + code + "Configurations " ) ) << l3sm.errors;
+   EXPECT_TRUE( l3sm.errors.ends_with( "\n" + code + "2 times more, the last in event 6\n" ) ) << l3sm.errors;
+   EXPECT_EQ( std::ranges::count( l3sm.errors, '\n' ), 2 );
+}
+
 } // namespace
