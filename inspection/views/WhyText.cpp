@@ -47,7 +47,10 @@ class Writer {
    }
 
  private:
-   void line( std::string const & text, std::size_t indent ) { Lines( out_, Lines::Long::whole ).put( indent, text ); }
+   void line( std::string const & text, std::size_t indent ) {
+      std::size_t const most = 3 * lineWidth(); // of a value that may be the whole of a directory
+      Lines( out_, Lines::Long::whole ).put( indent, bounded_ ? fitting( text, most ) : text );
+   }
    void
    counted( std::size_t number, char const * one, char const * many, std::string const & remedy, std::size_t indent ) {
       std::string const text = Inspection::counted( number, one, many ) + "; " + remedy;
