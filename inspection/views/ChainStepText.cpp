@@ -137,6 +137,25 @@ std::string fitting( std::string const & text, std::size_t width ) {
    return text.substr( 0, end ) + "...";
 }
 
+void writeOrigin( std::ostream & out,
+                  std::size_t indent,
+                  std::string const & function,
+                  std::string const & source,
+                  Style const & style ) {
+   std::size_t const width = lineWidth();
+   bool const fits = indent + widthOf( function ) + 2 + widthOf( source ) <= width;
+   out << std::string( indent, ' ' ) << shortened( function, width - indent )
+       << ( fits ? "  " : "\n" + std::string( indent + 4, ' ' ) ) << style.faint( source ) << '\n';
+}
+
+void writeWrapped( std::ostream & out, std::size_t indent, std::string const & text, Style const & style ) {
+   if ( indent + widthOf( text ) <= lineWidth() ) {
+      out << std::string( indent, ' ' ) << style.differs( text ) << '\n';
+   } else {
+      Lines( out ).put( indent, text );
+   }
+}
+
 void ChainStepText::write( ChainStep const & step, std::string & function ) {
    if ( step.kind == Row::Kind::publish ) {
       writePublication( step );
@@ -152,13 +171,13 @@ void ChainStepText::write( ChainStep const & step, std::string & function ) {
       return;
    }
    if ( std::string const now = step.function + step.source; now != function ) {
-      out_ << "  " << step.function << "  " << style_.faint( step.source ) << '\n';
+      writeOrigin( out_, 2, step.function, step.source, style_ );
       function = now;
    }
    if ( step.kind == Row::Kind::gate ) {
       std::string const faps = fapsText( step.faps );
       std::string const text = "stopped: " + step.reason + ( faps.empty() ? "" : "  " + faps );
-      out_ << "    " << style_.differs( fitting( text, lineWidth() - 4 ) ) << '\n';
+      writeWrapped( out_, 4, text, style_ );
       return;
    }
    auto const places = placeLines( step, style_ );
@@ -190,20 +209,36 @@ void ChainStepText::writeChanges( ChainStep const & step,
       head += std::string( step.table->name ) + "  ";
    }
    head += place;
-   Columns columns;
-   if ( changes.empty() ) {
-      columns.row( { head, step.kind == Row::Kind::write ? "no change" : "" } );
+   std::vector< std::string > told;
+   if ( changes.empty() && step.kind == Row::Kind::write ) {
+      told.emplace_back( "no change" );
    }
-   std::size_t fields = 0;
    for ( ChainStep::Change const & change : changes ) {
-      if ( bounded_ && fields == mostFields && changes.size() > mostFields + 1 ) {
-         columns.row( { "", style_.faint( "and " + std::to_string( changes.size() - fields ) + " more fields" ) } );
+      if ( bounded_ && told.size() == mostFields && changes.size() > mostFields + 1 ) {
+         told.push_back( style_.faint( "and " + std::to_string( changes.size() - told.size() ) + " more fields" ) );
          break;
       }
-      ++fields;
-      columns.row( { std::exchange( head, {} ), changeText( change, style_ ) } );
+      told.push_back( changeText( change, style_ ) );
    }
-   columns.print( out_, 4 );
+   constexpr std::size_t indent = 4;
+   auto const fits = [&]( std::string const & it ) {
+      return indent + widthOf( head ) + 2 + widthOf( it ) <= lineWidth();
+   };
+   if ( !std::ranges::all_of( told, fits ) ) {
+      out_ << std::string( indent, ' ' ) << head << '\n';
+      for ( std::string const & it : told ) {
+         out_ << std::string( 2 * indent, ' ' ) << it << '\n';
+      }
+      return;
+   }
+   Columns columns;
+   if ( told.empty() ) {
+      columns.row( { head, "" } );
+   }
+   for ( std::string const & it : told ) {
+      columns.row( { std::exchange( head, {} ), it } );
+   }
+   columns.print( out_, indent );
 }
 
 void ChainStepText::writePublication( ChainStep const & step ) {
@@ -221,6 +256,13 @@ void ChainStepText::writePublication( ChainStep const & step ) {
                                       : valueText( step.before ) + " → " + valueText( step.after );
    std::string const text = "publishes " + step.attribute + "  " + fitting( change, lineWidth() / 2 ) + "  ";
    std::size_t const rest = lineWidth() - std::min( lineWidth() - 3, widthOf( text ) + 2 );
+   constexpr std::size_t leastForPlace = 24;
+   if ( rest < leastForPlace ) {
+      Lines lines( out_, Lines::Long::whole );
+      lines.put( 2, "publishes " + step.attribute + "  " + change );
+      lines.put( 6, names + "  in " + step.path );
+      return;
+   }
    names = fitting( names, rest );
    out_ << "  publishes " << step.attribute << "  " << style_.after( fitting( change, lineWidth() / 2 ) ) << "  "
         << names

@@ -10,6 +10,16 @@ namespace Inspection {
 // Cuts a text that doesn't fit, and says so with three dots.
 std::string fitting( std::string const & text, std::size_t width );
 
+// A function and its place in the source, below one another where they don't fit side by side.
+void writeOrigin( std::ostream & out,
+                  std::size_t indent,
+                  std::string const & function,
+                  std::string const & source,
+                  Style const & style );
+
+// What is odd, on as many lines as it takes.
+void writeWrapped( std::ostream & out, std::size_t indent, std::string const & text, Style const & style );
+
 class ChainStepText {
  public:
    // `bounded`: the places and fields beyond the first few are counted. `isOfTable`: the table goes without saying.

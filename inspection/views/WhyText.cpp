@@ -4,6 +4,7 @@
 #include "inspection/ServedFaps.h"
 #include "inspection/files/Json.h"
 #include "inspection/views/ChainStepText.h"
+#include "inspection/views/Lines.h"
 
 #include <algorithm>
 
@@ -26,10 +27,10 @@ class Writer {
    void write() {
       out_ << style_.title( answer_.subject.text() ) << '\n';
       if ( std::string const ending = endingText( answer_ ); !ending.empty() ) {
-         out_ << style_.differs( ending ) << '\n';
+         writeWrapped( out_, 0, ending, style_ );
       }
       for ( std::string const & remark : answer_.remarks ) {
-         out_ << style_.differs( printable( remark ) ) << '\n';
+         writeWrapped( out_, 0, printable( remark ), style_ );
       }
       if ( answer_.interface ) {
          writeInterface( *answer_.interface );
@@ -47,12 +48,17 @@ class Writer {
 
  private:
    void line( std::string const & text, std::size_t indent ) {
-      out_ << std::string( indent, ' ' ) << fitting( text, lineWidth() - indent ) << '\n';
+      std::size_t const most = 3 * lineWidth(); // of a value that may be the whole of a directory
+      Lines( out_, Lines::Long::whole ).put( indent, bounded_ ? fitting( text, most ) : text );
    }
    void
    counted( std::size_t number, char const * one, char const * many, std::string const & remedy, std::size_t indent ) {
-      out_ << std::string( indent, ' ' ) << style_.faint( Inspection::counted( number, one, many ) + "; " + remedy )
-           << '\n';
+      std::string const text = Inspection::counted( number, one, many ) + "; " + remedy;
+      if ( indent + text.size() > lineWidth() ) {
+         Lines( out_ ).put( indent, text );
+      } else {
+         out_ << std::string( indent, ' ' ) << style_.faint( text ) << '\n';
+      }
    }
 
    void writeInterface( InterfaceStory const & story ) {
@@ -71,9 +77,7 @@ class Writer {
          line( "it has the MTU that is configured", 0 );
       }
       for ( std::size_t reason = 0; reason < story.reasons.size(); ++reason ) {
-         out_ << style_.differs( fitting( ( reason == 0 ? "its MTU is not synced: " : "and: " ) + story.reasons[reason],
-                                          lineWidth() ) )
-              << '\n';
+         writeWrapped( out_, 0, ( reason == 0 ? "its MTU is not synced: " : "and: " ) + story.reasons[reason], style_ );
       }
    }
 
@@ -112,8 +116,13 @@ class Writer {
 
    void writeEvent( ChainEvent const & event ) {
       std::string const head = "event " + std::to_string( event.event ) + "  ";
-      out_ << '\n'
-           << style_.strong( head ) << fitting( printable( event.input.text() ), lineWidth() - head.size() ) << '\n';
+      std::string const input = printable( event.input.text() );
+      out_ << '\n';
+      if ( head.size() + widthOf( input ) <= lineWidth() ) {
+         out_ << style_.strong( head ) << input << '\n';
+      } else {
+         line( head + input, 0 );
+      }
       if ( event.steps.empty() ) {
          writeHearers( event );
          line( "nothing followed: no write, no publication, no gate", 2 );
@@ -173,10 +182,9 @@ class Writer {
                ( isOwnCause ? "" : ", on " + gate.lastCause ) +
                ( gate.times > 1 ? "  (" + std::to_string( gate.times ) + " times in all)" : "" ),
             2 );
-      out_ << "    " << gate.function << "  " << style_.faint( gate.source ) << '\n';
+      writeOrigin( out_, 4, gate.function, gate.source, style_ );
       std::string const faps = fapsText( gate.faps );
-      out_ << "      " << style_.differs( fitting( "stopped: " + gate.reason, lineWidth() - 6 ) )
-           << ( faps.empty() ? "" : "  " + faps ) << '\n';
+      writeWrapped( out_, 6, "stopped: " + gate.reason + ( faps.empty() ? "" : "  " + faps ), style_ );
       std::vector< std::string > others;
       std::ranges::copy_if(
          gate.kept, std::back_inserter( others ), [&]( auto const & it ) { return it != gate.function; } );
@@ -204,13 +212,23 @@ class Writer {
       }
       out_ << '\n' << style_.strong( title ) << '\n';
       Columns columns;
+      std::size_t widest = 0;
+      std::vector< std::pair< std::string, std::string > > totals;
       for ( Habit const & habit : habits ) {
-         columns.row( { habit.function,
-                        style_.faint( habit.source ),
-                        Inspection::counted( habit.times, "time", "times" ),
-                        "last in event " + std::to_string( habit.lastEvent ) } );
+         std::string const times = Inspection::counted( habit.times, "time", "times" );
+         std::string const last = "last in event " + std::to_string( habit.lastEvent );
+         totals.emplace_back( habit.function, habit.source + "  " + times + "  " + last );
+         widest = std::max( widest, totals.back().first.size() + totals.back().second.size() );
+         columns.row( { habit.function, style_.faint( habit.source ), times, last } );
       }
-      columns.print( out_, 2 );
+      constexpr std::size_t gaps = 2 + 2 + 6; // and what columns stand apart
+      if ( widest + gaps <= lineWidth() ) {
+         columns.print( out_, 2 );
+         return;
+      }
+      for ( auto const & [function, total] : totals ) {
+         writeOrigin( out_, 2, function, total, style_ );
+      }
    }
 
    void writeIdle() {
@@ -241,7 +259,7 @@ class Writer {
                   0 );
          return;
       }
-      out_ << style_.strong( "Closed gates that are not known to have to do with it" ) << '\n';
+      Lines( out_ ).title( "Closed gates that are not known to have to do with it" );
       for ( StoppedStep const & gate : answer_.others ) {
          writeGate( gate );
       }

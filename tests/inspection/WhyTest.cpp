@@ -184,6 +184,26 @@ TEST( Why, countsTheOtherFapsWhereItsPlacesAreMany ) {
    EXPECT_EQ( out.str(), "  f  a.cpp:1\n    FAPs 0-1  [3]  and on 2 other FAPs  no change\n" );
 }
 
+// What doesn't fit goes on in the next line: no reason and no place is cut off.
+TEST( Why, fitsANarrowTerminal ) {
+   setenv( "COLUMNS", "60", 1 );
+   auto const mtu = textOf( Played( "interface-mtu" ).why( "Ethernet1" ) );
+   auto const gate = textOf( Played( "gate" ).why( "IppdFerTrapCfg.cpuStrengthN" ) );
+   unsetenv( "COLUMNS" );
+   for ( std::string const & text : { mtu, gate } ) {
+      std::istringstream lines( text );
+      for ( std::string line; std::getline( lines, line ); ) {
+         EXPECT_LE( widthOf( line ), 60u ) << line;
+      }
+      EXPECT_EQ( text.find( "..." ), std::string::npos ) << text;
+   }
+   EXPECT_NE(
+      gate.find(
+         "stopped: FAP type 3 is not served while the toggles\n          ArmOrderedSwTable and J2DaceL3Ni are on" ),
+      std::string::npos )
+      << gate;
+}
+
 TEST( Why, saysOfWhichPartOfTheRunItsNoIsTrue ) {
    Played const played( "urpf-and-ip-traps" );
    std::string const subject = "IppdFerTrapCfg.cpuStrengthN";
