@@ -68,6 +68,36 @@ TEST_F( FileDifferencesTest, TellsTheSameOfPartsInAnotherOrder ) {
    EXPECT_EQ( between( file( one ), kindLast ), Lines{ "1 IppdFerTrapCfg [3] cpuSnoopCodeN 0x1 0x5" } );
 }
 
+TEST_F( FileDifferencesTest, ComparesEventsOfOneRunInAnyOrder ) {
+   std::string run =
+      R"({"op": "begin", "format": 2, "l3sm": "1.0.0", "plugin": "", "scenario": {"switch": {"slice": {"name": "L"}, "faps": [)"
+      R"({"fapId": 0, "revision": {"chipType": "BCM88690_B0", "sdkVersion": 7, "major": 5}},)"
+      R"({"fapId": 1, "revision": {"chipType": "BCM88690_B0", "sdkVersion": 7, "major": 5}}]}}})"
+      "\n";
+   for ( auto const number : { "0", "1", "2", "3" } ) {
+      run += R"({"op": "event", "event": )" + std::string( number ) + R"(, "what": {"start": {}}})" + "\n" +
+             R"({"op": "write", "seq": 1, "event": )" + number +
+             R"(, "fap": 1, "table": "IppdFerTrapCfg", "variant": 0, "array": 3, "entry": null, "scope": "all", )" +
+             R"("words": ["0x0000000)" + number + R"("], "changed": true, "function": "f", "source": "a.cpp:1", )" +
+             R"("cause": "start"})" + "\n";
+   }
+   auto const path =
+      folder.file( "run.jsonl", run + R"({"op": "end", "ended": "complete", "events": 3, "operations": 4})" );
+   auto const apart = [&]( std::vector< U32 > events ) {
+      std::string told;
+      for ( Difference const & it : differencesOf( { .a = path, .events = std::move( events ) } ).chips ) {
+         for ( auto const & value : it.values ) {
+            told += std::to_string( it.fap ) + " " + it.table + " " + *value.a + " " + *value.b;
+         }
+      }
+      return told;
+   };
+   EXPECT_EQ( apart( { 1, 3 } ), "1 IppdFerTrapCfg 0x1 0x3" );
+   EXPECT_EQ( apart( { 3, 1 } ), "1 IppdFerTrapCfg 0x3 0x1" );
+   EXPECT_EQ( apart( { 2 } ), "1 IppdFerTrapCfg 0x2 0x3" );
+   EXPECT_EQ( apart( { 2, 2 } ), "" );
+}
+
 TEST_F( FileDifferencesTest, KeepsToWhatIsAskedFor ) {
    auto const a = file( fap( "0", trap( "3", "0x00000001" ), R"({"64": 1})" ) );
    auto const b = file( fap( "0", trap( "3", "0xffffffff" ), R"({"64": 2})" ) );
