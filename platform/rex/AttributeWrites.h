@@ -5,7 +5,11 @@
 #include "rex/Entity.h"
 
 // One copy for all who include a type: it is emitted here, however much of it could be inlined.
+#ifdef __clang__
+#define REX_SHARED [[gnu::noinline]]
+#else
 #define REX_SHARED [[gnu::noipa]]
+#endif
 
 namespace Rex {
 

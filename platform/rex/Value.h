@@ -146,7 +146,12 @@ std::string pointerStep( std::string const & key );
 // What a codec takes, as data: what the list of paths and the schema of a scenario are made of.
 struct ValueType {
    enum class Kind : U8 { boolean, number, text, object };
-   struct Member;
+   template< class Type > // which is complete only behind this
+   struct Named {
+      char const * name;
+      Type type;
+   };
+   using Member = Named< ValueType >;
 
    Kind kind;
    char const * name;                       // for people: "true or false", "number", "MAC address"
@@ -154,10 +159,6 @@ struct ValueType {
    char const * pattern = nullptr;          // of a text: the regular expression that the whole of it matches
    std::vector< std::string > choices = {}; // of a text: the only ones, if there are any
    std::vector< Member > members = {};      // of an object, each optional
-};
-struct ValueType::Member {
-   char const * name;
-   ValueType type;
 };
 
 // How a type is written as a value, and as the key of an object. A specialisation has
