@@ -1,18 +1,25 @@
+// The files that verbs read, each by all the answers that read it.
 #include "Entries.h"
+#include "EntryTools.h"
 
-#include "generator/Check.h"
-#include "generator/Emit.h"
-#include "generator/Read.h"
+#include "agent/EventLoop.h"
+#include "agent/database/RecordedDatabase.h"
+#include "agent/recording/RecordedRun.h"
+#include "agent/recording/RecordedRunText.h"
 #include "inspection/Replay.h"
 #include "inspection/Why.h"
 #include "inspection/files/ChipsReader.h"
 #include "inspection/files/Scenario.h"
+#include "inspection/files/ScenarioText.h"
 #include "inspection/report/Report.h"
-#include "l3sm/CommandLine.h"
+#include "inspection/views/ContentsText.h"
+#include "inspection/views/CoverageText.h"
+#include "inspection/views/DifferencesText.h"
+#include "inspection/views/ReplayText.h"
+#include "inspection/views/WhyText.h"
 
-#include <CLI/CLI.hpp>
-#include <sys/mman.h>
-#include <unistd.h>
+#include "inspection/FileContents.h"
+#include "rex/Log.h"
 
 namespace Fuzz {
 
@@ -20,116 +27,139 @@ namespace {
 
 using namespace Inspection;
 
-// The bytes as a file that has a path and no place on a disk.
-class BytesFile {
- public:
-   explicit BytesFile( std::string const & bytes ) : file_( ::memfd_create( "input", 0 ) ) {
-      for ( std::size_t at = 0; at < bytes.size(); ) {
-         at += static_cast< std::size_t >( ::write( file_, bytes.data() + at, bytes.size() - at ) );
-      }
-   }
-   BytesFile( BytesFile const & ) = delete;
-   BytesFile & operator=( BytesFile const & ) = delete;
-   ~BytesFile() { ::close( file_ ); }
+void show( ContentsQuestion const & question ) {
+   mayRefuse( [&] {
+      ForPeople out;
+      eachContents( question,
+                    { .remarks = [&]( auto const & lines ) { showRemarks( out, lines, Style() ); },
+                      .fap =
+                         [&]( U16 fap, FapContents const & contents ) {
+                            showContents( out, fap, contents, { question.filter, true }, Style() );
+                            contentsValue( contents, { question.filter, false } );
+                         } } );
+   } );
+}
 
-   std::string path() const { return "/proc/self/fd/" + std::to_string( file_ ); }
+void diff( DiffQuestion const & question ) {
+   mayRefuse( [&] {
+      ForPeople out;
+      auto const differences = differencesOf( question );
+      showDifferences( out, differences, DifferencesShown::all, Style() );
+      valueOf( differences, false );
+   } );
+}
+
+void why( std::string const & path, char const * subject, WhyFilter const & filter = {} ) {
+   mayRefuse( [&] {
+      JournalReader journal( path );
+      WhyReader reader( whySubjectOf( subject ), filter );
+      auto const answer = whyOf( journal, reader );
+      ForPeople out;
+      writeWhy( out, answer, { .everything = true, .otherGates = true }, Style() );
+      whyValue( answer );
+   } );
+}
+
+// Asks for nothing but what comes next, as an agent does.
+class Follower final : public Live::Database::Follower {
+ public:
+   explicit Follower( Live::Database & database ) : database_( database ) {
+      database_.followerIs( this );
+      database_.snapshot();
+   }
+   void snapshotIs( Live::Snapshot snapshot ) override { database_.since( snapshot.position ); }
+   void transactionsAre( std::vector< Live::Transaction > transactions ) override {
+      database_.since( transactions.back().position );
+   }
+   void gapIs( std::string ) override {}
+   void unreachable( std::string ) override {}
+   void withoutState( std::string ) override {}
+   void refused( std::string ) override {}
 
  private:
-   int file_;
+   Live::Database & database_;
 };
 
-// Runs a reader that may refuse what it reads.
-template< class Read >
-void mayRefuse( Read const & read ) {
-   try {
-      read();
-   } catch ( InputError const & ) { // NOLINT(bugprone-empty-catch)
-   }
-}
+} // namespace
 
 void scenario( std::string const & bytes ) {
    BytesFile const file( bytes );
    mayRefuse( [&] {
       Scenario const read = readScenario( file.path() );
-      valueOf( read );
+      scenarioText( valueOf( read ) );
    } );
 }
 
-// All answers that read a journal.
 void journal( std::string const & bytes ) {
    BytesFile const file( bytes );
-   mayRefuse( [&] { replayOf( { .journal = file.path() }, OutputFile( "" ) ); } );
-   for ( char const * subject :
-         { "IppdFerTrapCfg", "evpn/status", "L3Sm::handleLooseUrpfFailFwdConfig", "Ethernet1" } ) {
-      mayRefuse( [&] {
-         JournalReader reader( file.path() );
-         WhyReader why( whySubjectOf( subject ), {} );
-         whyOf( reader, why );
-      } );
-   }
+   auto const path = file.path();
    mayRefuse( [&] {
-      JournalReader reader( file.path() );
+      auto const replay = replayOf( { .journal = path }, OutputFile( "" ) );
+      ForPeople out;
+      showReplay( out, replay, "", Style() );
+      valueOf( replay );
+   } );
+   for ( char const * subject : { "IppdFerTrapCfg", "control.7", "Ethernet1" } ) {
+      why( path, subject );
+   }
+   why( path, "evpn/status", { .at = 1 } );
+   why( path, "L3Sm::handleLooseUrpfFailFwdConfig", { .fap = 0, .events = 1 } );
+   mayRefuse( [&] {
+      JournalReader reader( path );
       ReportData data( reader.scenario() );
       reader.read( data );
       reportOf( data, reader.remarks() );
    } );
+   mayRefuse( [&] {
+      JournalReader reader( path );
+      Coverage coverage;
+      coverage.beginsWith( reader.chipTypes() );
+      reader.read( coverage, { .readsToo = false } );
+      ForPeople out;
+      showCoverage( out, coverage, true, Style() );
+      coveragePage( coverage );
+   } );
+   show( { .file = path, .event = 1 } );
+   diff( { .a = path, .events = { 0, 1 } } );
 }
 
 void chips( std::string const & bytes ) {
+   static std::string const others = L3SM_SOURCE_DIR "/tests/fuzz/corpus/chips/some-tables.json";
    BytesFile const file( bytes );
-   mayRefuse( [&] { chipTypesIn( file.path() ); } );
-   mayRefuse( [&] { eachFap( file.path(), { .tables = { "IppdFerTrapCfg" } }, []( U16, FapContents ) {} ); } );
+   auto const path = file.path();
+   mayRefuse( [&] { chipTypesIn( path ); } );
+   mayRefuse( [&] { eachFap( path, { .tables = { "IppdFerTrapCfg" } }, []( U16, FapContents ) {} ); } );
+   show( { .file = path } );
+   diff( { .a = path, .b = others } );
+   diff( { .a = others, .b = path } );
    mayRefuse( [&] {
-      ChipsFile const read = Inspection::readChips( file.path() );
+      ChipsFile const read = readChips( path );
       differencesOf( read, {} );
    } );
 }
 
-// One table's file beside the chips that there are, up to the sources that it would give.
-void catalogue( std::string const & bytes ) {
-   static auto const chipsThere = ::readChips( L3SM_SOURCE_DIR "/catalogue/chips.yaml" );
+// Without a plug-in: what one asserts is meant to end the process.
+void recording( std::string const & bytes ) {
+   Rex::logSinkIs( []( Rex::LogEntry const & ) {} );
    BytesFile const file( bytes );
-   try {
-      Model::Catalogue read{ .chips = chipsThere, .tables = { readTable( file.path(), chipsThere ) }, .fieldIds = {} };
-      checkTable( read.tables.front(), read.chips );
-      for ( auto const & field : read.tables.front().fieldNames ) {
-         read.fieldIds.emplace( field, static_cast< unsigned >( read.fieldIds.size() + 1 ) );
-      }
-      emitAll( read );
-   } catch ( Error const & ) { // NOLINT(bugprone-empty-catch)
-   }
-}
-
-// The arguments, one a line. They are read, and what they ask for isn't done.
-void commandLine( std::string const & bytes ) {
-   std::vector< std::string > words;
-   std::istringstream in( bytes );
-   for ( std::string word; std::getline( in, word ) && words.size() < 20; ) {
-      words.push_back( word );
-   }
-   std::reverse( words.begin(), words.end() ); // as the parser takes them
-   CLI::App app;
-   std::function< int() > action;
-   Cli::defineCommandLine( app, action );
+   auto const path = file.path();
    mayRefuse( [&] {
-      try {
-         app.parse( words );
-      } catch ( CLI::Error const & ) { // NOLINT(bugprone-empty-catch)
+      std::vector< std::string > remarks;
+      scenarioText( Live::scenarioOfRecording( path, remarks ) );
+   } );
+   mayRefuse( [&] {
+      ForPeople out;
+      auto const run = Live::recordedRunOf( path );
+      Live::showRecordedRun( out, run, Style() );
+      Live::valueOf( run );
+   } );
+   mayRefuse( [&] {
+      Live::EventLoop loop;
+      Live::RecordedDatabase database( loop, path );
+      Follower const follower( database );
+      while ( loop.turn() ) {
       }
    } );
-}
-
-} // namespace
-
-std::vector< Entry > const & entries() {
-   static std::vector< Entry > const all{
-      { "scenario", scenario },
-      { "journal", journal },
-      { "chips", chips },
-      { "catalogue", catalogue },
-      { "commandLine", commandLine },
-   };
-   return all;
 }
 
 } // namespace Fuzz
