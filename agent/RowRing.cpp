@@ -129,16 +129,16 @@ RowRing::Playback RowRing::playback() const {
 }
 
 bool RowRing::Playback::next( Simulator::RowReader & reader ) {
-   auto & [parts, decoder, isInPart] = *impl_;
-   while ( !parts.empty() && parts.front().at >= parts.front().end ) {
-      parts.pop_front();
+   auto & [left, decoder, isInPart] = *impl_;
+   while ( !left.empty() && left.front().at >= left.front().end ) {
+      left.pop_front();
       isInPart = false;
    }
-   if ( parts.empty() ) {
+   if ( left.empty() ) {
       reader.ends( { .events = decoder.latestEvent(), .operations = decoder.operations() } );
       return false;
    }
-   auto & part = parts.front();
+   auto & part = left.front();
    if ( !isInPart ) {
       decoder.blockIs( *part.block );
       isInPart = true;

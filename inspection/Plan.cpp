@@ -30,6 +30,27 @@ std::size_t countOf( std::vector< Row > const & rows, Row::Kind kind ) {
    return places.size() - std::ranges::unique( places ).size();
 }
 
+// As long as it lives, what a switch does is staged and told, also where an event ends it.
+class Staging {
+ public:
+   Staging( Simulator::SimulatedSwitch & sw, StagedDriver & staged, DaceSal::SchanDriver & under, Planner & planner )
+      : sw_( sw ), under_( under ), planner_( planner ) {
+      DaceSal::schanDriverIs( &staged );
+      sw_.journal().readerAdd( planner_ );
+   }
+   Staging( Staging const & ) = delete;
+   Staging & operator=( Staging const & ) = delete;
+   ~Staging() {
+      sw_.journal().readerDel( planner_ );
+      DaceSal::schanDriverIs( &under_ );
+   }
+
+ private:
+   Simulator::SimulatedSwitch & sw_;
+   DaceSal::SchanDriver & under_;
+   Planner & planner_;
+};
+
 } // namespace
 
 std::size_t PlannedEvent::entries() const {
@@ -46,19 +67,16 @@ bool Plan::isEmpty() const {
 
 Plan planOn( Simulator::SimulatedSwitch & sw, std::string const & name, std::vector< Event > const & events ) {
    Plan plan{ .name = name, .events = {} };
-   auto * const under = DaceSal::schanDriver();
-   StagedDriver staged( *under );
-   DaceSal::schanDriverIs( &staged );
+   auto & under = *DaceSal::schanDriver();
+   StagedDriver staged( under );
    Planner planner( plan, events, staged, sw.event() );
-   sw.journal().readerAdd( planner );
+   Staging const staging( sw, staged, under, planner );
    for ( Event const & event : events ) {
       Rex::below( std::to_string( event.number - 1 ), [&] {
          Rex::below( event.word(),
                      [&] { sw.change( [&] { event.change( sw.state() ); }, event.cause(), valueOf( event ) ); } );
       } );
    }
-   sw.journal().readerDel( planner );
-   DaceSal::schanDriverIs( under );
    return plan;
 }
 

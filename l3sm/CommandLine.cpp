@@ -103,11 +103,10 @@ void defineCommandLine( CLI::App & app, Action & action ) {
    app.name( "l3sm" );
    app.description( "l3sm: programs simulated chips with the layer-3 unicast plug-in, and shows them." );
    app.require_subcommand( 1 );
-   bool json = false;
-   app.add_flag( "--json", json, "with --version: for programs" );
+   auto * const json = app.add_flag( "--json", std::string( "with --version: for programs" ) );
    app.set_version_flag(
       "--version",
-      [&json] { return json ? toJson( versionValue( thisVersion() ), 1 ) : versionText( thisVersion() ); },
+      [json] { return *json ? toJson( versionValue( thisVersion() ), 1 ) : versionText( thisVersion() ); },
       "which program this is: version, build, and the plug-in's library" );
    app.footer(
       "`l3sm help VERB` explains a verb.\nExit status: 0 fine, 1 the answer is \"no\", 2 wrong usage or input, "

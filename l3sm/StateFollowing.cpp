@@ -106,7 +106,7 @@ int watchState( StateStore & store, std::string const & path, bool json ) {
    auto const terminated = store.loop().signal( SIGTERM, [&] { came = SIGTERM; } );
    auto const watch = store.watch(
       { .is = [&]( Transaction const & transaction ) { show( transaction, path, json ); },
-        .begins = []( std::string const & why ) { std::cerr << "l3sm: " << why << "; going on with it\n"; } } );
+        .begins = []( std::string const & why ) { std::cerr << "l3sm: " << printable( why ) << "; going on with it\n"; } } );
    while ( came == 0 && std::cout ) {
       watch->turn();
    }

@@ -108,7 +108,7 @@ void addStateCommands( Commands & commands, AgentSubjects const & subjects ) {
                       auto const events = eventsOf( given.value( "events" ) );
                       for ( Event const & event : events ) {
                          Arguments::reading( "events/" + std::to_string( event.number - 1 ),
-                                             [&] { database.transact( { event } ); } );
+                                             [&] { database.transact( changesOf( event ) ); } );
                       }
                       return Inspection::counted( events.size(), "event", "events" );
                    } } );

@@ -19,6 +19,7 @@
 
 #include "rex/Clock.h"
 
+#include <algorithm>
 #include <string>
 #include <string_view>
 
@@ -37,7 +38,10 @@ struct EtcdLayout {
    std::string published( std::string_view slice, std::string_view path = {} ) const {
       return ( cell + "#published:" ).append( slice ).append( ":" ).append( path );
    }
-   std::string_view pathOf( std::string_view key ) const { return key.substr( cell.size() + 1 ); }
+   // Empty: it is no key of a path, or the mark.
+   std::string_view pathOf( std::string_view key ) const {
+      return key.substr( std::min( cell.size() + 1, key.size() ) );
+   }
 };
 
 // A server refuses transactions of more, unless told otherwise.

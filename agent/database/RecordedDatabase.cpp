@@ -23,8 +23,10 @@ void RecordedDatabase::rewind() {
    auto const & begun = segments_->begun();
    Scenario scenario;
    Rex::Value value = begun.scenario;
-   inFile( path_, [&] { readParts( value, scenario ); } );
-   begun_.paths = flattened( scenario.state );
+   inFile( path_, [&] {
+      readParts( value, scenario );
+      Rex::below( "state", [&] { begun_.paths = flattened( scenario.state ); } );
+   } );
    begun_.position = { begun.position.server, begun.position.epoch, begun.position.entry };
    told_ = begun_.position;
    isAtEnd_ = false;

@@ -23,9 +23,9 @@ class LastEvent final : public Simulator::RowReader {
    OperationHash hash;
 };
 
-std::vector< Event > changesIn( Value const & what, std::string const & file ) {
+std::vector< Event > changesIn( Value const & what, std::string const & place ) {
    Event event;
-   inFile( file, [&] { readEvent( what, event ); } );
+   inFile( place, [&] { readEvent( what, event ); } );
    return changesOf( std::move( event ) );
 }
 
@@ -73,9 +73,10 @@ class Replayed {
          sw_.start();
          return last_.hash;
       }
-      auto const changes = changesIn( event.what, scenario_.file );
+      std::string const place = scenario_.file + ": event " + std::to_string( event.event );
+      auto const changes = changesIn( event.what, place );
       if ( changes.size() == 1 && changes.front().fault ) {
-         sw_.fault( *changes.front().fault );
+         inFile( place, [&] { Rex::below( "fault", [&] { sw_.fault( *changes.front().fault ); } ); } );
       } else {
          door_.play( changes );
       }

@@ -49,8 +49,10 @@ class JsonStream {
    bool peek( char & letter ); // the next that is no white space
    void pass( bool isKept );
    // Compiled for newer processors, too: most of the time that a large file takes goes here.
-   [[gnu::target_clones( "avx2", "default" )]] static char const *
-   endOf( char const * from, char const * to, Scan & scan );
+#ifndef __clang__
+   [[gnu::target_clones( "avx2", "default" )]]
+#endif
+   static char const * endOf( char const * from, char const * to, Scan & scan );
    static char const * endOfBytes( char const * from, char const * to, Scan & scan );
    [[noreturn]] void refuse( std::string const & what ) const;
 

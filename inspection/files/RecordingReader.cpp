@@ -132,7 +132,7 @@ std::optional< RecordedEvent > RecordingReader::read( Value const & value ) {
    }
    RecordedEvent event;
    event.event = fields.required< U32 >( "event" );
-   if ( event.event != ( hasEvent_ ? lastEvent_ + 1 : 0 ) ) {
+   if ( event.event != ( hasEvent_ ? U64{ lastEvent_ } + 1 : 0 ) ) {
       throw ValueError( "/event",
                         "event " + std::to_string( event.event ) + " stands " +
                            ( hasEvent_ ? "behind event " + std::to_string( lastEvent_ ) : "at the beginning" ) );
@@ -140,6 +140,10 @@ std::optional< RecordedEvent > RecordingReader::read( Value const & value ) {
    hasEvent_ = true;
    lastEvent_ = event.event;
    event.what = fields.required( "what" );
+   if ( bool const isStart = event.what.object() && event.what.object()->contains( "start" );
+        isStart != ( event.event == 0 ) ) {
+      throw ValueError( "/what", isStart ? "the start is event 0, and no other one" : "event 0 is the start" );
+   }
    event.operations = fields.required< U64 >( "operations" );
    event.hash = Rex::below( "hash", [&] { return hashOf( fields.required< std::string >( "hash" ) ); } );
    event.isWhole = fields.optional( "isWhole", true );

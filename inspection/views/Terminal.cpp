@@ -1,5 +1,7 @@
 #include "inspection/views/Terminal.h"
 
+#include "rex/Characters.h"
+
 #include <algorithm>
 #include <cstdlib>
 #include <iostream>
@@ -15,22 +17,11 @@ constexpr std::size_t gap = 2;
 
 // How many bytes of `text` are one character of UTF-8 that doesn't control the terminal; none if they are not.
 std::size_t harmless( std::string_view text ) {
-   auto const byte = [&]( std::size_t at ) { return at < text.size() ? static_cast< unsigned char >( text[at] ) : 0u; };
-   unsigned const first = byte( 0 );
-   if ( first < 0x80 ) {
-      return first >= 0x20 && first != 0x7f ? 1 : 0;
-   }
-   std::size_t const size = first >= 0xf0 && first < 0xf5   ? 4
-                            : first >= 0xe0 && first < 0xf0 ? 3
-                            : first >= 0xc2                 ? 2
-                                                            : 0;
-   for ( std::size_t at = 1; at < size; ++at ) {
-      if ( ( byte( at ) & 0xc0 ) != 0x80 ) {
-         return 0;
-      }
-   }
-   bool const isControl = first == 0xc2 && byte( 1 ) < 0xa0; // U+0080 to U+009F
-   return first >= 0xf5 || isControl ? 0 : size;
+   auto const size = Rex::characterSize( text );
+   auto const byte = [&]( std::size_t at ) { return static_cast< unsigned char >( text[at] ); };
+   bool const isControl = ( size == 1 && ( byte( 0 ) < 0x20 || byte( 0 ) == 0x7f ) ) ||
+                          ( size == 2 && byte( 0 ) == 0xc2 && byte( 1 ) < 0xa0 ); // U+0080 to U+009F
+   return isControl ? 0 : size;
 }
 
 } // namespace

@@ -3,6 +3,7 @@
 #include "inspection/files/JournalReader.h"
 #include "inspection/files/OutputFile.h"
 #include "inspection/report/Report.h"
+#include "inspection/views/Terminal.h"
 #include "l3sm/ScenarioToPlay.h"
 #include "l3sm/verbs/Verbs.h"
 
@@ -40,7 +41,7 @@ void fromJournal( Options const & options, OutputFile const & out ) {
    ReportData data( journal.scenario() );
    journal.read( data );
    for ( std::string const & remark : journal.remarks() ) {
-      std::cerr << "l3sm: " << remark << '\n';
+      std::cerr << "l3sm: " << printable( remark ) << '\n';
    }
    out.write( reportOf( data, journal.remarks() ) );
 }

@@ -94,7 +94,7 @@ int get( Options const & options ) {
    if ( options.json ) {
       std::cout << toJson( valueOf( snapshot.paths ), 2 ) << '\n';
    } else if ( snapshot.paths.empty() ) {
-      std::cout << "nothing stands at " << path << '\n';
+      std::cout << "nothing stands at " << printable( path ) << '\n';
    } else {
       show( snapshot.paths, Style::of( std::cout ) );
    }
@@ -103,7 +103,7 @@ int get( Options const & options ) {
 
 void showNotes( StateStore & store ) {
    for ( auto const & note : store.takeNotes() ) {
-      std::cerr << "l3sm: " << note << '\n';
+      std::cerr << "l3sm: " << printable( note ) << '\n';
    }
 }
 

@@ -1,5 +1,7 @@
 #include "rex/Value.h"
 
+#include "rex/Characters.h"
+
 #include <algorithm>
 #include <charconv>
 #include <cstdio>
@@ -8,9 +10,12 @@ namespace Rex {
 
 namespace {
 
+// Bytes that are no character become the one that stands for those: a text from elsewhere makes no wrong JSON.
 std::string quoted( std::string const & text ) {
+   constexpr char const * unknown = "\xef\xbf\xbd"; // U+FFFD
    std::string out = "\"";
-   for ( char const c : text ) {
+   for ( std::size_t at = 0; at < text.size(); ++at ) {
+      char const c = text[at];
       if ( c == '"' || c == '\\' ) {
          out += '\\';
          out += c;
@@ -18,8 +23,13 @@ std::string quoted( std::string const & text ) {
          char escape[8];
          std::snprintf( escape, sizeof escape, "\\u%04x", static_cast< unsigned >( c ) );
          out += escape;
-      } else {
+      } else if ( static_cast< unsigned char >( c ) < 0x80 ) {
          out += c;
+      } else if ( auto const size = characterSize( std::string_view( text ).substr( at ) ) ) {
+         out.append( text, at, size );
+         at += size - 1;
+      } else {
+         out += unknown;
       }
    }
    return out + "\"";

@@ -206,6 +206,23 @@ TEST( ControlAnswers, FollowWhatTheAgentIsTold ) {
    EXPECT_FALSE( std::filesystem::exists( agent.folder / "a.ctl" ) );
 }
 
+TEST( ControlAnswers, PlayATransactionOfAScenarioAsOneEvent ) {
+   ServedExample agent( example );
+   agent.folder.file( "transaction.json", R"({"events": [{"transaction": [
+      {"set": {"path": "evpn/status", "attribute": "vxlanEnabled", "value": true}},
+      {"set": {"path": "evpn/status", "attribute": "evpnDciEnabled", "value": true}}]}]})" );
+   EXPECT_EQ( agent.ask( "ctl --socket a.ctl state apply transaction.json" ), "1 event\n" );
+   for ( int tries = 0;
+         tries < 500 && agent.ask( "ctl --socket a.ctl status --json" ).find( "\"events\": 1," ) == std::string::npos;
+         ++tries ) {
+      ::usleep( 10'000 );
+   }
+   auto const state = agent.ask( "ctl --socket a.ctl state evpn/status --json" );
+   EXPECT_NE( state.find( "\"vxlanEnabled\": true" ), std::string::npos ) << state;
+   EXPECT_NE( state.find( "\"evpnDciEnabled\": true" ), std::string::npos ) << state;
+   EXPECT_NE( agent.ask( "ctl --socket a.ctl status --json" ).find( "\"events\": 1," ), std::string::npos );
+}
+
 // Of an agent that has forgotten its beginning: here one that says so.
 TEST( ControlAnswers, SayHowFarBackTheyReach ) {
    ControlWorld world;
