@@ -479,6 +479,16 @@ TEST_F( RexIpIntfConfigFilterTest, L3MtuSmIsKeptForTheSameArgumentsAndStoppedWhe
    EXPECT_EQ( filter()->l3MtuSmDel(), nullptr );
 }
 
+TEST_F( RexIpIntfConfigFilterTest, L3MtuSmIsGoneBeforeTheNextOneIsMade ) {
+   serve();
+   auto const mtu = Corvo::makePtr< Interface::EffectiveL3Mtu >();
+   Ear ear( { mtu } );
+   std::optional< bool > isAlone;
+   ear.when( "mtu", [&] { isAlone = Interface::L3MtuSm::newest()->older() == nullptr; } );
+   filter()->l3MtuSmIs( config(), world.globalConfig, mtu, world.capability );
+   EXPECT_EQ( isAlone, true );
+}
+
 // --- flags
 
 TEST_F( RexIpIntfConfigFilterTest, ZombieFilterPassesItsFlagAndStaysSilent ) {
