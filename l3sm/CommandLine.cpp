@@ -103,7 +103,8 @@ void defineCommandLine( CLI::App & app, Action & action ) {
    app.name( "l3sm" );
    app.description( "l3sm: programs simulated chips with the layer-3 unicast plug-in, and shows them." );
    app.require_subcommand( 1 );
-   auto * const json = app.add_flag( "--json", std::string( "with --version: for programs" ) );
+   auto const json = std::make_shared< bool >( false );
+   app.add_flag( "--json", *json, "with --version: for programs" );
    app.set_version_flag(
       "--version",
       [json] { return *json ? toJson( versionValue( thisVersion() ), 1 ) : versionText( thisVersion() ); },

@@ -10,9 +10,8 @@ namespace Rex {
 
 namespace {
 
-// Bytes that are no character become the one that stands for those: a text from elsewhere makes no wrong JSON.
+// Bytes that are no character are written out, as "\\xff": a text from elsewhere makes no wrong JSON.
 std::string quoted( std::string const & text ) {
-   constexpr char const * unknown = "\xef\xbf\xbd"; // U+FFFD
    std::string out = "\"";
    for ( std::size_t at = 0; at < text.size(); ++at ) {
       char const c = text[at];
@@ -29,7 +28,10 @@ std::string quoted( std::string const & text ) {
          out.append( text, at, size );
          at += size - 1;
       } else {
-         out += unknown;
+         char escape[8];
+         std::snprintf(
+            escape, sizeof escape, "\\\\x%02x", static_cast< unsigned >( static_cast< unsigned char >( c ) ) );
+         out += escape;
       }
    }
    return out + "\"";
