@@ -56,6 +56,14 @@ std::vector< Catalogue::Table const * > tablesWithField( std::string_view field 
    return all;
 }
 
+std::vector< std::string > tableNames() {
+   std::vector< std::string > names;
+   for ( auto const & table : Catalogue::tables() ) {
+      names.emplace_back( table.name );
+   }
+   return names;
+}
+
 Catalogue::Table const & tableNamed( std::string const & name ) {
    if ( auto const * const table = Catalogue::table( name ) ) {
       return *table;
@@ -67,11 +75,7 @@ Catalogue::Table const & tableNamed( std::string const & name ) {
    if ( auto const with = tablesWithField( name ); !with.empty() ) {
       throw InputError( "\"" + name + "\" is no table but a field, of " + someOf( with ) );
    }
-   std::vector< std::string > names;
-   for ( auto const & table : Catalogue::tables() ) {
-      names.emplace_back( table.name );
-   }
-   auto const remedy = Rex::didYouMean( name, names );
+   auto const remedy = Rex::didYouMean( name, tableNames() );
    throw InputError( "no table has the name \"" + name + "\"" +
                      ( remedy.empty() ? "; `l3sm catalogue` lists them" : remedy ) );
 }

@@ -17,6 +17,8 @@
 
 namespace Inspection {
 
+// Of all tables, in the order of the catalogue.
+std::vector< std::string > tableNames();
 // A field where a table is wanted is refused with its table.
 Catalogue::Table const & tableNamed( std::string const & name );
 // The name, if a layout of the table has the field.

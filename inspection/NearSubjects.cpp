@@ -1,6 +1,6 @@
 #include "inspection/NearSubjects.h"
 
-#include "generated/Catalogue.h"
+#include "inspection/NamesAsTyped.h"
 #include "rex/Nearest.h"
 
 #include <algorithm>
@@ -28,10 +28,7 @@ std::string listed( Names const & names ) {
 
 // Whatever can be asked about by one name alone.
 Names allNames( Names const & functions ) {
-   Names names;
-   for ( auto const & table : Catalogue::tables() ) {
-      names.emplace_back( table.name );
-   }
+   Names names = tableNames();
    names.insert( names.end(), functions.begin(), functions.end() );
    for ( StatePath const & path : statePaths() ) {
       if ( !path.hasKey() ) {

@@ -129,10 +129,7 @@ WhySubject checked( WhySubject subject ) {
 
 // Nearer than a function.
 bool isNearATable( std::string const & typed, std::vector< std::string > const & functions ) {
-   std::vector< std::string > names;
-   for ( auto const & table : Catalogue::tables() ) {
-      names.emplace_back( table.name );
-   }
+   auto names = tableNames();
    std::ranges::transform( functions, std::back_inserter( names ), lastPart );
    return Catalogue::table( Rex::nearest( typed, names ) ) != nullptr;
 }
