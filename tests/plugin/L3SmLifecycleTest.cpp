@@ -58,6 +58,14 @@ TEST( L3SmLifecycle, subscribesToItsInputsInTheirOrder ) {
    EXPECT_EQ( observed.looks, inputs );
 }
 
+// What changes while it is initialized must not be lost.
+TEST( L3SmLifecycle, subscribesToAllItsInputsBeforeItBuildsItsChildren ) {
+   ObservedL3Sm observed;
+   observed.build();
+   ASSERT_GT( observed.looks.size(), inputs.size() );
+   EXPECT_EQ( Looks( observed.looks.begin(), observed.looks.begin() + 9 ), inputs );
+}
+
 TEST( L3SmLifecycle, hearsEveryInputFromItsConstructionOn ) {
    ObservedL3Sm observed;
    observed.mplsRoutingInfo->mplsLookupLabelCountIs( 2 );
