@@ -335,7 +335,7 @@ void L3IntfSm::sliceSmStateDispatch(
 void L3IntfSm::portStateInfoDispatch(
    Corvo::Publisher *, Corvo::Subscriber * slot, short attribute, void const * key, void const * ) {
    Corvo::Ptr< L3IntfSm > const self = slot->owner< L3IntfSm >();
-   if ( attribute != portStateInfoPortState || !self->portStateInfo_ ) {
+   if ( attribute != portStateInfoPortState ) {
       return;
    }
    auto const port = *static_cast< Hardware::Dace::SystemPhyPortId const * >( key );

@@ -47,7 +47,7 @@ void L3Sm::daceLagStatusDispatch(
    Corvo::Publisher *, Corvo::Subscriber * subscriber, short attribute, void const * key, void const * ) {
    constexpr short slotLoadBalanceAttribute = 0x106;
    Corvo::Ptr< L3Sm > const self = subscriber->owner< L3Sm >();
-   if ( attribute != slotLoadBalanceAttribute || !self->in_.daceLagStatus ) {
+   if ( attribute != slotLoadBalanceAttribute ) {
       return;
    }
    auto const slot = *static_cast< Fru::SlotId const * >( key );

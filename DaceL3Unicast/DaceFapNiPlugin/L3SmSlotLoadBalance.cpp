@@ -115,9 +115,7 @@ L3Sm::slotLoadBalanceIs( Corvo::Ptr< Hardware::Dace::LoadBalanceHwConfig const >
    }
    Fru::SlotId const slot = config->slotId();
    if ( auto const entry = slotLoadBalance_.get( slot ) ) {
-      if ( entry->config() != config ) {
-         entry->notifierIs( config );
-      }
+      entry->notifierIs( config );
       return entry;
    }
    auto const entry = Corvo::makePtr< NestedSm_SlotLoadBalance >( config, this );

@@ -96,6 +96,20 @@ TEST( FfcPrefixLength, withoutTheUnifiedContextTheReducedLengthCountsForNothing 
    EXPECT_EQ( sm->getPrefixLen(), 24 );
 }
 
+// Which keys are looked at, by name: those that look hosts up, where reduced prefixes have no context.
+TEST( FfcPrefixLength, withoutTheUnifiedContextKeysOfHostsAreInteresting ) {
+   ChipType const chip = ChipType::BCM88690_B0;
+   TestSwitch sw( { chip }, { { "DaceL3Unicast.json", { { "UnifiedIPv4Fwd2Ctx", false } } } } );
+   auto const sm =
+      RemFfcModifierSm::RemFfcModifierSmIs( emptyCell(), Routing::Hardware::prefixLensInExactMatchFactory( "" ) );
+   U8 const hosts = 22;
+   U8 const reducedPrefixes = 23;
+   sw.fieldIs( { "FwdKbrTable", 0, 6, 10 }, "appDb", hosts );
+   EXPECT_TRUE( sm->isAppDbIdInteresting( chip, 10, FapId( 0 ), 6 ) );
+   sw.fieldIs( { "FwdKbrTable", 0, 6, 10 }, "appDb", reducedPrefixes );
+   EXPECT_FALSE( sm->isAppDbIdInteresting( chip, 10, FapId( 0 ), 6 ) );
+}
+
 TEST( FfcPrefixLength, withTheUnifiedContextItCounts ) {
    TestSwitch const sw( { ChipType::BCM88690_B0 } );
    auto const lengths = Routing::Hardware::prefixLensInExactMatchFactory( "" );

@@ -136,9 +136,9 @@ TEST( L3SmSlots, removingASlotReturnsItsReactorQuietAndAZombie ) {
    observed.build();
    auto const slot = observed.sm->slotLoadBalanceIs( config );
    EXPECT_TRUE( slot->hasNotificationActive() );
+   auto const operations = observed.operations();
    EXPECT_EQ( observed.sm->slotLoadBalanceIs( config ), slot );
    EXPECT_EQ( observed.sm->slotLoadBalanceDel( { 1 } ), nullptr );
-   auto const operations = observed.operations();
    EXPECT_EQ( observed.sm->slotLoadBalanceDel( { 0 } ), slot );
    EXPECT_FALSE( slot->hasNotificationActive() );
    EXPECT_TRUE( slot->isZombie() );

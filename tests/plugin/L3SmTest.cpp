@@ -41,6 +41,16 @@ TEST( FapTypeDeath, ChipTypeOutsideTheTable ) {
                  "Unhandled chipType 26[^A]*Assertion `\"false\" == nullptr' failed" );
 }
 
+// Only type 3 depends on toggles; what a chip of another family would be is served.
+TEST( FapType, whichAreServed ) {
+   MountedSwitch const toggled( oneFap() );
+   EXPECT_FALSE( DaceFapNi::isServed( Hardware::Dace::FapType{ 3 } ) );
+   EXPECT_FALSE( DaceFapNi::isServed( Hardware::Dace::FapType{ 4 } ) );
+   for ( U8 const type : { 0, 1, 2 } ) {
+      EXPECT_TRUE( DaceFapNi::isServed( Hardware::Dace::FapType{ type } ) ) << unsigned{ type };
+   }
+}
+
 TEST( L3Sm, WaitsForBothInterfaceDirectories ) {
    OwnL3Sm agent;
    auto const configDir = agent.phy()->allEthPhyIntfConfigDir();

@@ -162,6 +162,9 @@ TEST_F( SubscriptionTest, theVtiDirectorysMachineReleasesItsChipsAsAZombie ) {
    EXPECT_EQ( sm->typeData().name(), "DaceFapNi::DaceL3UnicastVtiStatusDirSm" );
    EXPECT_EQ( cell->useCount(), 2u );
    EXPECT_EQ( handle->useCount(), 2u );
+   sm->rexDoZombieReactors( false );
+   EXPECT_EQ( cell->useCount(), 2u );
+   EXPECT_EQ( handle->useCount(), 2u );
    sm->rexDoZombieReactors( true );
    EXPECT_TRUE( sm->isZombie() );
    EXPECT_EQ( cell->useCount(), 1u );

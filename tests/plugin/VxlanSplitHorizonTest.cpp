@@ -265,6 +265,22 @@ TEST_F( VxlanSplitHorizonTest, wakingFromZombieReloadsForEachVtiAsWell ) {
    EXPECT_FALSE( writes().empty() );
 }
 
+TEST_F( VxlanSplitHorizonTest, reloadsForAnotherVtiWhereThereIsOneAndTheReactorIsAwake ) {
+   running();
+   auto const vti = vtiIs( "Vxlan1" );
+   auto const other = Corvo::makePtr< Vxlan::VtiStatus >( IntfId( "Vxlan1" ) );
+   auto const reactor = sm->vtiStatusIs( vti );
+   writes();
+   reactor->notifierIs( other );
+   EXPECT_EQ( writes(), vxlan );
+   reactor->notifierIs( nullptr );
+   EXPECT_EQ( writes(), Strings{} );
+   reactor->rexDoZombieReactors( true );
+   writes();
+   reactor->notifierIs( vti );
+   EXPECT_EQ( writes(), Strings{} );
+}
+
 TEST_F( VxlanSplitHorizonTest, doesNotReloadForAVtiThatIsAZombieAlready ) {
    running();
    auto const reactor = sm->vtiStatusIs( vtiIs( "Vxlan1" ) );
