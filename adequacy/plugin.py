@@ -100,7 +100,7 @@ class Tests:
         return passes
 
     def passes(self, piece, library, seconds=None, **variables):
-        environment = dict(os.environ, LD_LIBRARY_PATH=library, RC_PARAMS="seed=20", **variables)
+        environment = dict(os.environ, LD_LIBRARY_PATH=library, **{"RC_PARAMS": "seed=20", **variables})
         try:
             run = subprocess.run([self.program, "--gtest_filter=" + piece, "--gtest_brief=1", "--gtest_fail_fast"],
                                  capture_output=True, env=environment, timeout=seconds or 20 + 10 * self.seconds[piece])

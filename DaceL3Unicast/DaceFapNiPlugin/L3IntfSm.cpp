@@ -192,7 +192,6 @@ void L3IntfSm::portStateIs( PortStatePtr const & portState ) {
       }
       if ( portState_.get( port ) != reactor ) { // or has taken the port away
          reactor->rexDoZombieReactors( true );
-         reactor->hasNotificationActiveIs( false );
          return;
       }
    } else if ( reactor->notifier() != portState ) {
@@ -267,7 +266,6 @@ void L3IntfSm::ipIntfConfigFilterIs( EthConfigPtr const & config ) {
       if ( rexIpIntfConfigFilter_.has( intfId ) || ( wasServed && !ethConfig_.has( intfId ) ) ) {
          filter->parentIs( nullptr );
          filter->rexDoZombieReactors( true );
-         filter->hasNotificationActiveIs( false );
          return;
       }
       rexIpIntfConfigFilter_.set( intfId, filter );

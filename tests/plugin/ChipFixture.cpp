@@ -141,9 +141,13 @@ ChipFixture::fieldOf( char const * table, Place const & place, char const * name
    return *found;
 }
 
-TraceListener::TraceListener( std::string facility, int level ) : facility_( std::move( facility ) ) {
+TraceListener::TraceListener( std::string facility, int level, std::function< void() > told )
+   : facility_( std::move( facility ) ), told_( std::move( told ) ) {
    Rex::traceSinkIs( [this]( Rex::TraceRecord const & record ) {
       records_.push_back( record.facility + ( "/" + std::to_string( record.level ) + " " ) + record.text );
+      if ( told_ ) {
+         told_();
+      }
    } );
    Rex::traceLevelIs( facility_, level );
 }

@@ -115,7 +115,8 @@ std::string chipNameOf( testing::TestParamInfo< ChipType > const & info );
 // What a test listens to: the records of every facility up to a level, as "<facility>/<level> <text>".
 class TraceListener {
  public:
-   TraceListener( std::string facility, int level );
+   // `told` runs with each record, as long as whoever traces waits.
+   TraceListener( std::string facility, int level, std::function< void() > told = {} );
    ~TraceListener();
    TraceListener( TraceListener const & ) = delete;
    TraceListener & operator=( TraceListener const & ) = delete;
@@ -123,6 +124,7 @@ class TraceListener {
 
  private:
    std::string facility_;
+   std::function< void() > told_;
    std::vector< std::string > records_;
 };
 

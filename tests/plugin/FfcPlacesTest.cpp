@@ -132,4 +132,19 @@ TEST( FfcVrfWidth, isFourBitsOnTheSmallChipsAndFiveElsewhere ) {
    }
 }
 
+// What the chip has in either state is asked for all the same, so that the toggle is seen to count on that chip.
+TEST( FfcVrfWidth, asksForABringUpOnItsChipAlone ) {
+   auto const isRead = [] {
+      auto const & readings = Toggle::readings();
+      return std::any_of(
+         readings.begin(), readings.end(), []( auto const & one ) { return one.name == "J3AiBringup"; } );
+   };
+   for ( int const number : { 1, 14, 15, 19, 24, 25 } ) {
+      DaceFapNi::chipTypeToFapRevMajor( static_cast< ChipType >( number ) );
+   }
+   EXPECT_FALSE( isRead() );
+   DaceFapNi::chipTypeToFapRevMajor( static_cast< ChipType >( 20 ) );
+   EXPECT_TRUE( isRead() );
+}
+
 } // namespace

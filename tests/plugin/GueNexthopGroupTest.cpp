@@ -1,5 +1,6 @@
 #include "DaceL3Unicast/DaceFapNiPlugin/GueNexthopGroupSm.h"
 
+#include "ObservedL3Sm.h"
 #include "OverlayTest.h"
 
 #include <rapidcheck.h>
@@ -68,6 +69,21 @@ Strings everywhere( int entry ) {
       all.push_back( std::to_string( fap ) + " 1/0/" + std::to_string( entry ) );
    }
    return all;
+}
+
+TEST_F( GueNexthopGroupTest, takesTheDecapGroupsBeforeThePortsAndLeavesThemSo ) {
+   Strings looks;
+   auto const groups = Corvo::makePtr< ::Test::Watchful< Tunnel::Decap::Config > >();
+   groups->looked = [&] { looks.emplace_back( "groups" ); };
+   dgConfig = groups;
+   auto const tunnels = Corvo::makePtr< ::Test::Watchful< L3::Tunnel::UdpDestinationPortConfig > >();
+   tunnels->looked = [&] { looks.emplace_back( "ports" ); };
+   ports = tunnels;
+   Strings const inOrder{ "groups", "ports" };
+   sm = Corvo::makePtr< GueNexthopGroupSm >( sw().cellStatus(), dgConfig, ports, sal() );
+   EXPECT_EQ( std::exchange( looks, {} ), inOrder );
+   sm = nullptr;
+   EXPECT_EQ( looks, inOrder );
 }
 
 TEST_F( GueNexthopGroupTest, startWithoutConfigurationWritesAPortOf0ToMplsIpv4AndIpv6 ) {

@@ -70,6 +70,15 @@ TEST_F( InterfaceReactorsTest, aPortsReactorThatFollowsNothingStaysAsActiveAsItW
    EXPECT_TRUE( reactor->hasNotificationActive() );
 }
 
+TEST_F( InterfaceReactorsTest, aPortsReactorHearsTheNextPortThoughItWasTakenOff ) {
+   auto const reactor = world.sm->portState( port10 );
+   reactor->isRegisteredNotifieeIs( false );
+   EXPECT_FALSE( isHandled( [&] { port->portGenIdIs( 1 ); } ) );
+   auto const other = portOf( eth2 );
+   reactor->notifierIs( other );
+   EXPECT_TRUE( isHandled( [&] { other->portGenIdIs( 1 ); } ) );
+}
+
 TEST_F( InterfaceReactorsTest, aPortThatNoDirectoryKnowsIsTakenIn ) {
    world.sm->portStateIs( portOf( eth2 ) );
    EXPECT_TRUE( world.sm->portStateHas( port11 ) );
@@ -153,7 +162,8 @@ TEST_F( InterfaceReactorsTest, aFiltersReactorThatFollowsNothingStaysAsActiveAsI
 
 TEST_F( InterfaceReactorsTest, aFilterOfAnInterfaceWhoseConfigurationGoesEndsTheProcess ) {
    world.configDir->intfConfigDel( eth2 );
-   EXPECT_DEATH( world.sm->ipIntfConfigFilterIs( Corvo::makePtr< Interface::EthPhyIntfConfig >( eth2 ) ), "Assertion" );
+   EXPECT_DEATH( world.sm->ipIntfConfigFilterIs( Corvo::makePtr< Interface::EthPhyIntfConfig >( eth2 ) ),
+                 "Assertion `intfConfig\\(\\)' failed" );
 }
 
 } // namespace

@@ -147,6 +147,29 @@ TEST( L3SmSlots, removingASlotReturnsItsReactorQuietAndAZombie ) {
    EXPECT_EQ( observed.operations(), operations );
 }
 
+TEST( L3SmSlots, aReactorFollowsTheNextConfigurationBeforeItProgramsItThoughItWasTakenOff ) {
+   ObservedL3Sm observed;
+   observed.daceLagStatus->slotLoadBalanceIs( slotConfig( 0, 0 ) );
+   observed.build();
+   observed.sm->hasNotificationActiveIs( true );
+   auto const slot = observed.sm->slotLoadBalanceIs( observed.daceLagStatus->slotLoadBalance( { 0 } ) );
+   auto const next = Corvo::makePtr< Watchful< Hardware::Dace::LoadBalanceHwConfig > >( Fru::SlotId{ 0 } );
+   next->guePktTypeHashModeIs( 2 );
+   auto const operations = observed.operations();
+   std::optional< U64 > whenFollowed;
+   next->looked = [&] { whenFollowed = observed.operations(); };
+   slot->notifierIs( next );
+   EXPECT_EQ( whenFollowed, operations );
+   EXPECT_GT( observed.operations(), operations );
+   next->looked = nullptr;
+   slot->isRegisteredNotifieeIs( false );
+   auto const last = slotConfig( 0, 0 );
+   slot->notifierIs( last );
+   auto const programmed = observed.operations();
+   last->guePktTypeHashModeIs( 2 );
+   EXPECT_GT( observed.operations(), programmed );
+}
+
 TEST( L3SmSlots, theMassRemoverTakesOutEverySlot ) {
    ObservedL3Sm observed;
    observed.build();

@@ -62,8 +62,7 @@ TEST( L3SmLifecycle, subscribesToItsInputsInTheirOrder ) {
 TEST( L3SmLifecycle, subscribesToAllItsInputsBeforeItBuildsItsChildren ) {
    ObservedL3Sm observed;
    observed.build();
-   ASSERT_GT( observed.looks.size(), inputs.size() );
-   EXPECT_EQ( Looks( observed.looks.begin(), observed.looks.begin() + 9 ), inputs );
+   EXPECT_EQ( observed.looks, inputs + childrensInputs );
 }
 
 TEST( L3SmLifecycle, hearsEveryInputFromItsConstructionOn ) {
@@ -231,6 +230,20 @@ TEST( L3SmLifecycle, switchesInputsChildrenAndSlotsInTheirOrderEitherWay ) {
    EXPECT_EQ( observed.take(), inputs + childrensInputs );
    EXPECT_EQ( on.at, goingOn );
    EXPECT_TRUE( slot->hasNotificationActive() );
+   observed.onLook = nullptr;
+}
+
+TEST( L3SmLifecycle, isActiveOrNotBeforeItsInputsAreSwitched ) {
+   ObservedL3Sm observed;
+   observed.build();
+   for ( bool const active : { true, false } ) {
+      bool before = true;
+      observed.onLook = [&]( std::string const & ) {
+         before = before && observed.sm->hasNotificationActive() == active;
+      };
+      observed.sm->hasNotificationActiveIs( active );
+      EXPECT_TRUE( before ) << active;
+   }
    observed.onLook = nullptr;
 }
 

@@ -41,6 +41,49 @@ TEST( MounterWiring, theMounterHasItsName ) {
    EXPECT_EQ( Corvo::makePtr< L3SmMounter >()->name(), "l3SmMounter" );
 }
 
+// By the paths themselves, not by the plan.
+TEST( MounterWiring, theMachineGetsWhatIsMounted ) {
+   MountedSwitch agent;
+   agent.start();
+   auto const & in = agent.mounter->l3Sm()->arguments();
+   auto const at = [&]( char const * path ) { return agent.sw.entity< Rex::Entity >( path ).get(); };
+   struct {
+      char const * path;
+      Rex::Entity const * given;
+   } const rows[] = {
+      { "bridging/config", in.bridgingConfig.get() },
+      { "bridging/hwcapabilities", in.hwCapabilities.get() },
+      { "routerMac/hwCapability", in.routerMacHwCapability.get() },
+      { "interface/status/eth/phy/local", in.ethPhyIntfStatusLocalDir.get() },
+      { "routing/mpls/routingInfo/status", in.mplsRoutingInfo.get() },
+      { "routing/mpls/config", in.mplsConfig.get() },
+      { "interface/status/eth/vxlan", in.vtiStatusDir.get() },
+      { "vxlan/ecnConfig", in.vxlanEcnConfig.get() },
+      { "evpn/status", in.evpnStatus.get() },
+      { "interface/config/global", in.globalIntfConfig.get() },
+      { "hardware/dace/lag/daceLagStatus", in.daceLagStatus.get() },
+      { "interface/hardware/capability", in.intfHwCapability.get() },
+      { "routing/hardware/mpls/capability", in.mplsHwCapability.get() },
+      { "interface/status/subintf", in.subIntfStatusDir.get() },
+      { "interface/status/subintf/local", in.subIntfStatusLocalDir.get() },
+      { "l3/tunnel/udpDestinationPortConfig", in.udpDestPortConfig.get() },
+      { "routing/hardware/config", in.routingHwConfig.get() },
+      { "shared/phySmStateSharedStatus", in.phySmStateSharedStatus.get() },
+      { "shared/phySmStateData", in.phySmState.get() },
+      { "shared/sliceSmStateData", in.sliceSmState.get() },
+      { "shared/portStateInfo", in.portStateInfo.get() },
+      { "shared/driverSetupSmStateInfo", in.driverSetupSmStateInfo.get() },
+   };
+   EXPECT_EQ( in.entityManager, agent.sw.entityManager() );
+   EXPECT_EQ( in.dgConfig, agent.mounter->dgConfig() );
+   EXPECT_NE( in.scheduler, nullptr );
+   EXPECT_NE( in.switchControlSal, nullptr );
+   for ( auto const & row : rows ) {
+      ASSERT_NE( at( row.path ), nullptr ) << row.path;
+      EXPECT_EQ( row.given, at( row.path ) ) << row.path;
+   }
+}
+
 TEST( MounterWiring, everyAttributeIsAnnouncedAsItIsFilled ) {
    MountedSwitch agent( servedFap() );
    Listener const listener( *agent.mounter );

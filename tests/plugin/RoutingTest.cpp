@@ -172,6 +172,25 @@ TEST_P( RoutingTest, keepsTheChipsOwnRoutingProfilesBetweenLowAndHigh ) {
    }
 }
 
+// Five bits for each of the four profiles of an entry.
+TEST_P( RoutingTest, makesTheExceptionsOfAnEntryInTheOrderOfTheirProfiles ) {
+   chipIs( GetParam() );
+   wordsAre( enablers, { .variant = 1, .array = 3, .entry = 16 }, { 0xfffff } );
+   L3Sm::initVsiProfileTable( fap() );
+   auto const written = [&]( std::string const & place ) {
+      Words all;
+      for ( auto const & row : rows() ) {
+         if ( text( row ) == "write VsiProfileEnablers " + place ) {
+            all.push_back( row.words[0] );
+         }
+      }
+      return all;
+   };
+   EXPECT_EQ( written( "1/3/16" ), ( Words{ 0xfffe0, 0xffc00, 0xf8000 } ) );
+   EXPECT_EQ( written( "0/2/2" ), ( Words{ 0x18820, 0x18828, 0x18908 } ) );
+   EXPECT_EQ( written( "1/3/4" ), ( Words{ 0x9ca30, 0x9c910, 0x9a110 } ) );
+}
+
 TEST_P( RoutingTest, programsVsiProfilesHighThenLowThenTheExceptions ) {
    chipIs( GetParam() );
    L3Sm::initVsiProfileTable( fap() );

@@ -265,6 +265,14 @@ TEST_F( VxlanSplitHorizonTest, wakingFromZombieReloadsForEachVtiAsWell ) {
    EXPECT_FALSE( writes().empty() );
 }
 
+TEST_F( VxlanSplitHorizonTest, aRemovedVtiIsSilentThoughItWasAZombie ) {
+   running();
+   auto const reactor = sm->vtiStatusIs( vtiIs( "Vxlan1" ) );
+   reactor->markAndSweepFlagSet( true ); // with its notifications on
+   sm->vtiStatusDel( IntfId( "Vxlan1" ) );
+   EXPECT_FALSE( reactor->hasNotificationActive() );
+}
+
 TEST_F( VxlanSplitHorizonTest, reloadsForAnotherVtiWhereThereIsOneAndTheReactorIsAwake ) {
    running();
    auto const vti = vtiIs( "Vxlan1" );

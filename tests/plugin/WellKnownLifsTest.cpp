@@ -7,12 +7,14 @@ namespace {
 class WellKnownLifsTest : public EveryChip {
  public:
    using Function = void( FapStatusPtr const &, L3Sm::SwitchControlSalPtr const & );
-   // Expects the function to do nothing but set the controls, and to tell of it.
+   // Expects the function to do nothing but set the controls, and to tell of it afterwards.
    void expectControls( Function * function, std::vector< std::string > const & controls, std::string const & trace ) {
       switchIs( { .faps = { { .fapId = FapId( 3 ), .revision = revisionOf( GetParam() ) } } } );
-      TraceListener const traces( "DaceFapNiL3Sm", 9 );
+      std::vector< std::string > whenTold = controls;
+      TraceListener const traces( "DaceFapNiL3Sm", 9, [&] { whenTold = operations(); } );
       function( fap( FapId( 3 ) ), sal() );
       EXPECT_EQ( operations(), controls );
+      EXPECT_EQ( whenTold, controls ) << "what is told to be set was not set yet";
       EXPECT_EQ( traces.records(),
                  trace.empty() ? std::vector< std::string >{} : std::vector{ "DaceFapNiL3Sm/0 L3Sm::" + trace } );
       for ( auto const & row : rows() ) {
