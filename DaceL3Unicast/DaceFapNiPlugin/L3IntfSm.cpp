@@ -264,8 +264,7 @@ void L3IntfSm::ipIntfConfigFilterIs( EthConfigPtr const & config ) {
       filter->hasNotificationActiveIs( true );
       // Whoever heard of its first writes may have taken the interface out of service, and into it again.
       if ( rexIpIntfConfigFilter_.has( intfId ) || ( wasServed && !ethConfig_.has( intfId ) ) ) {
-         filter->parentIs( nullptr );
-         filter->rexDoZombieReactors( true );
+         filter->parentIs( nullptr ); // it goes here, and must not take the other one out of service
          return;
       }
       rexIpIntfConfigFilter_.set( intfId, filter );

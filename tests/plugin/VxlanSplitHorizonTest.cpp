@@ -271,6 +271,9 @@ TEST_F( VxlanSplitHorizonTest, aRemovedVtiIsSilentThoughItWasAZombie ) {
    reactor->markAndSweepFlagSet( true ); // with its notifications on
    sm->vtiStatusDel( IntfId( "Vxlan1" ) );
    EXPECT_FALSE( reactor->hasNotificationActive() );
+   writes();
+   reactor->rexDoZombieReactors( false ); // nobody is there to reload
+   EXPECT_EQ( writes(), Strings{} );
 }
 
 TEST_F( VxlanSplitHorizonTest, reloadsForAnotherVtiWhereThereIsOneAndTheReactorIsAwake ) {
