@@ -37,13 +37,13 @@ class InterfaceOrderTest : public testing::Test {
    Corvo::Ptr< Watchful< T > > watchful( std::string const & name, Arguments const &... arguments ) {
       auto const entity = Corvo::makePtr< Watchful< T > >( arguments... );
       entity->looked = [this, name] {
-         events.push_back( name + ( world.sm && world.sm->isZombie() ? " zombie" : "" ) );
+         events.push_back( name + ( world.sm && world.sm->hasNotificationActive() ? " while active" : "" ) );
       };
       return entity;
    }
 };
 
-TEST_F( InterfaceOrderTest, theMachineTakesTheSliceBeforeThePorts ) {
+TEST_F( InterfaceOrderTest, theMachineTakesTheSliceBeforeThePortsAndIsInactiveBeforeItLeavesThem ) {
    world.slice = watchful< SliceSmStateInfo >( "slice" );
    world.ports = watchful< PortStateInfo >( "ports" );
    events.clear();
@@ -106,6 +106,19 @@ TEST_F( InterfaceOrderTest, whatAFilterFollowedIsOffOnceItIsGoneThoughItWasAZomb
    EXPECT_FALSE( status->hasNotificationActive() );
 }
 
+TEST_F( InterfaceOrderTest, anotherMachineOfTheMtuIsActiveAtOnce ) {
+   world.port( 10, eth1 );
+   world.start();
+   auto const filter = world.filter( eth1 );
+   auto const before = filter->l3MtuSm();
+   auto const after = filter->l3MtuSmIs( world.config( eth1 ),
+                                         Corvo::makePtr< Interface::GlobalIntfConfig >(),
+                                         filter->effectiveL3Mtu()->notifier(),
+                                         world.capability );
+   EXPECT_NE( after, before );
+   EXPECT_TRUE( after->hasNotificationActive() );
+}
+
 TEST_F( InterfaceOrderTest, aFilterThatComesLaterIsActive ) {
    world.start();
    world.port( 10, eth1 );
@@ -134,6 +147,7 @@ TEST_F( InterfaceOrderTest, aFilterGoesThroughWhatItFollowsInOneOrder ) {
       }
       return seen;
    };
+   world.sm->nodeFlagSet( Corvo::NodeFlag::notificationsActive, false ); // whose looks these aren't
    EXPECT_EQ( looks( [&] { filter->hasNotificationActiveIs( false ); } ), inOrder );
    EXPECT_EQ( looks( [&] { filter->hasNotificationActiveIs( true ); } ), inOrder );
    // Following nothing, it isn't switched by becoming a zombie; its reactors are.
