@@ -10,7 +10,8 @@ class DriverControlSal : public SwitchControlSal {
  public:
    explicit DriverControlSal( SchanDriver & driver ) : driver_( driver ) {}
 
-   int switchControlSet( U16 unit, U32 control, U32 value, U32, std::source_location origin ) override {
+   int switchControlSet( U16 unit, U32 control, U32 value, U32 flags, std::source_location origin ) override {
+      Rex::sassert( flags == 0, "flags == 0" );
       auto * const listener = operationListener();
       Operation operation;
       if ( listener ) {

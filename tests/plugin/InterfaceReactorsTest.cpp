@@ -119,6 +119,16 @@ TEST_F( InterfaceReactorsTest, aFilterThatFollowsNothingStaysAsActiveAsItWas ) {
    filter->notifierIs( world.config( eth1 ) );
 }
 
+TEST_F( InterfaceReactorsTest, aZombieFilterIsInactiveAndSoIsTheMachineOfItsMtu ) {
+   auto const filter = world.filter( eth1 );
+   filter->parentIs( nullptr ); // its interface stays in service
+   filter->rexDoZombieReactors( true );
+   EXPECT_FALSE( filter->hasNotificationActive() );
+   EXPECT_FALSE( filter->l3MtuSm()->hasNotificationActive() );
+   filter->rexDoZombieReactors( false );
+   EXPECT_TRUE( filter->l3MtuSm()->hasNotificationActive() );
+}
+
 TEST_F( InterfaceReactorsTest, whatAFilterFollowsMayGoWhileItsReactorStays ) {
    auto const filter = world.filter( eth1 );
    EXPECT_FALSE(

@@ -129,6 +129,17 @@ Corvo::Ptr< Hardware::Dace::LoadBalanceHwConfig > slotConfig( U32 slot, U8 mode 
    return config;
 }
 
+TEST( L3SmChildren, theInterfaceMachineStaysForTheSameArgumentsOnly ) {
+   ObservedL3Sm observed;
+   observed.build();
+   auto const before = observed.sm->l3IntfSm();
+   auto arguments = before->arguments();
+   EXPECT_EQ( observed.sm->l3IntfSmIs( arguments ), before );
+   arguments.globalIntfConfig = Corvo::makePtr< Interface::GlobalIntfConfig >();
+   EXPECT_NE( observed.sm->l3IntfSmIs( arguments ), before );
+   EXPECT_EQ( observed.sm->l3IntfSm()->arguments().globalIntfConfig, arguments.globalIntfConfig );
+}
+
 TEST( L3SmSlots, removingASlotReturnsItsReactorQuietAndAZombie ) {
    ObservedL3Sm observed;
    auto const config = slotConfig( 0, 2 );

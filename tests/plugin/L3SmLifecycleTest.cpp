@@ -287,7 +287,8 @@ TEST( L3SmLifecycle, goesInOrderThoughItWasNeverActivated ) {
    observed.onLook = [&]( std::string const & ) {
       seen.push_back( std::string( machine->isZombie() ? "zombie " : "" ) + ( slot->isZombie() ? "slot's too " : "" ) +
                       ( helper->hasNotificationActive() ? "helper " : "" ) +
-                      ( l3IntfSm->hasNotificationActive() ? "interfaces " : "" ) );
+                      ( l3IntfSm->hasNotificationActive() ? "interfaces " : "" ) +
+                      ( slot->useCount() > 1 ? "slot kept" : "" ) );
       if ( seen.size() == inputs.size() + 1 ) { // children are being stopped: a slot that wakes calls nobody
          slot->rexDoZombieReactors( false );
          config->guePktTypeHashModeIs( 2 );
@@ -295,10 +296,10 @@ TEST( L3SmLifecycle, goesInOrderThoughItWasNeverActivated ) {
    };
    observed.sm = nullptr;
    EXPECT_EQ( observed.take(), inputs + childrensInputs );
-   std::vector< std::string > expected( inputs.size(), "zombie slot's too helper interfaces " );
-   expected.push_back( "zombie slot's too interfaces " ); // the VTI directory's machine
-   expected.insert( expected.end(), 3, "zombie interfaces " );
-   expected.insert( expected.end(), 2, "zombie " ); // MPLS parser, GUE
+   std::vector< std::string > expected( inputs.size(), "zombie slot's too helper interfaces slot kept" );
+   expected.push_back( "zombie slot's too interfaces slot kept" ); // the VTI directory's machine
+   expected.insert( expected.end(), 3, "zombie interfaces slot kept" );
+   expected.insert( expected.end(), 2, "zombie slot kept" ); // MPLS parser, GUE
    EXPECT_EQ( seen, expected );
    EXPECT_EQ( observed.operations(), operations );
    EXPECT_FALSE( helper->hasNotificationActive() );

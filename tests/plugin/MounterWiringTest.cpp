@@ -86,8 +86,14 @@ TEST( MounterWiring, theMachineGetsWhatIsMounted ) {
 
 TEST( MounterWiring, everyAttributeIsAnnouncedAsItIsFilled ) {
    MountedSwitch agent( servedFap() );
-   Listener const listener( *agent.mounter );
+   L3SmMounter const & mounter = *agent.mounter;
+   bool isFilled = true;
+   Listener const listener( mounter, [&]( Attribute attribute ) {
+      isFilled = isFilled && ( attribute != Attribute::dgConfig || mounter.dgConfig() ) &&
+                 ( attribute != Attribute::udpDestPortConfigLocal || mounter.udpDestPortConfigLocal() );
+   } );
    agent.start();
+   EXPECT_TRUE( isFilled );
    EXPECT_EQ( listener.heard,
               ( Attributes{ Attribute::sliceSmState,
                             Attribute::pluginRunnabilitySm,

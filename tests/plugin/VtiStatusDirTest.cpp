@@ -36,31 +36,6 @@ class VtiStatusDirTest : public OverlayTest {
    }
 };
 
-// A driver handle that keeps the flags it is given.
-struct FlagsSal : DaceSal::SwitchControlSal {
-   std::set< U32 > flags;
-   U32 calls = 0;
-   int switchControlSet( U16, U32, U32, U32 given, std::source_location ) override {
-      flags.insert( given );
-      ++calls;
-      return 0;
-   }
-};
-
-TEST_F( VtiStatusDirTest, setsItsControlsWithoutFlags ) {
-   oneFapOfEachKind();
-   auto const handle = Corvo::makePtr< FlagsSal >();
-   sm = daceL3UnicastVtiStatusDirSmFactory(
-      "vtiStatusDirSm", dir, Corvo::makePtr< Bridging::HwCapabilities >(), sw().cellStatus(), handle );
-   sm->initializedIs( true );
-   auto const vti = vtiIs( "Vxlan1" );
-   vti->udpPortIs( 4789 );
-   vti->secUdpPortIs( 4790 );
-   dir->vtiStatusDel( IntfId( "Vxlan1" ) );
-   EXPECT_GT( handle->calls, 8 * 6U );
-   EXPECT_EQ( handle->flags, std::set< U32 >{ 0 } );
-}
-
 Strings flood( std::string const & fap, std::string const & words ) {
    return { fap + " UnknownDaProfile 0/0/18 = " + words,
             fap + " UnknownDaProfile 0/0/10 = " + words,

@@ -265,6 +265,15 @@ TEST_F( VxlanSplitHorizonTest, wakingFromZombieReloadsForEachVtiAsWell ) {
    EXPECT_FALSE( writes().empty() );
 }
 
+TEST_F( VxlanSplitHorizonTest, aReactorIsAZombieBeforeItReloads ) {
+   running();
+   auto const reactor = sm->vtiStatusIs( vtiIs( "Vxlan1" ) );
+   bool whenTold = false;
+   TraceListener const log( "DaceFapNiL3Vxlan", 9, [&] { whenTold = reactor->isZombie(); } );
+   reactor->rexDoZombieReactors( true );
+   EXPECT_TRUE( whenTold );
+}
+
 TEST_F( VxlanSplitHorizonTest, aRemovedVtiIsSilentThoughItWasAZombie ) {
    running();
    auto const reactor = sm->vtiStatusIs( vtiIs( "Vxlan1" ) );

@@ -2,6 +2,7 @@
 #include "simulator/ChipDriver.h"
 
 #include "rex/Value.h"
+#include "sal/SwitchControlSal.h"
 
 #include <gtest/gtest.h>
 #include <stdexcept>
@@ -178,6 +179,16 @@ TEST( ChipDriver, keepsTheChipsOfASwitchApart ) {
    ASSERT_EQ( driver.chips().size(), 2u );
    EXPECT_EQ( driver.chips()[0]->id(), ChipId{ 2 } );
    EXPECT_EQ( driver.chip( ChipId{ 3 } ), nullptr );
+}
+
+TEST( SwitchControlDeathTest, refusesWhatIsNothing ) {
+   EXPECT_DEATH( DaceSal::switchControlSalFactory( nullptr, nullptr ), "Assertion `sdkHandle' failed" );
+   AddressMap const map = smallMap();
+   ChipDriver driver;
+   driver.chipIs( ChipId{ 3 }, "BCM88690_B0", map );
+   auto const controls = DaceSal::switchControlSalFactory( &driver, nullptr );
+   EXPECT_EQ( controls->switchControlSet( 3, 64, 7, 0 ), 0 );
+   EXPECT_DEATH( controls->switchControlSet( 3, 64, 7, 1 ), "Assertion `flags == 0' failed" );
 }
 
 TEST( ChipDriverDeathTest, refusesAChipThatTheSwitchDoesNotHave ) {
