@@ -1,5 +1,6 @@
 #include "ChipView.h"
 #include "DaceL3Unicast/DaceFapNiPlugin/RemFfcModifierSm.h"
+#include "ObservedL3Sm.h"
 
 #include <gtest/gtest.h>
 
@@ -198,6 +199,18 @@ struct Machine {
       sm = RemFfcModifierSm::RemFfcModifierSmIs( sw.cellStatus(), lengths );
    }
 };
+
+// What changes while it rewrites the keys must not be lost.
+TEST( FfcModifier, hearsTheLengthsBeforeItRewritesTheKeys ) {
+   TestSwitch const sw( { ChipType::BCM88690_B0 } );
+   auto const lengths = Corvo::makePtr< Watchful< Routing::Hardware::PrefixLensInExactMatch > >();
+   std::vector< U64 > operationsAtLooks;
+   lengths->looked = [&] { operationsAtLooks.push_back( sw.journal().operationCount() ); };
+   auto const sm = Corvo::makePtr< RemFfcModifierSm >( sw.cellStatus(), lengths );
+   lengths->looked = nullptr;
+   EXPECT_EQ( operationsAtLooks, std::vector< U64 >{ 0 } );
+   EXPECT_GT( sw.journal().operationCount(), 0U );
+}
 
 TEST( FfcModifier, readsTheParametersOfAnInstruction ) {
    Machine machine;

@@ -55,6 +55,25 @@ TEST_F( InterfaceOrderTest, theMachineTakesTheSliceBeforeThePortsAndIsInactiveBe
    EXPECT_EQ( events, ( Texts{ "slice", "ports" } ) );
 }
 
+TEST_F( InterfaceOrderTest, anActiveMachineLeavesItsInputsBeforeItIsAZombie ) {
+   auto const slice = watchful< SliceSmStateInfo >( "slice" );
+   world.slice = slice;
+   world.start();
+   L3IntfSm const * const going = world.sm.get();
+   std::optional< bool > asAZombie;
+   slice->looked = [&] { asAZombie = going->isZombie(); };
+   world.sm = nullptr;
+   EXPECT_EQ( asAZombie, false );
+}
+
+TEST_F( InterfaceOrderTest, aFilterWithoutAPortBecomesAZombieWithTheMachine ) {
+   world.start();
+   world.sm->ipIntfConfigFilterIs( world.config( eth1 ) );
+   auto const filter = world.filter( eth1 );
+   world.sm->rexDoZombieReactors( true );
+   EXPECT_TRUE( filter->isZombie() );
+}
+
 // The machine was never active: nothing but its end takes it off its inputs.
 TEST_F( InterfaceOrderTest, theMachineIsAZombieBeforeItLeavesTheSliceAndThenThePorts ) {
    world.slice = watchful< SliceSmStateInfo >( "slice" );

@@ -133,7 +133,9 @@ TEST_F( InterfaceReactorsTest, whatAFilterFollowsMayGoWhileItsReactorStays ) {
    auto const filter = world.filter( eth1 );
    EXPECT_FALSE(
       isHandled( [&] { filter->intfStatus()->notifierIs( Corvo::Ptr< Interface::EthPhyIntfStatus >() ); } ) );
+   filter->syncMtuSubIntfSm()->notifier()->syncMtuResultIs( Interface::SyncMtuResult::walking );
    EXPECT_FALSE( filter->handleAddr() );
+   EXPECT_EQ( world.walkResult( eth1 ), Interface::SyncMtuResult::idle );
    filter->intfStatus()->notifierIs( world.status( eth1 ) );
    EXPECT_TRUE( filter->handleAddr() );
    // Nothing is walked with the MTU of nobody, nor to the end of a walk of nobody.

@@ -229,6 +229,18 @@ TEST( MounterWiring, theMergedPortsAreDetachedBeforeTheirRemovalIsAnnounced ) {
 }
 
 // At each announcement of the teardown: what still works. What goes is dropped after it was announced.
+TEST( MounterWiring, theMounterIsInactiveBeforeItDropsAnything ) {
+   MountedSwitch agent;
+   agent.start();
+   L3SmMounter const * const going = agent.mounter.get();
+   agent.mounter->nodeFlagSet( Corvo::NodeFlag::notificationsActive, true );
+   std::vector< bool > active;
+   Listener const listener( *going, [&]( Attribute ) { active.push_back( going->hasNotificationActive() ); } );
+   agent.mounter = nullptr;
+   ASSERT_FALSE( active.empty() );
+   EXPECT_EQ( active, std::vector< bool >( active.size(), false ) );
+}
+
 TEST( MounterWiring, teardownDropsTheMergeMachinesThenL3SmThenTheRunnabilityMachine ) {
    MountedSwitch agent( servedFap() );
    agent.start();

@@ -1,6 +1,7 @@
 #include "DaceL3Unicast/DaceFapNiPlugin/VxlanSplitHorizonSm.h"
 
 #include "OverlayTest.h"
+#include "rex/Gate.h"
 
 #include <rapidcheck.h>
 
@@ -263,6 +264,27 @@ TEST_F( VxlanSplitHorizonTest, wakingFromZombieReloadsForEachVtiAsWell ) {
    EXPECT_EQ( writes(), twice( vxlan ) );
    vti->vtepToVtepBridgingIs( true ); // and hears again
    EXPECT_FALSE( writes().empty() );
+}
+
+// Why a register hasn't the bits that somebody expects.
+TEST_F( VxlanSplitHorizonTest, tellsWhichTogglesKeepBitsAway ) {
+   struct Gates : Rex::GateListener {
+      std::set< std::string > reasons;
+      Rex::GateListener * before = Rex::gateListener();
+      Gates() { Rex::gateListenerIs( this ); }
+      ~Gates() override { Rex::gateListenerIs( before ); }
+      void gateClosed( Rex::ClosedGate const & gate ) override { reasons.emplace( gate.reason ); }
+   };
+   toggleIs( "Dace.json", "CampusVtepToVtepBridgingGen4", false );
+   toggleIs( "DaceToggles.json", "DaceVxlanMplsDciMhDchVxlanPfd", false );
+   running();
+   Gates const gates;
+   vtiIs( "Vxlan1" )->vtepToVtepBridgingIs( true );
+   EXPECT_EQ( gates.reasons, std::set< std::string >{ "the toggle CampusVtepToVtepBridgingGen4 is off" } );
+   evpn->evpnDciEnabledIs( true );
+   EXPECT_EQ( gates.reasons,
+              ( std::set< std::string >{ "the toggle CampusVtepToVtepBridgingGen4 is off",
+                                         "the toggle DaceVxlanMplsDciMhDchVxlanPfd is off" } ) );
 }
 
 TEST_F( VxlanSplitHorizonTest, aReactorIsAZombieBeforeItReloads ) {
