@@ -114,25 +114,25 @@ ChainStep newStep( Row const & row, std::vector< FieldChange > const & changes )
 
 } // namespace
 
-void ChainStep::Change::addBefore( std::string const & before ) {
-   if ( std::ranges::find( befores, before ) != befores.end() ) {
+void ChainStep::Change::addBefore( std::string const & value ) {
+   if ( std::ranges::find( befores, value ) != befores.end() ) {
       return;
    }
    if ( befores.size() < mostBefores ) {
-      befores.push_back( before );
+      befores.push_back( value );
    } else {
       hasMoreBefores = true;
    }
 }
 
-std::optional< ChainStep::Change > ChainStep::Change::onFaps( std::set< U16 > const & faps ) const {
+std::optional< ChainStep::Change > ChainStep::Change::onFaps( std::set< U16 > const & those ) const {
    std::optional< Change > there;
    for ( auto const & [fap, some] : onFap ) {
-      if ( faps.contains( fap ) ) {
+      if ( those.contains( fap ) ) {
          if ( !there ) {
             there.emplace( Change{ .name = name, .width = width, .after = after } );
          }
-         std::ranges::for_each( some, [&]( std::string const & before ) { there->addBefore( before ); } );
+         std::ranges::for_each( some, [&]( std::string const & value ) { there->addBefore( value ); } );
       }
    }
    return there;
