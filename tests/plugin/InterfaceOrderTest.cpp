@@ -20,9 +20,9 @@ class Mortal : public T {
 
 class InterfaceOrderTest : public testing::Test {
  protected:
+   Texts events; // outlives the world, which may tell of its end
    InterfaceWorld world;
    Netka::IntfId const eth1 = world.intf( "Ethernet1" );
-   Texts events;
 
    // Makes an entity that tells of its own going.
    template< class T, class... Arguments >
