@@ -4,6 +4,7 @@
 #include <filesystem>
 #include <fstream>
 #include <sstream>
+#include <unistd.h>
 
 namespace {
 
@@ -158,7 +159,7 @@ TEST( IncludeOrder, NoIncludeRunsAgainstTheTableOfRooms ) {
 }
 
 TEST( IncludeOrder, EveryArrowBackIsFound ) {
-   fs::path const root = fs::path( testing::TempDir() ) / "rooms";
+   fs::path const root = fs::path( testing::TempDir() ) / ( "rooms-by-includes-" + std::to_string( getpid() ) );
    fs::remove_all( root );
    auto const file = [&]( fs::path const & path, std::string const & text ) {
       fs::create_directories( ( root / path ).parent_path() );

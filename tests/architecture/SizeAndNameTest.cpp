@@ -7,6 +7,7 @@
 #include <iterator>
 #include <map>
 #include <set>
+#include <unistd.h>
 
 namespace {
 
@@ -69,7 +70,7 @@ TEST( Files, haveANameOfTheirOwn ) {
 }
 
 TEST( Files, areToldWhereTheyAreTooLongOrShareAName ) {
-   fs::path const root = fs::path( testing::TempDir() ) / "rooms";
+   fs::path const root = fs::path( testing::TempDir() ) / ( "rooms-by-sizes-" + std::to_string( getpid() ) );
    fs::remove_all( root );
    for ( char const * const room : rooms ) {
       fs::create_directories( root / room );
