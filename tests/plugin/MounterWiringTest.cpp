@@ -228,7 +228,6 @@ TEST( MounterWiring, theMergedPortsAreDetachedBeforeTheirRemovalIsAnnounced ) {
    EXPECT_EQ( parent, nullptr );
 }
 
-// At each announcement of the teardown: what still works. What goes is dropped after it was announced.
 TEST( MounterWiring, theMounterIsInactiveBeforeItDropsAnything ) {
    MountedSwitch agent;
    agent.start();
@@ -241,6 +240,7 @@ TEST( MounterWiring, theMounterIsInactiveBeforeItDropsAnything ) {
    EXPECT_EQ( active, std::vector< bool >( active.size(), false ) );
 }
 
+// At each announcement of the teardown: what still works. What goes is dropped after it was announced.
 TEST( MounterWiring, teardownDropsTheMergeMachinesThenL3SmThenTheRunnabilityMachine ) {
    MountedSwitch agent( servedFap() );
    agent.start();
