@@ -48,7 +48,7 @@ void StateDoor::set( Event const & event ) {
       rejected_.erase( placeIn( event ) );
       if ( event.kind == Event::Kind::remove && !event.attribute ) {
          std::erase_if( rejected_, [&]( auto const & it ) {
-            return isAtOrBelow( it.first.substr( 0, it.first.find( ' ' ) ), event.path );
+            return Rex::isAtOrBelow( it.first.substr( 0, it.first.find( ' ' ) ), event.path );
          } );
       }
    }

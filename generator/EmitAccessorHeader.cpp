@@ -9,7 +9,7 @@ namespace {
 
 using namespace Model;
 
-char const * const preamble = R"cpp(// clang-format off
+char const * const headerPreamble = R"cpp(// clang-format off
 #pragma once
 
 #include "sal/AsicTable.h"
@@ -37,9 +37,9 @@ extern Rex::TraceFacility const trace;
 } // namespace Impl
 )cpp";
 
-class ClassWriter {
+class DeclarationWriter {
  public:
-   ClassWriter( Catalogue const & catalogue, Table const & table )
+   DeclarationWriter( Catalogue const & catalogue, Table const & table )
       : catalogue_( catalogue ), table_( table ), formats_( table ),
         base_( table.isMemory ? "DaceSalAsicTableBase" : "DaceSalAsicRegBase" ) {}
 
@@ -259,9 +259,10 @@ class ClassWriter {
 } // namespace
 
 std::string emitAccessorHeader( Catalogue const & catalogue ) {
-   std::string text = generatedNote( "The accessor classes of the chip tables that the plug-in programs." ) + preamble;
+   std::string text =
+      generatedNote( "The accessor classes of the chip tables that the plug-in programs." ) + headerPreamble;
    for ( Table const & table : catalogue.tables ) {
-      text += ClassWriter( catalogue, table ).write();
+      text += DeclarationWriter( catalogue, table ).write();
    }
    return text + "\n} // namespace Hardware\n";
 }

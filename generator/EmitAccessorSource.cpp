@@ -28,9 +28,9 @@ class Items {
    std::string text_;
 };
 
-class ClassWriter {
+class DefinitionWriter {
  public:
-   ClassWriter( Catalogue const & catalogue, Table const & table, unsigned number )
+   DefinitionWriter( Catalogue const & catalogue, Table const & table, unsigned number )
       : catalogue_( catalogue ), table_( table ), formats_( table ), number_( number ), name_( table.name ),
         data_( table.name + "Data" ), entryType_( entryTypeFor( table ) ) {}
 
@@ -182,7 +182,7 @@ class ClassWriter {
    std::ostringstream out_;
 };
 
-char const * const preamble = R"cpp(// clang-format off
+char const * const sourcePreamble = R"cpp(// clang-format off
 #include "generated/DaceFapNiPluginL3UnicastMetaInfo.h"
 
 #include <functional>
@@ -259,10 +259,10 @@ bool chipTypeVariantValid( Corvo::String name, ChipType chipType, U8 variant ) {
 std::string emitAccessorSource( Catalogue const & catalogue ) {
    std::string text =
       generatedNote( "The accessor classes: where their fields lie, and where the tables lie on the chips." ) +
-      preamble;
+      sourcePreamble;
    unsigned number = 0;
    for ( Table const & table : catalogue.tables ) {
-      text += ClassWriter( catalogue, table, number++ ).write();
+      text += DefinitionWriter( catalogue, table, number++ ).write();
    }
    return text + byName( catalogue );
 }

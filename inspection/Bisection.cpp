@@ -45,9 +45,9 @@ std::string valueAsTyped( std::string const & typed, TablePart const & field ) {
    return "0x" + digits;
 }
 
-class Reader final : public Simulator::RowReader {
+class ConditionReader final : public Simulator::RowReader {
  public:
-   Reader( JournalReader const & journal, Condition const & condition, BisectionFilter const & filter )
+   ConditionReader( JournalReader const & journal, Condition const & condition, BisectionFilter const & filter )
       : chips_( journal ), condition_( condition ), filter_( filter ) {}
 
    void eventBegins( U32 event, Rex::Value const & what ) override {
@@ -213,7 +213,7 @@ Bisection bisect( JournalReader & journal, Condition const & condition, Bisectio
    if ( filter.fap && !journal.chipTypes().empty() && !journal.chipTypes().contains( *filter.fap ) ) {
       throw InputError( journal.path(), "it tells nothing of a FAP " + std::to_string( *filter.fap ) );
    }
-   Reader reader( journal, condition, filter );
+   ConditionReader reader( journal, condition, filter );
    auto const ending = journal.read( reader, { .readsToo = journal.format() == 1 } );
    return reader.take( ending.events, journal.remarks() );
 }

@@ -14,8 +14,8 @@ using Simulator::DecodedField;
 using Simulator::Row;
 
 constexpr char const * various = "various";
-constexpr std::size_t mostValues = 3; // of one field, before they are only called various
-constexpr std::size_t longest = 40;   // text of several values
+constexpr std::size_t mostValues = 3;   // of one field, before they are only called various
+constexpr std::size_t longestText = 40; // text of several values
 
 // One call of one place in the source on one table.
 using Source = std::tuple< std::string_view, std::string_view, std::string_view, U8 >;
@@ -62,7 +62,7 @@ std::string joined( std::vector< std::string > const & values ) {
    for ( auto const & value : values ) {
       out += ( out.empty() ? "" : " " ) + value;
    }
-   return values.size() == 1 || ( values.size() <= mostValues && out.size() <= longest ) ? out : various;
+   return values.size() == 1 || ( values.size() <= mostValues && out.size() <= longestText ) ? out : various;
 }
 
 // Fields that are named alike but for a number that counts up, as in csProfile0, csProfile1, ...

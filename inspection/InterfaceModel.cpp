@@ -86,23 +86,23 @@ void InterfaceModel::changed( U32 event, EventInput const & input ) {
    std::string const whole = input.path + ( input.attribute.empty() ? "" : "/" + input.attribute );
    std::string const place = input.key ? whole + "/" + *input.key : whole;
    // The machine keeps to an entity that another one replaces.
-   if ( isServed_ && isBelow( configPath(), place ) && !replacedConfig_ ) {
+   if ( isServed_ && isAtOrBelow( configPath(), place ) && !replacedConfig_ ) {
       if ( auto const * const config = at( configPath() ) ) {
          replacedConfig_ = *config;
          lastEvent_["replaced"] = event;
       }
    }
-   if ( isServed_ && isBelow( statusPath(), place ) ) {
+   if ( isServed_ && isAtOrBelow( statusPath(), place ) ) {
       isStatusReplaced_ = true;
       lastEvent_["status"] = event;
    }
    bool const hadDirectories = isThere( at( configs ) ) && isThere( at( statuses ) );
    set( whole, input.key, input.kind == EventInput::Kind::set ? input.value : Value() );
-   if ( isBelow( place, configPath() ) || isBelow( configPath(), place ) || isBelow( place, slice ) ||
-        isBelow( place, globalConfig ) ) {
+   if ( isAtOrBelow( place, configPath() ) || isAtOrBelow( configPath(), place ) || isAtOrBelow( place, slice ) ||
+        isAtOrBelow( place, globalConfig ) ) {
       lastEvent_[input.attribute] = event;
    }
-   if ( isBelow( place, ports ) ) {
+   if ( isAtOrBelow( place, ports ) ) {
       std::string const port = place.size() > ports.size() ? place.substr( ports.size() + 1 ) : "";
       std::string const number = port.substr( 0, port.find( '/' ) );
       bool const isWhole = port == number; // the port itself, not one of its attributes
@@ -124,7 +124,8 @@ void InterfaceModel::published( Simulator::Row const & row ) {
    std::string const place = std::string( row.path ) + "/" + std::string( row.attribute );
    std::string_view const entity = row.path.substr( row.path.rfind( '/' ) + 1 );
    bool const isOwn = entity == name_ || ( row.key && *row.key == name_ );
-   if ( isBelow( place, subInterfaces ) || ( isOwn && ( isBelow( place, statuses ) || isBelow( place, locals ) ) ) ) {
+   if ( isAtOrBelow( place, subInterfaces ) ||
+        ( isOwn && ( isAtOrBelow( place, statuses ) || isAtOrBelow( place, locals ) ) ) ) {
       set( place, row.key ? std::optional( std::string( *row.key ) ) : std::nullopt, *row.published );
    }
 }
@@ -154,12 +155,12 @@ bool InterfaceModel::isNamedBy( EventInput const & input ) const {
    for ( std::string const & root : { configs, statuses, locals, subInterfaces } ) {
       std::string const own = root + "/" + name_;
       // Its subinterfaces are named after it.
-      if ( isBelow( place, own ) || isBelow( own, place ) || place.starts_with( own + "." ) ) {
+      if ( isAtOrBelow( place, own ) || isAtOrBelow( own, place ) || place.starts_with( own + "." ) ) {
          return true;
       }
    }
-   if ( !isBelow( place, ports ) || place.size() == ports.size() ) {
-      return isBelow( ports, place );
+   if ( !isAtOrBelow( place, ports ) || place.size() == ports.size() ) {
+      return isAtOrBelow( ports, place );
    }
    std::string const port = place.substr( 0, place.find( '/', ports.size() + 1 ) );
    return textOf( memberOf( at( port ), "intfId" ) ) == name_ || textOf( memberOf( &input.value, "intfId" ) ) == name_;

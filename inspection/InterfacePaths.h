@@ -5,6 +5,7 @@
 
 namespace Inspection::InterfacePaths {
 
+using Rex::isAtOrBelow;
 using Rex::Value;
 
 inline std::string const configs = "shared/phySmStateData/allEthPhyIntfConfigDir/intfConfig";
@@ -18,10 +19,6 @@ inline std::string const capability = "interface/hardware/capability";
 
 constexpr U32 activeMode = 2;
 constexpr U32 defaultL3Mtu = 1500;
-
-inline bool isBelow( std::string_view path, std::string_view root ) {
-   return path.starts_with( root ) && ( path.size() == root.size() || path[root.size()] == '/' );
-}
 
 inline Value const * memberOf( Value const * of, std::string const & name ) {
    auto const * const object = of ? of->object() : nullptr;

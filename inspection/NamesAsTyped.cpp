@@ -9,6 +9,14 @@
 
 namespace Inspection {
 
+std::string listed( std::vector< std::string > const & names, std::size_t most ) {
+   std::string text;
+   for ( std::size_t name = 0; name < std::min( most, names.size() ); ++name ) {
+      text += ( name == 0 ? "" : ", " ) + names[name];
+   }
+   return text + ( names.size() > most ? " and " + std::to_string( names.size() - most ) + " more" : "" );
+}
+
 namespace {
 
 std::set< std::string > fieldsOf( Catalogue::Table const & table ) {
@@ -21,14 +29,10 @@ std::set< std::string > fieldsOf( Catalogue::Table const & table ) {
    return names;
 }
 
-// "IppdFerTrapCfg, EthernetTrap and 3 more"
 std::string someOf( std::vector< Catalogue::Table const * > const & tables ) {
-   constexpr std::size_t most = 4;
-   std::string text;
-   for ( std::size_t table = 0; table < std::min( most, tables.size() ); ++table ) {
-      text += ( table == 0 ? "" : ", " ) + std::string( tables[table]->name );
-   }
-   return text + ( tables.size() > most ? " and " + std::to_string( tables.size() - most ) + " more" : "" );
+   std::vector< std::string > names;
+   std::ranges::transform( tables, std::back_inserter( names ), []( auto const * table ) { return table->name; } );
+   return listed( names, 4 );
 }
 
 // "0 to 3", "0, 2"

@@ -24,6 +24,9 @@ Catalogue::Table const & tableNamed( std::string const & name );
 // The name, if a layout of the table has the field.
 std::string fieldNamed( Catalogue::Table const & table, std::string const & name );
 
+// The first of some names, for a refusal: "IppdFerTrapCfg, EthernetTrap and 3 more".
+std::string listed( std::vector< std::string > const & names, std::size_t most );
+
 // A table, one field of it, or one bit of that.
 struct TablePart {
    Catalogue::Table const * table = nullptr;

@@ -17,15 +17,6 @@ std::string inSmallLetters( std::string text ) {
    return text;
 }
 
-std::string listed( Names const & names ) {
-   constexpr std::size_t most = 3;
-   std::string text;
-   for ( std::size_t name = 0; name < std::min( most, names.size() ); ++name ) {
-      text += ( name == 0 ? "" : ", " ) + names[name];
-   }
-   return text + ( names.size() > most ? " and " + std::to_string( names.size() - most ) + " more" : "" );
-}
-
 // Whatever can be asked about by one name alone.
 Names allNames( Names const & functions ) {
    Names names = tableNames();
@@ -70,7 +61,7 @@ std::string remedyOf( std::string const & typed, Names const & functions ) {
             return inSmallLetters( name ).find( small ) != std::string::npos;
          } );
       if ( !within.empty() ) {
-         return within.size() == 1 ? "; did you mean \"" + within.front() + "\"?" : "; there is " + listed( within );
+         return within.size() == 1 ? "; did you mean \"" + within.front() + "\"?" : "; there is " + listed( within, 3 );
       }
    }
    Names near = names;

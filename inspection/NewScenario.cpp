@@ -12,8 +12,7 @@ namespace {
 
 using Rex::Value;
 
-constexpr char const * slice = "Linecard1";
-constexpr U32 sdkVersion = 7;
+constexpr U32 currentSdkVersion = 7;
 constexpr int mostAttempts = 3; // each opens a gate that the one before has found closed
 
 // Puts what `more` says into an object, into what stands there already where it is an object itself.
@@ -54,7 +53,7 @@ Value fapValue( Hardware::ChipType chipType, U16 number, std::optional< U16 > co
       fap["cores"] = *cores;
    }
    fap["ports"] = Value::Object{ { std::to_string( number * 10 + 10 ), 1 }, { std::to_string( number * 10 + 11 ), 2 } };
-   fap["revision"] = Value::Object{ { "chipType", chipTypeName( chipType ) }, { "sdkVersion", sdkVersion } };
+   fap["revision"] = Value::Object{ { "chipType", chipTypeName( chipType ) }, { "sdkVersion", currentSdkVersion } };
    return fap;
 }
 
@@ -78,7 +77,9 @@ Value scenarioFor( WantedScenario const & wanted ) {
    }
    Value::Object scenario{
       { "name", name.empty() ? "A switch of my own" : name },
-      { "switch", Value::Object{ { "slice", Value::Object{ { "name", slice } } }, { "faps", std::move( faps ) } } },
+      { "switch",
+        Value::Object{ { "slice", Value::Object{ { "name", Simulator::SwitchDescription().sliceName } } },
+                       { "faps", std::move( faps ) } } },
       { "toggles", toggles },
       { "state", state },
       { "events", std::move( events ) } };

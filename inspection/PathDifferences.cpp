@@ -31,9 +31,9 @@ PathDifference differenceAt( std::string const & path, Steps const & steps, Valu
    return it;
 }
 
-class Walk {
+class SideBySide {
  public:
-   Walk( std::string const & path, std::function< void( PathDifference ) > const & each )
+   SideBySide( std::string const & path, std::function< void( PathDifference ) > const & each )
       : path_( path ), each_( each ) {}
 
    void compare( Value const * a, Value const * b ) {
@@ -84,7 +84,7 @@ void eachPathDifference( Value const & a,
       return found == side.object()->end() ? nullptr : &found->second;
    };
    for ( auto const & path : paths ) {
-      Walk( path, each ).compare( at( a, path ), at( b, path ) );
+      SideBySide( path, each ).compare( at( a, path ), at( b, path ) );
    }
 }
 

@@ -12,7 +12,6 @@ using Rex::Value;
 using Rex::ValueType;
 
 constexpr char const * interface = "Ethernet1";
-constexpr char const * slice = "Linecard1"; // which a switch has unless it is told another
 
 } // namespace
 
@@ -57,7 +56,7 @@ Value sampleValue( Attribute const & attribute, Value const & from ) {
 }
 
 std::string sampleKey( ValueType const & type ) {
-   return type.kind == ValueType::Kind::number ? "1" : std::string( type.name ) == "interface" ? interface : slice;
+   return type.kind == ValueType::Kind::number ? "1" : std::string( type.name ) == "interface" ? interface : Simulator::SwitchDescription().sliceName;
 }
 
 std::string withSampleKeys( std::string const & path ) {

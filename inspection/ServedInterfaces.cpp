@@ -27,9 +27,9 @@ std::string textOf( Netka::EthAddr const & addr ) {
    return addr.stringValue();
 }
 
-class Reader {
+class SwitchReader {
  public:
-   explicit Reader( Simulator::SimulatedSwitch const & sw ) : sw_( sw ) {
+   explicit SwitchReader( Simulator::SimulatedSwitch const & sw ) : sw_( sw ) {
       if ( auto const shared = entity< DaceFapNi::PhySmStateInfo >( "shared/phySmStateData" ) ) {
          configs_ = shared->allEthPhyIntfConfigDir();
       }
@@ -187,7 +187,7 @@ std::vector< One const * > Interfaces::unserved() const {
 }
 
 Interfaces interfacesOf( Simulator::SimulatedSwitch const & sw ) {
-   return Reader( sw ).read();
+   return SwitchReader( sw ).read();
 }
 
 Rex::Value interfacesValue( Interfaces const & interfaces ) {

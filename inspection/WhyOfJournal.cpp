@@ -1,6 +1,7 @@
 // The answer of a journal: what it can't know is refused.
 #include "inspection/EndOfRun.h"
 #include "inspection/FunctionTables.h"
+#include "inspection/NamesAsTyped.h"
 #include "inspection/StatePaths.h"
 #include "inspection/Why.h"
 #include "rex/Nearest.h"
@@ -13,14 +14,7 @@ namespace {
 
 using Kind = WhySubject::Kind;
 
-std::string listed( std::vector< std::string > const & names ) {
-   constexpr std::size_t most = 12;
-   std::string text;
-   for ( std::size_t name = 0; name < std::min( most, names.size() ); ++name ) {
-      text += ( name == 0 ? "" : ", " ) + names[name];
-   }
-   return text + ( names.size() > most ? " and " + std::to_string( names.size() - most ) + " more" : "" );
-}
+constexpr std::size_t mostNames = 12; // of a list in a refusal
 
 std::vector< std::string > knownControls() {
    std::vector< std::string > all;
@@ -62,7 +56,7 @@ void checkFap( JournalReader const & journal, WhyReader const & reader, U16 fap 
    }
    throw InputError( journal.path(),
                      "it tells nothing of a FAP " + std::to_string( fap ) +
-                        ( faps.empty() ? "" : "; there is " + listed( faps ) ) );
+                        ( faps.empty() ? "" : "; there is " + listed( faps, mostNames ) ) );
 }
 
 void checkSubject( JournalReader const & journal,
@@ -70,10 +64,11 @@ void checkSubject( JournalReader const & journal,
                    std::vector< std::string > const & interfaces ) {
    WhySubject const & subject = answer.subject;
    if ( subject.kind == Kind::interface && !( answer.interface && answer.interface->isKnown ) ) {
-      throw InputError( journal.path(),
-                        "it tells nothing of an interface " + subject.name +
-                           ( interfaces.empty() ? "; it tells of none" : "; it tells of " + listed( interfaces ) ) +
-                           whereItEnded( answer.ending ) );
+      throw InputError(
+         journal.path(),
+         "it tells nothing of an interface " + subject.name +
+            ( interfaces.empty() ? "; it tells of none" : "; it tells of " + listed( interfaces, mostNames ) ) +
+            whereItEnded( answer.ending ) );
    }
    if ( answer.isReached ) {
       return;
@@ -82,7 +77,7 @@ void checkSubject( JournalReader const & journal,
       auto const controls = knownControls();
       if ( std::ranges::find( controls, std::to_string( subject.control ) ) == controls.end() ) {
          throw InputError( "nothing is known to set a control " + std::to_string( subject.control ) + "; there is " +
-                           listed( controls ) );
+                           listed( controls, mostNames ) );
       }
    } else if ( subject.kind == Kind::function && answer.ending.function != subject.name ) {
       auto const functions = knownFunctions();

@@ -36,10 +36,6 @@ bool isInterfaceName( std::string_view name ) {
           std::all_of( digit, name.end(), []( char it ) { return isDigit( it ) || it == '/' || it == '.'; } );
 }
 
-bool isBelow( std::string_view path, std::string_view root ) {
-   return path.starts_with( root ) && ( path.size() == root.size() || path[root.size()] == '/' );
-}
-
 std::string lastPart( std::string const & name ) {
    auto const at = name.rfind( "::" );
    return at == std::string::npos ? name : name.substr( at + 2 );
@@ -66,18 +62,19 @@ WhySubject stateAsTyped( std::string typed ) {
 
 // Throws unless the path can be, and its type has the attribute, which may stand behind a slash as well.
 WhySubject checked( WhySubject subject ) {
-   if ( std::ranges::any_of( managedPaths, [&]( auto root ) { return isBelow( subject.path, root ); } ) ) {
+   if ( std::ranges::any_of( managedPaths, [&]( auto root ) { return Rex::isAtOrBelow( subject.path, root ); } ) ) {
       return subject;
    }
    std::string root;
    std::vector< std::string > roots{ std::begin( managedPaths ), std::end( managedPaths ) };
    for ( auto const & it : Simulator::stateRoots() ) {
       roots.push_back( it.path() );
-      if ( isBelow( subject.path, it.path() ) && it.path().size() > root.size() ) {
+      if ( Rex::isAtOrBelow( subject.path, it.path() ) && it.path().size() > root.size() ) {
          root = it.path();
       }
    }
-   bool const isAbove = std::ranges::any_of( roots, [&]( auto const & it ) { return isBelow( it, subject.path ); } );
+   bool const isAbove =
+      std::ranges::any_of( roots, [&]( auto const & it ) { return Rex::isAtOrBelow( it, subject.path ); } );
    if ( root.empty() && isAbove && subject.attribute.empty() ) {
       return subject;
    }
@@ -209,10 +206,10 @@ bool WhySubject::isState( std::string_view ofPath,
    whole += ofAttribute.empty() ? "" : "/" + std::string( ofAttribute );
    whole += ofKey ? "/" + std::string( *ofKey ) : "";
    if ( attribute.empty() ) {
-      return isBelow( ofPath, path ) || isBelow( whole, path );
+      return Rex::isAtOrBelow( ofPath, path ) || Rex::isAtOrBelow( whole, path );
    }
    // Itself; or the entity that has it is made anew, or goes.
-   bool const isEntity = ( ofKey || ofAttribute.empty() ) && isBelow( path, whole );
+   bool const isEntity = ( ofKey || ofAttribute.empty() ) && Rex::isAtOrBelow( path, whole );
    return isEntity || ( ofPath == path && ofAttribute == attribute && ( !key || !ofKey || *key == *ofKey ) );
 }
 

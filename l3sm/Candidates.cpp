@@ -210,7 +210,7 @@ struct Place {
    Candidates ( *candidates )( std::string const &, Before const & );
 };
 
-constexpr Place places[] = {
+constexpr Place placesOfFiles[] = {
    // options by name
    { "--chip", chips },
    { "--table", tablesAndControls },
@@ -264,8 +264,8 @@ bool isFile( std::string_view name ) {
 
 Place const * placeNamed( std::string_view name ) {
    static constexpr Place file{ "FILE", files };
-   auto const found = std::ranges::find( places, name, &Place::name );
-   return found != std::end( places ) ? found : isFile( name ) ? &file : nullptr;
+   auto const found = std::ranges::find( placesOfFiles, name, &Place::name );
+   return found != std::end( placesOfFiles ) ? found : isFile( name ) ? &file : nullptr;
 }
 
 } // namespace

@@ -23,7 +23,7 @@ namespace {
 bool touches( Event const & event, std::string const & path ) {
    std::string const place =
       event.path + ( event.attribute ? "/" + *event.attribute : "" ) + ( event.key ? "/" + *event.key : "" );
-   return path.empty() || isAtOrBelow( place, path ) || isAtOrBelow( path, place );
+   return path.empty() || Rex::isAtOrBelow( place, path ) || Rex::isAtOrBelow( path, place );
 }
 
 // The time of day here, to the millisecond; now, where the database doesn't tell when it was.
@@ -106,7 +106,8 @@ int watchState( StateStore & store, std::string const & path, bool json ) {
    auto const terminated = store.loop().signal( SIGTERM, [&] { came = SIGTERM; } );
    auto const watch = store.watch(
       { .is = [&]( Transaction const & transaction ) { show( transaction, path, json ); },
-        .begins = []( std::string const & why ) { std::cerr << "l3sm: " << printable( why ) << "; going on with it\n"; } } );
+        .begins =
+           []( std::string const & why ) { std::cerr << "l3sm: " << printable( why ) << "; going on with it\n"; } } );
    while ( came == 0 && std::cout ) {
       watch->turn();
    }

@@ -14,7 +14,6 @@ namespace Simulator {
 namespace {
 
 using Rex::ValueError;
-using Kind = Fault::Kind;
 using Number = Rex::Codec< U32 >;
 
 constexpr std::array< char const *, 5 > names{ "lost", "flip", "stuck", "error", "delay" };
@@ -46,21 +45,21 @@ void Fault::kindIs( std::string const & text ) {
    if ( name == names.end() ) {
       refuseKind( text );
    }
-   auto const wanted = static_cast< Kind >( name - names.begin() );
-   bool const takesMore = wanted != Kind::lost && wanted != Kind::error;
+   auto const wanted = static_cast< Fault::Kind >( name - names.begin() );
+   bool const takesMore = wanted != Fault::Kind::lost && wanted != Fault::Kind::error;
    if ( takesMore == rest.empty() ) {
       refuseKind( text );
    }
-   if ( wanted == Kind::flip ) {
+   if ( wanted == Fault::Kind::flip ) {
       bit = numberIn( rest, text );
-   } else if ( wanted == Kind::stuck ) {
+   } else if ( wanted == Fault::Kind::stuck ) {
       auto const equals = rest.find( '=' );
       if ( equals == std::string::npos || ( rest.substr( equals ) != "=0" && rest.substr( equals ) != "=1" ) ) {
          refuseKind( text );
       }
       bit = numberIn( rest.substr( 0, equals ), text );
       value = rest.back() == '1';
-   } else if ( wanted == Kind::delay ) {
+   } else if ( wanted == Fault::Kind::delay ) {
       milliseconds = numberIn( rest, text );
       if ( milliseconds > longestDelay ) {
          throw ValueError( "/kind", "an operation is delayed by " + std::to_string( longestDelay ) + " ms at most" );
@@ -72,11 +71,11 @@ void Fault::kindIs( std::string const & text ) {
 std::string Fault::kindText() const {
    std::string const name = names[static_cast< std::size_t >( kind )];
    switch ( kind ) {
-   case Kind::flip:
+   case Fault::Kind::flip:
       return name + ":" + std::to_string( bit );
-   case Kind::stuck:
+   case Fault::Kind::stuck:
       return name + ":" + std::to_string( bit ) + "=" + ( value ? "1" : "0" );
-   case Kind::delay:
+   case Fault::Kind::delay:
       return name + ":" + std::to_string( milliseconds );
    default:
       return name;
@@ -272,7 +271,7 @@ void check( Fault const & fault, Hardware::ChipType chipType ) {
                            rangeText( 0, static_cast< U32 >( layout.selectors.size() ) - 1 ) + on + ", not " +
                            std::to_string( *fault.copy ) );
    }
-   bool const hasBit = fault.kind == Kind::flip || fault.kind == Kind::stuck;
+   bool const hasBit = fault.kind == Fault::Kind::flip || fault.kind == Fault::Kind::stuck;
    if ( hasBit && fault.bit >= layout.width * 32u ) {
       throw ValueError( "/kind",
                         "an entry of " + fault.table + " has the bits 0 to " + std::to_string( layout.width * 32 - 1 ) +

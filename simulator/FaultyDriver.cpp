@@ -8,7 +8,6 @@ namespace Simulator {
 
 namespace {
 
-using Kind = Fault::Kind;
 using DaceSal::SchanError;
 
 constexpr double millisecondsInSecond = 1000;
@@ -45,8 +44,8 @@ U32 FaultyDriver::arm( Fault const & fault ) {
    check( fault, chipTypes_ );
    Armed & armed = armed_.emplace_back(
       Armed{ .number = ++last_, .fault = fault, .begun = Rex::now(), .chance = std::mt19937_64( fault.seed ) } );
-   bool const isStuckHere = fault.kind == Kind::stuck && !fault.table.empty();
-   if ( fault.probability >= 1 && ( fault.kind == Kind::flip || isStuckHere ) ) {
+   bool const isStuckHere = fault.kind == Fault::Kind::stuck && !fault.table.empty();
+   if ( fault.probability >= 1 && ( fault.kind == Fault::Kind::flip || isStuckHere ) ) {
       decay( armed );
    }
    return last_;
@@ -128,7 +127,7 @@ std::optional< FaultyDriver::Decaying > FaultyDriver::anyPlace( Armed & armed ) 
 void FaultyDriver::tell(
    Armed & armed, ChipId chip, TablePlace const & place, std::span< U32 const > words, bool isByOperation ) {
    ++armed.fired;
-   U32 const most = armed.fault.count.value_or( armed.fault.kind == Kind::flip ? 1 : ~U32{ 0 } );
+   U32 const most = armed.fault.count.value_or( armed.fault.kind == Fault::Kind::flip ? 1 : ~U32{ 0 } );
    armed.isOver = armed.fired >= most;
    if ( options_.fired ) {
       options_.fired( { .what = armed.fault.kindText(),
@@ -144,7 +143,8 @@ bool FaultyDriver::decayAt( Armed & armed, Decaying const & it ) {
    Fault const & fault = armed.fault;
    std::vector< U32 > words( it.place.layout->width );
    chips_.read( it.chip, it.at, words );
-   if ( !isThere( words, fault.bit ) || ( fault.kind == Kind::stuck && bitOf( words, fault.bit ) == fault.value ) ) {
+   if ( !isThere( words, fault.bit ) ||
+        ( fault.kind == Fault::Kind::stuck && bitOf( words, fault.bit ) == fault.value ) ) {
       return false;
    }
    turn( words, fault.bit );
@@ -166,7 +166,7 @@ void FaultyDriver::decay( Armed & armed ) {
       return;
    }
    auto const places = placesOf( fault );
-   if ( fault.kind == Kind::stuck ) {
+   if ( fault.kind == Fault::Kind::stuck ) {
       for ( auto const & place : places ) {
          if ( !armed.isOver ) {
             decayAt( armed, place );
@@ -192,8 +192,8 @@ std::optional< TablePlace > FaultyDriver::fires( Armed & armed, ChipId chip, Sch
 // What happens to an operation before it reaches its chip.
 void FaultyDriver::beforeAll( ChipId chip, SchanAddress const & at, bool isWrite ) {
    for ( Armed & armed : armed_ ) {
-      bool const isError = armed.fault.kind == Kind::error;
-      if ( !isError && armed.fault.kind != Kind::delay ) {
+      bool const isError = armed.fault.kind == Fault::Kind::error;
+      if ( !isError && armed.fault.kind != Fault::Kind::delay ) {
          continue;
       }
       auto const place = fires( armed, chip, at );
@@ -223,20 +223,20 @@ bool FaultyDriver::write( ChipId chip, SchanAddress const & at, std::span< U32 c
    bool isLost = false;
    for ( Armed & armed : armed_ ) {
       Fault const & fault = armed.fault;
-      bool const isFlip = fault.kind == Kind::flip && fault.probability < 1;
-      bool const isStuck = fault.kind == Kind::stuck;
-      if ( fault.kind != Kind::lost && !isFlip && !isStuck ) {
+      bool const isFlip = fault.kind == Fault::Kind::flip && fault.probability < 1;
+      bool const isStuck = fault.kind == Fault::Kind::stuck;
+      if ( fault.kind != Fault::Kind::lost && !isFlip && !isStuck ) {
          continue;
       }
-      if ( fault.kind != Kind::lost && !isThere( words, fault.bit ) ) {
+      if ( fault.kind != Fault::Kind::lost && !isThere( words, fault.bit ) ) {
          continue;
       }
       auto const place = fires( armed, chip, at );
       if ( !place || ( isStuck && bitOf( arriving, fault.bit ) == fault.value ) ) {
          continue;
       }
-      isLost = isLost || fault.kind == Kind::lost;
-      if ( fault.kind != Kind::lost ) {
+      isLost = isLost || fault.kind == Fault::Kind::lost;
+      if ( fault.kind != Fault::Kind::lost ) {
          turn( arriving, fault.bit );
       }
       fired.emplace_back( &armed, *place );

@@ -10,7 +10,6 @@ namespace {
 
 using Corvo::Ptr;
 using Home = StateRoot::Home;
-using Kind = StateRoot::Kind;
 
 template< class T >
 Ptr< Rex::Entity > make() {
@@ -28,7 +27,7 @@ Ptr< Rex::Entity > makeTaskScheduler() {
 }
 
 constexpr std::array roots{
-   StateRoot{ Home::database, "hardware/dace/fap/status", make< Rex::Dir >, Kind::given },
+   StateRoot{ Home::database, "hardware/dace/fap/status", make< Rex::Dir >, StateRoot::Kind::given },
    StateRoot{ Home::database, "bridging/config", make< Bridging::Config > },
    StateRoot{ Home::database, "bridging/hwcapabilities", make< Bridging::HwCapabilities > },
    StateRoot{ Home::database, "routerMac/hwCapability", make< RouterMac::HwCapability > },
@@ -57,9 +56,10 @@ constexpr std::array roots{
    StateRoot{ Home::writeAllowed, "phySmStateSharedStatus", make< DaceFapNi::PhySmStateSharedStatus > },
    StateRoot{ Home::readOnly, "driverSetupSmStateInfo", make< DaceFapNi::DriverSetupSmStateInfo > },
    StateRoot{ Home::readOnly, "portStateInfo", make< DaceFapNi::PortStateInfo > },
-   StateRoot{ Home::writeAllowed, "chipInitConfigDir", make< DaceFapNi::ChipInitConfigDir >, Kind::machinery },
-   StateRoot{ Home::readOnly, "agentSdkState", make< DaceFapNi::AgentSdkState >, Kind::machinery },
-   StateRoot{ Home::writeAllowed, "agentScheduler", makeTaskScheduler, Kind::machinery },
+   StateRoot{
+      Home::writeAllowed, "chipInitConfigDir", make< DaceFapNi::ChipInitConfigDir >, StateRoot::Kind::machinery },
+   StateRoot{ Home::readOnly, "agentSdkState", make< DaceFapNi::AgentSdkState >, StateRoot::Kind::machinery },
+   StateRoot{ Home::writeAllowed, "agentScheduler", makeTaskScheduler, StateRoot::Kind::machinery },
 };
 
 } // namespace

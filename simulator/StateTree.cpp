@@ -10,7 +10,6 @@ using Corvo::Ptr;
 using Rex::Attribute;
 using Rex::ValueError;
 using Home = StateRoot::Home;
-using Kind = StateRoot::Kind;
 
 Corvo::String databasePath( StateRoot const & root ) {
    return root.home == Home::cell ? Cell::path( root.name, 0 ) : root.name;
@@ -21,10 +20,10 @@ Corvo::String databasePath( StateRoot const & root ) {
 }
 
 void checkMayChange( StateRoot const & root ) {
-   if ( root.kind == Kind::given ) {
+   if ( root.kind == StateRoot::Kind::given ) {
       refusePath( root.path() + " is told by the description of the switch and can't be set" );
    }
-   if ( root.kind == Kind::machinery ) {
+   if ( root.kind == StateRoot::Kind::machinery ) {
       refusePath( root.path() + " has no attributes that can be set" );
    }
 }
@@ -191,7 +190,7 @@ std::string StateTree::pathOf( Rex::Entity const & entity ) const {
 Rex::Value StateTree::value() const {
    Rex::Value::Object all;
    for ( auto const & root : stateRoots() ) {
-      if ( root.kind != Kind::machinery ) {
+      if ( root.kind != StateRoot::Kind::machinery ) {
          auto const entity = rootEntity( root );
          all.emplace( root.path(), entity ? entity->value() : Rex::Value() );
       }

@@ -44,9 +44,8 @@ StateRoot const & StateTree::rootOf( std::string const & path ) {
    std::size_t longest = paths.size();
    for ( std::size_t root = 0; root < paths.size(); ++root ) {
       std::string const & candidate = paths[root];
-      bool const leads =
-         path.starts_with( candidate ) && ( path.size() == candidate.size() || path[candidate.size()] == '/' );
-      if ( leads && ( longest == paths.size() || candidate.size() > paths[longest].size() ) ) {
+      if ( Rex::isAtOrBelow( path, candidate ) &&
+           ( longest == paths.size() || candidate.size() > paths[longest].size() ) ) {
          longest = root;
       }
    }

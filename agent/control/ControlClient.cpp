@@ -17,8 +17,7 @@ namespace {
 using Inspection::InputError;
 using Rex::Value;
 
-constexpr int milliseconds = 1000; // in a second
-constexpr std::size_t chunk = 1 << 18;
+constexpr std::size_t answerAtATime = 1 << 18;
 
 // With room behind it, as the parser wants.
 template< class Use >
@@ -66,7 +65,7 @@ void ControlClient::fail( std::string const & what ) const {
 
 void ControlClient::wait( int events ) {
    pollfd agent{ socket_.number(), static_cast< short >( events ), 0 };
-   int const ready = ::poll( &agent, 1, options_.timeout * milliseconds );
+   int const ready = ::poll( &agent, 1, options_.timeout * millisecondsInSecond );
    if ( ready == 0 ) {
       fail( "hasn't answered for " + std::to_string( options_.timeout ) + " s; --timeout S waits longer" );
    }
@@ -100,8 +99,8 @@ std::string ControlClient::line() {
          return line;
       }
       searched = line.size();
-      line.resize( searched + chunk );
-      auto const got = ::recv( socket_.number(), line.data() + searched, chunk, MSG_DONTWAIT );
+      line.resize( searched + answerAtATime );
+      auto const got = ::recv( socket_.number(), line.data() + searched, answerAtATime, MSG_DONTWAIT );
       line.resize( searched + ( got > 0 ? static_cast< std::size_t >( got ) : 0 ) );
       if ( got == 0 || ( got < 0 && errno == ECONNRESET ) ) {
          fail( searched == 0 ? "has ended before it answered" : "has ended in the middle of its answer" );

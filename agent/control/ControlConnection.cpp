@@ -12,7 +12,7 @@ namespace Live {
 
 namespace {
 
-constexpr std::size_t chunk = 1 << 16; // that is read at a time
+constexpr std::size_t requestAtATime = 1 << 16; // that is read at a time
 
 } // namespace
 
@@ -37,8 +37,8 @@ void ControlConnection::ready( U32 events ) {
 
 void ControlConnection::receive() {
    std::size_t const before = in_.size();
-   in_.resize( before + chunk );
-   auto const got = ::recv( socket_.number(), in_.data() + before, chunk, MSG_DONTWAIT );
+   in_.resize( before + requestAtATime );
+   auto const got = ::recv( socket_.number(), in_.data() + before, requestAtATime, MSG_DONTWAIT );
    in_.resize( before + ( got > 0 ? static_cast< std::size_t >( got ) : 0 ) );
    lastHeard_ = Rex::now();
    hasAll_ = hasAll_ || got == 0;

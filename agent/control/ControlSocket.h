@@ -19,6 +19,9 @@ using Simulator::Descriptor;
 
 inline constexpr char const * controlFolder = "/run/l3sm";
 
+// What poll counts in.
+inline constexpr int millisecondsInSecond = 1000;
+
 std::string controlPath( std::string const & slice, std::string const & folder = controlFolder );
 // The slices that have a socket in the folder, sorted.
 std::vector< std::string > slicesThere( std::string const & folder = controlFolder );

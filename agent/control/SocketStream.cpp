@@ -1,5 +1,7 @@
 #include "agent/control/SocketStream.h"
 
+#include "agent/control/ControlSocket.h"
+
 #include <algorithm>
 #include <cerrno>
 #include <poll.h>
@@ -10,7 +12,6 @@ namespace Live {
 namespace {
 
 constexpr std::size_t bufferBytes = 1 << 16;
-constexpr int milliseconds = 1000; // in a second
 
 } // namespace
 
@@ -44,7 +45,7 @@ void SocketBuffer::send( char lineEnd ) {
       }
       pollfd client{ socket_, POLLOUT, 0 };
       bool const mayWait = errno == EAGAIN || errno == EWOULDBLOCK;
-      if ( !mayWait || ::poll( &client, 1, patience_ * milliseconds ) == 0 ) {
+      if ( !mayWait || ::poll( &client, 1, patience_ * millisecondsInSecond ) == 0 ) {
          throw Stuck();
       }
    }

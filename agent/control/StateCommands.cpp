@@ -31,7 +31,7 @@ Answer transacted( AgentSubjects const & subjects, std::vector< Event > changes 
 
 // What of the state lies at a path and below it, of all of it.
 Value::Object below( Value::Object all, std::string const & path ) {
-   std::erase_if( all, [&]( auto const & it ) { return !isAtOrBelow( it.first, path ); } );
+   std::erase_if( all, [&]( auto const & it ) { return !Rex::isAtOrBelow( it.first, path ); } );
    return all;
 }
 

@@ -9,7 +9,7 @@ namespace Live {
 namespace {
 
 // Between two tries where the cluster has no space.
-constexpr Rex::Seconds pause = 5;
+constexpr Rex::Seconds pauseAfterAFault = 5;
 
 bool isOfSpace( std::string const & error ) {
    return error.find( "database space exceeded" ) != std::string::npos;
@@ -104,7 +104,7 @@ void EtcdPublisher::write() {
 void EtcdPublisher::written( EtcdReply const & reply ) {
    if ( isOfSpace( reply.error ) ) {
       say( Level::warning, "what the agent tells can't be written: " + reply.error );
-      again_ = loop_.timer( pause, [this] { write(); } );
+      again_ = loop_.timer( pauseAfterAFault, [this] { write(); } );
       return;
    }
    if ( !reply.error.empty() || !reply.succeeded ) {

@@ -9,8 +9,8 @@ namespace Live {
 
 namespace {
 
-constexpr std::chrono::seconds patience{ 10 };
-constexpr Rex::Seconds pause = 0.1;
+constexpr std::chrono::seconds patienceWithCluster{ 10 };
+constexpr Rex::Seconds pauseBetweenTries = 0.1;
 
 // What says nothing of what was asked, but of the cluster's state: somebody else, or somebody later, may do it.
 bool isPassing( std::string const & error ) {
@@ -57,13 +57,13 @@ void EtcdSession::next( Clock::time_point since ) {
    if ( !hasAnswered_ && wereAllAsked ) {
       refuse( reason_ + "; --database URL or L3SM_DATABASE says where the database is" );
    }
-   if ( Clock::now() - since > patience ) {
+   if ( Clock::now() - since > patienceWithCluster ) {
       refuse( reason_ );
    }
    if ( wereAllAsked ) {
-      auto const come = Clock::now() + std::chrono::duration< double >( pause );
+      auto const come = Clock::now() + std::chrono::duration< double >( pauseBetweenTries );
       while ( Clock::now() < come ) {
-         loop_.turn( pause );
+         loop_.turn( pauseBetweenTries );
       }
    }
 }

@@ -6,7 +6,7 @@ namespace Live {
 
 namespace {
 
-constexpr Rex::Seconds pause = 2;
+constexpr Rex::Seconds pauseBeforeAnother = 2;
 // As often as all members may be lost in a row, half a second apart.
 constexpr std::size_t mostRounds = 20;
 constexpr Rex::Seconds betweenRounds = 0.5;
@@ -42,7 +42,7 @@ void EtcdWatch::begin() {
 }
 
 void EtcdWatch::turn() {
-   session_.loop().turn( pause );
+   session_.loop().turn( pauseBeforeAnother );
    if ( failed_ ) {
       session_.refuse( *failed_ );
    }

@@ -21,7 +21,7 @@ class Way {
 
    std::vector< Event > events() {
       for ( auto const & [path, attributes] : from_ ) {
-         if ( !to_.contains( path ) && !isAtOrBelow( path, gone_ ) ) {
+         if ( !to_.contains( path ) && !Rex::isAtOrBelow( path, gone_ ) ) {
             looking( path, [&, at = path, was = &attributes] { goes( at, *was ); } );
          }
       }

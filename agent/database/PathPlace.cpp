@@ -40,7 +40,7 @@ std::vector< Root > const & roots() {
 Root const & rootOf( std::string const & path ) {
    Root const * longest = nullptr;
    for ( Root const & root : roots() ) {
-      if ( isAtOrBelow( path, root.path ) && ( !longest || root.path.size() > longest->path.size() ) ) {
+      if ( Rex::isAtOrBelow( path, root.path ) && ( !longest || root.path.size() > longest->path.size() ) ) {
          longest = &root;
       }
    }
@@ -73,10 +73,6 @@ std::size_t endOfKey( TypeData const & type, std::string const & path, std::size
 }
 
 } // namespace
-
-bool isAtOrBelow( std::string const & path, std::string const & owner ) {
-   return path.starts_with( owner ) && ( path.size() == owner.size() || path[owner.size()] == '/' );
-}
 
 Attribute const & settableAttribute( TypeData const & type, std::string const & name ) {
    auto const & attribute = Rex::attributeOf( type, name );

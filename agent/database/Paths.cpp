@@ -136,7 +136,8 @@ PathLookup::PathLookup( Paths const & paths )
         if ( paths.contains( path ) ) {
            found.push_back( path );
         }
-        for ( auto at = paths.lower_bound( path + "/" ); at != paths.end() && isAtOrBelow( at->first, path ); ++at ) {
+        for ( auto at = paths.lower_bound( path + "/" ); at != paths.end() && Rex::isAtOrBelow( at->first, path );
+              ++at ) {
            found.push_back( at->first );
         }
         return found;

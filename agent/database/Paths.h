@@ -46,7 +46,6 @@ struct PathPlace {
 
 // Throws Rex::ValueError, its place "/path", for a path at which nothing can stand, or that others can't set.
 PathPlace placeOf( std::string const & path );
-bool isAtOrBelow( std::string const & path, std::string const & owner );
 // Throws Rex::ValueError for a name that the type doesn't have, or that others can't set.
 Rex::Attribute const & settableAttribute( Rex::TypeData const & type, std::string const & name );
 // How what is set in a member of a collection makes a member that isn't there.

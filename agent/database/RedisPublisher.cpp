@@ -5,10 +5,10 @@ namespace Live {
 namespace {
 
 // KEYS: the set of what is published. What isn't what it should be goes, too.
-constexpr char const * wipeScript = "local paths = redis.pcall( 'SMEMBERS', KEYS[1] ) "
-                                    "if not paths.err then for _, path in ipairs( paths ) do "
-                                    "redis.call( 'DEL', KEYS[1] .. ':' .. path ) end end "
-                                    "redis.call( 'DEL', KEYS[1] )";
+constexpr char const * wipePublished = "local paths = redis.pcall( 'SMEMBERS', KEYS[1] ) "
+                                       "if not paths.err then for _, path in ipairs( paths ) do "
+                                       "redis.call( 'DEL', KEYS[1] .. ':' .. path ) end end "
+                                       "redis.call( 'DEL', KEYS[1] )";
 
 void nothing( RedisReply ) {}
 
@@ -105,7 +105,7 @@ void RedisPublisher::writeAgent( RedisConnection & connection ) {
 void RedisPublisher::writePublished( RedisConnection & connection ) {
    std::string const paths = layout_.published( slice_ );
    if ( isWhole_ ) {
-      connection.ask( { "EVAL", wipeScript, "1", paths }, nothing );
+      connection.ask( { "EVAL", wipePublished, "1", paths }, nothing );
    }
    for ( auto const & [path, change] : published_ ) {
       std::string const key = paths + ":" + path;

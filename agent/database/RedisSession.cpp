@@ -10,7 +10,7 @@ namespace {
 
 using Clock = std::chrono::steady_clock;
 
-constexpr std::chrono::seconds patience{ 10 };
+constexpr std::chrono::seconds patienceWithAnswers{ 10 };
 
 } // namespace
 
@@ -26,8 +26,8 @@ void RedisSession::until( std::function< bool() > const & holds ) {
    while ( !lost_ && !holds() ) {
       if ( loop_.turn( 1 ) ) {
          heard = Clock::now();
-      } else if ( Clock::now() - heard > patience ) {
-         refuse( "no answer for " + std::to_string( patience.count() ) + " s" );
+      } else if ( Clock::now() - heard > patienceWithAnswers ) {
+         refuse( "no answer for " + std::to_string( patienceWithAnswers.count() ) + " s" );
       }
    }
    if ( lost_ ) {

@@ -16,7 +16,7 @@ constexpr char const * longestLog = "100000";
 // ---- looking
 
 Snapshot RedisStore::snapshot( std::string const & path ) {
-   auto const isWanted = [&]( std::string const & at ) { return path.empty() || isAtOrBelow( at, path ); };
+   auto const isWanted = [&]( std::string const & at ) { return path.empty() || Rex::isAtOrBelow( at, path ); };
    auto snapshot = session_.snapshot( layout_, isWanted );
    std::erase_if( snapshot.paths, [&]( auto const & each ) { return !isWanted( each.first ); } );
    return snapshot;
@@ -27,7 +27,7 @@ Paths RedisStore::about( std::string const & path ) {
    session_.ask( { "SMEMBERS", layout_.paths() }, [&]( RedisReply reply ) {
       for ( RedisReply const name : reply ) {
          std::string const text( name.text() );
-         if ( isAtOrBelow( text, path ) || isAtOrBelow( path, text ) ) {
+         if ( Rex::isAtOrBelow( text, path ) || Rex::isAtOrBelow( path, text ) ) {
             names.push_back( text );
          }
       }

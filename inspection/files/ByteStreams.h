@@ -22,6 +22,9 @@
 
 namespace Inspection {
 
+// Bytes that whoever reads a file from end to end asks for at a time.
+inline constexpr std::size_t readAtOnce = 1 << 18;
+
 bool isCompressedName( std::string_view path );
 
 class ByteSink {

@@ -79,7 +79,7 @@ Simulator::Contents contentsOf( Fields & fields ) {
    return contents;
 }
 
-FapContents fapFromValue( Value const & value ) {
+FapContents fapContentsFromValue( Value const & value ) {
    FapContents fap;
    Rex::ValueErrors errors;
    Fields fields( value );
@@ -279,7 +279,7 @@ ChipsFile readChips( std::string const & path ) {
          auto const & faps = fields.required( "faps" );
          Rex::below( "faps", [&] {
             forEachMember( faps, [&]( std::string const & key, Value const & fap ) {
-               chips.emplace( Rex::Codec< U16 >::fromKey( key ), fapFromValue( fap ) );
+               chips.emplace( Rex::Codec< U16 >::fromKey( key ), fapContentsFromValue( fap ) );
             } );
          } );
       } );

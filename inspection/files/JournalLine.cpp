@@ -17,11 +17,11 @@ namespace dom = simdjson::dom;
 using namespace JsonElements;
 
 constexpr std::string_view scopeNames[] = { "any", "all", "core" };
-constexpr std::string_view endingNames[] = { "complete", "interrupted", "assertion" };
+constexpr std::string_view writtenEndings[] = { "complete", "interrupted", "assertion" };
 
 Ending endingOf( dom::object const & object ) {
    Ending ending;
-   ending.kind = oneOf< Ending::Kind >( text( object, "ended" ), "ended", endingNames );
+   ending.kind = oneOf< Ending::Kind >( text( object, "ended" ), "ended", writtenEndings );
    ending.events = number< U32 >( object, "events" );
    ending.operations = number< U64 >( object, "operations" );
    if ( ending.kind == Ending::Kind::assertion ) {

@@ -18,8 +18,6 @@ using Rex::ValueError;
 using Simulator::Ending;
 using Simulator::Row;
 
-constexpr std::size_t chunk = 1 << 18;
-
 } // namespace
 
 struct JournalReader::Parser : JournalLineParser {};
@@ -112,10 +110,10 @@ bool JournalReader::nextLine( Line & line ) {
          to_ -= from_;
          from_ = 0;
       }
-      if ( buffer_.size() < to_ + chunk + simdjson::SIMDJSON_PADDING ) {
-         buffer_.resize( 2 * to_ + chunk + simdjson::SIMDJSON_PADDING );
+      if ( buffer_.size() < to_ + readAtOnce + simdjson::SIMDJSON_PADDING ) {
+         buffer_.resize( 2 * to_ + readAtOnce + simdjson::SIMDJSON_PADDING );
       }
-      auto const size = source_.read( { buffer_.data() + to_, chunk } );
+      auto const size = source_.read( { buffer_.data() + to_, readAtOnce } );
       to_ += size;
       isAtEnd_ = size == 0;
    }

@@ -2,6 +2,7 @@
 
 #include "inspection/Version.h"
 #include "inspection/files/Json.h"
+#include "inspection/files/RowNames.h"
 
 #include <array>
 #include <charconv>
@@ -14,8 +15,6 @@ using Simulator::Ending;
 using Simulator::Row;
 
 constexpr std::size_t textBytes = 1 << 16;
-
-constexpr std::string_view endingNames[] = { "complete", "interrupted", "assertion", "cut" };
 
 template< class Kind, std::size_t count >
 std::string_view nameOf( Kind kind, std::string_view const ( &names )[count] ) {

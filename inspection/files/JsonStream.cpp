@@ -11,7 +11,6 @@ namespace Inspection {
 
 namespace {
 
-constexpr std::size_t chunk = 1 << 18;
 constexpr std::size_t padding = 64; // what simdjson may read behind a value
 
 bool isSpace( char letter ) {
@@ -63,10 +62,10 @@ bool JsonStream::refill() {
       dropped_ += first;
       kept_ = 0;
    }
-   if ( buffer_.size() < to_ + chunk + padding ) {
-      buffer_.resize( 2 * to_ + chunk + padding );
+   if ( buffer_.size() < to_ + readAtOnce + padding ) {
+      buffer_.resize( 2 * to_ + readAtOnce + padding );
    }
-   auto const size = source_.read( { buffer_.data() + to_, chunk } );
+   auto const size = source_.read( { buffer_.data() + to_, readAtOnce } );
    to_ += size;
    return size > 0;
 }

@@ -18,7 +18,7 @@ using Rex::Value;
 constexpr std::size_t deepest = 64;
 constexpr std::string_view fractionKey = "probability"; // the one that has fractions, which are kept as their text
 constexpr std::size_t told = 20;                        // of many faults
-constexpr std::size_t longest = 600;                    // of a fault's text, which may quote what stands in the file
+constexpr std::size_t longestFault = 600;               // of a fault's text, which may quote what stands in the file
 
 constexpr std::string_view byteOrderMark = "\xef\xbb\xbf";
 
@@ -153,14 +153,9 @@ class ValueBuilder {
    Value result_;
 };
 
-// What stands at or below a place.
-bool isWithin( std::string const & inner, std::string const & outer ) {
-   return inner.starts_with( outer ) && ( inner.size() == outer.size() || inner[outer.size()] == '/' );
-}
-
 std::string shortened( std::string text ) {
-   if ( text.size() > longest ) {
-      text.resize( longest );
+   if ( text.size() > longestFault ) {
+      text.resize( longestFault );
       while ( !text.empty() && ( static_cast< unsigned char >( text.back() ) & 0xc0 ) == 0x80 ) {
          text.pop_back(); // not in the middle of a character
       }
@@ -198,8 +193,8 @@ JsonText::JsonText( std::string name, std::string text ) : name_( std::move( nam
 std::vector< Fault > JsonText::with( std::vector< Fault > found ) const {
    // What the text is blamed for already, stands in its value as null.
    std::erase_if( found, [&]( Fault const & fault ) {
-      return std::ranges::any_of( faults_,
-                                  [&]( Fault const & of ) { return !of.isKey && isWithin( fault.place, of.place ); } );
+      return std::ranges::any_of(
+         faults_, [&]( Fault const & of ) { return !of.isKey && Rex::isAtOrBelow( fault.place, of.place ); } );
    } );
    found.insert( found.end(), faults_.begin(), faults_.end() );
    return found;

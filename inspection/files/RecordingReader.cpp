@@ -13,8 +13,6 @@ namespace {
 using Rex::Value;
 using Rex::ValueError;
 
-constexpr std::size_t chunk = 1 << 18;
-
 U64 hashOf( std::string const & text ) {
    U64 hash = 0;
    auto const * const end = text.data() + text.size();
@@ -87,8 +85,8 @@ bool RecordingReader::nextLine( std::string & line, bool & isWhole ) {
       buffer_.erase( 0, from_ );
       from_ = 0;
       searched = buffer_.size();
-      buffer_.resize( searched + chunk );
-      auto const size = source_.read( { buffer_.data() + searched, chunk } );
+      buffer_.resize( searched + readAtOnce );
+      auto const size = source_.read( { buffer_.data() + searched, readAtOnce } );
       buffer_.resize( searched + size );
       if ( size == 0 ) {
          line = std::exchange( buffer_, {} );

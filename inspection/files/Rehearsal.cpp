@@ -10,10 +10,6 @@ using Rex::Value;
 using Rex::ValueError;
 using Rex::ValueErrors;
 
-bool isWithin( std::string const & inner, std::string const & outer ) {
-   return inner.starts_with( outer ) && ( inner.size() == outer.size() || inner[outer.size()] == '/' );
-}
-
 bool isPublished( std::string const & path ) {
    return path == "managed/intfStatusDir" || path == "managed/intfStatusLocalDir";
 }
@@ -111,8 +107,9 @@ void Rehearsal::isWithout( Event const & event ) {
 
 // A path that nobody knows is an error wherever it stands.
 void Rehearsal::isMissing( std::string const & path ) {
-   bool const isKnown = std::ranges::any_of(
-      Simulator::stateRoots(), [&]( Simulator::StateRoot const & root ) { return isWithin( path, root.path() ); } );
+   bool const isKnown = std::ranges::any_of( Simulator::stateRoots(), [&]( Simulator::StateRoot const & root ) {
+      return Rex::isAtOrBelow( path, root.path() );
+   } );
    if ( isKnown ) {
       missing_.push_back( path );
    }
@@ -124,7 +121,7 @@ bool Rehearsal::isExpected( Event const & event, ValueError const & error ) cons
    auto const entry =
       event.attribute && event.key ? event.path + "/" + *event.attribute + "/" + *event.key : event.path;
    return isAbsent &&
-          std::ranges::any_of( missing_, [&]( std::string const & path ) { return isWithin( entry, path ); } );
+          std::ranges::any_of( missing_, [&]( std::string const & path ) { return Rex::isAtOrBelow( entry, path ); } );
 }
 
 } // namespace Inspection

@@ -21,7 +21,7 @@ using Rex::Value;
 using Object = Rex::Value::Object;
 using List = Rex::Value::List;
 
-Value const text = Object{ { "type", "string" } };
+Value const anyText = Object{ { "type", "string" } };
 
 Value described( Value schema, std::string const & description ) {
    ( *schema.object() )["description"] = description;
@@ -36,14 +36,14 @@ Value switchSchema() {
    ( *revision.object() )["required"] = List{ "chipType" };
    Object const fap{
       { "fapId", schemaOf( Codec< Hardware::Dace::FapId >::type() ) },
-      { "name", described( text, "default: Fap and its number" ) },
+      { "name", described( anyText, "default: Fap and its number" ) },
       { "cores", described( schemaOf( number ), "default: one for each physical copy that the chip has" ) },
       { "ports", described( objectSchema( number, schemaOf( number ) ), "system port to port of the FAP" ) },
       { "revision", revision },
    };
    Object const faps{
       { "type", "array" }, { "minItems", 1 }, { "items", objectSchema( fap, { "fapId", "revision" } ) } };
-   return objectSchema( { { "slice", objectSchema( Object{ { "name", text } } ) }, { "faps", faps } }, { "faps" } );
+   return objectSchema( { { "slice", objectSchema( Object{ { "name", anyText } } ) }, { "faps", faps } }, { "faps" } );
 }
 
 Value togglesSchema() {
@@ -133,7 +133,7 @@ std::string patternOf( StatePath const & path ) {
       pattern += pattern.empty() ? "" : "/";
       pattern += step == "NUMBER"               ? "(?:" + numberPattern( 0, 0xffffffff ) + ")"
                  : StatePath::isKeyWord( step ) ? ".+"
-                                                : escaped( step );
+                                                : escapedInPattern( step );
    }
    std::string others;
    for ( StatePath const & other : statePaths() ) {
@@ -223,7 +223,7 @@ Value eventSchema( EntitySchemas & entities ) {
    }
    known.insert( known.begin(), Object{ { "enum", fixed } } );
    Object const both{
-      { "path", Object{ { "type", "string" }, { "anyOf", known } } }, { "attribute", text }, { "key", text } };
+      { "path", Object{ { "type", "string" }, { "anyOf", known } } }, { "attribute", anyText }, { "key", anyText } };
    Object withValue = both;
    withValue["value"] = true;
    Value set = objectSchema( withValue, { "path", "attribute", "value" } );
@@ -273,8 +273,8 @@ Value scenarioSchema() {
    EntitySchemas entities;
    Object definitions;
    Object const members{
-      { "$schema", described( text, "where editors find this schema" ) },
-      { "name", described( text, "one line, for people" ) },
+      { "$schema", described( anyText, "where editors find this schema" ) },
+      { "name", described( anyText, "one line, for people" ) },
       { "switch", described( switchSchema(), "the slice and its FAPs" ) },
       { "toggles", described( togglesSchema(), "file, then toggle; what is not named has its default" ) },
       { "chips", described( chipsSchema( definitions ), "contents on top of the boot image, by FAP" ) },

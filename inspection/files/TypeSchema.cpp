@@ -64,7 +64,7 @@ std::string keyPattern( ValueType const & key ) {
    return key.kind == ValueType::Kind::number ? numberPattern( 0, key.highest ) : ".*";
 }
 
-std::string escaped( std::string const & text ) {
+std::string escapedInPattern( std::string const & text ) {
    std::string pattern;
    for ( char const letter : text ) {
       pattern += std::string_view( ".*+?()[]{}|^$\\" ).find( letter ) == std::string_view::npos

@@ -25,7 +25,7 @@ Rex::Value objectSchema( Rex::Value::Object const & members, Rex::Value::List co
 std::string numberPattern( std::uint64_t least, std::uint64_t most );
 std::string keyPattern( Rex::ValueType const & key );
 // The text as a regular expression that matches it alone.
-std::string escaped( std::string const & text );
+std::string escapedInPattern( std::string const & text );
 // The whole of a text.
 inline std::string whole( std::string const & pattern ) {
    return "^(?:" + pattern + ")$";

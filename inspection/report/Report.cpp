@@ -7,7 +7,7 @@ namespace Inspection {
 namespace {
 
 // Text in HTML: it can't end the element that it stands in.
-std::string escaped( std::string_view text ) {
+std::string inHtml( std::string_view text ) {
    std::string out;
    for ( char const letter : text ) {
       out += letter == '<' ? "&lt;" : letter == '&' ? "&amp;" : std::string( 1, letter );
@@ -42,12 +42,12 @@ std::string reportOf( ReportData const & data, std::vector< std::string > const 
       rest.remove_prefix( at + mark.size() );
    };
    upTo( "@TITLE@" );
-   page += escaped( data.title().empty() ? "l3sm run" : data.title() );
+   page += inHtml( data.title().empty() ? "l3sm run" : data.title() );
    upTo( "@STYLE@" );
    page += reportStyle;
    upTo( "@REMARKS@" );
    for ( std::string const & remark : remarks ) {
-      page += "<p>" + escaped( remark ) + "</p>";
+      page += "<p>" + inHtml( remark ) + "</p>";
    }
    if ( data.faults() > 0 ) {
       page += "<p>" + std::to_string( data.faults() ) + ( data.faults() == 1 ? " fault" : " faults" ) +

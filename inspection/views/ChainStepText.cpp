@@ -14,9 +14,9 @@ namespace {
 
 using Simulator::Row;
 
-constexpr std::size_t mostFields = 4; // of one write
-constexpr std::size_t mostPlaces = 2; // likewise
-constexpr U32 wide = 32;              // a field of more bits tells which of them differ
+constexpr std::size_t mostFieldsOfAWrite = 4; // of one write
+constexpr std::size_t mostPlaces = 2;         // likewise
+constexpr U32 mostBitsInWhole = 32;           // a field of more bits tells which of them differ
 
 // The places of one FAP: "[3] 0-31, [4] 7"; arrays with the same entries stand together.
 std::string arraysText( ChainStep const & step, ChainStep::Arrays const & arrays ) {
@@ -95,7 +95,7 @@ std::string changeText( ChainStep::Change const & change, Style const & style ) 
    }
    before = change.hasMoreBefores ? "various" : before.empty() ? "?" : before;
    std::string const after = numberText( change.after );
-   std::string const bits = change.width > wide && change.befores.size() == 1 && !change.hasMoreBefores
+   std::string const bits = change.width > mostBitsInWhole && change.befores.size() == 1 && !change.hasMoreBefores
                                ? bitsThatDiffer( change.befores.front(), change.after, change.width )
                                : "";
    std::string const name = change.name.empty() ? "" : change.name + "  ";
@@ -119,7 +119,7 @@ std::string endOf( std::string const & path, std::size_t width ) {
    return shortened( path, width );
 }
 
-std::string valueText( Rex::Value const & value ) {
+std::string publishedText( Rex::Value const & value ) {
    return value.isNull() ? "nothing" : toJson( value, 0 );
 }
 
@@ -214,7 +214,7 @@ void ChainStepText::writeChanges( ChainStep const & step,
       told.emplace_back( "no change" );
    }
    for ( ChainStep::Change const & change : changes ) {
-      if ( bounded_ && told.size() == mostFields && changes.size() > mostFields + 1 ) {
+      if ( bounded_ && told.size() == mostFieldsOfAWrite && changes.size() > mostFieldsOfAWrite + 1 ) {
          told.push_back( style_.faint( "and " + std::to_string( changes.size() - told.size() ) + " more fields" ) );
          break;
       }
@@ -253,7 +253,7 @@ void ChainStepText::writePublication( ChainStep const & step ) {
    std::string const change = isWhole ? ( step.after.isNull()    ? "removed"
                                           : step.before.isNull() ? "added"
                                                                  : "replaced" )
-                                      : valueText( step.before ) + " → " + valueText( step.after );
+                                      : publishedText( step.before ) + " → " + publishedText( step.after );
    std::string const text = "publishes " + step.attribute + "  " + fitting( change, lineWidth() / 2 ) + "  ";
    std::size_t const rest = lineWidth() - std::min( lineWidth() - 3, widthOf( text ) + 2 );
    constexpr std::size_t leastForPlace = 24;

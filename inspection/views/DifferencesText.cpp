@@ -11,7 +11,7 @@ using Rex::Value;
 constexpr std::size_t fewEntries = 30; // that are shown in full
 constexpr std::size_t fewLetters = 60; // of a value of the state
 
-std::string valueText( std::optional< std::string > const & value ) {
+std::string sideText( std::optional< std::string > const & value ) {
    if ( !value ) {
       return "-";
    }
@@ -95,7 +95,7 @@ void showEntries( std::ostream & out,
          place.clear();
       }
       for ( ValueDifference const & value : it.values ) {
-         blocks.value( place, value.name, valueText( value.a ), valueText( value.b ) );
+         blocks.value( place, value.name, sideText( value.a ), sideText( value.b ) );
          place.clear();
       }
    }

@@ -14,10 +14,10 @@ using Rex::Value;
 
 constexpr std::size_t fewDifferences = 6;
 constexpr std::size_t fewSteps = 12;
-constexpr std::size_t wide = 40; // for a value
+constexpr std::size_t longestEnd = 40; // for a value
 
-std::string valueText( std::string const & value ) {
-   return shortened( value.starts_with( "0x" ) ? readable( value ) : value, wide );
+std::string endText( std::string const & value ) {
+   return shortened( value.starts_with( "0x" ) ? readable( value ) : value, longestEnd );
 }
 
 // The reasons of all of it, once each; an empty one among them where none is listed.
@@ -93,8 +93,8 @@ void showDifferences( std::ostream & out, History const & history, bool all, Sty
       }
       out << "     " << ( it.table == "published" ? "" : "FAP " + std::to_string( it.fap ) + " " ) << it.table << " "
           << style.place( it.place ) << ( it.place.empty() ? "" : " " ) << it.field << "  "
-          << style.after( valueText( it.own ) ) << style.faint( " by its own road, " )
-          << style.before( valueText( it.here ) ) << style.faint( " by this" ) << '\n';
+          << style.after( endText( it.own ) ) << style.faint( " by its own road, " )
+          << style.before( endText( it.here ) ) << style.faint( " by this" ) << '\n';
    }
    for ( std::string_view const reason : reasonsOf( history ) ) {
       out << "     "

@@ -8,10 +8,10 @@ namespace Inspection {
 
 namespace {
 
-constexpr std::size_t further = 4;     // how far a line's continuation stands in
-constexpr std::size_t leastRoom = 16;  // for text, however narrow the terminal and deep the indent
-constexpr std::size_t mostRanges = 8;  // of bits, before they are only counted
-constexpr std::size_t narrow = 2 + 16; // a value in hexadecimal that is shown as it is
+constexpr std::size_t continuationMargin = 4; // how far a line's continuation stands in
+constexpr std::size_t leastRoom = 16;         // for text, however narrow the terminal and deep the indent
+constexpr std::size_t mostRanges = 8;         // of bits, before they are only counted
+constexpr std::size_t narrow = 2 + 16;        // a value in hexadecimal that is shown as it is
 
 // The bytes of the first `columns` characters.
 std::size_t bytesOf( std::string_view text, std::size_t columns ) {
@@ -79,7 +79,7 @@ void Lines::putAll( std::size_t indent, std::string const & text, bool isTitle )
    std::string rest = printable( text );
    for ( bool isFirst = true; isFirst || !rest.empty(); isFirst = false ) {
       std::size_t const in =
-         std::min( indent + ( isFirst ? 0 : further ), width_ > leastRoom ? width_ - leastRoom : 0 );
+         std::min( indent + ( isFirst ? 0 : continuationMargin ), width_ > leastRoom ? width_ - leastRoom : 0 );
       std::size_t const room = std::max( width_ - std::min( in, width_ ), std::size_t{ 1 } );
       std::string line = rest;
       rest.clear();
@@ -113,7 +113,7 @@ void Lines::list( std::size_t indent, std::string const & head, std::vector< std
       std::string const next = items[item] + ( item + 1 < items.size() ? "," : "" );
       if ( in + widthOf( line ) + 1 + widthOf( next ) > width_ && !line.empty() ) {
          put( in, line );
-         in = indent + further;
+         in = indent + continuationMargin;
          line = next;
       } else {
          line += ( line.empty() ? "" : " " ) + next;

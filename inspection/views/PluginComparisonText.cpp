@@ -37,9 +37,9 @@ struct Found {
    std::size_t places = 0;
 };
 
-std::string valueText( std::string const & value ) {
-   constexpr std::size_t wide = 36;
-   return value.empty() ? "unknown" : shortened( value.starts_with( "0x" ) ? readable( value ) : value, wide );
+std::string effectText( std::string const & value ) {
+   constexpr std::size_t longestEffect = 36;
+   return value.empty() ? "unknown" : shortened( value.starts_with( "0x" ) ? readable( value ) : value, longestEffect );
 }
 
 std::string nameOf( RunDifferences const & run ) {
@@ -65,7 +65,7 @@ void showSide( std::ostream & out, char const * name, std::optional< Effect > co
       out << style.faint( "no change" ) << '\n';
       return;
    }
-   out << valueText( side->from ) << style.faint( " → " ) << style.differs( valueText( side->to ) ) << "  "
+   out << effectText( side->from ) << style.faint( " → " ) << style.differs( effectText( side->to ) ) << "  "
        << side->function << ( side->source.empty() ? "" : "  " + style.faint( side->source ) ) << '\n';
 }
 

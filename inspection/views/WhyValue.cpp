@@ -9,7 +9,6 @@ namespace {
 using Rex::Value;
 using Simulator::Row;
 
-constexpr char const * endingNames[] = { "complete", "interrupted", "assertion", "cut" };
 constexpr char const * subjectNames[] = { "table", "control", "state", "function", "interface" };
 
 template< class Numbers >
@@ -183,7 +182,7 @@ Value whyValue( WhyAnswer const & answer ) {
    Value::Object value{
       { "subject", answer.subject.text() },
       { "kind", subjectNames[static_cast< std::size_t >( answer.subject.kind )] },
-      { "ended", endingNames[static_cast< std::size_t >( answer.ending.kind )] },
+      { "ended", std::string( endingNames[static_cast< std::size_t >( answer.ending.kind )] ) },
       { "ending", endingText( answer ) },
       { "remarks", listOf( answer.remarks ) },
       { "chain", chainValue( answer ) },

@@ -34,7 +34,7 @@ struct Ways {
    std::vector< std::vector< PassingValue const * > > all;
 };
 
-std::string valueText( std::string const & value ) {
+std::string passingText( std::string const & value ) {
    constexpr std::size_t most = 30;
    return shortened( value.starts_with( "0x" ) ? readable( value ) : value, most );
 }
@@ -45,7 +45,7 @@ std::string throughOf( std::vector< PassingValue const * > const & windows ) {
    for ( PassingValue const * const window : windows ) {
       values.insert( window->through );
    }
-   std::string const first = valueText( windows.front()->through );
+   std::string const first = passingText( windows.front()->through );
    return values.size() == 1 ? first : std::to_string( values.size() ) + " values, first " + first;
 }
 
@@ -95,8 +95,8 @@ void showWindows( std::ostream & out,
       out << "    " << it.table << ( it.field.empty() ? "" : "." + it.field )
           << ( it.variant ? " variant " + std::to_string( it.variant ) : "" ) << "  "
           << style.place( placesOf( alike ) ) << '\n'
-          << "      " << valueText( it.from ) << style.faint( " → " ) << style.differs( throughOf( alike ) )
-          << style.faint( " → " ) << valueText( it.to ) << style.faint( "  for " + operations ) << '\n'
+          << "      " << passingText( it.from ) << style.faint( " → " ) << style.differs( throughOf( alike ) )
+          << style.faint( " → " ) << passingText( it.to ) << style.faint( "  for " + operations ) << '\n'
           << "      " << functionsOf( it, style ) << '\n';
    }
    if ( shown < ways.all.size() ) {

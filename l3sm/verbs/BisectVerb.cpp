@@ -14,14 +14,14 @@ namespace {
 
 constexpr int holdsNowhere = 1;
 
-struct Options : BisectionFilter {
+struct BisectOptions : BisectionFilter {
    std::string journal;
    std::string condition;
    bool all = false;
    bool json = false;
 };
 
-int answer( Options const & options ) {
+int answer( BisectOptions const & options ) {
    Condition const condition = conditionOf( options.condition );
    JournalReader journal( options.journal );
    Bisection const bisection = bisect( journal, condition, options );
@@ -36,7 +36,7 @@ int answer( Options const & options ) {
 } // namespace
 
 Action defineBisect( VerbOptions & verb ) {
-   auto const options = std::make_shared< Options >();
+   auto const options = std::make_shared< BisectOptions >();
    verb.required( "JOURNAL", options->journal, "a file that `l3sm run --journal` wrote" );
    verb.required( "CONDITION", options->condition, "TABLE.FIELD=VALUE, the value in decimal or after 0x" );
    verb.number( "--fap", options->fap, "only this FAP" );

@@ -17,7 +17,7 @@ namespace {
 
 using Rex::Value;
 
-struct Options {
+struct CatalogueOptions {
    std::string table;
    std::string chip;
    std::vector< std::string > journals;
@@ -26,7 +26,7 @@ struct Options {
 
 // From the journals that were named, or else from those of the examples.
 std::vector< Touch >
-touchesOf( Catalogue::Table const & table, Options const & options, std::vector< std::string > & remarks ) {
+touchesOf( Catalogue::Table const & table, CatalogueOptions const & options, std::vector< std::string > & remarks ) {
    if ( options.journals.empty() ) {
       return Inspection::touchesOf( table );
    }
@@ -38,7 +38,7 @@ touchesOf( Catalogue::Table const & table, Options const & options, std::vector<
    return Inspection::touchesOf( table, journals );
 }
 
-int answer( Options const & options ) {
+int answer( CatalogueOptions const & options ) {
    U8 const chipType = options.chip.empty() ? 0 : static_cast< U8 >( chipNamed( options.chip ) );
    Catalogue::Table const * const table = options.table.empty() ? nullptr : &tableNamed( options.table );
    if ( !table && !options.journals.empty() ) {
@@ -77,7 +77,7 @@ int answer( Options const & options ) {
 } // namespace
 
 Action defineCatalogue( VerbOptions & verb ) {
-   auto const options = std::make_shared< Options >();
+   auto const options = std::make_shared< CatalogueOptions >();
    verb.text( "TABLE", options->table, "draw this table; without it, list all" );
    verb.text( "--chip", options->chip, "only what this chip has, as in BCM88690_B0" );
    verb.texts( "--journal",

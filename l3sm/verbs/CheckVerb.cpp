@@ -24,7 +24,7 @@ constexpr int judgedNothing = 3;
 constexpr std::size_t fewWindows = 20;
 constexpr std::size_t fewWrong = 20; // places of chips
 
-struct Options {
+struct CheckOptions {
    std::string scenario;
    std::string chips;
    std::string plugin;
@@ -43,7 +43,7 @@ int statusOf( std::vector< Verdict > const & verdicts ) {
    return has( Verdict::Kind::fault ) ? foundAFault : has( Verdict::Kind::fine ) ? 0 : judgedNothing;
 }
 
-int readBack( Scenario const & scenario, Options const & options ) {
+int readBack( Scenario const & scenario, CheckOptions const & options ) {
    ChipsFile const chips = options.chips.empty() ? ChipsFile() : readChips( options.chips );
    loadPlugin( options.plugin );
    Simulator::SimulatedSwitch sw( scenario.description );
@@ -59,7 +59,7 @@ int readBack( Scenario const & scenario, Options const & options ) {
    return statusOf( verdicts );
 }
 
-int startAgain( Scenario const & scenario, Options const & options ) {
+int startAgain( Scenario const & scenario, CheckOptions const & options ) {
    Restart const restart = restartAfter( scenario, options.plugin );
    if ( options.json ) {
       std::cout << toJson( Rex::Value::Object{ { "restart", restartValue( restart ) } }, 4 ) << '\n';
@@ -69,7 +69,7 @@ int startAgain( Scenario const & scenario, Options const & options ) {
    return restart.plan.isEmpty() ? 0 : foundAFault;
 }
 
-int lookForWindows( Scenario const & scenario, Options const & options ) {
+int lookForWindows( Scenario const & scenario, CheckOptions const & options ) {
    PassingValues windows;
    planOf( scenario, options.plugin, { .others = { &windows } } );
    if ( options.json ) {
@@ -85,7 +85,7 @@ int lookForWindows( Scenario const & scenario, Options const & options ) {
 }
 
 // What the scenario's faults have left on the chips that the plug-in hasn't written.
-int auditChips( Scenario const & scenario, Options const & options ) {
+int auditChips( Scenario const & scenario, CheckOptions const & options ) {
    ChipsAudit const audit = auditAfter( scenario, options.plugin );
    if ( options.json ) {
       std::cout << toJson( auditValue( audit ), 3 ) << '\n';
@@ -95,7 +95,7 @@ int auditChips( Scenario const & scenario, Options const & options ) {
    return audit.isFine() ? 0 : foundAFault;
 }
 
-int answer( Options const & options ) {
+int answer( CheckOptions const & options ) {
    if ( options.audit && ( options.restart || options.windows || !options.chips.empty() ) ) {
       throw InputError( "--audit plays the scenario with its faults; leave --restart, --windows and --chips out" );
    }
@@ -115,7 +115,7 @@ int answer( Options const & options ) {
 } // namespace
 
 Action defineCheck( VerbOptions & verb ) {
-   auto const options = std::make_shared< Options >();
+   auto const options = std::make_shared< CheckOptions >();
    verb.text(
       "scenario", options->scenario, "the scenario to play; without one, the built-in example", "SCENARIO.json" );
    verb.text( "--chips", options->chips, "verify with these contents on the chips", "FILE" );

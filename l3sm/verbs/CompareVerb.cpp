@@ -16,7 +16,7 @@ using namespace Inspection;
 
 namespace {
 
-struct Options : ComparisonOptions {
+struct CompareOptions : ComparisonOptions {
    std::vector< std::string > scenarios;
    std::string against;
    std::optional< U32 > random;
@@ -28,7 +28,7 @@ struct Options : ComparisonOptions {
 
 constexpr int isOtherwise = 1;
 
-std::vector< Scenario > scenariosOf( Options const & options ) {
+std::vector< Scenario > scenariosOf( CompareOptions const & options ) {
    std::vector< Scenario > all;
    bool const needsOne = !options.random;
    auto const files = options.scenarios.empty() && needsOne ? std::vector< std::string >{ "" } : options.scenarios;
@@ -44,7 +44,7 @@ std::vector< Scenario > scenariosOf( Options const & options ) {
    return all;
 }
 
-int answerAgainst( Options const & options ) {
+int answerAgainst( CompareOptions const & options ) {
    if ( options.toggles || !options.tables.empty() ) {
       throw InputError( "--against compares all that two builds do; leave out --toggles and --table" );
    }
@@ -58,7 +58,7 @@ int answerAgainst( Options const & options ) {
    return comparison.isEqual() ? 0 : isOtherwise;
 }
 
-int answer( Options const & options ) {
+int answer( CompareOptions const & options ) {
    if ( !options.against.empty() ) {
       return answerAgainst( options );
    }
@@ -87,7 +87,7 @@ int answer( Options const & options ) {
 } // namespace
 
 Action defineCompare( VerbOptions & verb ) {
-   auto const options = std::make_shared< Options >();
+   auto const options = std::make_shared< CompareOptions >();
    verb.texts( "scenario",
                options->scenarios,
                "the scenario to play; without one, the built-in example. With --against several",

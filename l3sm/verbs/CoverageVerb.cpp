@@ -23,7 +23,7 @@ namespace {
 
 constexpr int isMissed = 1;
 
-struct Options {
+struct CoverageOptions {
    std::vector< std::string > files;
    std::optional< U32 > random;
    std::optional< U32 > seed;
@@ -35,7 +35,7 @@ struct Options {
    bool json = false;
 };
 
-void play( Coverage & coverage, Scenario const & scenario, Options const & options ) {
+void play( Coverage & coverage, Scenario const & scenario, CoverageOptions const & options ) {
    if ( !options.everyChip ) {
       cover( coverage, scenario, options.plugin );
       return;
@@ -53,7 +53,7 @@ void read( Coverage & coverage, std::string const & path, std::vector< std::stri
    remarks.insert( remarks.end(), journal.remarks().begin(), journal.remarks().end() );
 }
 
-int answer( Options const & options ) {
+int answer( CoverageOptions const & options ) {
    if ( options.files.empty() && !options.random ) {
       throw InputError( "name a journal or a scenario, or give --random" );
    }
@@ -98,7 +98,7 @@ int answer( Options const & options ) {
 } // namespace
 
 Action defineCoverage( VerbOptions & verb ) {
-   auto const options = std::make_shared< Options >();
+   auto const options = std::make_shared< CoverageOptions >();
    verb.texts( "JOURNAL", options->files, "journals, and scenarios, which are played" );
    verb.flag( "--every-chip", options->everyChip, "play each scenario on every kind of chip" );
    verb.number( "--random", options->random, "play as many random scenarios, too" );

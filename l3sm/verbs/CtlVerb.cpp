@@ -18,7 +18,7 @@ namespace {
 
 using Rex::Value;
 
-struct Options {
+struct CtlOptions {
    std::string agent;
    std::string socket;
    std::optional< U32 > timeout;
@@ -151,7 +151,7 @@ void writeStatus( std::ostream & out, Value status, Style const & style ) {
    writeValue( out, status, style, { "slice", "phase", "reason", "since", "database", "epoch", "position", "events" } );
 }
 
-int ctl( Options const & options ) {
+int ctl( CtlOptions const & options ) {
    if ( !options.agent.empty() && !options.socket.empty() ) {
       throw InputError( "-t and --socket both name an agent; leave one out" );
    }
@@ -181,7 +181,7 @@ int ctl( Options const & options ) {
 } // namespace
 
 Action defineCtl( VerbOptions & verb ) {
-   auto const options = std::make_shared< Options >();
+   auto const options = std::make_shared< CtlOptions >();
    verb.text( "-t,--agent", options->agent, "which agent; not needed where there is one", "SLICE" );
    verb.text( "--socket", options->socket, "the same, by its socket", "PATH" );
    verb.number( "--timeout", options->timeout, "seconds in which the agent says nothing; 10 without it" );

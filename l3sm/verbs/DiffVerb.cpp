@@ -17,7 +17,7 @@ namespace {
 
 constexpr std::size_t mostEvents = 2;
 
-struct Options {
+struct DiffOptions {
    std::string a;
    std::string b;
    std::vector< std::string > agents;
@@ -40,7 +40,7 @@ U32 eventNamed( std::string const & typed ) {
 }
 
 // Agents come before files. What one is asked for is what the other side tells of.
-void askAgents( Options & options ) {
+void askAgents( DiffOptions & options ) {
    if ( options.agents.empty() ) {
       if ( options.a.empty() ) {
          missing( "diff", "A" );
@@ -69,7 +69,7 @@ void askAgents( Options & options ) {
    options.b = sides[1];
 }
 
-int answer( Options options ) {
+int answer( DiffOptions options ) {
    askAgents( options );
    DiffQuestion question{ .a = options.a,
                           .b = options.b,
@@ -98,7 +98,7 @@ int answer( Options options ) {
 } // namespace
 
 Action defineDiff( VerbOptions & verb ) {
-   auto const options = std::make_shared< Options >();
+   auto const options = std::make_shared< DiffOptions >();
    verb.text(
       "A", options->a, "a file that `l3sm run` wrote with --chips, --journal, --state or --save; `-`: standard input" );
    verb.text( "B", options->b, "another; of a journal alone, two of its events are compared: --at EVENT --at EVENT" );

@@ -14,7 +14,7 @@ namespace {
 
 constexpr int remembers = 1;
 
-struct Options {
+struct ExploreOptions {
    std::string scenario;
    std::string plugin;
    std::vector< std::string > toggles;
@@ -25,7 +25,7 @@ struct Options {
    bool json = false;
 };
 
-int answer( Options const & options ) {
+int answer( ExploreOptions const & options ) {
    Scenario const scenario = scenarioToPlay( options.scenario, options.toggles, options.plugin );
    HistoryOptions how;
    how.count = options.count.value_or( how.count );
@@ -43,7 +43,7 @@ int answer( Options const & options ) {
 } // namespace
 
 Action defineExplore( VerbOptions & verb ) {
-   auto const options = std::make_shared< Options >();
+   auto const options = std::make_shared< ExploreOptions >();
    verb.text( "scenario",
               options->scenario,
               "the scenario whose last state is reached; without one, the built-in example",

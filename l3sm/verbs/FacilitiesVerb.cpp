@@ -13,7 +13,7 @@ using namespace Inspection;
 
 namespace {
 
-struct Options {
+struct FacilitiesOptions {
    std::string facility;
    bool json = false;
 };
@@ -49,7 +49,7 @@ void show( std::ostream & out, std::string const & facility, Style const & style
    columns.print( out );
 }
 
-int answer( Options const & options ) {
+int answer( FacilitiesOptions const & options ) {
    auto const facilities = options.facility.empty() ? knownFacilities() : std::vector{ options.facility };
    if ( options.json ) {
       std::cout << toJson( tracesValue( facilities ), 4 ) << '\n';
@@ -64,7 +64,7 @@ int answer( Options const & options ) {
 } // namespace
 
 Action defineFacilities( VerbOptions & verb ) {
-   auto const options = std::make_shared< Options >();
+   auto const options = std::make_shared< FacilitiesOptions >();
    verb.text( "FACILITY", options->facility, "tell what each level of this facility says; without it, list all" );
    verb.flag( "--json", options->json, "for programs" );
    return [options] { return answer( *options ); };

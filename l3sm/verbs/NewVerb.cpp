@@ -18,7 +18,7 @@ using namespace Inspection;
 
 namespace {
 
-struct Options {
+struct NewOptions {
    std::vector< std::string > chips;
    std::optional< U16 > cores;
    std::vector< std::string > subjects; // each may hold several, with commas between them
@@ -34,7 +34,7 @@ std::string schemaBeside() {
    return std::filesystem::exists( schema, none ) ? "file://" + schema.string() : std::string();
 }
 
-WantedScenario wanted( Options const & options ) {
+WantedScenario wanted( NewOptions const & options ) {
    WantedScenario scenario;
    for ( std::string const & chip : options.chips ) {
       scenario.chips.push_back( chipNamed( chip ) );
@@ -52,7 +52,7 @@ WantedScenario wanted( Options const & options ) {
    return scenario;
 }
 
-int answer( Options const & options ) {
+int answer( NewOptions const & options ) {
    bool const isFile = !options.out.empty() && options.out != "-";
    if ( isFile && std::filesystem::exists( options.out ) ) {
       throw InputError( options.out, "is there already; give the scenario another name" );
@@ -82,7 +82,7 @@ std::string subjectLines() {
 } // namespace
 
 Action defineNew( VerbOptions & verb ) {
-   auto const options = std::make_shared< Options >();
+   auto const options = std::make_shared< NewOptions >();
    verb.texts( "--chip", options->chips, "the kind of each chip; without it, one BCM88690_B0", "CHIP" );
    verb.number( "--cores", options->cores, "the number of cores of each chip; without it, as many as it has" );
    verb.texts( "--with",

@@ -11,12 +11,12 @@ using namespace Inspection;
 
 namespace {
 
-struct Options {
+struct PathsOptions {
    std::string path;
    bool json = false;
 };
 
-int answer( Options const & options ) {
+int answer( PathsOptions const & options ) {
    std::vector< StatePath const * > paths;
    if ( options.path.empty() ) {
       for ( StatePath const & path : statePaths() ) {
@@ -45,7 +45,7 @@ int answer( Options const & options ) {
 } // namespace
 
 Action definePaths( VerbOptions & verb ) {
-   auto const options = std::make_shared< Options >();
+   auto const options = std::make_shared< PathsOptions >();
    verb.text( "PATH", options->path, "tell everything of this path, or of all that begin so; without it, list all" );
    verb.flag( "--json", options->json, "for programs" );
    return [options] { return answer( *options ); };

@@ -21,7 +21,7 @@ namespace {
 
 constexpr int hasSomethingToChange = 1;
 
-struct Options : PlanTextOptions {
+struct PlanVerbOptions : PlanTextOptions {
    std::string scenario;
    AgentOptions agent;
    std::string plugin;
@@ -29,7 +29,7 @@ struct Options : PlanTextOptions {
    bool json = false;
 };
 
-int shown( Plan const & plan, Options const & options ) {
+int shown( Plan const & plan, PlanVerbOptions const & options ) {
    if ( options.json ) {
       std::cout << toJson( planValue( plan, options.fap ), 4 ) << '\n';
    } else {
@@ -39,7 +39,7 @@ int shown( Plan const & plan, Options const & options ) {
 }
 
 // What another build of the plug-in would change at its start, on the agent's chips and state as they are.
-int planUpgrade( Options const & options ) {
+int planUpgrade( PlanVerbOptions const & options ) {
    if ( !options.toggles.empty() ) {
       throw InputError( "an agent has its toggles already: leave out --toggle" );
    }
@@ -58,7 +58,7 @@ int planUpgrade( Options const & options ) {
 }
 
 // The agent plans on a copy of itself, and tells it as text and as a value.
-int askAgent( Options const & options ) {
+int askAgent( PlanVerbOptions const & options ) {
    if ( options.scenario.empty() && !options.plugin.empty() ) {
       return planUpgrade( options );
    }
@@ -89,7 +89,7 @@ int askAgent( Options const & options ) {
    return fields.required< bool >( "isEmpty" ) ? 0 : hasSomethingToChange;
 }
 
-int answer( Options const & options ) {
+int answer( PlanVerbOptions const & options ) {
    if ( options.agent.isGiven() ) {
       return askAgent( options );
    }
@@ -103,7 +103,7 @@ int answer( Options const & options ) {
 } // namespace
 
 Action definePlan( VerbOptions & verb ) {
-   auto const options = std::make_shared< Options >();
+   auto const options = std::make_shared< PlanVerbOptions >();
    verb.text(
       "scenario", options->scenario, "the scenario to plan; without one, the built-in example", "SCENARIO.json" );
    options->agent.declare( verb );

@@ -20,7 +20,7 @@ using namespace Inspection;
 
 namespace {
 
-struct Options {
+struct ReplayOptions {
    ReplayQuestion question;
    std::string out;
    std::string toScenario;
@@ -32,7 +32,7 @@ bool isRecording( std::string const & path ) {
    return std::filesystem::is_directory( path ) || segmentOf( path ) || kindOfFile( path ) == FileKind::recording;
 }
 
-int toScenario( Options const & options, std::string const & recording ) {
+int toScenario( ReplayOptions const & options, std::string const & recording ) {
    OutputFile const file( options.toScenario );
    eachAlone( { options.toScenario }, { recording } );
    std::vector< std::string > remarks;
@@ -44,7 +44,7 @@ int toScenario( Options const & options, std::string const & recording ) {
    return 0;
 }
 
-int replayRecording( Options const & options ) {
+int replayRecording( ReplayOptions const & options ) {
    std::string const & recording = options.question.journal;
    for ( auto const & [name, value] : { std::pair( "--chips", &options.question.chips ),
                                         std::pair( "--scenario", &options.question.scenario ),
@@ -67,7 +67,7 @@ int replayRecording( Options const & options ) {
    return run.isAlike() ? 0 : 1;
 }
 
-int answer( Options const & options ) {
+int answer( ReplayOptions const & options ) {
    if ( isRecording( options.question.journal ) ) {
       return replayRecording( options );
    }
@@ -89,7 +89,7 @@ int answer( Options const & options ) {
 } // namespace
 
 Action defineReplay( VerbOptions & verb ) {
-   auto const options = std::make_shared< Options >();
+   auto const options = std::make_shared< ReplayOptions >();
    verb.required(
       "JOURNAL",
       options->question.journal,

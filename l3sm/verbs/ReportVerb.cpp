@@ -17,7 +17,7 @@ using namespace Inspection;
 
 namespace {
 
-struct Options {
+struct ReportOptions {
    std::string file;
    std::string out;
    std::string plugin;
@@ -36,7 +36,7 @@ bool isJournal( std::string const & path ) {
    return start.empty() || line.find( "\"op\"" ) != std::string_view::npos;
 }
 
-void fromJournal( Options const & options, OutputFile const & out ) {
+void fromJournal( ReportOptions const & options, OutputFile const & out ) {
    JournalReader journal( options.file );
    ReportData data( journal.scenario() );
    journal.read( data );
@@ -46,7 +46,7 @@ void fromJournal( Options const & options, OutputFile const & out ) {
    out.write( reportOf( data, journal.remarks() ) );
 }
 
-void fromScenario( Options const & options, OutputFile const & out ) {
+void fromScenario( ReportOptions const & options, OutputFile const & out ) {
    Scenario scenario = scenarioToPlay( options.file, options.toggles, options.plugin );
    scenario.description.journalled = Simulator::SwitchDescription::Journalled::streamed;
    ReportFile page( out, valueOf( scenario, Parts::withoutEvents ) );
@@ -56,7 +56,7 @@ void fromScenario( Options const & options, OutputFile const & out ) {
    sw.journal().ends( Simulator::Ending::Kind::complete );
 }
 
-int answer( Options const & options ) {
+int answer( ReportOptions const & options ) {
    if ( options.out.empty() ) {
       throw InputError( "say where to write the page: l3sm report " + options.file + " -o PAGE.html" );
    }
@@ -75,7 +75,7 @@ int answer( Options const & options ) {
 } // namespace
 
 Action defineReport( VerbOptions & verb ) {
-   auto const options = std::make_shared< Options >();
+   auto const options = std::make_shared< ReportOptions >();
    verb.required( "FILE", options->file, "a file that `l3sm run --journal` wrote, or a scenario, which is played" );
    verb.text( "-o,--out", options->out, "the page", "PAGE.html" );
    verb.repeated( "--toggle", options->toggles, "set a toggle of the scenario", "FILE:NAME=on|off" );

@@ -31,7 +31,7 @@ using namespace Inspection;
 
 namespace {
 
-struct Options {
+struct RunOptions {
    std::string scenario;
    std::string chips;
    std::string journal;
@@ -66,7 +66,7 @@ class AtFailure {
 // A run with what was asked for of it.
 class Run {
  public:
-   Run( Options const & options, Scenario scenario )
+   Run( RunOptions const & options, Scenario scenario )
       : options_( options ), scenario_( std::move( scenario ) ), chips_( options.chips ), state_( options.state ),
         save_( options.save ), journal_( options.journal ), report_( options.report ), ring_( options.ring ),
         summary_( wantedOf( options.events, options.fap, options.json, scenario_ ) ) {
@@ -204,7 +204,7 @@ class Run {
       std::cerr.flush();
    }
 
-   Options const & options_;
+   RunOptions const & options_;
    Scenario scenario_;
    OutputFile const chips_;
    OutputFile const state_;
@@ -219,7 +219,7 @@ class Run {
    std::optional< Simulator::SimulatedSwitch > sw_; // goes first: it hands over to what stands above
 };
 
-int run( Options const & options ) {
+int run( RunOptions const & options ) {
    if ( options.quiet && options.json ) {
       throw InputError( "--quiet prints nothing and --json does; give one of them" );
    }
@@ -239,7 +239,7 @@ int run( Options const & options ) {
 } // namespace
 
 Action defineRun( VerbOptions & verb ) {
-   auto const options = std::make_shared< Options >();
+   auto const options = std::make_shared< RunOptions >();
    verb.text(
       "scenario", options->scenario, "the scenario to play; without one, the built-in example", "SCENARIO.json" );
    verb.text(

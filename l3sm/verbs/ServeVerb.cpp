@@ -13,7 +13,7 @@ using namespace Inspection;
 
 namespace {
 
-struct Options {
+struct ServeOptions {
    std::string file;
    std::string slice;
    std::optional< U32 > cell;
@@ -39,7 +39,7 @@ std::unique_ptr< Live::Daemon > daemonOf( Live::DaemonOptions const & options ) 
    }
 }
 
-int serve( Options const & options ) {
+int serve( ServeOptions const & options ) {
    if ( !options.onDrift.empty() && options.onDrift != "commit" && options.onDrift != "hold" ) {
       throw InputError( "--on-drift", "expected commit or hold, got \"" + options.onDrift + "\"" );
    }
@@ -72,7 +72,7 @@ int serve( Options const & options ) {
 } // namespace
 
 Action defineServe( VerbOptions & verb ) {
-   auto const options = std::make_shared< Options >();
+   auto const options = std::make_shared< ServeOptions >();
    verb.required( "SWITCH.json", options->file, "switch, toggles, chips and state of a scenario, without events" );
    verb.text( "--slice", options->slice, "which slice it serves; the default stands in the file", "NAME" );
    verb.number( "--cell", options->cell, "whose state it follows; the default is 1" );

@@ -21,7 +21,7 @@ namespace {
 
 using Rex::Value;
 
-struct Options {
+struct ShowOptions {
    std::string file;
    AgentOptions agent;
    std::vector< std::string > parts;
@@ -81,7 +81,7 @@ std::vector< PathValue > askedState( ToldState const & told, std::string const &
    return found;
 }
 
-int showState( Options const & options, std::string const & file, std::vector< std::string > const & paths ) {
+int showState( ShowOptions const & options, std::string const & file, std::vector< std::string > const & paths ) {
    ToldState const told = toldState( file, options.at );
    std::vector< PathValue > found;
    for ( std::string const & path : paths.empty() ? std::vector< std::string >{ "" } : paths ) {
@@ -105,7 +105,7 @@ int showState( Options const & options, std::string const & file, std::vector< s
    return found.empty() ? nothingThere : 0;
 }
 
-int answer( Options const & options ) {
+int answer( ShowOptions const & options ) {
    auto parts = options.parts;
    if ( options.agent.isGiven() && !options.file.empty() ) {
       parts.insert( parts.begin(), options.file ); // the first place is no file then
@@ -128,7 +128,7 @@ int answer( Options const & options ) {
 } // namespace
 
 Action defineShow( VerbOptions & verb ) {
-   auto const options = std::make_shared< Options >();
+   auto const options = std::make_shared< ShowOptions >();
    verb.text(
       "FILE", options->file, "a file that `l3sm run --chips`, `--journal` or `--state` wrote; `-`: standard input" );
    verb.texts( "TABLE",

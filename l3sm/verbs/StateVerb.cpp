@@ -22,7 +22,7 @@ namespace {
 constexpr char const * databaseVariable = "L3SM_DATABASE";
 constexpr char const * usualDatabase = "redis://127.0.0.1"; // where an installed redis-server listens
 
-struct Options {
+struct StateOptions {
    std::string action;
    std::vector< std::string > words;
    std::string database;
@@ -78,7 +78,7 @@ void show( Paths const & paths, Style const & style ) {
    }
 }
 
-int get( Options const & options ) {
+int get( StateOptions const & options ) {
    std::string const path = options.word( 0 );
    auto const snapshot = options.store()->snapshot( path );
    for ( auto const & [place, text] : snapshot.unreadable ) {
@@ -107,7 +107,7 @@ void showNotes( StateStore & store ) {
    }
 }
 
-int write( Options const & options, Event const & event ) {
+int write( StateOptions const & options, Event const & event ) {
    auto const store = options.store();
    auto const entry = StateWriter( *store ).write( event );
    showNotes( *store );
@@ -120,7 +120,7 @@ int write( Options const & options, Event const & event ) {
    return 0;
 }
 
-int set( Options const & options ) {
+int set( StateOptions const & options ) {
    return write( options,
                  { .path = options.word( 0 ),
                    .attribute = options.word( 1 ),
@@ -128,7 +128,7 @@ int set( Options const & options ) {
                    .value = valueOfWord( options.word( 2 ) ) } );
 }
 
-int remove( Options const & options ) {
+int remove( StateOptions const & options ) {
    bool const hasAttribute = options.words.size() > 1;
    if ( hasAttribute == options.key.empty() ) {
       throw InputError( "state delete", "an entry takes ATTRIBUTE and --key, an entity neither" );
@@ -140,7 +140,7 @@ int remove( Options const & options ) {
                    .key = options.keyIfAny() } );
 }
 
-int load( Options const & options ) {
+int load( StateOptions const & options ) {
    auto const paths = stateOfFile( options.word( 0 ) );
    auto const epoch = options.store()->load( paths );
    if ( options.json ) {
@@ -152,7 +152,7 @@ int load( Options const & options ) {
    return 0;
 }
 
-int apply( Options const & options ) {
+int apply( StateOptions const & options ) {
    auto const events = eventsOfFile( options.word( 0 ) );
    auto const store = options.store();
    StateWriter( *store ).writeEach( events, inputName( options.word( 0 ) ) );
@@ -165,18 +165,18 @@ int apply( Options const & options ) {
    return 0;
 }
 
-int watch( Options const & options ) {
+int watch( StateOptions const & options ) {
    return watchState( *options.store(), options.word( 0 ), options.json );
 }
 
-int wait( Options const & options ) {
+int wait( StateOptions const & options ) {
    constexpr U32 usualTimeout = 10;
    return waitForAgents( *options.store(), options.slices, options.timeout.value_or( usualTimeout ), options.json );
 }
 
 struct StateAction {
    char const * name;
-   int ( *does )( Options const & );
+   int ( *does )( StateOptions const & );
    char const * takes;
    std::size_t least;
    std::size_t most;
@@ -194,7 +194,7 @@ constexpr StateAction actions[] = {
    { "wait", wait, "[--slice SLICE] [--timeout S]", 0, 0, false, true },
 };
 
-int answer( Options const & options ) {
+int answer( StateOptions const & options ) {
    auto const * const action = std::ranges::find( actions, options.action, &StateAction::name );
    if ( action == std::end( actions ) ) {
       throw InputError( "state " + options.action, "is none of get, set, delete, load, apply, watch, wait" );
@@ -211,7 +211,7 @@ int answer( Options const & options ) {
 } // namespace
 
 Action defineState( VerbOptions & verb ) {
-   auto const options = std::make_shared< Options >();
+   auto const options = std::make_shared< StateOptions >();
    verb.required( "ACTION",
                   options->action,
                   "get [PATH], set PATH ATTRIBUTE VALUE, delete PATH [ATTRIBUTE], load FILE, apply FILE, watch [PATH], "

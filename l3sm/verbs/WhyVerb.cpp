@@ -17,7 +17,7 @@ using namespace Inspection;
 
 namespace {
 
-struct Options {
+struct WhyOptions {
    std::string journal;
    AgentOptions agent;
    std::string subject;
@@ -37,7 +37,7 @@ void tellOfForgotten( WhyAnswer & answer, std::string const & journal ) {
    }
 }
 
-int answer( Options options ) {
+int answer( WhyOptions options ) {
    if ( options.agent.isGiven() && options.subject.empty() ) {
       options.subject = std::exchange( options.journal, {} ); // the first place is no journal then
    }
@@ -83,7 +83,7 @@ int answer( Options options ) {
 } // namespace
 
 Action defineWhy( VerbOptions & verb ) {
-   auto const options = std::make_shared< Options >();
+   auto const options = std::make_shared< WhyOptions >();
    verb.text( "JOURNAL", options->journal, "a file that `l3sm run --journal` wrote" );
    verb.text( "SUBJECT",
               options->subject,

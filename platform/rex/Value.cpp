@@ -101,6 +101,10 @@ std::string pointerStep( std::string const & key ) {
    return out;
 }
 
+bool isAtOrBelow( std::string_view path, std::string_view owner ) {
+   return path.starts_with( owner ) && ( path.size() == owner.size() || path[owner.size()] == '/' );
+}
+
 ValueError ValueError::below( std::string const & key ) const {
    auto seen = faults_;
    for ( auto & fault : seen ) {

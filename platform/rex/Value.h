@@ -12,6 +12,7 @@
 #include <map>
 #include <stdexcept>
 #include <string>
+#include <string_view>
 #include <type_traits>
 #include <variant>
 #include <vector>
@@ -140,6 +141,8 @@ class ValueErrors {
 
 // A step of a JSON pointer, with its escapes.
 std::string pointerStep( std::string const & key );
+// Of paths whose steps are parted by slashes: "a/b" is at or below "a", "ab" isn't.
+bool isAtOrBelow( std::string_view path, std::string_view owner );
 
 [[noreturn]] void throwWrongKind( std::string const & wanted, Value const & got );
 

@@ -107,7 +107,7 @@ class Manager {
    int socket_;
 };
 
-Simulator::SwitchDescription const oneFap{
+Simulator::SwitchDescription const switchOfOneFap{
    .faps = { { .fapId = FapId( 0 ), .revision = { 5, Hardware::ChipType::BCM88690_B0, 7 } } } };
 
 TEST( ServiceManager, keepsTheChipsOfAnAgentThatIsKilledForTheNext ) {
@@ -115,7 +115,7 @@ TEST( ServiceManager, keepsTheChipsOfAnAgentThatIsKilledForTheNext ) {
    EXPECT_EQ( manager.agent( {},
                              [] {
                                 EXPECT_FALSE( ServiceManager::keptFile( "chips" ) );
-                                auto const chips = Simulator::ChipsMapping::makeInMemory( oneFap );
+                                auto const chips = Simulator::ChipsMapping::makeInMemory( switchOfOneFap );
                                 EXPECT_TRUE( ServiceManager::keeps( "chips", chips.file() ) );
                                 chips.chip( FapId( 0 ) ).controls.valueIs( 64, 7 );
                                 ::raise( SIGKILL );
@@ -131,7 +131,7 @@ TEST( ServiceManager, keepsTheChipsOfAnAgentThatIsKilledForTheNext ) {
       auto const file = ServiceManager::keptFile( "chips" );
       ASSERT_TRUE( file );
       EXPECT_EQ( ::fcntl( file.number(), F_GETFD ) & FD_CLOEXEC, FD_CLOEXEC );
-      auto const chips = Simulator::ChipsMapping::of( file.number(), oneFap );
+      auto const chips = Simulator::ChipsMapping::of( file.number(), switchOfOneFap );
       EXPECT_EQ( chips.generation(), 2u );
       EXPECT_EQ( chips.chip( FapId( 0 ) ).controls.value( 64 ), 7u );
       EXPECT_FALSE( ServiceManager::keptFile( "chips" ) ) << "it is handed over once";

@@ -4,7 +4,7 @@
 namespace {
 
 TEST( CutJournal, ReadsUpToWhereTheLastLineIsCut ) {
-   auto const reading = readingOf( begin + event0 + aWrite + aWrite.substr( 0, 40 ) );
+   auto const reading = readingOf( beginRow + event0 + aWrite + aWrite.substr( 0, 40 ) );
    EXPECT_EQ( reading.heard.size(), 3u );
    EXPECT_EQ( reading.heard.back(), "cut 0 1" );
    EXPECT_EQ( reading.remarks,
@@ -12,7 +12,7 @@ TEST( CutJournal, ReadsUpToWhereTheLastLineIsCut ) {
 }
 
 TEST( CutJournal, TellsThatTheEndIsMissing ) {
-   auto const reading = readingOf( begin + event0 + aWrite );
+   auto const reading = readingOf( beginRow + event0 + aWrite );
    EXPECT_EQ( reading.heard.back(), "cut 0 1" );
    EXPECT_EQ(
       reading.remarks,
@@ -20,7 +20,7 @@ TEST( CutJournal, TellsThatTheEndIsMissing ) {
 }
 
 TEST( CutJournal, DoesNotNeedTheEndOfTheLastLine ) {
-   auto const reading = readingOf( begin + event0 + aWrite + end.substr( 0, end.size() - 1 ) );
+   auto const reading = readingOf( beginRow + event0 + aWrite + endRow.substr( 0, endRow.size() - 1 ) );
    EXPECT_EQ( reading.heard.back(), "complete 0 1" );
    EXPECT_EQ( reading.remarks, Remarks{} );
 }
@@ -59,13 +59,13 @@ TEST( CutJournal, ReadsACompressedJournalOfAnyName ) {
 }
 
 TEST( CutJournal, TellsHowTheRunEnded ) {
-   EXPECT_EQ( readingOf( begin + event0 +
+   EXPECT_EQ( readingOf( beginRow + event0 +
                          R"({"op": "end", "ended": "assertion", "events": 4, "operations": 0, "text": "a < b", )"
                          R"("function": "f", "source": "a.cpp:1"})" )
                  .remarks,
               Remarks{ "run.jsonl: the run ended in event 4 by a failed assertion: a < b, in f (a.cpp:1)" } );
    EXPECT_EQ(
-      readingOf( begin + event0 + R"({"op": "end", "ended": "interrupted", "events": 4, "operations": 0})" ).remarks,
+      readingOf( beginRow + event0 + R"({"op": "end", "ended": "interrupted", "events": 4, "operations": 0})" ).remarks,
       Remarks{ "run.jsonl: the run was interrupted after event 4" } );
 }
 

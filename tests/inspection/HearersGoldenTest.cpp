@@ -53,7 +53,7 @@ World const disabled{
    R"("shared/phySmStateData": {"allEthPhyIntfConfigDir": {"intfConfig": {"Ethernet1": {"enabled": false}}}})" };
 World const early{ "early", R"("shared/phySmStateData": {"allEthPhyIntfConfigDir": null})" };
 
-Scenario scenarioOf( World const & world ) {
+Scenario scenarioOfWorld( World const & world ) {
    std::string const text = std::string( "{" ) + switchOfAll + R"( "state": {)" + stateOfAll + world.rest + "}}";
    Scenario scenario = Inspection::scenarioOf( parseJson( text, world.name ), world.name );
    scenario.description.journalled = Simulator::SwitchDescription::Journalled::none;
@@ -220,7 +220,7 @@ Functions inChildren( World const & world, At const & at ) {
    for ( bool isAtEnd = false; !isAtEnd; ++next ) {
       Child const child = inChild( [&]( std::ostream & out ) {
          loadPlugin( buildFolder() + "/lib/libL3SmPlugin.so" );
-         at( scenarioOf( world ), next, out );
+         at( scenarioOfWorld( world ), next, out );
       } );
       Place place;
       for ( Line const & line : linesOf( child.output ) ) {

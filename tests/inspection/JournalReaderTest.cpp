@@ -5,14 +5,14 @@ namespace {
 
 TEST( JournalReader, ReadsTheFirstOfTwoJournals ) {
    for ( bool const isFirstWhole : { true, false } ) {
-      auto const first = begin + event0 + aWrite + ( isFirstWhole ? end : "" );
-      auto const reading = readingOf( first + begin + event0 + aWrite + aWrite + end );
+      auto const first = beginRow + event0 + aWrite + ( isFirstWhole ? endRow : "" );
+      auto const reading = readingOf( first + beginRow + event0 + aWrite + aWrite + endRow );
       EXPECT_EQ( std::ranges::count( reading.heard, "event 0 {\"start\": {}}" ), 1 );
       EXPECT_EQ( reading.remarks.back(),
                  std::string( "run.jsonl:" ) + ( isFirstWhole ? "5" : "4" ) +
                     ": another journal begins here; only the first is read" );
    }
-   EXPECT_EQ( readingOf( begin + event0 + aWrite + end + aWrite ).remarks,
+   EXPECT_EQ( readingOf( beginRow + event0 + aWrite + endRow + aWrite ).remarks,
               Remarks{ "run.jsonl:5: stands behind the journal's end; it isn't read" } );
 }
 
@@ -36,7 +36,7 @@ TEST( JournalReader, TellsWhatAFileIsInstead ) {
                                     7 ) ),
               std::string( "run.jsonl: is a binary file of another kind, no journal" ) + remedy );
    EXPECT_EQ( errorOf( "hello\n" ), std::string( "run.jsonl: is a text of another kind, no journal" ) + remedy );
-   EXPECT_EQ( errorOf( begin.substr( 0, 60 ) ), "run.jsonl: is cut in its first line: nothing of it can be read" );
+   EXPECT_EQ( errorOf( beginRow.substr( 0, 60 ) ), "run.jsonl: is cut in its first line: nothing of it can be read" );
    EXPECT_EQ( errorOf( R"({"op": "begin", "format": 3, "plugin": "", "scenario": {}})"
                        "\n" ),
               "run.jsonl:1: /format: this program reads formats 1 and 2, not 3" );
@@ -63,7 +63,7 @@ TEST( JournalReader, PassesOverRowsThatNobodyWantsWhateverTheyLookLike ) {
       R"({"table":"IppdFerTrapCfg","op":"read","entry":null,"cause":"start","seq":1,"words":["0x1"],)"
       R"("event":0,"fap":0,"variant":0,"array":3,"scope":"any","function":"f","source":"s"})"
       "\n";
-   auto const text = begin + event0 + aWrite + other + end;
+   auto const text = beginRow + event0 + aWrite + other + endRow;
    EXPECT_EQ( readingOf( text ).heard.size(), 5u );
    EXPECT_EQ( readingOf( text, { .readsToo = false } ).heard.size(), 4u );
    EXPECT_EQ( readingOf( text, { .tables = { "EnablersVectors" } } ).heard.size(), 3u );
@@ -131,7 +131,7 @@ TEST( WrittenRow, KnowsNoLineWhoseWordsAreNoneOfItsForm ) {
 }
 
 TEST( JournalReader, TellsWhichLineIsWrong ) {
-   auto const errorOf = []( std::string const & line ) { return readingOf( begin + event0 + line + end ).error; };
+   auto const errorOf = []( std::string const & line ) { return readingOf( beginRow + event0 + line + endRow ).error; };
    auto const noPlace = []( std::string const & table, std::string const & words ) {
       return "run.jsonl:3: " + table + " has no such variant, array index and entry of " + words +
              " on the chip of FAP 0";
@@ -163,13 +163,13 @@ TEST( JournalReader, TellsWhichLineIsWrong ) {
    otherEvent.replace( otherEvent.find( "\"event\": 0" ), 10, "\"event\": 3" );
    EXPECT_EQ( errorOf( otherEvent ), "run.jsonl:3: /event: stands in event 0" );
    EXPECT_EQ( errorOf( event0 ), "run.jsonl:3: /event: event 0 stands behind event 0" );
-   EXPECT_EQ( readingOf( begin + aWrite ).error, "run.jsonl:2: /event: stands before the first event" );
+   EXPECT_EQ( readingOf( beginRow + aWrite ).error, "run.jsonl:2: /event: stands before the first event" );
 }
 
 TEST( JournalReader, TellsOfACoreThatTheChipLacks ) {
    std::string line = aWrite;
    line.replace( line.find( R"("scope": "all")" ), 14, R"("scope": "core", "core": 2)" );
-   EXPECT_EQ( readingOf( begin + event0 + line + end ).error,
+   EXPECT_EQ( readingOf( beginRow + event0 + line + endRow ).error,
               "run.jsonl:3: /core: IppdFerTrapCfg has no such instance" );
 }
 

@@ -1,6 +1,6 @@
 // Journals as a text that a test writes, and what their reader makes of them.
 //
-//    auto const reading = readingOf( begin + event0 + aWrite + end );
+//    auto const reading = readingOf( beginRow + event0 + aWrite + endRow );
 //    EXPECT_EQ( reading.heard.back(), "complete 0 1" );
 #pragma once
 
@@ -8,14 +8,14 @@
 
 using namespace Inspection;
 
-inline std::string const begin =
+inline std::string const beginRow =
    R"({"op": "begin", "format": 2, "l3sm": "1.0.0", "plugin": "", "scenario": {"switch": {"slice": {"name": "L"}, "faps": [)"
    R"({"fapId": 0, "revision": {"chipType": "BCM88690_B0", "sdkVersion": 7, "major": 5}}]}}})"
    "\n";
 inline std::string const event0 = R"({"op": "event", "event": 0, "what": {"start": {}}})"
                                   "\n";
-inline std::string const end = R"({"op": "end", "ended": "complete", "events": 0, "operations": 1})"
-                               "\n";
+inline std::string const endRow = R"({"op": "end", "ended": "complete", "events": 0, "operations": 1})"
+                                  "\n";
 
 // A write of a register, with what may be wrong about it.
 inline std::string

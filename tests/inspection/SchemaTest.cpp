@@ -69,7 +69,7 @@ std::vector< Value > examples() {
 }
 
 // A scenario that says everything a scenario can say: each attribute of each path, in the state and in an event.
-Value everything() {
+Value everyPath() {
    Value::Object state;
    Value::List events;
    for ( StatePath const & path : statePaths() ) {
@@ -127,8 +127,8 @@ TEST( Schema, takesEveryExample ) {
 
 TEST( Schema, takesEveryAttributeOfEveryPathInTheStateAndInAnEvent ) {
    NEEDS_VALIDATOR();
-   EXPECT_EQ( refusalOf( everything() ), "" );
-   EXPECT_EQ( verdictsOn( { everything() } ), std::vector< std::string >{ "valid" } );
+   EXPECT_EQ( refusalOf( everyPath() ), "" );
+   EXPECT_EQ( verdictsOn( { everyPath() } ), std::vector< std::string >{ "valid" } );
 }
 
 TEST( Schema, refusesWhatTheProgramRefuses ) {
@@ -276,8 +276,8 @@ TEST( Schema, judgesAsTheProgramDoesWhereSomebodySlips ) {
    constexpr int slips = 600;
    Random random( 20 );
    auto bases = examples();
-   bases.push_back( everything() );
-   bases.push_back( everything() );
+   bases.push_back( everyPath() );
+   bases.push_back( everyPath() );
    std::vector< Value > scenarios;
    std::vector< std::string > refusals;
    for ( int number = 0; number < slips; ++number ) {

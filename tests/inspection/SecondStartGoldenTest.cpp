@@ -21,7 +21,7 @@ using Simulator::Row;
 
 std::string const plugin = buildFolder() + "/lib/libL3SmPlugin.so";
 
-Scenario example( std::string const & name ) {
+Scenario exampleNamed( std::string const & name ) {
    return readScenario( std::string( L3SM_SOURCE_DIR "/examples/" ) + name + ".json" );
 }
 
@@ -75,7 +75,7 @@ TEST_P( SecondStartGolden, isAsItWasFound ) {
    if ( isSanitized() && GetParam() != "gue" ) {
       GTEST_SKIP() << "a second start takes the same way on every example; one is enough for the sanitizers";
    }
-   Scenario const base = example( GetParam() );
+   Scenario const base = exampleNamed( GetParam() );
    std::map< std::string, std::set< std::string > > chipsOf; // that show a finding
    for ( auto const chipType : Hardware::allChipTypes ) {
       std::string const chip = Hardware::chipTypeName( chipType );
@@ -120,7 +120,7 @@ TEST( KnownMemories, areEachShownByTheExampleThatTheyName ) {
          continue; // other roads show it
       }
       bool isShown = false;
-      Restart const restart = restartAfter( example( std::string( known.example ) ), plugin );
+      Restart const restart = restartAfter( exampleNamed( std::string( known.example ) ), plugin );
       for ( Row const & row : restart.start().changes ) {
          isShown = isShown || knownMemoriesOf( row ).contains( &known );
       }

@@ -7,7 +7,7 @@ namespace {
 
 // Interfaces Ethernet1 to Ethernet<count>, each with a configuration, statuses and an active port; VeloroSAIMode off.
 // `state` are further paths of the state, `events` the events.
-std::string scenarioOf( int count, std::string const & state, std::string const & events ) {
+std::string scenarioOfInterfaces( int count, std::string const & state, std::string const & events ) {
    std::string configs;
    std::string statuses;
    std::string ports;
@@ -52,50 +52,51 @@ std::string set( std::string const & path, std::string const & attribute, std::s
 std::string const config1 = "shared/phySmStateData/allEthPhyIntfConfigDir/intfConfig/Ethernet1";
 
 TEST( Interfaces, areNotMentionedWhereThereAreNone ) {
-   EXPECT_EQ( told( scenarioOf( 0, "", "" ) ), "" );
+   EXPECT_EQ( told( scenarioOfInterfaces( 0, "", "" ) ), "" );
 }
 
 TEST( Interfaces, areServedAndHaveTheirMtuInAnActiveSlice ) {
-   EXPECT_EQ( told( scenarioOf( 2, "", set( config1, "mtu", "9000" ) ) ),
+   EXPECT_EQ( told( scenarioOfInterfaces( 2, "", set( config1, "mtu", "9000" ) ) ),
               "  2 served, active: Ethernet1, Ethernet2\n"
               "  2 with MTU synced: Ethernet1 9000, Ethernet2 1500\n" );
 }
 
 TEST( Interfaces, waitForTheirMtuInAStandbySlice ) {
-   EXPECT_EQ( told( scenarioOf( 2, R"("shared/sliceSmStateData": {"smMode": 1})", "" ) ),
+   EXPECT_EQ( told( scenarioOfInterfaces( 2, R"("shared/sliceSmStateData": {"smMode": 1})", "" ) ),
               "  2 served, standby: Ethernet1, Ethernet2\n"
               "  2 with MTU waiting: Ethernet1 (standby), Ethernet2 (standby)\n" );
 }
 
 TEST( Interfaces, keepTheirMtuWhereTheSliceGoesToStandby ) {
    std::string const standby = set( "shared/sliceSmStateData", "smMode", "1" );
-   EXPECT_EQ( told( scenarioOf( 1, "", standby ) ),
+   EXPECT_EQ( told( scenarioOfInterfaces( 1, "", standby ) ),
               "  1 served, standby: Ethernet1\n"
               "  1 with MTU synced: Ethernet1 1500\n" );
-   EXPECT_EQ( told( scenarioOf( 1, "", standby + ", " + set( config1, "mtu", "9000" ) ) ),
+   EXPECT_EQ( told( scenarioOfInterfaces( 1, "", standby + ", " + set( config1, "mtu", "9000" ) ) ),
               "  1 served, standby: Ethernet1\n"
               "  1 with MTU waiting: Ethernet1 (standby)\n" );
 }
 
 TEST( Interfaces, waitForTheirMtuWhileTheyAreNotEnabledOrASubinterfaceIsBehind ) {
-   EXPECT_EQ( told( scenarioOf( 1, "", set( config1, "enabled", "false" ) + ", " + set( config1, "mtu", "9000" ) ) ),
-              "  1 served, active: Ethernet1\n"
-              "  1 with MTU waiting: Ethernet1 (not enabled)\n" );
-   EXPECT_EQ( told( scenarioOf( 1,
-                                "",
-                                R"({"set": {"path": "interface/status/subintf", "attribute": "intfStatus",
+   EXPECT_EQ(
+      told( scenarioOfInterfaces( 1, "", set( config1, "enabled", "false" ) + ", " + set( config1, "mtu", "9000" ) ) ),
+      "  1 served, active: Ethernet1\n"
+      "  1 with MTU waiting: Ethernet1 (not enabled)\n" );
+   EXPECT_EQ( told( scenarioOfInterfaces( 1,
+                                          "",
+                                          R"({"set": {"path": "interface/status/subintf", "attribute": "intfStatus",
                                             "key": "Ethernet1.5", "value": {"parentIntfId": "Ethernet1"}}})" ) ),
               "  1 served, active: Ethernet1\n"
               "  1 with MTU waiting: Ethernet1 (MTU 1500 hasn't reached Ethernet1.5)\n" );
 }
 
 TEST( Interfaces, areNotServedWithoutAnActivePortAndAConfiguration ) {
-   EXPECT_EQ( told( scenarioOf( 0,
-                                R"("shared/phySmStateData": {"allEthPhyIntfConfigDir":
+   EXPECT_EQ( told( scenarioOfInterfaces( 0,
+                                          R"("shared/phySmStateData": {"allEthPhyIntfConfigDir":
                                       {"intfConfig": {"Ethernet1": {}, "Ethernet2": {}}}},
                                    "shared/portStateInfo": {"portState": {"2": {"intfId": "Ethernet2"},
                                       "3": {"intfId": "Ethernet3", "active": true}}})",
-                                "" ) ),
+                                          "" ) ),
               "  none served, active\n"
               "  3 not served: Ethernet1 (no port), Ethernet2 (port not active), Ethernet3 (not configured)\n" );
 }
@@ -103,19 +104,19 @@ TEST( Interfaces, areNotServedWithoutAnActivePortAndAConfiguration ) {
 TEST( Interfaces, stayServedWhereTheirPortStopsBeingActiveAndGoWithIt ) {
    std::string const inactive = set( "shared/portStateInfo/portState/1", "active", "false" ) + ", " +
                                 set( "shared/portStateInfo/portState/1", "portGenId", "1" );
-   EXPECT_EQ( told( scenarioOf( 1, "", inactive ) ),
+   EXPECT_EQ( told( scenarioOfInterfaces( 1, "", inactive ) ),
               "  1 served, active: Ethernet1\n"
               "  1 with MTU synced: Ethernet1 1500\n" );
-   EXPECT_EQ( told( scenarioOf( 1,
-                                "",
-                                R"({"delete": {"path": "shared/portStateInfo", "attribute": "portState",
+   EXPECT_EQ( told( scenarioOfInterfaces( 1,
+                                          "",
+                                          R"({"delete": {"path": "shared/portStateInfo", "attribute": "portState",
                                                "key": "1"}})" ) ),
               "  none served, active\n"
               "  1 not served: Ethernet1 (no port)\n" );
 }
 
 TEST( Interfaces, areServedOutsideTheManagedDirectoriesInVeloroSAIMode ) {
-   auto scenario = scenarioOf( 1, "", "" );
+   auto scenario = scenarioOfInterfaces( 1, "", "" );
    auto const mode = scenario.find( R"("VeloroSAIMode": false)" );
    scenario.replace( mode, std::string( R"("VeloroSAIMode": false)" ).size(), R"("VeloroSAIMode": true)" );
    EXPECT_EQ( told( scenario ),
@@ -133,33 +134,34 @@ std::string entry( std::string const & path, std::string const & attribute, std:
 }
 
 TEST( Interfaces, followTheConfigurationThatTheyWereServedWithWhereItIsReplaced ) {
-   EXPECT_EQ( told( scenarioOf( 1, "", entry( configs, "intfConfig", R"({"enabled": false, "mtu": 4000})" ) ) ),
-              "  1 served, active: Ethernet1\n"
-              "  1 with MTU synced: Ethernet1 1500\n"
-              "  1 with another configuration in the directory: "
-              "Ethernet1 (its configuration was replaced; the one from before is still followed)\n" );
+   EXPECT_EQ(
+      told( scenarioOfInterfaces( 1, "", entry( configs, "intfConfig", R"({"enabled": false, "mtu": 4000})" ) ) ),
+      "  1 served, active: Ethernet1\n"
+      "  1 with MTU synced: Ethernet1 1500\n"
+      "  1 with another configuration in the directory: "
+      "Ethernet1 (its configuration was replaced; the one from before is still followed)\n" );
 }
 
 TEST( Interfaces, goOnWithTheStatusFromBeforeWhereItWentAndCame ) {
    std::string const gone = R"({"delete": {"path": ")" + statuses + R"(", "attribute": "intfStatus",
                                 "key": "Ethernet1"}})";
-   EXPECT_EQ( told( scenarioOf( 1, "", gone ) ),
+   EXPECT_EQ( told( scenarioOfInterfaces( 1, "", gone ) ),
               "  1 served, active: Ethernet1\n"
               "  1 with MTU waiting: Ethernet1 (MTU 1500 went to its status from before, which is gone)\n" );
-   EXPECT_EQ( told( scenarioOf( 1, "", gone + ", " + entry( statuses, "intfStatus", "{}" ) ) ),
+   EXPECT_EQ( told( scenarioOfInterfaces( 1, "", gone + ", " + entry( statuses, "intfStatus", "{}" ) ) ),
               "  1 served, active: Ethernet1\n"
               "  1 with MTU waiting: Ethernet1 (MTU 1500 went to its status from before, which was replaced)\n" );
 }
 
 TEST( Interfaces, haveTheirMtuOnceAStandbySliceBecomesActive ) {
-   EXPECT_EQ( told( scenarioOf(
+   EXPECT_EQ( told( scenarioOfInterfaces(
                  1, R"("shared/sliceSmStateData": {"smMode": 1})", set( "shared/sliceSmStateData", "smMode", "2" ) ) ),
               "  1 served, active: Ethernet1\n"
               "  1 with MTU synced: Ethernet1 1500\n" );
 }
 
 TEST( Interfaces, areToldOneByOneWithTheirAddresses ) {
-   Command const l3sm( "run s.json --interfaces", { { "s.json", scenarioOf( 12, "", "" ) } } );
+   Command const l3sm( "run s.json --interfaces", { { "s.json", scenarioOfInterfaces( 12, "", "" ) } } );
    EXPECT_NE( l3sm.output.find( "  Ethernet12  served  MTU 1500 synced\n"
                                 "      status: MTU 1500, at most 9236; address 00:00:00:00:00:00, routed " ),
               std::string::npos )
@@ -167,7 +169,7 @@ TEST( Interfaces, areToldOneByOneWithTheirAddresses ) {
 }
 
 TEST( Interfaces, areNamedInTheirOrderWhereTheyAreFewAndElseCounted ) {
-   EXPECT_EQ( told( scenarioOf( 12, "", "" ) ),
+   EXPECT_EQ( told( scenarioOfInterfaces( 12, "", "" ) ),
               "  12 served, active: Ethernet1, Ethernet2, Ethernet3, Ethernet4, Ethernet5, Ethernet6, Ethernet7, "
               "Ethernet8, and 4 more\n"
               "  12 with MTU synced: Ethernet1 1500, Ethernet2 1500, Ethernet3 1500, Ethernet4 1500, Ethernet5 1500, "

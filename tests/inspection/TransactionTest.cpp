@@ -10,7 +10,7 @@ namespace {
 
 using namespace Inspection;
 
-constexpr char const * text = R"({
+constexpr char const * transactionText = R"({
  "switch": {"faps": [{"fapId": 0, "revision": {"chipType": "BCM88690_B0", "sdkVersion": 7, "major": 5}}]},
  "events": [
   {"transaction": [
@@ -20,14 +20,14 @@ constexpr char const * text = R"({
   {"set": {"path": "evpn/status", "attribute": "vxlanEnabled", "value": true}}]})";
 
 TEST( Transaction, isOneEventOfARun ) {
-   auto const scenario = scenarioOf( parseJson( text, "t.json" ), "t.json" );
+   auto const scenario = scenarioOf( parseJson( transactionText, "t.json" ), "t.json" );
    ASSERT_EQ( scenario.events.size(), 2u );
    EXPECT_EQ( scenario.events[0].cause(), "transaction" );
    EXPECT_EQ( scenario.events[0].text(),
               "at once: set routing/hardware/config urpfLooseFailForward = true, set interface/status/eth/vxlan "
               "vtiStatus[Vxlan1] = {}, delete interface/status/eth/vxlan vtiStatus[Vxlan1]" );
    EXPECT_EQ( toJson( *valueOf( scenario ).object()->at( "events" ).list()->begin(), 0 ),
-              toJson( *parseJson( text, "t" ).object()->at( "events" ).list()->begin(), 0 ) );
+              toJson( *parseJson( transactionText, "t" ).object()->at( "events" ).list()->begin(), 0 ) );
 
    Rex::logSinkIs( []( auto const & ) {} );
    loadPlugin( buildFolder() + "/lib/libL3SmPlugin.so" );
@@ -43,7 +43,7 @@ TEST( Transaction, isOneEventOfARun ) {
 }
 
 TEST( Transaction, isTakenApartForAnswers ) {
-   auto const what = parseJson( text, "t" ).object()->at( "events" ).list()->front();
+   auto const what = parseJson( transactionText, "t" ).object()->at( "events" ).list()->front();
    auto const inputs = EventInput::allOf( what );
    ASSERT_EQ( inputs.size(), 3u );
    EXPECT_EQ( inputs[0].cause(), "routing/hardware/config urpfLooseFailForward" );
@@ -54,7 +54,8 @@ TEST( Transaction, isTakenApartForAnswers ) {
 
 TEST( Transaction, isRefusedWithThePlaceOfEachWrongChange ) {
    auto const wrong = [&]( std::string const & events ) {
-      std::string const head = std::string( text ).substr( 0, std::string( text ).find( "\"events\"" ) );
+      std::string const head =
+         std::string( transactionText ).substr( 0, std::string( transactionText ).find( "\"events\"" ) );
       try {
          scenarioOf( parseJson( head + "\"events\": " + events + "}", "t.json" ), "t.json" );
       } catch ( InputError const & error ) {

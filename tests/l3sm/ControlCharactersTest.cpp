@@ -8,7 +8,7 @@
 namespace {
 
 // A scenario in which everything that can be named is named so.
-std::string scenario() {
+std::string scenarioWithCharacters() {
    std::string const odd = R"(\u001b[31mX\rY\u0007\n\u0085)";
    return R"({"name": "a )" + odd + R"(", "switch": {"slice": {"name": "Line)" + odd +
           R"("}, "faps": [{"fapId": 0, "name": "Fap)" + odd +
@@ -28,8 +28,9 @@ std::size_t controlsIn( std::string const & text ) {
 }
 
 TEST( ControlCharacters, reachNoTerminal ) {
-   Command const made( "run s.json --quiet --journal j --chips c", { { "s.json", scenario() } } );
-   Command::Files const files{ { "s.json", scenario() }, { "j", made.file( "j" ) }, { "c", made.file( "c" ) } };
+   Command const made( "run s.json --quiet --journal j --chips c", { { "s.json", scenarioWithCharacters() } } );
+   Command::Files const files{
+      { "s.json", scenarioWithCharacters() }, { "j", made.file( "j" ) }, { "c", made.file( "c" ) } };
    for ( char const * const line : { "run s.json --event all --interfaces",
                                      "run s.json --quiet --trace '*/9'",
                                      "plan s.json",

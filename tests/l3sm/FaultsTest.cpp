@@ -9,7 +9,7 @@ namespace {
 using testing::HasSubstr;
 using testing::StartsWith;
 
-std::string scenario( std::string const & events ) {
+std::string faultScenario( std::string const & events ) {
    return scenarioWith( R"(, "state": {"evpn/status": {}}, "events": [)" + events + "]" );
 }
 std::string const dci = R"({"set": {"path": "evpn/status", "attribute": "evpnDciEnabled", "value": true}})";
@@ -18,8 +18,9 @@ TEST( FaultsOfAScenario, areToldWithTheEventThatTheyFiredIn ) {
    Command const run(
       "run s.json",
       { { "s.json",
-          scenario( R"({"fault": {"table": "ErppInlifOrientationMap", "entry": 72, "copy": 1, "kind": "lost"}}, )" +
-                    dci ) } } );
+          faultScenario(
+             R"({"fault": {"table": "ErppInlifOrientationMap", "entry": 72, "copy": 1, "kind": "lost"}}, )" +
+             dci ) } } );
    EXPECT_EQ( run.status, 0 ) << run.errors;
    EXPECT_THAT( run.output, HasSubstr( "Event 1: fault ErppInlifOrientationMap.72 --copy 1 --kind lost\n" ) );
    EXPECT_THAT( run.output, HasSubstr( "  fault  lost  FAP 0  ErppInlifOrientationMap[0].72  copy 1\n" ) );
@@ -29,8 +30,9 @@ TEST( FaultsOfAScenario, areARowBehindTheWriteThatTheyBefell ) {
    Command const run(
       "run s.json --quiet --journal j.jsonl",
       { { "s.json",
-          scenario( R"({"fault": {"table": "ErppInlifOrientationMap", "entry": 72, "copy": 1, "kind": "lost"}}, )" +
-                    dci ) } } );
+          faultScenario(
+             R"({"fault": {"table": "ErppInlifOrientationMap", "entry": 72, "copy": 1, "kind": "lost"}}, )" +
+             dci ) } } );
    EXPECT_EQ( run.status, 0 ) << run.errors;
    auto const lines = linesOf( run.file( "j.jsonl" ) );
    auto const fault =
@@ -99,7 +101,7 @@ std::vector< std::string > faultsIn( Command const & run ) {
 
 TEST( FaultsOfAScenario, areAsLikelyAsANumberOrATextSays ) {
    auto const scenarioOf = []( std::string const & probability ) {
-      return scenario( R"({"fault": {"kind": "lost", "seed": 5, "probability": )" + probability + "}}, " + dci );
+      return faultScenario( R"({"fault": {"kind": "lost", "seed": 5, "probability": )" + probability + "}}, " + dci );
    };
    auto const fired = [&]( std::string const & probability ) {
       return faultsIn( Command( "run s.json --quiet --journal j.jsonl", { { "s.json", scenarioOf( probability ) } } ) );
@@ -117,21 +119,21 @@ TEST( FaultsOfAScenario, areWhatAnAuditFinds ) {
    Command const check(
       "check --audit s.json",
       { { "s.json",
-          scenario( R"({"fault": {"table": "IppdFerTrapCfg", "array": 3, "copy": 1, "kind": "flip:7"}})" ) } } );
+          faultScenario( R"({"fault": {"table": "IppdFerTrapCfg", "array": 3, "copy": 1, "kind": "flip:7"}})" ) } } );
    EXPECT_EQ( check.status, 1 ) << check.errors;
    EXPECT_THAT( check.output, StartsWith( "FAP 0 IppdFerTrapCfg[3] copy 1: cpuSnoopCodeN is " ) );
    EXPECT_THAT( check.output, HasSubstr( "\n1 place is wrong: 1 fault fired.\n" ) );
 }
 
 TEST( FaultsOfAScenario, areNoneWithoutOne ) {
-   Command const check( "check --audit s.json", { { "s.json", scenario( dci ) } } );
+   Command const check( "check --audit s.json", { { "s.json", faultScenario( dci ) } } );
    EXPECT_EQ( check.status, 0 ) << check.errors;
    EXPECT_EQ( check.output, "Every chip holds what was written to it: 0 faults fired.\n" );
 }
 
 TEST( FaultsOfAScenario, leaveAChipDegradedThatGoesOnFailing ) {
    Command const check( "check --audit s.json",
-                        { { "s.json", scenario( R"({"fault": {"kind": "error"}}, )" + dci ) } } );
+                        { { "s.json", faultScenario( R"({"fault": {"kind": "error"}}, )" + dci ) } } );
    EXPECT_EQ( check.status, 1 ) << check.errors;
    EXPECT_THAT( check.output,
                 HasSubstr( "FAP 0 is degraded: an operation failed 3 times, and none reached it since\n" ) );
@@ -144,7 +146,7 @@ TEST( FaultsOfAScenario, leaveTheJournalTellingWhatIsOnTheChips ) {
       std::string const then = " >/dev/null && '" + buildFolder() + "/bin/l3sm' ";
       Command const both( "run s.json --journal j.jsonl --chips c.json" + then + "replay j.jsonl" + then +
                              "diff j.jsonl c.json",
-                          { { "s.json", scenario( fault + dci ) } } );
+                          { { "s.json", faultScenario( fault + dci ) } } );
       EXPECT_EQ( both.output, "no difference\n" ) << kind << both.errors;
    }
 }

@@ -6,10 +6,10 @@
 
 namespace {
 
-constexpr char const * scenario = L3SM_SOURCE_DIR "/examples/interface-mtu.json";
+constexpr char const * played = L3SM_SOURCE_DIR "/examples/interface-mtu.json";
 
 std::string playing( std::string const & options ) {
-   return std::string( "run '" ) + scenario + "' --quiet " + options;
+   return std::string( "run '" ) + played + "' --quiet " + options;
 }
 
 // A second run of the program in the folder of the first.
@@ -19,7 +19,7 @@ std::string then( std::string const & arguments ) {
 
 TEST( Report, isTheSameOfARunOfItsJournalAndOfItsScenario ) {
    Command const l3sm( playing( "--journal run.jsonl --report run.html" ) + then( "report run.jsonl -o journal.html" ) +
-                       then( "report '" + std::string( scenario ) + "' -o scenario.html" ) );
+                       then( "report '" + std::string( played ) + "' -o scenario.html" ) );
    EXPECT_EQ( l3sm.errors, "" );
    EXPECT_GT( l3sm.file( "run.html" ).size(), 100'000u );
    EXPECT_TRUE( l3sm.file( "journal.html" ) == l3sm.file( "run.html" ) );
@@ -41,7 +41,7 @@ TEST( Report, isOfOneFileThatTheNetworkHasNoPartIn ) {
 }
 
 TEST( Report, namesTheRunInItsTitleWhateverItsLetters ) {
-   std::string text = contentsOf( scenario );
+   std::string text = contentsOf( played );
    std::string const name = "Interfaces: an MTU reaches the subinterfaces of its interface";
    text.replace( text.find( name ), name.size(), "</script><b>&" );
    Command const l3sm( "report odd.json -o odd.html", { { "odd.json", text } } );

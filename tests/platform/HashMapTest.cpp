@@ -18,14 +18,14 @@ struct Value : Corvo::Node {
       }
    }
 };
-using Map = Rex::HashMap2018< std::string, Corvo::Ptr< Value > >;
+using CountedMap = Rex::HashMap2018< std::string, Corvo::Ptr< Value > >;
 
-void fill( Map & map, std::initializer_list< char const * > keys ) {
+void fill( CountedMap & map, std::initializer_list< char const * > keys ) {
    for ( auto const * key : keys ) {
       map.set( key, Corvo::makePtr< Value >( static_cast< int >( map.size() ) ) );
    }
 }
-std::string keys( Map const & map ) {
+std::string keys( CountedMap const & map ) {
    std::string all;
    for ( auto const & [key, value] : map ) {
       all += key;
@@ -33,7 +33,7 @@ std::string keys( Map const & map ) {
    return all;
 }
 // Walks the map, and runs `at` when it stands on `key`. Returns the keys that it met.
-std::string walk( Map const & map, std::string const & on, std::function< void() > const & at ) {
+std::string walk( CountedMap const & map, std::string const & on, std::function< void() > const & at ) {
    std::string met;
    for ( auto const & [key, value] : map ) {
       met += key;
@@ -46,7 +46,7 @@ std::string walk( Map const & map, std::string const & on, std::function< void()
 }
 
 TEST( HashMap, KeepsTheOrderOfInsertion ) {
-   Map map;
+   CountedMap map;
    fill( map, { "c", "a", "b" } );
    map.set( "a", Corvo::makePtr< Value >( 7 ) ); // replaced: keeps its place
    EXPECT_EQ( keys( map ), "cab" );
@@ -61,7 +61,7 @@ TEST( HashMap, KeepsTheOrderOfInsertion ) {
 }
 
 TEST( HashMap, EmptyMapCanBeWalkedAndAsked ) {
-   Map map;
+   CountedMap map;
    EXPECT_EQ( keys( map ), "" );
    EXPECT_FALSE( map.has( "a" ) );
    EXPECT_EQ( map.get( "a" ), nullptr );
@@ -71,14 +71,14 @@ TEST( HashMap, EmptyMapCanBeWalkedAndAsked ) {
 }
 
 TEST( HashMapWalk, MayRemoveTheEntryItStandsOn ) {
-   Map map;
+   CountedMap map;
    fill( map, { "a", "b", "c" } );
    EXPECT_EQ( walk( map, "b", [&] { map.del( "b" ); } ), "abc" );
    EXPECT_EQ( keys( map ), "ac" );
 }
 
 TEST( HashMapWalk, DoesNotMeetWhatIsRemovedAheadOfIt ) {
-   Map map;
+   CountedMap map;
    fill( map, { "a", "b", "c", "d" } );
    EXPECT_EQ( walk( map,
                     "a",
@@ -90,14 +90,14 @@ TEST( HashMapWalk, DoesNotMeetWhatIsRemovedAheadOfIt ) {
 }
 
 TEST( HashMapWalk, MayRemoveWhatItHasMet ) {
-   Map map;
+   CountedMap map;
    fill( map, { "a", "b", "c" } );
    EXPECT_EQ( walk( map, "b", [&] { map.del( "a" ); } ), "abc" );
    EXPECT_EQ( keys( map ), "bc" );
 }
 
 TEST( HashMapWalk, DoesNotMeetWhatIsAddedAfterItBegan ) {
-   Map map;
+   CountedMap map;
    fill( map, { "a", "b" } );
    EXPECT_EQ( walk( map,
                     "a",
@@ -111,7 +111,7 @@ TEST( HashMapWalk, DoesNotMeetWhatIsAddedAfterItBegan ) {
 }
 
 TEST( HashMapWalk, MeetsTheNewValueOfAnEntryThatIsReplaced ) {
-   Map map;
+   CountedMap map;
    fill( map, { "a", "b" } );
    int met = 0;
    for ( auto const & [key, value] : map ) {
@@ -122,7 +122,7 @@ TEST( HashMapWalk, MeetsTheNewValueOfAnEntryThatIsReplaced ) {
 }
 
 TEST( HashMapWalk, EndsWhereTheMapIsCleared ) {
-   Map map;
+   CountedMap map;
    fill( map, { "a", "b", "c" } );
    EXPECT_EQ( walk( map, "b", [&] { map.clear(); } ), "ab" );
    EXPECT_TRUE( map.empty() );
@@ -132,7 +132,7 @@ TEST( HashMapWalk, EndsWhereTheMapIsCleared ) {
 
 TEST( HashMapWalk, SurvivesTheDestructionOfTheMap ) {
    U32 const before = Corvo::Node::liveCount();
-   auto map = std::make_unique< Map >();
+   auto map = std::make_unique< CountedMap >();
    fill( *map, { "a", "b", "c" } );
    std::string met;
    for ( auto const & [key, value] : *map ) {
@@ -145,7 +145,7 @@ TEST( HashMapWalk, SurvivesTheDestructionOfTheMap ) {
 }
 
 TEST( HashMapWalk, WalksNest ) {
-   Map map;
+   CountedMap map;
    fill( map, { "a", "b", "c" } );
    std::string met;
    for ( auto const & [outer, outerValue] : map ) {
@@ -158,7 +158,7 @@ TEST( HashMapWalk, WalksNest ) {
 }
 
 TEST( HashMapWalk, RemovingReleasesTheValueAtOnce ) {
-   Map map;
+   CountedMap map;
    fill( map, { "a", "b" } );
    U32 const before = Corvo::Node::liveCount();
    walk( map, "a", [&] {
@@ -168,7 +168,7 @@ TEST( HashMapWalk, RemovingReleasesTheValueAtOnce ) {
 }
 
 TEST( HashMapDeath, AnIteratorOnARemovedEntryIsNotRead ) {
-   Map map;
+   CountedMap map;
    fill( map, { "a" } );
    auto const it = map.begin();
    map.del( "a" );
@@ -177,7 +177,7 @@ TEST( HashMapDeath, AnIteratorOnARemovedEntryIsNotRead ) {
 }
 
 TEST( HashMap, ValuesMayChangeItWhileTheyGo ) {
-   auto map = std::make_unique< Map >();
+   auto map = std::make_unique< CountedMap >();
    fill( *map, { "a", "b", "c" } );
    map->get( "a" )->atEnd = [&] {
       EXPECT_FALSE( map->has( "a" ) );
@@ -195,7 +195,7 @@ TEST( HashMap, ValuesMayChangeItWhileTheyGo ) {
 }
 
 TEST( HashMap, ClearReleasesInOrderAndTakesWhatComesInMeanwhile ) {
-   Map map;
+   CountedMap map;
    fill( map, { "a", "b" } );
    std::string gone;
    map.get( "a" )->atEnd = [&] {

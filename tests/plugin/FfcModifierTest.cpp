@@ -9,7 +9,7 @@ using DaceFapNi::RemFfcModifierSm;
 
 namespace {
 
-constexpr char const * routeStatus = "routing/hardware/route/status";
+constexpr char const * prefixLengths = "routing/hardware/route/status";
 
 Toggle::Settings const served{ { "Dace.json", { { "ArmOrderedSwTable", false } } } };
 
@@ -51,7 +51,7 @@ Key keyFor( U64 prefixLen, U64 vrfBits ) {
 }
 
 void lengthIs( TestSwitch & sw, char const * key, int length ) {
-   sw.setEntry( routeStatus, "prefixLensInExactMatch", key, length );
+   sw.setEntry( prefixLengths, "prefixLensInExactMatch", key, length );
 }
 
 TEST( FfcModifier, theKeyFollowsThePrefixLengthAndGoesBack ) {
@@ -66,7 +66,7 @@ TEST( FfcModifier, theKeyFollowsThePrefixLengthAndGoesBack ) {
       EXPECT_EQ( keyOn( sw, row.context ), keyFor( 21, row.vrfBits ) ) << row.chip;
       lengthIs( sw, "0", 32 );
       EXPECT_EQ( keyOn( sw, row.context ), keyFor( 32, row.vrfBits ) ) << row.chip;
-      sw.deleteEntry( routeStatus, "prefixLensInExactMatch", "0" );
+      sw.deleteEntry( prefixLengths, "prefixLensInExactMatch", "0" );
       EXPECT_EQ( keyOn( sw, row.context ), keyFor( 32, row.vrfBits ) ) << row.chip;
    }
 }

@@ -8,8 +8,8 @@ using L3::Tunnel::PayloadType;
 
 namespace {
 
-constexpr PayloadType mpls{ 1 };
-constexpr PayloadType ipv4{ 3 };
+constexpr PayloadType mplsPayload{ 1 };
+constexpr PayloadType ipv4Payload{ 3 };
 
 class GueFallbackTest : public OverlayTest {
  public:
@@ -57,7 +57,7 @@ TEST_F( GueFallbackTest, theGroupThatHasThePortChangesItsPayloadAndThePortStays 
 }
 
 TEST_F( GueFallbackTest, startGoesThroughTheConfiguredPortsAndThenTheGroups ) {
-   ports->udpDestPortIs( ipv4, 6081 );
+   ports->udpDestPortIs( ipv4Payload, 6081 );
    decapGroupIs( 6635, 1 );
    sm = gueNexthopGroupSmFactory( sw().cellStatus(), dgConfig, ports, sal() );
    EXPECT_EQ( operations(),

@@ -6,7 +6,7 @@ using namespace Test;
 
 namespace {
 
-constexpr char const * lag = "hardware/dace/lag/daceLagStatus";
+constexpr char const * lagStatus = "hardware/dace/lag/daceLagStatus";
 
 // A switch whose slice stands in slot 3.
 struct SlotSwitch : TestSwitch {
@@ -14,7 +14,7 @@ struct SlotSwitch : TestSwitch {
       setEntry( "shared/sliceSmStateData", "slotIds", "Linecard1", 3 );
    }
    void mode( char const * slot, int value ) {
-      setEntry( lag, "slotLoadBalance", slot, Object{ { "guePktTypeHashMode", value } } );
+      setEntry( lagStatus, "slotLoadBalance", slot, Object{ { "guePktTypeHashMode", value } } );
    }
    U64 profile( U32 variant, U32 array, FapId fap = {} ) const {
       return field( { "VsiProfileEnablers", variant, array, 5 }, "routingProfile3", fap );
@@ -56,9 +56,9 @@ TEST( SlotLoadBalance, aModeOfTheOwnSlotTerminatesOrSkipsOnEveryFap ) {
       EXPECT_EQ( sw.profile( 1, 4, fap ), 19u );
    }
    for ( int const terminating : { 0, 1, 3, 255 } ) {
-      sw.set( std::string( lag ) + "/slotLoadBalance/3", "guePktTypeHashMode", 2 );
+      sw.set( std::string( lagStatus ) + "/slotLoadBalance/3", "guePktTypeHashMode", 2 );
       sw.expectProfile( 0, FapId( 1 ) );
-      sw.set( std::string( lag ) + "/slotLoadBalance/3", "guePktTypeHashMode", terminating );
+      sw.set( std::string( lagStatus ) + "/slotLoadBalance/3", "guePktTypeHashMode", terminating );
       for ( FapId const fap : { FapId( 0 ), FapId( 1 ) } ) {
          sw.expectProfile( 23, fap );
          EXPECT_EQ( sw.profile( 0, 0, fap ), 19u );
@@ -93,7 +93,7 @@ TEST( SlotLoadBalance, aForeignSlotIsToldAndDropped ) {
                                             "8 handleGuePktTypeHashModeConfig: Skipping notification" } ) );
    EXPECT_EQ( Rex::RingTrace::records().back().text,
               "handleGuePktTypeHashModeConfig: Skiping notification for slot:4" );
-   sw.set( std::string( lag ) + "/slotLoadBalance/4", "guePktTypeHashMode", 0 );
+   sw.set( std::string( lagStatus ) + "/slotLoadBalance/4", "guePktTypeHashMode", 0 );
    EXPECT_TRUE( sw.rows().empty() );
 }
 
@@ -104,7 +104,7 @@ TEST( SlotLoadBalance, aConfigurationThatArrivesLaterActsAtOnce ) {
    sw.mode( "3", 0 );
    EXPECT_EQ( sw.operations(), programming );
    EXPECT_EQ( sw.rows()[0].cause, "hardware/dace/lag/daceLagStatus slotLoadBalance" );
-   sw.set( std::string( lag ) + "/slotLoadBalance/3", "guePktTypeHashMode", 2 );
+   sw.set( std::string( lagStatus ) + "/slotLoadBalance/3", "guePktTypeHashMode", 2 );
    EXPECT_EQ( sw.operations(), programming );
    EXPECT_EQ( sw.rows()[0].cause, "hardware/dace/lag/daceLagStatus/slotLoadBalance/3 guePktTypeHashMode" );
 }
@@ -129,7 +129,7 @@ TEST( SlotLoadBalance, anotherConfigurationOfTheSlotIsFollowedInItsPlace ) {
    SlotSwitch sw;
    sw.mode( "3", 2 );
    sw.start();
-   auto const status = sw.entity< Hardware::DaceLag::Status >( lag );
+   auto const status = sw.entity< Hardware::DaceLag::Status >( lagStatus );
    auto const first = status->slotLoadBalance( { 3 } );
    sw.mode( "3", 1 ); // a new object
    EXPECT_EQ( sw.operations(), programming );
@@ -142,7 +142,7 @@ TEST( SlotLoadBalance, anotherConfigurationOfTheSlotIsFollowedInItsPlace ) {
    Fru::SlotId const slot{ 3 };
    sw.change( [&] { status->publisher()->publish( 0x106, &slot ); } );
    EXPECT_TRUE( sw.rows().empty() );
-   sw.set( std::string( lag ) + "/slotLoadBalance/3", "guePktTypeHashMode", 2 );
+   sw.set( std::string( lagStatus ) + "/slotLoadBalance/3", "guePktTypeHashMode", 2 );
    sw.expectProfile( 0 );
 }
 
@@ -150,8 +150,8 @@ TEST( SlotLoadBalance, aWithdrawnConfigurationLeavesTheChipAndIsForgotten ) {
    SlotSwitch sw;
    sw.mode( "3", 2 );
    sw.start();
-   auto const first = sw.entity< Hardware::DaceLag::Status >( lag )->slotLoadBalance( { 3 } );
-   sw.deleteEntry( lag, "slotLoadBalance", "3" );
+   auto const first = sw.entity< Hardware::DaceLag::Status >( lagStatus )->slotLoadBalance( { 3 } );
+   sw.deleteEntry( lagStatus, "slotLoadBalance", "3" );
    EXPECT_TRUE( sw.rows().empty() );
    sw.expectProfile( 0 );
    EXPECT_EQ( first->useCount(), 1u );
@@ -168,15 +168,15 @@ TEST( SlotLoadBalance, aSliceWithoutASlotStandsInSlotZero ) {
    sw.start();
    EXPECT_EQ( traced.with( "not ready" ),
               ( std::vector< std::string >{ "8 handleInitialized: slot:0 Load Balance Config not ready" } ) );
-   sw.setEntry( lag, "slotLoadBalance", "3", Object{ { "guePktTypeHashMode", 2 } } );
+   sw.setEntry( lagStatus, "slotLoadBalance", "3", Object{ { "guePktTypeHashMode", 2 } } );
    EXPECT_TRUE( sw.rows().empty() );
-   sw.setEntry( lag, "slotLoadBalance", "0", Object{ { "guePktTypeHashMode", 2 } } );
+   sw.setEntry( lagStatus, "slotLoadBalance", "0", Object{ { "guePktTypeHashMode", 2 } } );
    EXPECT_EQ( sw.operations(), programming );
 }
 
 TEST( SlotLoadBalance, withoutALagStatusNoSlotIsReady ) {
    SlotSwitch sw;
-   sw.deleteEntity( lag );
+   sw.deleteEntity( lagStatus );
    Traced const traced( "DaceFapNiL3Sm", 8 );
    sw.start();
    EXPECT_EQ( traced.with( "not ready" ),
@@ -189,13 +189,13 @@ TEST( SlotLoadBalance, anEntryBeforeInitializationWaits ) {
    sw.set( "shared/phySmStateData", "allEthPhyIntfConfigDir", nullptr );
    sw.start();
    sw.mode( "3", 2 );
-   sw.set( std::string( lag ) + "/slotLoadBalance/3", "guePktTypeHashMode", 1 );
-   sw.set( std::string( lag ) + "/slotLoadBalance/3", "guePktTypeHashMode", 2 );
+   sw.set( std::string( lagStatus ) + "/slotLoadBalance/3", "guePktTypeHashMode", 1 );
+   sw.set( std::string( lagStatus ) + "/slotLoadBalance/3", "guePktTypeHashMode", 2 );
    EXPECT_EQ( sw.journal().operationCount(), 0u );
    sw.set( "shared/phySmStateData", "allEthPhyIntfConfigDir", Object{} );
    EXPECT_EQ( sw.operations( "VsiProfileEnablers" ), programming );
    sw.expectProfile( 0 );
-   sw.set( std::string( lag ) + "/slotLoadBalance/3", "guePktTypeHashMode", 0 );
+   sw.set( std::string( lagStatus ) + "/slotLoadBalance/3", "guePktTypeHashMode", 0 );
    sw.expectProfile( 23 );
 }
 
@@ -204,7 +204,7 @@ TEST( SlotLoadBalance, aSliceOfAnotherFamilyDoesNotProgram ) {
    sw.entity< DaceFapNi::SliceSmStateInfo >( "shared/sliceSmStateData" )->revisionIs( { 5, ChipType{ 17 }, 7 } );
    sw.start();
    Traced const traced( "DaceFapNiL3Sm", 8 );
-   sw.setEntry( lag, "slotLoadBalance", "0", Object{ { "guePktTypeHashMode", 2 } } );
+   sw.setEntry( lagStatus, "slotLoadBalance", "0", Object{ { "guePktTypeHashMode", 2 } } );
    EXPECT_TRUE( sw.operations( "VsiProfileEnablers" ).empty() );
    EXPECT_TRUE( traced.texts.empty() ); // the slot isn't even looked at
 }

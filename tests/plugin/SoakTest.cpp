@@ -37,7 +37,7 @@ SoakCase const soakCases[] = {
 };
 
 std::string const vtis = "interface/status/eth/vxlan";
-std::string const slots = "hardware/dace/lag/daceLagStatus";
+std::string const lagSlots = "hardware/dace/lag/daceLagStatus";
 std::string const ports = "shared/portStateInfo";
 std::string const decapCli = "routing/tunneldecap/input/cli";
 std::string const decapBgp = "routing/tunneldecap/input/dynamic/bgp";
@@ -161,11 +161,11 @@ class Life {
       auto const slot = std::to_string( below( 2 ) );
       switch ( below( 3 ) ) {
       case 0:
-         return sw_.setEntry( slots, "slotLoadBalance", slot, Object{ { "guePktTypeHashMode", below( 3 ) } } );
+         return sw_.setEntry( lagSlots, "slotLoadBalance", slot, Object{ { "guePktTypeHashMode", below( 3 ) } } );
       case 1:
-         return sw_.deleteEntry( slots, "slotLoadBalance", slot );
+         return sw_.deleteEntry( lagSlots, "slotLoadBalance", slot );
       default:
-         return sw_.set( slots + "/slotLoadBalance/" + slot, "guePktTypeHashMode", below( 3 ) );
+         return sw_.set( lagSlots + "/slotLoadBalance/" + slot, "guePktTypeHashMode", below( 3 ) );
       }
    }
    void portState() {
@@ -263,7 +263,7 @@ class SoakTest : public testing::TestWithParam< SoakCase > {
    // What follows more than the present state is brought to where only that counts:
    static void settle( Simulator::SimulatedSwitch & sw ) {
       // A withdrawn load-balance configuration of the own slot leaves its last programming.
-      sw.setEntry( slots, "slotLoadBalance", "0", Object{ { "guePktTypeHashMode", 2 } } );
+      sw.setEntry( lagSlots, "slotLoadBalance", "0", Object{ { "guePktTypeHashMode", 2 } } );
       // Several VTIs share one VXLAN port of each kind, and the last to speak has it; one that goes turns it off.
       for ( auto const * const name : { "Vxlan1", "Vxlan2", "Vxlan3" } ) {
          sw.setEntry( vtis, "vtiStatus", name, Object{} );

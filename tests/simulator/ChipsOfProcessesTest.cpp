@@ -16,7 +16,7 @@ using Hardware::Dace::FapId;
 
 namespace {
 
-constexpr ChipType kind = ChipType::BCM88690_B0;
+constexpr ChipType chipKind = ChipType::BCM88690_B0;
 constexpr U32 one = 0x11111111;
 constexpr U32 two = 0xeeeeeeee;
 
@@ -64,7 +64,7 @@ class Process {
 struct ChipsOfProcesses : testing::Test {
    Folder folder;
    std::string path = folder / "chips";
-   SwitchDescription description{ .faps = { { .fapId = FapId( 0 ), .revision = { 5, kind, 7 } } } };
+   SwitchDescription description{ .faps = { { .fapId = FapId( 0 ), .revision = { 5, chipKind, 7 } } } };
 
    ChipsMapping opened() const { return ChipsMapping::open( path, description ).value(); }
    bool isInUse() const {
@@ -76,7 +76,7 @@ struct ChipsOfProcesses : testing::Test {
       return false;
    }
    static Chip chipOf( ChipsMapping const & chips ) {
-      return { ChipId{ 0 }, "chip", addressMap( kind ), chips.chip( FapId( 0 ) ) };
+      return { ChipId{ 0 }, "chip", addressMap( chipKind ), chips.chip( FapId( 0 ) ) };
    }
 };
 
@@ -121,7 +121,7 @@ TEST_F( ChipsOfProcesses, holdOneOfTwoValuesInEachWordWhenTheOneWhoWritesIsKille
       auto const twos = std::ranges::count( memory.words, two );
       EXPECT_EQ( ones + twos, static_cast< std::ptrdiff_t >( memory.words.size() ) );
       mixtures.insert( ones > 0 && twos > 0 );
-      for ( auto const & range : addressMap( kind ).ranges() ) {
+      for ( auto const & range : addressMap( chipKind ).ranges() ) {
          auto const value = memory.controls.value( range.base % 500 );
          ASSERT_TRUE( value == one || value == two );
       }
@@ -244,7 +244,7 @@ TEST_F( ChipsOfProcesses, areFreeWhenTheirAgentIsGoneThoughACopyOfItStays ) {
 TEST_F( ChipsOfProcesses, areCopiedWithTheProcess ) {
    auto const chips = ChipsMapping::make( path, description );
    Chip chip = chipOf( chips );
-   auto const & range = addressMap( kind ).ranges()[0];
+   auto const & range = addressMap( chipKind ).ranges()[0];
    SchanAddress const at{ range.base, range.blocks[0] >> 8, range.blocks[0] & 0xff };
    auto const write = [&]( U32 value ) { chip.write( at, std::vector< U32 >( range.width, value ) ); };
    auto const value = [&] { return chip.entry( at ).words()[0]; };
