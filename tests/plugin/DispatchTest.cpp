@@ -1,5 +1,6 @@
 // Every row of the dispatch tables of all state machines: the change of the attribute reaches its handlers and no
 // others, and no other attribute of the input reaches anything.
+#include "BuildFolder.h"
 #include "MountedSwitch.h"
 #include "RexIpIntfConfigFilter.h"
 
@@ -277,7 +278,8 @@ TEST_F( DispatchTest, noOtherAttributeReachesAnything ) {
       for ( auto const & attribute : entity->typeData().attributes() ) {
          ASSERT_LT( attribute->id, 0x300 );
       }
-      for ( short id = 0; id < 0x300; ++id ) {
+      // What nobody serves takes one way; some are enough for the sanitizers.
+      for ( short id = 0; id < 0x300; id += isSanitized() ? 7 : 1 ) {
          if ( !attributes.contains( id ) ) {
             entity->publisher()->publish( id );
             EXPECT_EQ( heard.take(), Names{} ) << name << " attribute 0x" << std::hex << id;
