@@ -1,6 +1,7 @@
 #include "inspection/files/RowTexts.h"
 
 #include "inspection/files/WrittenRow.h"
+#include "inspection/views/Terminal.h"
 
 #include <cstring>
 
@@ -10,6 +11,10 @@ RowTexts::Text RowTexts::kept( std::string_view text ) {
    auto const known = numbers_.find( text );
    if ( known != numbers_.end() ) {
       return { known->first, known->second };
+   }
+   // A journal may come from anywhere, and these texts go to people as they are kept.
+   if ( std::string const written = printable( text ); written != text ) {
+      return kept( written );
    }
    auto const number = static_cast< U32 >( texts_.size() );
    std::string_view const keep = texts_.emplace_back( text );

@@ -49,4 +49,27 @@ TEST( ControlCharacters, reachNoTerminal ) {
    }
 }
 
+// A journal says in its rows which function did something, where it stands, what it was called for and what stopped it.
+TEST( ControlCharacters, ofTheTextsInAJournalReachNoTerminal ) {
+   Command const made( "run '" L3SM_SOURCE_DIR "/examples/urpf-and-ip-traps.json' --quiet --journal j" );
+   for ( char const * const odd : { "\033[31m", R"(\u001b[31m)" } ) {
+      std::string journal = made.file( "j" );
+      for ( char const * const text : { "reason", "function", "source", "cause" } ) {
+         std::string const begin = std::string( "\"" ) + text + "\": \"";
+         for ( auto at = journal.find( begin ); at != std::string::npos; at = journal.find( begin, at ) ) {
+            at += begin.size();
+            journal.insert( at, odd );
+         }
+      }
+      for ( char const * const line : { "why j IppdFerTrapCfg.cpuStrengthN",
+                                        "why j L3SmMounter::createPluginStatePhase2 --gates",
+                                        "bisect j IppdFerTrapCfg.cpuStrengthN=5" } ) {
+         Command const l3sm( line, { { "j", journal } } );
+         EXPECT_EQ( controlsIn( l3sm.output + l3sm.errors ), 0u ) << line << "\n" << l3sm.output << l3sm.errors;
+         EXPECT_NE( ( l3sm.output + l3sm.errors ).find( "\\x1b[31m" ), std::string::npos ) << line << "\n"
+                                                                                           << l3sm.output;
+      }
+   }
+}
+
 } // namespace
