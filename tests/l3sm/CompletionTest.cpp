@@ -1,46 +1,12 @@
 // What can follow on a line that is being typed: as the program says it, and as the shells offer it.
-#include "l3sm/Completion.h"
 #include "BuildFolder.h"
 #include "l3sm/Command.h"
-#include "l3sm/CommandLine.h"
+#include "l3sm/Completions.h"
 
-#include <CLI/CLI.hpp>
 #include <algorithm>
 #include <gtest/gtest.h>
-#include <set>
 
 namespace {
-
-using Names = std::set< std::string >;
-
-// The command line as a whole, to ask what it has.
-struct Everything {
-   CLI::App app;
-   std::function< int() > action;
-   Everything() { Cli::defineCommandLine( app, action ); }
-};
-
-CLI::App const & everything() {
-   static auto const * const theCommandLine = new Everything;
-   return theCommandLine->app;
-}
-
-Names choicesOf( std::string const & text ) {
-   Names lines;
-   std::istringstream in( text );
-   for ( std::string line; std::getline( in, line ); ) {
-      lines.insert( line.substr( 0, line.find( '\t' ) ) );
-   }
-   lines.erase( "" );
-   return lines;
-}
-
-// What the program answers for the words of a line, the last of them being typed.
-Names completions( std::vector< std::string > const & words ) {
-   std::ostringstream out;
-   Cli::writeCompletion( out, everything(), words );
-   return choicesOf( out.str() );
-}
 
 TEST( Completion, offersEveryVerb ) {
    Names expected;
@@ -91,6 +57,12 @@ TEST( Completion, offersAnOptionOnceUnlessItMayBeRepeated ) {
    EXPECT_TRUE( completions( { "l3sm", "catalogue", "--journal", "j", "--j" } ).contains( "--journal" ) );
 }
 
+TEST( Completion, goesOnBehindAnOptionWithItsValue ) {
+   EXPECT_EQ( completions( { "l3sm", "run", "--chips", "c", "--qui" } ), Names{ "--quiet" } );
+   EXPECT_EQ( completions( { "l3sm", "run", "--chips", "c", "" } ), Names{ ":files" } ); // the scenario
+   EXPECT_EQ( completions( { "l3sm", "run", "--fly", "--qui" } ), Names{ "--quiet" } );
+}
+
 TEST( Completion, offersTablesFieldsAndControls ) {
    EXPECT_EQ( completions( { "l3sm", "catalogue", "IppdFer" } ), Names{ "IppdFerTrapCfg" } );
    EXPECT_EQ( completions( { "l3sm", "show", "chips.json", "IppdFerTrapCfg", "IppdFer" } ), Names{ "IppdFerTrapCfg" } );
@@ -137,6 +109,20 @@ TEST( Completion, offersWhatAnEventCanBeCalled ) {
    EXPECT_EQ( completions( { "l3sm", "run", "--event", "" } ), ( Names{ "all", "last" } ) );
 }
 
+TEST( Completion, offersTheCausesOfOperations ) {
+   EXPECT_EQ( completions( { "l3sm", "why", "run.jsonl", "IppdFerTrapCfg", "--cause", "evpn/status e" } ),
+              Names{ "evpn/status evpnDciEnabled" } );
+   EXPECT_EQ( completions( { "l3sm", "why", "run.jsonl", "IppdFerTrapCfg", "--cause", "chip" } ),
+              Names{ "chip-init" } );
+   EXPECT_EQ( completions( { "l3sm", "why", "run.jsonl", "IppdFerTrapCfg", "--cause", "star" } ), Names{ "start" } );
+}
+
+TEST( Completion, offersTheSubjectsOfANewScenarioOneBehindTheOther ) {
+   EXPECT_EQ( completions( { "l3sm", "new", "--with", "v" } ), ( Names{ "vti", "vxlan" } ) );
+   EXPECT_EQ( completions( { "l3sm", "new", "--with", "qos,urpf,ev" } ), Names{ "qos,urpf,evpn" } );
+   EXPECT_EQ( completions( { "l3sm", "new", "--with=qos,ev" } ), Names{ "--with=qos,evpn" } );
+}
+
 TEST( Completion, leavesFilesToTheShell ) {
    EXPECT_EQ( completions( { "l3sm", "run", "" } ), Names{ ":files" } );
    EXPECT_EQ( completions( { "l3sm", "run", "s.json", "--plugin", "" } ), Names{ ":files" } );
@@ -147,6 +133,8 @@ TEST( Completion, hasNothingToSayOfWhatItDoesNotKnow ) {
    EXPECT_EQ( completions( { "l3sm" } ), Names{} );
    EXPECT_EQ( completions( { "l3sm", "fly", "" } ), Names{} );
    EXPECT_EQ( completions( { "l3sm", "why", "run.jsonl", "x", "--fap", "" } ), Names{} );
+   EXPECT_EQ( completions( { "l3sm", "run", "--quiet=" } ), Names{} );
+   EXPECT_EQ( completions( { "l3sm", "run", "--fly=" } ), Names{} );
 }
 
 // ---- the shells

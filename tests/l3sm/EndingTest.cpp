@@ -225,4 +225,17 @@ TEST( Ending, namesWhatContradictsTheChip ) {
    EXPECT_EQ( last.find( "an IPv4 prefix" ), std::string::npos ) << last;
 }
 
+TEST( Ending, byAnAssertionTellsWhatFailedAlsoWhereAFileCannotBeWritten ) {
+   std::string const tooManyCores =
+      R"({"switch": {"faps": [{"fapId": 0, "cores": 3, "revision": {"chipType": "BCM88690_B0"}}]},
+          "toggles": {"Dace.json": {"ArmOrderedSwTable": false}}})";
+   Command const l3sm( "run s.json --quiet --chips /dev/full", { { "s.json", tooManyCores } } );
+   EXPECT_EQ( l3sm.status, 128 + SIGABRT );
+   auto const full = l3sm.errors.find( "l3sm: /dev/full: can't be written: No space left on device\n" );
+   auto const failed =
+      l3sm.errors.find( "The run ended by an assertion: \"fapPortId <= recircPortCoreMax\" == nullptr, " );
+   EXPECT_NE( full, std::string::npos ) << l3sm.errors;
+   EXPECT_NE( failed, std::string::npos ) << l3sm.errors;
+}
+
 } // namespace

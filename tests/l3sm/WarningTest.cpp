@@ -98,6 +98,21 @@ TEST( Warning, tellsOfPrefixesLongerThanAnAddress ) {
                     R"(, "value": {"3": §255}}}])" );
 }
 
+TEST( Warning, isOneOfTwentyAtMost ) {
+   std::string events;
+   for ( int length = 101; length <= 123; ++length ) {
+      events += std::string( events.empty() ? "" : ", " ) +
+                R"({"set": {"path": "routing/hardware/route/status", "attribute": "prefixLensInExactMatch",)" +
+                R"( "value": {"0": )" + std::to_string( length ) + "}}}";
+   }
+   Command const l3sm( "run s.json --quiet", { { "s.json", scenarioWith( ", \"events\": [" + events + "]" ) } } );
+   auto const lines = linesOf( l3sm.errors );
+   ASSERT_EQ( lines.size(), 21u );
+   EXPECT_TRUE( lines[19].ends_with( ": event 20: an IPv4 prefix has at most 32 bits, not 120" ) ) << lines[19];
+   EXPECT_EQ( lines[20], "l3sm: ... and 3 more warnings" );
+   EXPECT_EQ( l3sm.status, 0 );
+}
+
 TEST( Warning, isToldOnceWhereAScenarioIsPlayedManyTimes ) {
    Command const l3sm(
       "compare s.json --table IppdFerTrapCfg",

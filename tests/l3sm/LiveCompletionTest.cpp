@@ -1,0 +1,65 @@
+// What can follow on a line for a central database or a running agent.
+#include "agent/control/ControlSocket.h"
+#include "l3sm/Completions.h"
+
+#include <gtest/gtest.h>
+
+namespace {
+
+TEST( LiveCompletion, offersTheActionsOfState ) {
+   EXPECT_EQ( completions( { "l3sm", "state", "" } ),
+              ( Names{ "get", "set", "delete", "load", "apply", "watch", "wait" } ) );
+   EXPECT_EQ( completions( { "l3sm", "state", "wa" } ), ( Names{ "watch", "wait" } ) );
+}
+
+TEST( LiveCompletion, offersBehindAnActionOfStateThePathAndItsAttributes ) {
+   EXPECT_EQ( completions( { "l3sm", "state", "set", "evpn/" } ), Names{ "evpn/status" } );
+   EXPECT_EQ( completions( { "l3sm", "state", "set", "evpn/status", "" } ),
+              ( Names{ "vxlanEnabled", "mplsEnabled", "evpnDciEnabled" } ) );
+   EXPECT_EQ( completions( { "l3sm", "state", "delete", "evpn/status", "mp" } ), Names{ "mplsEnabled" } );
+   EXPECT_EQ( completions( { "l3sm", "state", "set", "interface/status/eth/vxlan/vtiStatus/Vxlan1", "sec" } ),
+              Names{ "secUdpPort" } );
+   EXPECT_EQ( completions( { "l3sm", "state", "set", "nowhere", "" } ), Names{} );
+   EXPECT_EQ( completions( { "l3sm", "state", "set", "evpn/status", "mplsEnabled", "" } ), Names{} ); // a value
+}
+
+TEST( LiveCompletion, leavesTheFilesOfStateToTheShell ) {
+   EXPECT_EQ( completions( { "l3sm", "state", "load", "" } ), Names{ ":files" } );
+   EXPECT_EQ( completions( { "l3sm", "state", "apply", "" } ), Names{ ":files" } );
+}
+
+TEST( LiveCompletion, offersWhatAnAgentTakes ) {
+   EXPECT_EQ( completions( { "l3sm", "ctl", "s" } ), ( Names{ "show", "state", "status" } ) );
+   EXPECT_EQ( completions( { "l3sm", "ctl", "--agent", "Linecard3", "fre" } ), Names{ "freeze" } );
+   EXPECT_EQ( completions( { "l3sm", "ctl", "--json", "th" } ), Names{ "thaw" } );
+   EXPECT_EQ( completions( { "l3sm", "ctl", "freeze", "" } ), Names{} );
+}
+
+TEST( LiveCompletion, offersBehindAnAgentsCommandItsSecondWord ) {
+   EXPECT_EQ( completions( { "l3sm", "ctl", "state", "" } ), ( Names{ "set", "delete", "apply" } ) );
+   EXPECT_EQ( completions( { "l3sm", "ctl", "record", "" } ), ( Names{ "start", "mark", "stop" } ) );
+   EXPECT_EQ( completions( { "l3sm", "ctl", "trace", "l" } ), Names{ "list" } );
+   EXPECT_EQ( completions( { "l3sm", "ctl", "trace", "s" } ), Names{ "set" } );
+}
+
+TEST( LiveCompletion, offersWhatAnAgentsCommandIsAbout ) {
+   EXPECT_EQ( completions( { "l3sm", "ctl", "state", "set", "evpn/" } ), Names{ "evpn/status" } );
+   EXPECT_EQ( completions( { "l3sm", "ctl", "trace", "set", "DaceFapNiMpls" } ), Names{ "DaceFapNiMplsParser" } );
+   EXPECT_EQ( completions( { "l3sm", "ctl", "state", "apply", "" } ), Names{ ":files" } );
+   EXPECT_EQ( completions( { "l3sm", "ctl", "plan", "" } ), Names{ ":files" } );
+}
+
+// Whichever run on this machine.
+TEST( LiveCompletion, offersTheAgentsThatHaveASocket ) {
+   auto const slices = Live::slicesThere();
+   Names const there( slices.begin(), slices.end() );
+   EXPECT_EQ( completions( { "l3sm", "ctl", "--agent", "" } ), there );
+   EXPECT_EQ( completions( { "l3sm", "show", "--agent", "" } ), there );
+   EXPECT_EQ( completions( { "l3sm", "show", "--agent", "/no/slice/has/this/name" } ), Names{} );
+}
+
+TEST( LiveCompletion, offersWhatToDoAboutADrift ) {
+   EXPECT_EQ( completions( { "l3sm", "serve", "s.json", "--on-drift", "" } ), ( Names{ "commit", "hold" } ) );
+}
+
+} // namespace
