@@ -46,9 +46,6 @@ void VerbOptions::number( char const * name, std::optional< U16 > & into, char c
 void VerbOptions::number( char const * name, std::optional< U32 > & into, char const * help ) {
    app_.add_option( name, into, help );
 }
-void VerbOptions::number( char const * name, std::optional< int > & into, char const * help ) {
-   app_.add_option( name, into, help );
-}
 
 void VerbOptions::flag( char const * name, bool & into, char const * help ) {
    app_.add_flag( name, into, help );

@@ -35,7 +35,6 @@ class VerbOptions {
    void number( char const * name, std::optional< U8 > & into, char const * help );
    void number( char const * name, std::optional< U16 > & into, char const * help );
    void number( char const * name, std::optional< U32 > & into, char const * help );
-   void number( char const * name, std::optional< int > & into, char const * help );
    void flag( char const * name, bool & into, char const * help );
    // The last lines of its help.
    void footer( std::string const & text );

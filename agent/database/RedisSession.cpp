@@ -18,7 +18,8 @@ RedisSession::RedisSession( RedisAddress const & address )
    : connection_( loop_, address, "l3sm-state", [this]( std::string const & reason ) { lost_ = reason; } ) {}
 
 void RedisSession::wait() {
-   until( [this] { return connection_.asked() == 0; } );
+   // A connection that failed at once has nothing left to ask either.
+   until( [this] { return connection_.hasAnswered() && connection_.asked() == 0; } );
 }
 
 void RedisSession::until( std::function< bool() > const & holds ) {

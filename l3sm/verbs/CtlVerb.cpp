@@ -18,6 +18,8 @@ namespace {
 
 using Rex::Value;
 
+constexpr char const * twoAgents = "-t and --socket both name an agent; leave one out";
+
 struct CtlOptions {
    std::string agent;
    std::string socket;
@@ -153,7 +155,7 @@ void writeStatus( std::ostream & out, Value status, Style const & style ) {
 
 int ctl( CtlOptions const & options ) {
    if ( !options.agent.empty() && !options.socket.empty() ) {
-      throw InputError( "-t and --socket both name an agent; leave one out" );
+      throw InputError( twoAgents );
    }
    AgentOptions const agent{ .name = !options.socket.empty()  ? pathOf( options.socket )
                                      : !options.agent.empty() ? options.agent
@@ -246,7 +248,9 @@ std::vector< std::string > withoutCtl( std::vector< std::string > const & words 
       } else if ( at + 1 < words.size() ) {
          value = words[++at];
       }
-      if ( isAgent ) {
+      if ( isAgent && !agent.empty() ) {
+         throw InputError( twoAgents );
+      } else if ( isAgent ) {
          agent = isOption( word, "--socket" ) ? pathOf( value ) : value;
       } else {
          others.insert( others.end(), { "--timeout", value } );

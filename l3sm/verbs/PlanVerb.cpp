@@ -63,7 +63,9 @@ int askAgent( PlanVerbOptions const & options ) {
       return planUpgrade( options );
    }
    if ( options.scenario.empty() ) {
-      missing( "plan", "SCENARIO.json, whose events are planned," );
+      throw InputError(
+         "SCENARIO.json, whose events are planned, is required, or --plugin, whose start is; l3sm plan --help "
+         "tells what there is" );
    }
    if ( !options.plugin.empty() || !options.toggles.empty() ) {
       throw InputError(
