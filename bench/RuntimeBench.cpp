@@ -117,7 +117,7 @@ auto copied( Nodes nodes ) {
    return [nodes]( std::size_t times ) {
       for ( ; times; --times ) {
          for ( auto const & node : *nodes ) {
-            auto const copy = node;
+            auto copy = node; // as a parameter is: a constant one would have to lie in memory
             keep( copy.get() );
          }
       }
