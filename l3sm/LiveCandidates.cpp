@@ -47,8 +47,10 @@ Candidates ofAgentCommand( std::string const & typed, Before const & before ) {
       return isOfFile                           ? Candidates{ .files = true }
              : isState && isBegun               ? Candidates{ .list = { { "set" }, { "delete" }, { "apply" } } }
              : isState                          ? candidatesFor( "PATH", typed, before )
-             : before[0] == "trace" && isBegun  ? Candidates{ .list = { { "list" }, { "set" } } }
+             : before[0] == "trace" && isBegun  ? Candidates{ .list = { { "list" }, { "set" }, { "ring" } } }
              : before[0] == "record" && isBegun ? Candidates{ .list = { { "start" }, { "mark" }, { "stop" } } }
+             : before[0] == "fault" && isBegun  ? Candidates{ .list = { { "add" }, { "list" }, { "clear" } } }
+             : before[0] == "audit" && isBegun  ? Candidates{ .list = { { "run" }, { "status" } } }
              : before[0] == "trace"             ? candidatesFor( "FACILITY", typed, before )
                                                 : Candidates{};
    }
@@ -59,8 +61,11 @@ Candidates ofAgentCommand( std::string const & typed, Before const & before ) {
                       { "diff", "the chips or the state against a file" },
                       { "plan", "what events would change" },
                       { "state", "what stands at a path; set, delete, apply" },
-                      { "trace", "list, set: the levels of the facilities" },
+                      { "trace", "list, set: the levels of the facilities; ring: the last steps" },
                       { "record", "start, mark, stop: what the agent is told" },
+                      { "fault", "add, list, clear: chips that fail" },
+                      { "audit", "run, status: the chips against what was written" },
+                      { "repair", "try again what was given up" },
                       { "freeze", "act on nothing" },
                       { "thaw", "act again" },
                       { "metrics", "what it has counted" },

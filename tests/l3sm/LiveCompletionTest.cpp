@@ -33,11 +33,31 @@ TEST( LiveCompletion, offersWhatAnAgentTakes ) {
    EXPECT_EQ( completions( { "l3sm", "ctl", "--agent", "Linecard3", "fre" } ), Names{ "freeze" } );
    EXPECT_EQ( completions( { "l3sm", "ctl", "--json", "th" } ), Names{ "thaw" } );
    EXPECT_EQ( completions( { "l3sm", "ctl", "freeze", "" } ), Names{} );
+   EXPECT_EQ( completions( { "l3sm", "ctl", "" } ),
+              ( Names{ "list",
+                       "status",
+                       "show",
+                       "why",
+                       "diff",
+                       "plan",
+                       "state",
+                       "trace",
+                       "record",
+                       "fault",
+                       "audit",
+                       "repair",
+                       "freeze",
+                       "thaw",
+                       "metrics",
+                       "exit" } ) );
 }
 
 TEST( LiveCompletion, offersBehindAnAgentsCommandItsSecondWord ) {
    EXPECT_EQ( completions( { "l3sm", "ctl", "state", "" } ), ( Names{ "set", "delete", "apply" } ) );
    EXPECT_EQ( completions( { "l3sm", "ctl", "record", "" } ), ( Names{ "start", "mark", "stop" } ) );
+   EXPECT_EQ( completions( { "l3sm", "ctl", "trace", "" } ), ( Names{ "list", "set", "ring" } ) );
+   EXPECT_EQ( completions( { "l3sm", "ctl", "fault", "" } ), ( Names{ "add", "list", "clear" } ) );
+   EXPECT_EQ( completions( { "l3sm", "ctl", "audit", "" } ), ( Names{ "run", "status" } ) );
    EXPECT_EQ( completions( { "l3sm", "ctl", "trace", "l" } ), Names{ "list" } );
    EXPECT_EQ( completions( { "l3sm", "ctl", "trace", "s" } ), Names{ "set" } );
 }
