@@ -39,8 +39,8 @@ class ServedExample {
    }
    ~ServedExample() {
       if ( agent_ > 0 ) {
-         ::kill( agent_, SIGKILL );
-         wait();
+         ::kill( agent_, SIGTERM );
+         EXPECT_EQ( wait(), 0 ) << folder.text( "log" );
       }
    }
    ServedExample( ServedExample const & ) = delete;

@@ -5,8 +5,10 @@
 #include "inspection/JournalSample.h"
 
 #include <arpa/inet.h>
+#include <csignal>
 #include <netinet/in.h>
 #include <sys/epoll.h>
+#include <sys/resource.h>
 #include <sys/socket.h>
 #include <sys/stat.h>
 #include <unistd.h>
@@ -209,6 +211,30 @@ TEST( MetricsFile, TellsOnceThatItCantBeWrittenAndThatItCanAgain ) {
 
    MetricsFile full( "/dev/full/l3sm.prom", metrics );
    EXPECT_TRUE( full.write() );
+}
+
+TEST( MetricsFile, IsLeftAsItWasWhereThereIsNoRoomForAnother ) {
+   Folder const folder;
+   Metrics metrics;
+   MetricsFile file( folder / "l3sm.prom", metrics );
+   EXPECT_EQ( file.write(), std::nullopt );
+   auto const before = folder.text( "l3sm.prom" );
+   metrics.is( Metric::rejectedEntries, 7 );
+   rlimit limit{};
+   ::getrlimit( RLIMIT_FSIZE, &limit );
+   rlimit const small{ 10, limit.rlim_max };
+   auto const handler = std::signal( SIGXFSZ, SIG_IGN );
+   ::setrlimit( RLIMIT_FSIZE, &small );
+   auto const said = file.write();
+   ::setrlimit( RLIMIT_FSIZE, &limit );
+   std::signal( SIGXFSZ, handler );
+   EXPECT_EQ( said, folder / "l3sm.prom" + ": metrics can't be written: File too large" );
+   EXPECT_EQ( folder.text( "l3sm.prom" ), before );
+
+   std::filesystem::create_directory( folder / "folder" );
+   MetricsFile none( folder / "folder", metrics );
+   EXPECT_EQ( none.write(), folder / "folder" + ": metrics can't be written: Is a directory" );
+   EXPECT_EQ( std::distance( std::filesystem::directory_iterator( folder / "" ), {} ), 2 ) << "nothing lies beside it";
 }
 
 // ---- over HTTP

@@ -9,10 +9,10 @@ using namespace Live;
 using Inspection::Event;
 using Rex::Value;
 
-Event set( std::string const & path, std::string const & attribute, Value value ) {
+Event setAttribute( std::string const & path, std::string const & attribute, Value value ) {
    return { .path = path, .attribute = attribute, .value = std::move( value ) };
 }
-Event setEntry( std::string const & path, std::string const & attribute, std::string const & key, Value value ) {
+Event setEntryOf( std::string const & path, std::string const & attribute, std::string const & key, Value value ) {
    return { .path = path, .attribute = attribute, .key = key, .value = std::move( value ) };
 }
 
@@ -27,10 +27,11 @@ Paths after( std::vector< Event > const & events, Paths paths = {} ) {
 
 TEST( Paths, haveEachMemberOfACollectionAtAPathOfItsOwn ) {
    auto const paths = after( {
-      set( "evpn/status", "vxlanEnabled", true ),
-      setEntry( "interface/status/eth/vxlan", "vtiStatus", "Vxlan1", Value::Object{ { "udpPort", 4789 } } ),
-      setEntry( "l3/tunnel/udpDestinationPortConfig", "udpDestPort", "1", 6635 ),
-      setEntry( "routing/tunneldecap/input/dynamic/bgp", "decapGroup", "6635", Value::Object{ { "payloadType", 1 } } ),
+      setAttribute( "evpn/status", "vxlanEnabled", true ),
+      setEntryOf( "interface/status/eth/vxlan", "vtiStatus", "Vxlan1", Value::Object{ { "udpPort", 4789 } } ),
+      setEntryOf( "l3/tunnel/udpDestinationPortConfig", "udpDestPort", "1", 6635 ),
+      setEntryOf(
+         "routing/tunneldecap/input/dynamic/bgp", "decapGroup", "6635", Value::Object{ { "payloadType", 1 } } ),
    } );
    EXPECT_EQ( paths,
               ( Paths{
@@ -45,9 +46,9 @@ TEST( Paths, haveEachMemberOfACollectionAtAPathOfItsOwn ) {
 
 TEST( Paths, loseWhatAnEntityHeldWithIt ) {
    auto const dir = "shared/phySmStateData/allEthPhyIntfConfigDir";
-   auto paths = after( { setEntry( dir, "intfConfig", "Ethernet3/1", Value::Object{ { "enabled", true } } ) } );
+   auto paths = after( { setEntryOf( dir, "intfConfig", "Ethernet3/1", Value::Object{ { "enabled", true } } ) } );
    EXPECT_TRUE( paths.contains( std::string( dir ) + "/intfConfig/Ethernet3/1" ) );
-   paths = after( { set( "shared/phySmStateData", "allEthPhyIntfConfigDir", nullptr ) }, paths );
+   paths = after( { setAttribute( "shared/phySmStateData", "allEthPhyIntfConfigDir", nullptr ) }, paths );
    EXPECT_EQ( paths, ( Paths{ { "shared/phySmStateData", { { "allEthPhyIntfConfigDir", "null" } } } } ) );
 }
 
@@ -59,6 +60,64 @@ TEST( Paths, refuseWhatLeadsNowhere ) {
    EXPECT_EQ( placeOf( "interface/status/eth/vxlan/vtiStatus/Vxlan1" ).key, "Vxlan1" );
    EXPECT_EQ( placeOf( "routing/tunneldecap/input/dynamic/bgp/decapGroup/7" ).owner,
               "routing/tunneldecap/input/dynamic/bgp" );
+}
+
+std::string wrongIn( std::function< void() > const & what ) {
+   try {
+      what();
+   } catch ( Rex::ValueError const & error ) {
+      return error.place() + ": " + error.what();
+   }
+   return "nothing was wrong";
+}
+
+TEST( Paths, sayWhereTheyLeadAndWhyNot ) {
+   auto const whyNot = []( std::string const & path ) { return wrongIn( [&] { placeOf( path ); } ); };
+   EXPECT_EQ( whyNot( "evpn/stat" ), "/path: there is no path \"evpn/stat\"; `l3sm paths` lists them" );
+   EXPECT_EQ( whyNot( "evpn/status/vxlanEnabled" ), "/path: evpn/status holds nothing at \"vxlanEnabled\"" );
+   EXPECT_EQ( whyNot( "interface/status/eth/vxlan/vtiStatus" ),
+              "/path: interface/status/eth/vxlan/vtiStatus is a collection: its members have paths, "
+              "interface/status/eth/vxlan/vtiStatus/KEY" );
+   EXPECT_EQ( whyNot( "routing/nexthopgroup/input/config/" ),
+              "/path: \"routing/nexthopgroup/input/config/\" ends in a slash" );
+   EXPECT_EQ( whyNot( "hardware/dace/fap/status" ),
+              "/path: hardware/dace/fap/status can't be set: it is told by the description of the switch" );
+}
+
+TEST( Paths, refuseEventsThatDontFitThem ) {
+   auto const whyNot = []( Event const & event ) { return wrongIn( [&] { after( { event } ); } ); };
+   EXPECT_EQ( whyNot( setEntryOf( "evpn/status", "vxlanEnabled", "1", true ) ),
+              "/key: vxlanEnabled has no entries: leave the key out" );
+   EXPECT_EQ( whyNot( { .kind = Event::Kind::fault, .fault = Simulator::Fault() } ),
+              ": a state has no faults: l3sm ctl fault add, or play the scenario: l3sm run" );
+   EXPECT_EQ( whyNot( setAttribute( "evpn/status", "vxlan", true ) ),
+              "/attribute: Evpn::EvpnStatus has no attribute \"vxlan\"; it has vxlanEnabled, mplsEnabled, "
+              "evpnDciEnabled" );
+   EXPECT_EQ( whyNot( setAttribute( "routing/nexthopgroup/input/config", "group", 1 ) ),
+              "/path: routing/nexthopgroup/input/config is a directory: name one of its entries in the path" );
+}
+
+TEST( Paths, haveAMapAnewWhereWhatStandsThereIsNone ) {
+   std::string const path = "l3/tunnel/udpDestinationPortConfig";
+   auto const set = setEntryOf( path, "udpDestPort", "1", 6635 );
+   EXPECT_EQ( after( { set }, { { path, { { "udpDestPort", "7" } } } } ).at( path ).at( "udpDestPort" ),
+              "{\"1\": 6635}" );
+   EXPECT_EQ( wrongIn( [&] {
+                 after( { set }, { { path, { { "udpDestPort", "{" } } } } );
+              } ).find( "expected JSON, got" ),
+              std::string( ": " ).size() );
+}
+
+TEST( Paths, ofAStateHaveNoneLeftOut ) {
+   EXPECT_EQ( wrongIn( [] {
+                 flattened( { { "evpn/status", Value() } } );
+              } ),
+              "/evpn~1status: a path can't be left out of a database" );
+   EXPECT_EQ( flattened( { { "evpn/status", Value::Object{ { "vxlanEnabled", true } } } } ),
+              ( Paths{ { "evpn/status", { { "vxlanEnabled", "true" } } } } ) );
+   EXPECT_EQ( overlaid( { { "evpn/status", { { "vxlanEnabled", "true" }, { "mplsEnabled", "true" } } } },
+                        { { "evpn/status", { { "vxlanEnabled", "false" } } } } ),
+              ( Paths{ { "evpn/status", { { "mplsEnabled", "true" }, { "vxlanEnabled", "false" } } } } ) );
 }
 
 // What a state looks like, whichever way it was reached.

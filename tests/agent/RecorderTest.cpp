@@ -390,6 +390,20 @@ TEST_F( RecorderTest, TellsTheEventThatTheAgentFailedIn ) {
    EXPECT_THAT( run.remarks, ElementsAre( HasSubstr( "the agent failed in event 1: x != nullptr" ) ) );
 }
 
+TEST_F( RecorderTest, TellsThatAnotherBuildOfThePluginWasRecorded ) {
+   {
+      auto options = plain();
+      options.plugin = "sha256:another";
+      Agent agent( options );
+      agent.recorder.begin();
+      agent.begin();
+   }
+   auto const run = recordedRunOf( folder / "Linecard3-1.rec.jsonl", "sha256:this" );
+   EXPECT_FALSE( run.difference );
+   EXPECT_THAT( run.remarks,
+                ElementsAre( folder / "Linecard3-1.rec.jsonl" + ": was recorded with another build of the plug-in" ) );
+}
+
 // ---- read otherwise
 
 TEST_F( RecorderTest, IsAScenarioThatLeavesTheSameContents ) {

@@ -41,12 +41,12 @@ std::string recording() {
 
 TEST( RecordingReplay, SaysThatEveryEventDidWhatItDidThen ) {
    auto const text = recording();
-   Command const one( "replay a-1.rec.jsonl", { { "a-1.rec.jsonl", text } } );
+   ::Command const one( "replay a-1.rec.jsonl", { { "a-1.rec.jsonl", text } } );
    EXPECT_EQ( one.status, 0 ) << one.errors;
    EXPECT_THAT( one.output,
                 testing::MatchesRegex( "4 events of 1 segment played, [0-9]+ driver operations compared\n"
                                        "every one did what it did then\n" ) );
-   Command const folder( "replay . --json", { { "a-1.rec.jsonl", text } } );
+   ::Command const folder( "replay . --json", { { "a-1.rec.jsonl", text } } );
    EXPECT_EQ( folder.status, 0 ) << folder.errors;
    EXPECT_THAT( folder.output, HasSubstr( "\"difference\": null" ) );
    EXPECT_THAT( folder.output, HasSubstr( "\"events\": 4" ) );
@@ -56,16 +56,16 @@ TEST( RecordingReplay, NamesTheFirstEventThatDiffersWithStatus1 ) {
    auto text = recording();
    auto const at = text.find( "\"hash\": \"0x", text.find( "\"event\": 2" ) ) + 11;
    text[at] = text[at] == '0' ? '1' : '0';
-   Command const replay( "replay a-1.rec.jsonl", { { "a-1.rec.jsonl", text } } );
+   ::Command const replay( "replay a-1.rec.jsonl", { { "a-1.rec.jsonl", text } } );
    EXPECT_EQ( replay.status, 1 ) << replay.errors;
    EXPECT_THAT( replay.output, HasSubstr( "event 2 does something else than it did then: at once: " ) );
    EXPECT_THAT( replay.output, HasSubstr( "in a-1.rec.jsonl\n" ) );
 }
 
 TEST( RecordingReplay, WritesAScenarioThatRuns ) {
-   Command const replay( "replay a-1.rec.jsonl --to-scenario s.json && '" + buildFolder() +
-                            "/bin/l3sm' run s.json --json",
-                         { { "a-1.rec.jsonl", recording() } } );
+   ::Command const replay( "replay a-1.rec.jsonl --to-scenario s.json && '" + buildFolder() +
+                              "/bin/l3sm' run s.json --json",
+                           { { "a-1.rec.jsonl", recording() } } );
    EXPECT_EQ( replay.status, 0 ) << replay.errors;
    EXPECT_THAT( replay.file( "s.json" ), HasSubstr( "\"transaction\"" ) );
 }
@@ -73,7 +73,7 @@ TEST( RecordingReplay, WritesAScenarioThatRuns ) {
 TEST( RecordingReplay, RefusesWhatIsNone ) {
    struct Case {
       char const * arguments;
-      Command::Files files;
+      ::Command::Files files;
       char const * says;
    };
    for ( Case const & it : {
@@ -100,13 +100,13 @@ TEST( RecordingReplay, RefusesWhatIsNone ) {
                   { { "a.rec.jsonl", "{\"op\": \"begin\", \"recording\": {}}\n" } },
                   "l3sm: a.rec.jsonl: is a recording, no journal; `l3sm run --journal FILE` writes one\n" },
          } ) {
-      Command const l3sm( it.arguments, it.files );
+      ::Command const l3sm( it.arguments, it.files );
       EXPECT_EQ( l3sm.status, 2 ) << it.arguments;
       EXPECT_EQ( l3sm.errors, it.says ) << it.arguments;
    }
    auto text = recording();
    text.replace( text.find( "\"operations\"" ), 12, "\"op_rations\"" );
-   Command const wrong( "replay a-1.rec.jsonl", { { "a-1.rec.jsonl", text } } );
+   ::Command const wrong( "replay a-1.rec.jsonl", { { "a-1.rec.jsonl", text } } );
    EXPECT_EQ( wrong.status, 2 );
    EXPECT_THAT( wrong.errors, HasSubstr( "l3sm: a-1.rec.jsonl:2: " ) );
 }

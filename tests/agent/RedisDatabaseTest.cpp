@@ -1,5 +1,6 @@
 // What a Redis alone tells who follows: entries of its log, which may be half readable. An etcd has no log: what can't
 // be read there is a value (EtcdTest.cpp). What both do is in CentralDatabaseTest.cpp.
+#include "agent/EtcdServer.h"
 #include "agent/RedisFollower.h"
 #include "agent/RedisState.h"
 
@@ -29,6 +30,18 @@ TEST( RedisDatabase, takesWhatItCanReadOfATransaction ) {
    EXPECT_TRUE( has( ": /2: expected an object" ) );
    EXPECT_TRUE( has( ": expected a list of changes as JSON" ) );
    EXPECT_TRUE( has( ": there is no field \"changes\"" ) );
+}
+
+TEST( RedisDatabase, isReachedOverANetworkAndByItsNumber ) {
+   auto const host = addressOfThisProcess();
+   RedisServer server( { "--port", "6379", "--bind", host } );
+   server.ask( { "SELECT", "2" } );
+   loadByHand( server );
+   DatabaseFollower follower( "redis://" + host + "/2" );
+   ASSERT_TRUE( follower.untilFollowing() );
+   EXPECT_EQ( follower.paths, stateIn( server ) );
+   DatabaseFollower other( "redis://" + host + ":6379" );
+   ASSERT_TRUE( other.untilTold( "without: the database holds no state yet; load one: l3sm state load FILE" ) );
 }
 
 } // namespace

@@ -1,8 +1,9 @@
-// How a state is written into a Redis: hashes, set of paths and log, none of which an etcd has. What writers do anywhere
-// is in StateWriterTest.cpp.
+// How a state is written into a Redis: hashes, set of paths and log, none of which an etcd has. What writers do
+// anywhere is in StateWriterTest.cpp.
 #include "agent/database/RedisStore.h"
 #include "agent/RedisState.h"
 #include "agent/database/StateWriter.h"
+#include "inspection/files/InputError.h"
 
 namespace {
 
@@ -59,6 +60,31 @@ TEST_F( RedisStoreTest, beginsANewLifeOfWhateverLiesThere ) {
    }
    store.load( { { "evpn/status", {} } } );
    EXPECT_EQ( stateIn( server ), ( Paths{ { "evpn/status", {} } } ) );
+}
+
+TEST_F( RedisStoreTest, replacesAnEntityByAnotherWithAllThatItHeld ) {
+   store.load( { { "shared/phySmStateData", { { "allEthPhyIntfConfigDir", "null" } } } } );
+   Event const directory{
+      .path = "shared/phySmStateData", .attribute = "allEthPhyIntfConfigDir", .value = Rex::Value::Object{} };
+   writer.write( directory );
+   EXPECT_EQ( stateIn( server ),
+              ( Paths{ { "shared/phySmStateData", {} }, { "shared/phySmStateData/allEthPhyIntfConfigDir", {} } } ) );
+   EXPECT_EQ( server.ask( { "EXISTS", "l3sm:{1}:shared/phySmStateData" } ).number(), 0 ) << "no attribute is left";
+}
+
+TEST_F( RedisStoreTest, refusesWhatTheServerRefuses ) {
+   store.load( { { "evpn/status", {} } } );
+   server.ask( { "DEL", evpnKey } );
+   server.ask( { "SET", evpnKey, "no hash" } );
+   std::string refused;
+   try {
+      auto mark = store.mark();
+      Event const event{ .path = "evpn/status", .attribute = "mplsEnabled", .value = true };
+      store.commit( StateModel( Paths{ { "evpn/status", {} } } ).change( event ), {}, event, mark );
+   } catch ( Inspection::InputError const & error ) {
+      refused = error.what();
+   }
+   EXPECT_EQ( refused, server.url() + ": WRONGTYPE Operation against a key holding the wrong kind of value" );
 }
 
 } // namespace

@@ -20,6 +20,18 @@ class ServedAgent : public ChildProgram {
       folder_.file( slice_ + ".json", theSwitch );
       starts();
    }
+   // It ends as whoever runs it ends it. What doesn't within 10 s is killed.
+   ~ServedAgent() {
+      if ( isRunning() ) {
+         goesOn();
+         ::kill( process(), SIGTERM );
+      }
+      for ( int tries = 0; tries < 1000 && isRunning(); ++tries ) {
+         ::usleep( 10'000 );
+      }
+   }
+   ServedAgent( ServedAgent const & ) = delete;
+   ServedAgent & operator=( ServedAgent const & ) = delete;
 
    void starts() {
       Words words{ program(), "serve", folder_ / ( slice_ + ".json" ), "--slice", slice_, "--socket", socket() };

@@ -50,6 +50,72 @@ TEST( ServedLife, readsItsTraceLevelsAgainOnSighup ) {
    EXPECT_TRUE( has( agent.ctl( "trace list" ), "\"DaceFapNiL3Sm\": \"8\"" ) ) << "the levels stay as they were";
 }
 
+TEST( ServedLife, refusesAFileOfTraceLevelsThatIsWrong ) {
+   Folder const folder;
+   auto const file = folder.file( "trace", "DaceFapNiL3Sm/8\r\n# for people\n , */off, NoFacility/3\n" );
+   ServedAgent agent( folder, "Linecard3", oneFap, "", { "--trace", file } );
+   EXPECT_EQ( agent.ended(), 2 );
+   EXPECT_TRUE( has( agent.log(), "l3sm: " + file + ":3: facility: there is no NoFacility; there are " ) )
+      << agent.log();
+   folder.file( "trace", "DaceFapNiL3Sm/10" );
+   agent.starts();
+   EXPECT_EQ( agent.ended(), 2 );
+   EXPECT_TRUE( has( agent.log(), "l3sm: " + file + ":1: level: expected a level from 0 to 9, or off; got \"10\"\n" ) )
+      << agent.log();
+}
+
+TEST( ServedLife, leavesItsMetricsInAFileWhenItEnds ) {
+   Folder const folder;
+   std::string const file = folder / "l3sm.prom";
+   ServedAgent agent( folder, "Linecard3", oneFap, "", { "--metrics", file } );
+   ASSERT_TRUE( agent.isSoon( "running" ) ) << agent.log();
+   agent.ctl( "state set evpn/status vxlanEnabled true" );
+   ASSERT_TRUE( soon( [&] { return has( agent.ctl( "status" ), "\"events\": 1," ); } ) );
+   EXPECT_EQ( agent.endsBy( SIGTERM ), 0 ) << agent.log();
+   EXPECT_TRUE( has( folder.text( "l3sm.prom" ), "\nl3sm_phase{phase=\"running\"} 1\n" ) )
+      << folder.text( "l3sm.prom" );
+   EXPECT_TRUE( has( folder.text( "l3sm.prom" ), "\nl3sm_events_total{cause=\"evpn/status\"} 1\n" ) )
+      << folder.text( "l3sm.prom" );
+}
+
+TEST( ServedLife, saysThatItsMetricsCantBeWritten ) {
+   Folder const folder;
+   std::string const file = folder / "nowhere/l3sm.prom";
+   ServedAgent agent( folder, "Linecard3", oneFap, "", { "--metrics", file, "--audit", "2" } );
+   EXPECT_TRUE( soon( [&] {
+      return has( agent.log(), "l3sm: " + file + ": metrics can't be written: No such file or directory\n" );
+   } ) )
+      << agent.log();
+   EXPECT_EQ( agent.phase(), "running" ) << "and goes on";
+}
+
+TEST( ServedLife, refusesAnAddressForItsMetricsThatOthersReach ) {
+   Folder const folder;
+   ServedAgent agent( folder, "Linecard3", oneFap, "", { "--metrics", "0.0.0.0:9109" } );
+   EXPECT_EQ( agent.ended(), 2 );
+   EXPECT_TRUE( has(
+      agent.log(), "l3sm: --metrics 0.0.0.0:9109: expected a loopback address and a port, such as 127.0.0.1:9109\n" ) )
+      << agent.log();
+}
+
+TEST( ServedLife, letsItsChipsFailByASeed ) {
+   Folder const folder;
+   ServedAgent agent( folder, "Linecard3", oneFap, "", { "--fault-seed", "17", "--audit", "2" } );
+   EXPECT_TRUE( soon( [&] { return has( agent.ctl( "fault list" ), "\"number\": 1," ); } ) ) << agent.log();
+   EXPECT_EQ( agent.endsBy( SIGTERM ), 0 ) << agent.log();
+}
+
+TEST( ServedLife, hasChipsOfItsOwnWhereTheServiceManagerCantKeepThem ) {
+   Folder const folder;
+   ::setenv( "NOTIFY_SOCKET", ( folder / "nobody" ).c_str(), 1 );
+   ServedAgent agent( folder, "Linecard3", oneFap, "" );
+   ::unsetenv( "NOTIFY_SOCKET" );
+   ASSERT_TRUE( agent.isSoon( "running" ) ) << agent.log();
+   EXPECT_TRUE( has( agent.log(), "l3sm: the service manager can't keep chips: No such file or directory\n" ) )
+      << agent.log();
+   EXPECT_TRUE( has( agent.ctl( "show" ), "\"IppdFerTrapCfg\"" ) );
+}
+
 TEST( ServedLife, saysWhatItWasAtWhenAnAssertionEndsIt ) {
    Folder const folder;
    ServedAgent agent( folder,

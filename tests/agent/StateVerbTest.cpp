@@ -22,12 +22,13 @@ bool isSoSoon( std::function< bool() > const & holds ) {
 
 struct StateVerb : testing::TestWithParam< char const * > {
    std::unique_ptr< CentralServer > server = serverOf( GetParam() );
-   Command l3sm( std::string const & words, Command::Files const & files = {} ) const {
-      return Command( "state " + words + " --database " + server->url(), files );
+   ::Command l3sm( std::string const & words, ::Command::Files const & files = {} ) const {
+      return ::Command( "state " + words + " --database " + server->url(), files );
    }
    void SetUp() override {
-      Command const loaded( "state load s.json --database " + server->url(),
-                            { { "s.json", scenarioWith( R"(, "state": {"evpn/status": {"vxlanEnabled": true}})" ) } } );
+      ::Command const loaded(
+         "state load s.json --database " + server->url(),
+         { { "s.json", scenarioWith( R"(, "state": {"evpn/status": {"vxlanEnabled": true}})" ) } } );
       ASSERT_EQ( loaded.status, 0 ) << loaded.errors;
       ASSERT_THAT( loaded.output, StartsWith( "a new life of the state: " ) );
    }
@@ -76,8 +77,8 @@ TEST_P( StateVerb, refusesWithOneLine ) {
 
 TEST_P( StateVerb, takesTheDatabaseFromTheEnvironment ) {
    ::setenv( "L3SM_DATABASE", server->url().c_str(), 1 );
-   EXPECT_EQ( Command( "state get evpn" ).output, "evpn/status vxlanEnabled = true\n" );
-   EXPECT_EQ( Command( "state get evpn --cell 2" ).errors,
+   EXPECT_EQ( ::Command( "state get evpn" ).output, "evpn/status vxlanEnabled = true\n" );
+   EXPECT_EQ( ::Command( "state get evpn --cell 2" ).errors,
               "l3sm: " + server->url() + ": the database holds no state yet; load one: l3sm state load FILE\n" );
    ::unsetenv( "L3SM_DATABASE" );
 }
@@ -98,9 +99,9 @@ TEST_P( StateVerb, appliesTheEventsOfAScenario ) {
 }
 
 TEST_P( StateVerb, loadsWhatARunHasLeft ) {
-   Command const run( "run s.json --quiet --state state.json && '" + buildFolder() +
-                         "/bin/l3sm' state load state.json --database " + server->url(),
-                      { { "s.json", scenarioWith( R"(, "state": {"evpn/status": {"mplsEnabled": true}})" ) } } );
+   ::Command const run( "run s.json --quiet --state state.json && '" + buildFolder() +
+                           "/bin/l3sm' state load state.json --database " + server->url(),
+                        { { "s.json", scenarioWith( R"(, "state": {"evpn/status": {"mplsEnabled": true}})" ) } } );
    EXPECT_EQ( run.status, 0 ) << run.errors;
    EXPECT_THAT( l3sm( "get evpn" ).output, HasSubstr( "evpn/status mplsEnabled = true\n" ) );
    auto const wrong = l3sm( "load state.json", { { "state.json", R"({"evpn/status": {"mplsEnabled": 7}})" } } );

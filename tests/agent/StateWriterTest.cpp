@@ -13,15 +13,15 @@ using Inspection::Event;
 using Inspection::InputError;
 using Rex::Value;
 
-Event set( std::string const & path, std::string const & attribute, Value value ) {
+Event setting( std::string const & path, std::string const & attribute, Value value ) {
    return { .path = path, .attribute = attribute, .value = std::move( value ) };
 }
-Event setEntry( std::string const & path, std::string const & attribute, std::string const & key, Value value ) {
+Event settingEntry( std::string const & path, std::string const & attribute, std::string const & key, Value value ) {
    return { .path = path, .attribute = attribute, .key = key, .value = std::move( value ) };
 }
 
 Event const vxlan1 =
-   setEntry( "interface/status/eth/vxlan", "vtiStatus", "Vxlan1", Value::Object{ { "udpPort", 4789 } } );
+   settingEntry( "interface/status/eth/vxlan", "vtiStatus", "Vxlan1", Value::Object{ { "udpPort", 4789 } } );
 std::string const vxlan1Path = "interface/status/eth/vxlan/vtiStatus/Vxlan1";
 
 struct StateWriterTest : testing::TestWithParam< char const * > {
@@ -59,9 +59,9 @@ TEST_P( StateWriterTest, isFollowedToTheSameState ) {
    DatabaseFollower follower( server->url() );
    ASSERT_TRUE( follower.untilFollowing() );
    writer.writeEach( { vxlan1,
-                       set( vxlan1Path, "remoteVxlanDomain", true ),
-                       set( "evpn/status", "mplsEnabled", true ),
-                       setEntry( "l3/tunnel/udpDestinationPortConfig", "udpDestPort", "1", 6635 ),
+                       setting( vxlan1Path, "remoteVxlanDomain", true ),
+                       setting( "evpn/status", "mplsEnabled", true ),
+                       settingEntry( "l3/tunnel/udpDestinationPortConfig", "udpDestPort", "1", 6635 ),
                        vxlan1 },
                      "events.json" );
    ASSERT_TRUE( follower.until( [&] { return follower.count == 5; } ) );
@@ -72,7 +72,7 @@ TEST_P( StateWriterTest, isFollowedToTheSameState ) {
 
 TEST_P( StateWriterTest, writesNothingWithoutAnEpoch ) {
    auto const remedy = server->url() + ": the database holds no state yet; load one: l3sm state load FILE";
-   EXPECT_EQ( refusalOf( [&] { writer.write( set( "evpn/status", "mplsEnabled", true ) ); } ), remedy );
+   EXPECT_EQ( refusalOf( [&] { writer.write( setting( "evpn/status", "mplsEnabled", true ) ); } ), remedy );
    EXPECT_EQ( refusalOf( [&] { writer.writeEach( { vxlan1 }, "s" ); } ), remedy );
    EXPECT_TRUE( server->state().empty() );
 }
@@ -80,13 +80,13 @@ TEST_P( StateWriterTest, writesNothingWithoutAnEpoch ) {
 TEST_P( StateWriterTest, refusesAtTheDoorWhatAnAgentWouldRefuse ) {
    store->load( { { "evpn/status", {} } } );
    auto const before = server->lastEntry();
-   EXPECT_EQ( refusalOf( [&] { writer.write( set( "evpn/status", "mplsEnabled", 3 ) ); } ),
+   EXPECT_EQ( refusalOf( [&] { writer.write( setting( "evpn/status", "mplsEnabled", 3 ) ); } ),
               "set evpn/status mplsEnabled = 3: expected true or false, got 3" );
-   EXPECT_EQ( refusalOf( [&] { writer.write( set( "evpn/stat", "mplsEnabled", true ) ); } ),
+   EXPECT_EQ( refusalOf( [&] { writer.write( setting( "evpn/stat", "mplsEnabled", true ) ); } ),
               "set evpn/stat mplsEnabled = true: there is no path \"evpn/stat\"; `l3sm paths` lists them" );
    EXPECT_EQ( refusalOf( [&] { writer.write( { .kind = Event::Kind::remove, .path = "evpn/status" } ); } ),
               "delete evpn/status: evpn/status is always there: set its attributes, or delete what it holds" );
-   EXPECT_EQ( refusalOf( [&] { writer.write( set( vxlan1Path, "udpPort", 1 ) ); } ),
+   EXPECT_EQ( refusalOf( [&] { writer.write( setting( vxlan1Path, "udpPort", 1 ) ); } ),
               "set " + vxlan1Path + " udpPort = 1: interface/status/eth/vxlan holds nothing at \"vtiStatus/Vxlan1\"" );
    EXPECT_EQ( server->lastEntry(), before );
    EXPECT_EQ( server->state(), ( Paths{ { "evpn/status", {} } } ) );
@@ -95,7 +95,8 @@ TEST_P( StateWriterTest, refusesAtTheDoorWhatAnAgentWouldRefuse ) {
 TEST_P( StateWriterTest, writesNoneOfManyWhereOneIsWrong ) {
    store->load( { { "evpn/status", {} } } );
    auto const before = server->lastEntry();
-   std::vector< Event > events{ set( "evpn/status", "mplsEnabled", true ), set( "evpn/status", "mplsEnabled", "x" ) };
+   std::vector< Event > events{ setting( "evpn/status", "mplsEnabled", true ),
+                                setting( "evpn/status", "mplsEnabled", "x" ) };
    events[0].number = 1;
    events[1].number = 2;
    EXPECT_EQ( refusalOf( [&] { writer.writeEach( events, "events.json" ); } ),
@@ -119,10 +120,10 @@ TEST_P( StateWriterTest, takesTurnsWithOthers ) {
    auto const eventsOf = [&]( std::string const & name ) {
       std::vector< Event > events;
       for ( std::size_t at = 0; at < each; ++at ) {
-         events.push_back( setEntry( "interface/status/eth/vxlan",
-                                     "vtiStatus",
-                                     name + std::to_string( at % 7 ),
-                                     Value::Object{ { "udpPort", at } } ) );
+         events.push_back( settingEntry( "interface/status/eth/vxlan",
+                                         "vtiStatus",
+                                         name + std::to_string( at % 7 ),
+                                         Value::Object{ { "udpPort", at } } ) );
       }
       return events;
    };
@@ -145,7 +146,7 @@ TEST_P( StateWriterTest, writesMoreThanADatabaseTakesAtOnce ) {
    for ( int at = 0; at < 300; ++at ) {
       many["Vxlan" + std::to_string( at )] = Value::Object{ { "udpPort", at } };
    }
-   writer.write( set( "interface/status/eth/vxlan", "vtiStatus", many ) );
+   writer.write( setting( "interface/status/eth/vxlan", "vtiStatus", many ) );
    EXPECT_EQ( server->state().size(), 302 );
    bool const isSplit = std::string( GetParam() ) == "etcd";
    EXPECT_EQ( store->takeNotes().size(), isSplit ? 1 : 0 );
@@ -153,7 +154,7 @@ TEST_P( StateWriterTest, writesMoreThanADatabaseTakesAtOnce ) {
    EXPECT_EQ( follower.count, isSplit ? 3 : 1 );
    EXPECT_EQ( follower.paths, server->state() );
 
-   writer.write( set( "interface/status/eth/vxlan", "vtiStatus", Value::Object() ) );
+   writer.write( setting( "interface/status/eth/vxlan", "vtiStatus", Value::Object() ) );
    EXPECT_EQ( server->state().size(), 2 );
    ASSERT_TRUE( follower.until( [&] { return follower.paths == server->state(); } ) );
 }
