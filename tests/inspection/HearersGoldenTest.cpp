@@ -200,7 +200,7 @@ struct Line {
    std::string word;
    std::string rest;
 };
-std::vector< Line > linesOf( std::string const & text ) {
+std::vector< Line > hearerLinesOf( std::string const & text ) {
    std::vector< Line > lines;
    std::istringstream in( text );
    for ( std::string line; std::getline( in, line ); ) {
@@ -223,7 +223,7 @@ Functions inChildren( World const & world, At const & at ) {
          at( scenarioOfWorld( world ), next, out );
       } );
       Place place;
-      for ( Line const & line : linesOf( child.output ) ) {
+      for ( Line const & line : hearerLinesOf( child.output ) ) {
          if ( line.word == "at" ) {
             next = std::stoul( line.rest );
          } else if ( line.word == "path" ) {

@@ -87,4 +87,36 @@ TEST( InterfaceModel, tellsAStandbyAndADisabledInterface ) {
               ( Reasons{ "the slice is not the active one (event 1)", "the interface is not enabled (event 2)" } ) );
 }
 
+TEST( InterfaceModel, comesIntoServiceWhenTheDirectoriesCome ) {
+   InterfaceModel model( "Ethernet1" );
+   model.beginsWith( parseJson( R"({"state": {
+      "shared/phySmStateData": null,
+      "shared/portStateInfo": {"portState": {"10": {"intfId": "Ethernet1", "active": true}}}}})",
+                                "scenario" ) );
+   EXPECT_FALSE( model.story().isServed );
+   EXPECT_EQ( model.story().reasons, Reasons{ "it is not served: the directories of interfaces are not there" } );
+   change( model,
+           1,
+           R"({"set": {"path": "shared/phySmStateData", "attribute": "allEthPhyIntfConfigDir", )"
+           R"("value": {"intfConfig": {"Ethernet1": {"mtu": 4000}}}}})" );
+   EXPECT_TRUE( model.story().isServed );
+   EXPECT_EQ( model.story().l3Mtu, 4000u );
+}
+
+TEST( InterfaceModel, isStoppedByWhatHoldsOfItAlone ) {
+   InterfaceModel model = served();
+   EXPECT_FALSE( model.canBeStoppedBy( "the interface is not enabled" ) );
+   EXPECT_FALSE( model.canBeStoppedBy( "the slice is not active" ) );
+   EXPECT_FALSE( model.canBeStoppedBy( "the interface has no status" ) );
+   change( model, 1, R"({"set": {"path": "shared/sliceSmStateData", "attribute": "smMode", "value": 1}})" );
+   change( model,
+           2,
+           R"({"set": {"path": ")" + configs + R"(/intfConfig/Ethernet1", "attribute": "enabled", "value": false}})" );
+   change( model, 3, R"({"delete": {"path": ")" + statuses + R"(", "attribute": "intfStatus", "key": "Ethernet1"}})" );
+   EXPECT_TRUE( model.canBeStoppedBy( "the interface is not enabled" ) );
+   EXPECT_TRUE( model.canBeStoppedBy( "the slice is not active" ) );
+   EXPECT_TRUE( model.canBeStoppedBy( "the interface has no status" ) );
+   EXPECT_FALSE( model.canBeStoppedBy( "one that each passes" ) );
+}
+
 } // namespace

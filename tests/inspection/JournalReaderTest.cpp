@@ -173,6 +173,18 @@ TEST( JournalReader, TellsOfACoreThatTheChipLacks ) {
               "run.jsonl:3: /core: IppdFerTrapCfg has no such instance" );
 }
 
+TEST( JournalReader, TellsOfAPartThatIsOfAnotherKind ) {
+   auto const errorOf = []( std::string line, std::string const & part, std::string const & other ) {
+      line.replace( line.find( part ), part.size(), other );
+      return readingOf( beginRow + event0 + line + endRow ).error;
+   };
+   EXPECT_EQ( errorOf( aWrite, R"("changed": true)", R"("changed": 1)" ),
+              "run.jsonl:3: /changed: expected true or false" );
+   EXPECT_EQ( errorOf( aWrite, R"(["0x00000a00"])", "5" ), "run.jsonl:3: /words: expected a list of words" );
+   EXPECT_EQ( errorOf( aWrite, R"("cause": "start")", R"("cause": "start", "gates": [5])" ),
+              "run.jsonl:3: /gates: expected objects" );
+}
+
 // The format before there were lines for events and gates.
 TEST( JournalReader, ReadsFormat1 ) {
    std::string const place = R"("fap": 0, "table": "IppdFerTrapCfg", "variant": 0, "array": 3, "entry": null, )";

@@ -153,6 +153,20 @@ TEST( Interfaces, goOnWithTheStatusFromBeforeWhereItWentAndCame ) {
               "  1 with MTU waiting: Ethernet1 (MTU 1500 went to its status from before, which was replaced)\n" );
 }
 
+TEST( Interfaces, followTheConfigurationThatTheyWereServedWithWhereItIsRemoved ) {
+   std::string const removal = R"({"delete": {"path": ")" + configs + R"(", "attribute": "intfConfig",
+                                   "key": "Ethernet1"}})";
+   EXPECT_EQ( told( scenarioOfInterfaces( 1, "", removal ) ),
+              "  1 served, active: Ethernet1\n"
+              "  1 with MTU synced: Ethernet1 1500\n"
+              "  1 with another configuration in the directory: "
+              "Ethernet1 (its configuration was removed; what it had is still followed)\n" );
+   Command const l3sm( "run s.json --json", { { "s.json", scenarioOfInterfaces( 1, "", removal ) } } );
+   EXPECT_NE( l3sm.output.find( R"("note": "its configuration was removed; what it had is still followed")" ),
+              std::string::npos )
+      << l3sm.output;
+}
+
 TEST( Interfaces, haveTheirMtuOnceAStandbySliceBecomesActive ) {
    EXPECT_EQ( told( scenarioOfInterfaces(
                  1, R"("shared/sliceSmStateData": {"smMode": 1})", set( "shared/sliceSmStateData", "smMode", "2" ) ) ),
