@@ -43,7 +43,8 @@ class PipeBuffer : public std::streambuf {
    int pipe_;
 };
 
-[[noreturn]] void beChild( int output, int errors, std::function< void( std::ostream & ) > const & what ) {
+// Whatever else is thrown ends it: it must not go on as its parent.
+[[noreturn]] void beChild( int output, int errors, std::function< void( std::ostream & ) > const & what ) noexcept {
    ::dup2( errors, STDERR_FILENO );
    PipeBuffer buffer( output );
    std::ostream out( &buffer );

@@ -27,7 +27,7 @@ std::string placesOf( std::vector< Holding const * > const & holdings ) {
    std::optional< U16 > fap;
    for ( auto const & [of, numbers] : entries ) {
       auto const [number, variant, array] = of;
-      text += text.empty() ? "" : fap == number ? ", " : "; ";
+      text += text.empty() ? "" : fap == number ? "," : "; "; // each part begins with a space
       text += fap == number ? "" : "FAP " + std::to_string( number );
       text += variant ? " variant " + std::to_string( variant ) : "";
       text += isArrayed( layout ) ? " [" + std::to_string( array ) + "]" : "";
