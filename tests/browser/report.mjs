@@ -111,7 +111,7 @@ const steps = {
     assert.match(four, /^\[4\] cpuSnoopCodeN 0x175 \(373\), cpuStrengthN 0x5/);
     await browser.run("const it = document.querySelector('main input[type=number]'); it.value = 3; it.dispatchEvent(new Event('change'))");
     await browser.until(`return /cpuStrengthN 0x0 → 0x5/.test(${contents}[0])`);
-    const history = await browser.until("return document.querySelectorAll('main .virtual')[1] && [...document.querySelectorAll('main .virtual')[1].querySelectorAll('.number')].map(it => it.innerText)");
+    const history = await browser.until("const all = [...document.querySelectorAll('main .virtual')[1]?.querySelectorAll('.number') ?? []]; return all.length > 0 ? all.map(it => it.innerText) : null");
     assert.deepEqual(history, ['event 3', 'event 2', 'event 1', 'event 0', 'event 0', 'event 0', 'event 0']);
     await browser.run("document.querySelector('main .virtual .row').click()");
     await browser.until("return document.querySelectorAll('main .detail .hit').length === 2");
