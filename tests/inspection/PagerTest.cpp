@@ -9,6 +9,7 @@
 #include <fcntl.h>
 #include <gtest/gtest.h>
 #include <iostream>
+#include <poll.h>
 #include <sys/ioctl.h>
 #include <unistd.h>
 
@@ -35,11 +36,20 @@ class Screen {
       ::ioctl( terminal, TIOCSWINSZ, &size );
       ::dup2( terminal, STDOUT_FILENO );
    }
-   // What it shows; something has been written to it.
-   std::string text() const {
-      char text[4096];
-      auto const size = ::read( other_, text, sizeof text );
-      return { text, static_cast< std::size_t >( std::max< ssize_t >( size, 0 ) ) };
+   // What it shows up to a last line that was written; a terminal passes on what it likes at a time.
+   std::string textUpTo( std::string const & last ) const {
+      constexpr int patience = 10000; // milliseconds, where the line doesn't come
+      std::string all;
+      pollfd shows{ .fd = other_, .events = POLLIN, .revents = 0 };
+      while ( !all.ends_with( last + "\r\n" ) && ::poll( &shows, 1, patience ) == 1 ) {
+         char text[4096];
+         auto const size = ::read( other_, text, sizeof text );
+         if ( size <= 0 ) {
+            break;
+         }
+         all.append( text, static_cast< std::size_t >( size ) );
+      }
+      return all;
    }
 
  private:
@@ -68,7 +78,7 @@ Paged pagedLines( int count, std::string const & pager ) {
          writeLines( count );
       }
       std::cout << "behind" << std::endl;
-      out << screen.text();
+      out << screen.textUpTo( "behind" );
    } );
    EXPECT_TRUE( child.isFine ) << child.errors;
    return { child.output, folder.text( "paged" ) };
@@ -117,7 +127,7 @@ TEST_F( PagerTest, isLeftOutWhereTheProcessFails ) {
       Pager const held;
       writeLines( 6 );
       Pager::letThrough();
-      out << screen.text();
+      out << screen.textUpTo( "behind" );
    } );
    EXPECT_EQ( child.output, "line 1\r\nline 2\r\nline 3\r\nline 4\r\nline 5\r\nline 6\r\n" );
 }
