@@ -43,8 +43,8 @@ class PipeBuffer : public std::streambuf {
    int pipe_;
 };
 
-// Whatever else is thrown ends it: it must not go on as its parent.
-[[noreturn]] void beChild( int output, int errors, std::function< void( std::ostream & ) > const & what ) noexcept {
+// Whatever is thrown ends it: it must not go on as its parent.
+[[noreturn]] void beChild( int output, int errors, std::function< void( std::ostream & ) > const & what ) {
    ::dup2( errors, STDERR_FILENO );
    PipeBuffer buffer( output );
    std::ostream out( &buffer );
@@ -56,6 +56,8 @@ class PipeBuffer : public std::streambuf {
          std::cerr << printable( line ) << '\n';
       }
       status = wrongInput;
+   } catch ( ... ) {
+      std::terminate(); // which tells what was thrown
    }
    // Without the destructors and buffers that the parent has too.
    std::cerr.flush();

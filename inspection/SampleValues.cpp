@@ -1,5 +1,7 @@
 #include "inspection/SampleValues.h"
 
+#include "simulator/SwitchDescription.h"
+
 #include <algorithm>
 #include <array>
 

@@ -45,8 +45,7 @@ std::optional< TablePlace > placeAt( Hardware::ChipType chipType, DaceSal::Schan
 }
 
 Catalogue::Layout const * firstLayout( Catalogue::Table const & table, Hardware::ChipType chipType ) {
-   auto const found =
-      std::ranges::find( table.layouts, static_cast< U8 >( chipType ), &Catalogue::Layout::chipType );
+   auto const found = std::ranges::find( table.layouts, static_cast< U8 >( chipType ), &Catalogue::Layout::chipType );
    return table.hasMemory && found != table.layouts.end() ? &*found : nullptr;
 }
 

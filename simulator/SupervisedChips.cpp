@@ -33,9 +33,10 @@ SupervisedChips::SupervisedChips( ChipDriver & chips,
                                   ChipsMapping const * mapping,
                                   Supervision supervision )
    : chips_( chips ), journal_( journal ), expected_( imagesOf( chips, description, mapping ) ),
-     faulty_( chips,
-              description,
-              { .fired = [this]( FiredFault const & it ) { fires( it ); }, .delays = std::move( supervision.delays ) } ),
+     faulty_(
+        chips,
+        description,
+        { .fired = [this]( FiredFault const & it ) { fires( it ); }, .delays = std::move( supervision.delays ) } ),
      shadow_( expected_,
               chips,
               std::move( supervision.degraded ),

@@ -52,7 +52,8 @@ class JsonStream {
 #ifndef __clang__
    [[gnu::target_clones( "avx2", "default" )]]
 #endif
-   static char const * endOf( char const * from, char const * to, Scan & scan );
+   static char const *
+   endOf( char const * from, char const * to, Scan & scan );
    static char const * endOfBytes( char const * from, char const * to, Scan & scan );
    [[noreturn]] void refuse( std::string const & what ) const;
 

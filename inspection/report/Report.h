@@ -1,7 +1,7 @@
 // The report of a run: one page of HTML that holds all it shows, and needs nothing from a network.
 //
-//    ReportFile report( file, valueOf( scenario, Parts::withoutEvents ) );      // of a run under way: written when it ends, also by an
-//    assertion sw.journal().readerAdd( report );
+//    ReportFile report( file, valueOf( scenario, Parts::withoutEvents ) ); // of a run under way: written when it ends,
+//    sw.journal().readerAdd( report );                                    // also by an assertion
 //
 //    ReportData data( journal.scenario() );            // of a journal
 //    journal.read( data );

@@ -248,9 +248,10 @@ std::vector< std::string > withoutCtl( std::vector< std::string > const & words 
       } else if ( at + 1 < words.size() ) {
          value = words[++at];
       }
-      if ( isAgent && !agent.empty() ) {
-         throw InputError( twoAgents );
-      } else if ( isAgent ) {
+      if ( isAgent ) {
+         if ( !agent.empty() ) {
+            throw InputError( twoAgents );
+         }
          agent = isOption( word, "--socket" ) ? pathOf( value ) : value;
       } else {
          others.insert( others.end(), { "--timeout", value } );

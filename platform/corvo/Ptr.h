@@ -24,7 +24,7 @@ template< class T >
 constexpr char const * typeText() {
    return __PRETTY_FUNCTION__; // "... [with T = Evpn::EvpnStatus]"
 }
-}
+} // namespace Impl
 
 template< class T >
 class Ptr {

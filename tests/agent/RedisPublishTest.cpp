@@ -1,5 +1,5 @@
-// What an agent tells of itself where a key of another kind stands in its place, as only a Redis has kinds of keys. What
-// it tells anywhere is in CentralAgentsTest.cpp.
+// What an agent tells of itself where a key of another kind stands in its place, as only a Redis has kinds of keys.
+// What it tells anywhere is in CentralAgentsTest.cpp.
 #include "agent/RedisFollower.h"
 #include "agent/RedisState.h"
 

@@ -3,6 +3,7 @@
 #include "l3sm/Command.h"
 
 #include "inspection/ChipComparison.h"
+#include "inspection/Play.h"
 #include "inspection/files/Json.h"
 
 #include <gtest/gtest.h>
@@ -14,6 +15,17 @@ using namespace Inspection;
 std::string const playedTraps = "run '" L3SM_SOURCE_DIR
                                 "/examples/urpf-and-ip-traps.json' --quiet --chips chips.json && '" +
                                 buildFolder() + "/bin/l3sm' ";
+
+// It stands in a copy of its parent's code, in which it must not go on.
+TEST( Child, endsWhereSomethingIsThrownThatNobodyExpects ) {
+   Child const child = inChild( []( std::ostream & out ) {
+      out << "begun";
+      throw std::logic_error( "unexpected" );
+   } );
+   EXPECT_FALSE( child.isFine );
+   EXPECT_EQ( child.output, "begun" );
+   EXPECT_NE( child.errors.find( "unexpected" ), std::string::npos ) << child.errors;
+}
 
 TEST( Explore, tellsProgramsTheRoadsThatAreRemembered ) {
    Command const l3sm( "explore '" L3SM_SOURCE_DIR "/examples/gue.json' --count 200 --seconds 0 --seed 7 --json" );

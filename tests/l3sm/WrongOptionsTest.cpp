@@ -91,8 +91,7 @@ TEST( WrongOptions, ofTheVerbsThatAskAnAgent ) {
         "plan --agent A",
         {},
         "SCENARIO.json, whose events are planned, is required, or --plugin, whose start is; l3sm plan --help tells "
-        "what "
-        "there is" },
+        "what there is" },
       { "one side", "diff --agent A", {}, sides },
       { "three sides", "diff --agent A a b", {}, sides },
       { "three sides, two of them agents", "diff --agent A --agent B a", {}, sides },

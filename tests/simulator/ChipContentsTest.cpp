@@ -1,5 +1,5 @@
-#include "rex/Value.h"
 #include "simulator/ChipContents.h"
+#include "rex/Value.h"
 #include "simulator/BootImage.h"
 #include "simulator/TableMap.h"
 
