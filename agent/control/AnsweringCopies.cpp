@@ -11,6 +11,7 @@
 #include <cstring>
 #include <fcntl.h>
 #include <new>
+#include <semaphore.h>
 #include <sys/epoll.h>
 #include <sys/mman.h>
 #include <sys/prctl.h>
@@ -25,6 +26,8 @@ extern "C" { // which this header forgets in some versions of the C library
 namespace Live {
 
 struct AnsweringCopies::Told {
+   Told() { ::sem_init( &mayBegin, 1, 0 ); }
+   ::sem_t mayBegin; // the agent has all that it needs to look after the copy
    std::atomic< U64 > written = 0;
 };
 
@@ -82,9 +85,9 @@ std::list< AnsweringCopies::Copy >::iterator AnsweringCopies::find( Number numbe
 }
 
 AnsweringCopies::Number AnsweringCopies::begin( LongCall call, Done done ) {
+   turn_ = loop_.timer( 0, [this] { start(); } );
    copies_.push_back(
       { .number = ++latest_, .call = std::move( call ), .done = std::move( done ), .ended = {}, .late = {} } );
-   turn_ = loop_.timer( 0, [this] { start(); } );
    return latest_;
 }
 
@@ -133,6 +136,8 @@ bool AnsweringCopies::start( Copy & copy ) {
       if ( ::getppid() != agent ) {
          ::_exit( broken );
       }
+      while ( ::sem_wait( &copy.told->mayBegin ) != 0 ) { // a signal came
+      }
       beCopy( copy, limits_.patience );
    }
    int const descriptor = process < 0 ? -1 : ::pidfd_open( process, 0 );
@@ -156,6 +161,7 @@ bool AnsweringCopies::start( Copy & copy ) {
          end( *late );
       }
    } );
+   ::sem_post( &copy.told->mayBegin );
    return true;
 }
 

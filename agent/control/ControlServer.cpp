@@ -104,7 +104,6 @@ void ControlServer::call( Place client, Request const & request ) {
 }
 
 void ControlServer::begin( Place client, Value id, LongAnswer answer ) {
-   client->connection->busyIs( true );
    LongCall call{ .socket = client->connection->socket(), .id = id, .answer = std::move( answer ) };
    client->copy = copies_.begin( std::move( call ), [this, client, id]( CopyEnd const & end ) {
       client->copy.reset();
@@ -117,6 +116,7 @@ void ControlServer::begin( Place client, Value id, LongAnswer answer ) {
       }
       client->connection->busyIs( false );
    } );
+   client->connection->busyIs( true ); // where nothing failed before
 }
 
 void ControlServer::drop( Place client, std::string const & why ) {
