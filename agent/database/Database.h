@@ -103,6 +103,8 @@ class Database {
    Follower * follower_ = nullptr;
 };
 
+// Why what was followed goes on no more, as all databases tell it.
+constexpr char const * anotherStateText = "another state was loaded";
 // Why a database holds no state, as all of them tell it.
 constexpr char const * noStateText = "the database holds no state yet; load one: l3sm state load FILE";
 constexpr char const * lostStateText =

@@ -56,7 +56,7 @@ void EtcdReader::isCurrently( EtcdReply const & reply ) {
    } else if ( reply.revision < read_ ) {
       endsWith( answers_.gap, "the database is behind what it has told: an older one was restored" );
    } else if ( epoch->value != told().epoch ) {
-      endsWith( answers_.gap, "another state was loaded" );
+      endsWith( answers_.gap, anotherStateText );
    } else {
       std::string const body =
          watchOf( { .key = layout_.mark(), .end = endOf( layout_.mark() ) }, read_ + 1, statesPaths ) +
@@ -162,7 +162,7 @@ void EtcdReader::lifeIs( EtcdEvent const & event ) {
    if ( event.isDelete || event.now.value.empty() ) {
       endsWith( answers_.without, noStateText );
    } else if ( event.now.value != told().epoch ) {
-      endsWith( answers_.gap, "another state was loaded" );
+      endsWith( answers_.gap, anotherStateText );
    }
 }
 

@@ -6,10 +6,15 @@ namespace Live {
 
 namespace {
 
+using Clock = std::chrono::steady_clock;
+
 constexpr Rex::Seconds pauseBeforeAnother = 2;
 // As often as all members may be lost in a row, half a second apart.
 constexpr std::size_t mostRounds = 20;
 constexpr Rex::Seconds betweenRounds = 0.5;
+// A state that is loaded is written in many transactions: so long behind the one that ends the state before it.
+constexpr std::chrono::seconds longestLoad{ 10 };
+constexpr Rex::Seconds betweenLooks = 0.1;
 
 } // namespace
 
@@ -38,18 +43,30 @@ void EtcdWatch::begin() {
                                  reader_->more( read_ );
                               },
                            .gap = [this]( std::string const & reason ) { gap_ = reason; },
-                           .without = [this]( std::string const & reason ) { failed_ = reason; } } );
+                           .without =
+                              [this]( std::string const & reason ) {
+                                 without_ = { reason, Clock::now() };
+                              } } );
+}
+
+void EtcdWatch::lookForNext() {
+   if ( session_.ask( "kv/range", EtcdRange{ .key = layout_.epoch() }.text() ).only() ) {
+      without_.reset();
+      gap_ = anotherStateText;
+   } else if ( Clock::now() - without_->since > longestLoad ) {
+      session_.refuse( without_->reason );
+   }
 }
 
 void EtcdWatch::turn() {
-   session_.loop().turn( pauseBeforeAnother );
-   if ( failed_ ) {
-      session_.refuse( *failed_ );
+   session_.loop().turn( without_ ? betweenLooks : pauseBeforeAnother );
+   if ( without_ ) {
+      lookForNext();
    }
    if ( gap_ ) {
-      answers_.begins( *std::exchange( gap_, std::nullopt ) );
-      read_ = session_.snapshot( layout_, {} ).position;
+      read_ = session_.snapshot( layout_, {} ).position; // before it is told: whatever is written behind that is heard
       begin();
+      answers_.begins( *std::exchange( gap_, std::nullopt ) );
    }
    if ( lost_ ) {
       ++member_;

@@ -7,6 +7,8 @@
 #include "agent/database/EtcdSession.h"
 #include "agent/database/StateStore.h"
 
+#include <chrono>
+
 namespace Live {
 
 class EtcdWatch final : public StateWatch {
@@ -16,6 +18,7 @@ class EtcdWatch final : public StateWatch {
 
  private:
    void begin();
+   void lookForNext();
 
    EtcdSession & session_;
    EtcdLayout layout_;
@@ -25,7 +28,11 @@ class EtcdWatch final : public StateWatch {
    std::size_t failures_ = 0; // since somebody told something
    std::unique_ptr< EtcdClient > client_;
    std::unique_ptr< EtcdReader > reader_;
-   std::optional< std::string > failed_;
+   struct Without {
+      std::string reason;
+      std::chrono::steady_clock::time_point since;
+   };
+   std::optional< Without > without_;
    std::optional< std::string > lost_;
    std::optional< std::string > gap_;
 };

@@ -81,7 +81,7 @@ void askServer( RedisConnection & connection, std::function< void( std::string c
 
 std::string gapBehind( Position const & position, LogState const & state ) {
    if ( state.epoch != position.epoch ) {
-      return "another state was loaded";
+      return anotherStateText;
    }
    auto const place = EntryId::of( position.entry );
    if ( !state.first ) {

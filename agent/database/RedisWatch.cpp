@@ -31,8 +31,8 @@ void RedisWatch::begin( Position const & from ) {
                                                 reader_->more( all.back().position );
                                              },
                                           .gap = [this]( std::string const & reason ) { gap_ = reason; },
-                                          .without = [this]( std::string const & reason ) { failed_ = reason; } },
-                    [this]( std::string const & reason ) { failed_ = reason; } );
+                                          .without = [this]( std::string const & reason ) { without_ = reason; } },
+                    [this]( std::string const & reason ) { lost_ = reason; } );
 }
 
 void RedisWatch::turn() {
@@ -40,12 +40,15 @@ void RedisWatch::turn() {
       askState( session_.connection(), layout_, reader_->judge() );
       session_.wait();
    }
-   if ( failed_ ) {
-      throw Inspection::InputError( *failed_ );
+   if ( lost_ ) {
+      throw Inspection::InputError( *lost_ );
+   }
+   if ( without_ ) {
+      session_.refuse( *without_ );
    }
    if ( gap_ ) {
+      begin( session_.place( layout_ ) ); // before it is told: whatever is written behind that is heard
       answers_.begins( *std::exchange( gap_, std::nullopt ) );
-      begin( session_.place( layout_ ) );
    }
 }
 

@@ -19,7 +19,8 @@ class RedisWatch final : public StateWatch {
    RedisLayout layout_;
    Answers answers_;
    std::optional< RedisReader > reader_;
-   std::optional< std::string > failed_;
+   std::optional< std::string > lost_;
+   std::optional< std::string > without_;
    std::optional< std::string > gap_;
 };
 

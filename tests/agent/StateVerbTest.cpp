@@ -120,6 +120,32 @@ TEST_P( StateVerb, watchesEachChangeUntilItIsInterrupted ) {
    EXPECT_EQ( watch.output().substr( 12 ), "  set evpn/status mplsEnabled = true\n" );
 }
 
+TEST_P( StateVerb, watchesOnInTheStateThatIsLoadedNext ) {
+   Running watch( "state watch evpn --database " + server->url(), {} );
+   ASSERT_TRUE( isSoSoon( [&] { return server->isWatched(); } ) );
+   ASSERT_EQ( l3sm( "load s.json", { { "s.json", scenarioWith( R"(, "state": {"evpn/status": {}})" ) } } ).status, 0 );
+   ASSERT_TRUE( isSoSoon( [&] { return watch.errors().find( '\n' ) != std::string::npos; } ) );
+   EXPECT_EQ( watch.errors(), "l3sm: another state was loaded; going on with it\n" );
+   ASSERT_TRUE( isSoSoon( [&] { return server->isWatched(); } ) );
+   l3sm( "set evpn/status mplsEnabled true" );
+   ASSERT_TRUE( isSoSoon( [&] { return watch.output().find( '\n' ) != std::string::npos; } ) ) << watch.errors();
+   EXPECT_EQ( watch.output().substr( 12 ), "  set evpn/status mplsEnabled = true\n" );
+   watch.kill( SIGINT );
+   EXPECT_EQ( watch.wait(), 128 + SIGINT );
+}
+
+TEST_P( StateVerb, endsItsWatchWhereNoStateIsLoadedForAWhile ) {
+   if ( isSanitized() ) {
+      GTEST_SKIP() << "it only takes its time";
+   }
+   Running watch( "state watch --database " + server->url(), {} );
+   ASSERT_TRUE( isSoSoon( [&] { return server->isWatched(); } ) );
+   server->epochIs( "" );
+   EXPECT_EQ( watch.wait(), 2 );
+   EXPECT_EQ( watch.errors(),
+              "l3sm: " + server->url() + ": the database holds no state yet; load one: l3sm state load FILE\n" );
+}
+
 TEST_P( StateVerb, waitsForAgents ) {
    auto const none = l3sm( "wait --timeout 0" );
    EXPECT_EQ( none.status, 1 );
