@@ -57,21 +57,6 @@ bool holdsEntities( Attribute const & attribute ) {
    return attribute.elementType() && attribute.canBeSet();
 }
 
-// A key may have slashes itself: it ends where an attribute of its entity's type that holds further entities begins.
-std::size_t endOfKey( TypeData const & type, std::string const & path, std::size_t from ) {
-   std::size_t end = path.size();
-   for ( auto const * attribute : type.attributes() ) {
-      if ( holdsEntities( *attribute ) ) {
-         auto const at = path.find( std::string( "/" ) + attribute->name, from );
-         auto const behind = at == std::string::npos ? at : at + 1 + std::string_view( attribute->name ).size();
-         if ( at != std::string::npos && ( behind == path.size() || path[behind] == '/' ) ) {
-            end = std::min( end, at );
-         }
-      }
-   }
-   return end;
-}
-
 } // namespace
 
 Attribute const & settableAttribute( TypeData const & type, std::string const & name ) {
@@ -94,6 +79,9 @@ Inspection::Event makingItsMember( Inspection::Event const & event, PathPlace co
 
 PathPlace placeOf( std::string const & path ) {
    Root const & root = rootOf( path );
+   if ( path.ends_with( '/' ) ) {
+      refuse( "\"" + path + "\" ends in a slash" );
+   }
    PathPlace place{ .type = root.type, .entries = root.entries };
    std::size_t at = root.path.size(); // all before it is taken
    while ( at < path.size() ) {
@@ -101,6 +89,9 @@ PathPlace placeOf( std::string const & path ) {
       std::string const owner = path.substr( 0, at );
       if ( place.entries ) {
          at = std::min( path.find( '/', from ), path.size() );
+         if ( at == from ) {
+            refuse( "\"" + path + "\" has an empty key" );
+         }
          place = { place.entries, nullptr, owner, {}, path.substr( from, at - from ) };
       } else {
          at = std::min( path.find( '/', from ), path.size() );
@@ -114,13 +105,9 @@ PathPlace placeOf( std::string const & path ) {
             if ( at == path.size() ) {
                refuse( path + " is a collection: its members have paths, " + path + "/KEY" );
             }
-            std::size_t const key = at + 1;
-            at = endOfKey( *place.type, path, key );
-            place.key = path.substr( key, at - key );
+            place.key = path.substr( at + 1 ); // which may have slashes: no member holds entities
+            at = path.size();
          }
-      }
-      if ( from == path.size() || ( place.key.empty() && place.attribute.empty() ) ) {
-         refuse( "\"" + path + "\" ends in a slash" );
       }
    }
    return place;

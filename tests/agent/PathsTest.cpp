@@ -80,8 +80,33 @@ TEST( Paths, sayWhereTheyLeadAndWhyNot ) {
               "interface/status/eth/vxlan/vtiStatus/KEY" );
    EXPECT_EQ( whyNot( "routing/nexthopgroup/input/config/" ),
               "/path: \"routing/nexthopgroup/input/config/\" ends in a slash" );
+   EXPECT_EQ( whyNot( "interface/status/eth/vxlan/vtiStatus/" ),
+              "/path: \"interface/status/eth/vxlan/vtiStatus/\" ends in a slash" );
+   EXPECT_EQ( whyNot( "routing/nexthopgroup/input/config//x" ),
+              "/path: \"routing/nexthopgroup/input/config//x\" has an empty key" );
+   EXPECT_EQ( whyNot( "routing/tunneldecap/input/dynamic//decapGroup/7" ),
+              "/path: \"routing/tunneldecap/input/dynamic//decapGroup/7\" has an empty key" );
    EXPECT_EQ( whyNot( "hardware/dace/fap/status" ),
               "/path: hardware/dace/fap/status can't be set: it is told by the description of the switch" );
+}
+
+void expectNoEntitiesBelowMembers( Rex::TypeData const & type, bool isMember ) {
+   for ( auto const * attribute : type.attributes() ) {
+      if ( attribute->elementType() && attribute->canBeSet() ) {
+         EXPECT_FALSE( isMember ) << type.name() << " " << attribute->name;
+         expectNoEntitiesBelowMembers( *attribute->elementType(), attribute->kind == Rex::Attribute::Kind::collection );
+      }
+   }
+}
+
+// Whose keys have slashes could end anywhere.
+TEST( Paths, endWithAMemberOfACollection ) {
+   for ( auto const & root : Simulator::stateRoots() ) {
+      auto const entity = root.make();
+      auto const dir = Corvo::ptrCast< Rex::Dir >( entity );
+      expectNoEntitiesBelowMembers( dir && dir->elementType() ? *dir->elementType() : entity->typeData(), false );
+   }
+   EXPECT_EQ( placeOf( "interface/status/subintf/intfStatus/Ethernet1/2.7" ).key, "Ethernet1/2.7" );
 }
 
 TEST( Paths, refuseEventsThatDontFitThem ) {
