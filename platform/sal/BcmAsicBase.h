@@ -63,7 +63,7 @@ class BcmAsicBase : public AsicBase {
    [[gnu::always_inline]] void
    fieldAtIs( bool traced, U16 field, unsigned offset, unsigned width, unsigned typeWidth, U64 value ) {
       bool const tooLarge = width < typeWidth && ( value >> ( width & 63 ) ) != 0;
-      if ( traced | ( usable_ < Detail::wordBytes( offset, width ) ) | tooLarge ) [[unlikely]] {
+      if ( traced || usable_ < Detail::wordBytes( offset, width ) || tooLarge ) [[unlikely]] {
          fieldIs( field, value );
          return;
       }
@@ -147,9 +147,10 @@ class BcmAsicBase : public AsicBase {
       return value;
    }
 
-   // The road out of line, complete: trace, checks, access. Also that of every other wide field.
-   [[gnu::noinline]] void fieldIs( U16 field, U64 value );
-   [[gnu::noinline]] U64 fieldValue( U16 field ) const;
+   // The road out of line, complete: trace, checks, access. Also that of every other wide field. The calls of what is
+   // seldom taken lie apart, too, which [[unlikely]] alone doesn't bring about.
+   [[gnu::noinline, gnu::cold]] void fieldIs( U16 field, U64 value );
+   [[gnu::noinline, gnu::cold]] U64 fieldValue( U16 field ) const;
    [[gnu::noinline]] void wideFieldIs( U16 field, U32 const * value );
    [[gnu::noinline]] void wideField( U16 field, U32 * value ) const;
    template< class Wide >
