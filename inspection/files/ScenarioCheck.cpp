@@ -6,6 +6,7 @@
 #include "inspection/views/Progress.h"
 
 #include <algorithm>
+#include <charconv>
 
 namespace Inspection {
 
@@ -17,14 +18,20 @@ using Rex::ValueErrors;
 
 constexpr std::string_view eventList = "/events/";
 
-// The number of the event that a place is in, as every answer counts it, and the place seen from there.
+// The number of the event that a place is in, as every answer counts it, and the place seen from there. None where what
+// should be the list of events is something else.
 std::optional< std::pair< U32, std::string > > eventOf( std::string const & place ) {
    if ( !place.starts_with( eventList ) ) {
       return std::nullopt;
    }
    auto const rest = place.substr( eventList.size() );
    auto const end = std::min( rest.find( '/' ), rest.size() );
-   return std::pair( static_cast< U32 >( std::stoul( rest.substr( 0, end ) ) ) + 1, rest.substr( end ) );
+   U32 index = 0;
+   auto const read = std::from_chars( rest.data(), rest.data() + end, index );
+   if ( read.ec != std::errc() || read.ptr != rest.data() + end ) {
+      return std::nullopt;
+   }
+   return std::pair( index + 1, rest.substr( end ) );
 }
 
 std::string said( Fault const & fault ) {

@@ -35,6 +35,19 @@ TEST( WrongEvents, thatAreNone ) {
    } );
 }
 
+TEST( WrongEvents, thatAreNoListHaveNoNumbers ) {
+   expectTold( {
+      member( "events by name, one with a key twice",
+              R"("events": §{"first": {"set": 1, §"set": 2}})",
+              "s.json:§: /events: expected a list, got an object\n"
+              "s.json:§: /events/first/set: this key stands twice in the object" ),
+      member( "events by a name that is a large number",
+              R"("events": §{"99999999999": {"set": 1, §"set": 2}})",
+              "s.json:§: /events: expected a list, got an object\n"
+              "s.json:§: /events/99999999999/set: this key stands twice in the object" ),
+   } );
+}
+
 TEST( WrongEvents, withPartsThatAreMissingOrTooMany ) {
    expectTold( {
       events( "nothing to set",
