@@ -14,7 +14,7 @@ class Comparer {
 
    ChipComparison compare() {
       auto const base = play( scenario_.description.toggles );
-      ChipComparison it{ .name = scenario_.name, .failures = failuresOf( base ), .places = {}, .flips = {} };
+      ChipComparison it{ .name = scenario_.title(), .failures = failuresOf( base ), .places = {}, .flips = {} };
       for ( std::size_t chip = 0; chip < chipCount; ++chip ) {
          for ( auto const & [place, value] : base[chip].values ) {
             it.places[place][chip] = value;

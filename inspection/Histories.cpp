@@ -62,7 +62,7 @@ class Explorer {
    Explorer( Scenario const & scenario, HistoryOptions const & options )
       : scenario_( scenario ), options_( options ), choose_( chanceOf( options.seed ) ), detours_( scenario ),
         shorter_( scenario ) {
-      found_.name = scenario.name.empty() ? scenario.file : scenario.name;
+      found_.name = scenario.title();
    }
 
    Histories explore() {

@@ -81,7 +81,7 @@ Plan planOn( Simulator::SimulatedSwitch & sw, std::string const & name, std::vec
 }
 
 Plan planOf( Scenario const & scenario, std::string const & plugin, PlanOptions const & options ) {
-   Plan plan{ .name = scenario.name.empty() ? scenario.file : scenario.name, .events = {} };
+   Plan plan{ .name = scenario.title(), .events = {} };
    loadPlugin( plugin );
    auto description = scenario.description;
    description.journalled = Simulator::SwitchDescription::Journalled::streamed;

@@ -165,12 +165,14 @@ PluginComparison comparePlugins( std::vector< Scenario > const & scenarios, Plug
       for ( std::size_t chip = 0; chip < chips; ++chip ) {
          auto const chipType = Hardware::allChipTypes[chip];
          Scenario const played = options.everyChip ? onChip( scenario, chipType ) : scenario;
+         auto & run = it.runs.emplace_back( RunDifferences{
+            .scenario = scenario.file, .chip = options.everyChip ? Hardware::chipTypeName( chipType ) : "" } );
+         // Where it doesn't fit on the chip, the sides would tell places of a file that is gone.
+         scenarioOf( valueOf( played ), run.chip.empty() ? run.scenario : run.scenario + " on " + run.chip );
          std::string const file = folder.file( "scenario.json" );
          std::ofstream text( file );
          writeScenario( text, played );
          text.close();
-         auto & run = it.runs.emplace_back( RunDifferences{
-            .scenario = scenario.file, .chip = options.everyChip ? Hardware::chipTypeName( chipType ) : "" } );
          here.begins( file );
          there.begins( file );
          RunEffects const effectsHere = here.ends( run.endHere );

@@ -61,6 +61,8 @@ struct Scenario {
    std::vector< Event > events;
    std::vector< Warning > warnings;
 
+   // What people know it by.
+   std::string const & title() const { return name.empty() ? file : name; }
    // Puts chips and state in place, and supervises chips that are to fail. InputError where they don't fit.
    void prepare( Simulator::SimulatedSwitch & sw ) const;
    void fillChips( Simulator::ChipDriver & driver ) const;

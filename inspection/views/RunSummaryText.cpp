@@ -22,7 +22,7 @@ class SummaryText {
       : lines_( lines ), scenario_( scenario ), summary_( summary ) {}
 
    void writeSwitch() {
-      lines_.title( scenario_.name.empty() ? scenario_.file : scenario_.name );
+      lines_.title( scenario_.title() );
       lines_.blank();
       lines_.title( "Switch, slice " + scenario_.description.sliceName );
       std::map< U16, Simulator::FapDescription const * > faps;

@@ -1,6 +1,7 @@
 // How a comparison of chips and of flipped toggles is told, for people and for programs.
 #include "inspection/views/ChipComparisonText.h"
 #include "inspection/files/Json.h"
+#include "l3sm/Command.h"
 
 #include <gtest/gtest.h>
 #include <sstream>
@@ -93,6 +94,13 @@ TEST( ChipComparisonText, ofProgramsHasWhatEachToggleChanges ) {
                  R"("BCM88800_A0": {"changes": [], "failure": "no such port"}, "BCM88850_A0": )" +
                  nothing + R"(, "BCM88859_A2": )" + nothing +
                  R"(}, "file": "Dace.json", "from": true, "name": "ArmOrderedSwTable"}])" );
+}
+
+TEST( ChipComparisonText, isHeadedByItsFileWhereTheScenarioHasNoName ) {
+   std::string const scenario = R"({"switch": {"faps": [{"fapId": 0, "revision": {"chipType": "BCM88690_B0"}}]}})";
+   Command const l3sm( "compare s.json --table IppdFerTrapCfg", { { "s.json", scenario } } );
+   EXPECT_EQ( l3sm.status, 0 ) << l3sm.errors;
+   EXPECT_TRUE( l3sm.output.starts_with( "s.json\n\n" ) ) << l3sm.output;
 }
 
 } // namespace

@@ -56,4 +56,14 @@ TEST( PluginComparison, saysWhatIsWrongWithALibrary ) {
    EXPECT_NE( none.errors.find( "can't be played" ), std::string::npos ) << none.errors;
 }
 
+TEST( PluginComparison, saysOnWhichChipAScenarioDoesNotFit ) {
+   std::string const scenario = R"({"switch": {"faps": [{"fapId": 0, "revision": {"chipType": "BCM88850_A0"}}]},)"
+                                R"( "chips": {"0": {"IppbLifMcBridgeFallbackAllow": {}}}})";
+   Command const l3sm( "compare s.json --against '" + own + "'", { { "s.json", scenario } } );
+   EXPECT_EQ( l3sm.status, 2 );
+   EXPECT_EQ(
+      l3sm.errors,
+      "l3sm: s.json on BCM88690_B0: /chips/0/IppbLifMcBridgeFallbackAllow: the BCM88690_B0 has no such table\n" );
+}
+
 } // namespace
