@@ -27,6 +27,17 @@ RowCounts & RowCounts::operator+=( RowCounts const & more ) {
    return *this;
 }
 
+RowCounts & RowCounts::operator-=( RowCounts const & part ) {
+   reads -= part.reads;
+   writes -= part.writes;
+   changes -= part.changes;
+   controls -= part.controls;
+   gates -= part.gates;
+   publications -= part.publications;
+   faults -= part.faults;
+   return *this;
+}
+
 SharedTexts::Origin const & SharedTexts::newOrigin( Row const & row ) {
    origins_.resize( std::max< std::size_t >( origins_.size(), row.originNumber + 1 ) );
    origins_[row.originNumber] =

@@ -53,6 +53,7 @@ struct RowCounts {
       }
    }
    RowCounts & operator+=( RowCounts const & more );
+   RowCounts & operator-=( RowCounts const & part );
    U64 operations() const { return reads + writes + controls; }
    bool isEmpty() const { return operations() + gates + publications + faults == 0; }
 };

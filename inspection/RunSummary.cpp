@@ -121,7 +121,7 @@ void RunSummary::over( bool isWhole ) {
    if ( current_->event() == 0 ) {
       start_ = current_->counts();
       startByFap_ = byFap();
-      startFunctions_ = functions();
+      startByOrigin_ = byOrigin_;
    } else if ( isWhole && current_->counts().isEmpty() ) {
       ++silent_;
    }
@@ -176,11 +176,19 @@ std::map< U16, RowCounts > RunSummary::byFap() const {
    return all;
 }
 
-std::vector< RunSummary::Function > RunSummary::functions() const {
+std::vector< RunSummary::Function > RunSummary::eventFunctions() const {
+   auto byOrigin = byOrigin_;
+   for ( std::size_t number = 0; number < startByOrigin_.size(); ++number ) {
+      byOrigin[number] -= startByOrigin_[number];
+   }
+   return functionsOf( byOrigin );
+}
+
+std::vector< RunSummary::Function > RunSummary::functionsOf( std::vector< RowCounts > const & byOrigin ) const {
    std::map< std::string, RowCounts > byName;
-   for ( std::size_t number = 0; number < byOrigin_.size(); ++number ) {
-      if ( byOrigin_[number].operations() > 0 ) {
-         byName[texts_.origin( static_cast< U32 >( number ) ).function] += byOrigin_[number];
+   for ( std::size_t number = 0; number < byOrigin.size(); ++number ) {
+      if ( byOrigin[number].operations() > 0 ) {
+         byName[texts_.origin( static_cast< U32 >( number ) ).function] += byOrigin[number];
       }
    }
    std::vector< Function > all;

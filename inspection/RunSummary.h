@@ -66,9 +66,10 @@ class RunSummary final : public Simulator::RowReader {
    RowCounts const & start() const { return start_; }
    std::map< U16, RowCounts > byFap() const;
    std::map< U16, RowCounts > const & startByFap() const { return startByFap_; }
-   // Those that did most first.
-   std::vector< Function > functions() const;
-   std::vector< Function > const & startFunctions() const { return startFunctions_; }
+   // Those that did most first: in all, in the start alone, in the events alone.
+   std::vector< Function > functions() const { return functionsOf( byOrigin_ ); }
+   std::vector< Function > startFunctions() const { return functionsOf( startByOrigin_ ); }
+   std::vector< Function > eventFunctions() const;
    std::vector< Gate > const & gates() const { return gates_; }
    SharedTexts const & texts() const { return texts_; }
    // By number; after the run has ended.
@@ -85,6 +86,7 @@ class RunSummary final : public Simulator::RowReader {
  private:
    using Kept = std::unique_ptr< EventRows >;
 
+   std::vector< Function > functionsOf( std::vector< RowCounts > const & byOrigin ) const;
    bool isWanted( U32 event ) const;
    void countGate( Simulator::Row const & row );
    void over( bool isWhole );
@@ -111,7 +113,7 @@ class RunSummary final : public Simulator::RowReader {
    std::vector< RowCounts > byFap_;
    std::vector< RowCounts > byOrigin_;
    std::map< U16, RowCounts > startByFap_;
-   std::vector< Function > startFunctions_;
+   std::vector< RowCounts > startByOrigin_;
    std::vector< Gate > gates_;
    std::vector< std::vector< U32 > > gatesByOrigin_; // their indices
    ServedFaps served_;

@@ -64,10 +64,10 @@ class SummaryText {
          lines_.blank();
          return;
       }
-      lines_.put(
-         2, countsText( start ) + ", by " + counted( summary_.startFunctions().size(), "function", "functions" ) );
+      auto const functions = summary_.startFunctions();
+      lines_.put( 2, countsText( start ) + ", by " + counted( functions.size(), "function", "functions" ) );
       writeFaps( summary_.startByFap() );
-      writeFunctions( summary_.startFunctions() );
+      writeFunctions( functions );
       writeGates( 0 );
       lines_.blank();
    }
@@ -79,17 +79,12 @@ class SummaryText {
       }
       lines_.title( counted( summary_.eventCount(), "event", "events" ) );
       RowCounts counts = summary_.total();
-      counts.reads -= summary_.start().reads;
-      counts.writes -= summary_.start().writes;
-      counts.changes -= summary_.start().changes;
-      counts.controls -= summary_.start().controls;
-      counts.gates -= summary_.start().gates;
-      counts.publications -= summary_.start().publications;
+      counts -= summary_.start();
       lines_.put( 2, counts.isEmpty() ? "none did anything" : countsText( counts ) );
       if ( summary_.silentEvents() > 0 ) {
          lines_.put( 2, counted( summary_.silentEvents(), "of them", "of them" ) + " without any effect" );
       }
-      writeFunctions( summary_.functions() );
+      writeFunctions( summary_.eventFunctions() );
       writeGates( 1 );
       lines_.put( 2, "below: those that did most, and the last" );
       lines_.blank();

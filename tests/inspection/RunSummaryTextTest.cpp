@@ -70,7 +70,8 @@ TEST( RunSummaryText, tellsTotalsAndHowManyEventsHadNoEffect ) {
    expectLines( summary,
                 "20 events\n"
                 "  2 reads, 2 writes (2 with a change)\n"
-                "  18 of them without any effect\n" );
+                "  18 of them without any effect\n"
+                "  most operations: L3Sm::handleUrpfFailFwdConfig 4\n" );
    expectLines( summary, "\n  below: those that did most, and the last\n" );
 }
 
