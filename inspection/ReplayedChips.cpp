@@ -1,8 +1,12 @@
 #include "inspection/ReplayedChips.h"
 
+#include "inspection/FoldedWrites.h"
 #include "inspection/files/ChipsFile.h"
 #include "simulator/BootImage.h"
 #include "simulator/TableMap.h"
+
+#include <algorithm>
+#include <ranges>
 
 namespace Inspection {
 
@@ -37,7 +41,7 @@ ReplayedChips::ReplayedChips( JournalReader const & journal, std::optional< U16 
          image = chips_[fap].chip;
       }
    }
-   fill( journal.path(), journal.scenario() );
+   fill( journal.path() + ":1", journal.scenario() );
 }
 
 ReplayedChips::ReplayedChips( ReplayedChips const & before )
@@ -76,7 +80,7 @@ void ReplayedChips::fill( std::string const & file, Value const & scenario ) {
    if ( !object || !object->contains( "chips" ) ) {
       return;
    }
-   inFile( file, [&] {
+   auto const fillEach = [&] {
       forEachMember( object->at( "chips" ), [&]( std::string const & key, Value const & part ) {
          auto const fap = Rex::Codec< U16 >::fromKey( key );
          auto const contents = contentsFromValue( part );
@@ -85,14 +89,18 @@ void ReplayedChips::fill( std::string const & file, Value const & scenario ) {
             return;
          }
          if ( chipType == chipTypes_.end() ) {
-            throw Rex::ValueError( "", "the switch has no FAP " + key );
+            std::vector< U32 > known;
+            std::ranges::copy( std::views::keys( journal_.chipTypes() ), std::back_inserter( known ) );
+            throw Rex::ValueError(
+               "", "the switch that the journal begins with has no such FAP; it has " + ranges( known ) );
          }
          apply( contents.tables, chip( fap ), chipType->second );
          for ( auto const & [control, value] : contents.controls ) {
             chip( fap ).controlIs( control, value );
          }
       } );
-   } );
+   };
+   inFile( file, [&] { Rex::below( "scenario", [&] { Rex::below( "chips", fillEach ); } ); } );
 }
 
 Simulator::Contents ReplayedChips::contents( U16 fap ) const {
