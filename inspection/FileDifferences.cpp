@@ -197,6 +197,9 @@ void compareStates( DiffQuestion const & question, FileDifferences & into ) {
 FileDifferences differencesOf( DiffQuestion const & question ) {
    FileDifferences it{ .nameA = inputName( question.a ),
                        .nameB = inputName( question.b.empty() ? question.a : question.b ) };
+   if ( question.a == "-" && question.b == "-" ) {
+      throw InputError( it.nameA, "can be read once; name one of the two files" );
+   }
    auto const kindA = comparableKind( question.a );
    if ( question.b.empty() ) {
       if ( kindA != FileKind::journal || question.events.empty() ) {
@@ -206,9 +209,6 @@ FileDifferences differencesOf( DiffQuestion const & question ) {
       }
       compareEvents( question, it );
       return it;
-   }
-   if ( question.a == "-" && question.b == "-" ) {
-      throw InputError( it.nameA, "can be read once; name one of the two files" );
    }
    auto const kindB = comparableKind( question.b );
    if ( kindA != kindB && !( areChips( kindA ) && areChips( kindB ) ) ) {
