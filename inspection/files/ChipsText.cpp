@@ -3,6 +3,8 @@
 #include "inspection/files/JsonElements.h"
 #include "simulator/TableMap.h"
 
+#include <utility>
+
 namespace Inspection {
 
 namespace {
@@ -52,14 +54,15 @@ auto numbered( element value, Read const & read ) {
 
 EntryContents entryOf( element value ) {
    EntryContents contents;
-   bool hasWords = false;
-   bool hasInstances = false;
+   bool isRead = false;
+   auto const refuse = [] { throw ValueError( "", "an entry has either \"words\" or \"instances\"" ); };
    for ( auto const [key, part] : objectIn( value ) ) {
+      if ( ( key == "words" || key == "instances" ) && std::exchange( isRead, true ) ) {
+         refuse();
+      }
       if ( key == "words" ) {
-         hasWords = true;
          JsonElements::wordsInto( contents.copies.emplace_back(), part, "words" );
       } else if ( key == "instances" ) {
-         hasInstances = true;
          for ( auto const [instance, words] : objectIn( part ) ) {
             auto const expected = std::to_string( contents.copies.size() );
             if ( instance != expected ) {
@@ -74,8 +77,8 @@ EntryContents entryOf( element value ) {
          throw ValueError( "", "an entry has \"words\" or \"instances\", no \"" + std::string( key ) + "\"" );
       }
    }
-   if ( hasWords == hasInstances ) {
-      throw ValueError( "", "an entry has either \"words\" or \"instances\"" );
+   if ( !isRead ) {
+      refuse();
    }
    return contents;
 }

@@ -49,6 +49,10 @@ TEST( ChipsText, refusesAnEntryThatIsNeitherWordsNorInstances ) {
    EXPECT_EQ( entryRefusal( "{}" ), R"(/0/3/0: an entry has either "words" or "instances")" );
    EXPECT_EQ( entryRefusal( R"({"instances": {"0": ["0x00000a00"], "1": ["0x00000a01"]}, "words": ["0x00000a00"]})" ),
               R"(/0/3/0: an entry has either "words" or "instances")" );
+   EXPECT_EQ( entryRefusal( R"({"words": ["0x00000a00"], "instances": {"0": ["0x00000a00"], "1": ["0x00000a01"]}})" ),
+              R"(/0/3/0: an entry has either "words" or "instances")" );
+   EXPECT_EQ( entryRefusal( R"({"words": ["0x00000a00"], "words": ["0x00000a01"]})" ),
+              R"(/0/3/0: an entry has either "words" or "instances")" );
    EXPECT_EQ( entryRefusal( R"({"word": ["0x00000a00"]})" ),
               R"(/0/3/0: an entry has "words" or "instances", no "word")" );
 }
