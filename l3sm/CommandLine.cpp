@@ -121,7 +121,7 @@ void defineCommandLine( CLI::App & app, Action & action ) {
    auto * const complete = app.add_subcommand( completeVerb, "what can follow on a line that is being typed" );
    complete->group( "" );
    auto const words = std::make_shared< std::vector< std::string > >();
-   complete->add_option( "words", *words );
+   takesWordsAsTyped( *complete->add_option( "words", *words ) );
    complete->callback( [&app, &action, words] {
       action = [&app, words] {
          writeCompletion( std::cout, app, *words );

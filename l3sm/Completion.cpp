@@ -11,7 +11,7 @@ namespace {
 
 // One value that is a word, or as many as follow.
 bool takesMany( CLI::Option const & option ) {
-   return option.get_items_expected_max() > 1 && option.get_allow_extra_args();
+   return option.get_items_expected_max() > 1;
 }
 
 std::string longName( CLI::Option const & option ) {

@@ -16,6 +16,11 @@ void check( CLI::Option & option, char const * type ) {
 
 } // namespace
 
+void takesWordsAsTyped( CLI::Option & option ) {
+   constexpr int many = CLI::detail::expected_max_vector_size;
+   option.take_all()->expected( many, many )->allow_extra_args( false );
+}
+
 void VerbOptions::text( char const * name, std::string & into, char const * help, char const * type ) {
    check( *app_.add_option( name, into, help ), type );
 }
@@ -26,7 +31,9 @@ void VerbOptions::required( char const * name, std::string & into, char const * 
 }
 
 void VerbOptions::texts( char const * name, std::vector< std::string > & into, char const * help, char const * type ) {
-   check( *app_.add_option( name, into, help ), type );
+   auto * const option = app_.add_option( name, into, help );
+   takesWordsAsTyped( *option );
+   check( *option, type );
 }
 
 void VerbOptions::repeated( char const * name,

@@ -18,9 +18,14 @@
 
 namespace CLI {
 class App;
-}
+class Option;
+} // namespace CLI
 
 namespace Cli {
+
+// Has an option of many values take as many words as there are. By its own rules it would take those in brackets apart,
+// wherever it may take more of them than it expects: so it expects as many as there can be.
+void takesWordsAsTyped( CLI::Option & option );
 
 class VerbOptions {
  public:

@@ -63,6 +63,8 @@ TEST_P( StateVerb, refusesWithOneLine ) {
    };
    EXPECT_EQ( refusalOf( "set evpn/status mplsEnabled 3" ),
               "l3sm: set evpn/status mplsEnabled = 3: expected true or false, got 3\n" );
+   EXPECT_EQ( refusalOf( "set evpn/status mplsEnabled '[1, true]'" ),
+              "l3sm: set evpn/status mplsEnabled = [1, true]: expected true or false, got a list\n" );
    EXPECT_EQ( refusalOf( "get nowhere" ), "l3sm: state get: there is no path \"nowhere\"; `l3sm paths` lists them\n" );
    EXPECT_EQ( refusalOf( "put evpn/status" ),
               "l3sm: state put: is none of get, set, delete, load, apply, watch, wait\n" );

@@ -53,6 +53,7 @@ TEST( WrongOptions, ofTheVerbsThatReadFiles ) {
         "diff a b --at last",
         {},
         "--at last: is no event; events have numbers, 0 for the start" },
+      { "words in brackets", "coverage [a,b]", {}, "[a,b]: can't be read: No such file or directory" },
       { "an event too many", "diff a b --at 1 --at 2 --at 3", {}, "--at is given 3 times; there are two sides" },
       { "no journal", "why", {}, "JOURNAL is required, or --agent SLICE; l3sm why --help tells what there is" },
       { "no subject", "why j", {}, "SUBJECT is required; l3sm why --help tells what there is" },
