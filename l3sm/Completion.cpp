@@ -20,7 +20,7 @@ std::string longName( CLI::Option const & option ) {
 
 CLI::Option const * optionNamed( CLI::App const & verb, std::string const & name ) {
    for ( auto const * option : optionsOf( verb ) ) {
-      if ( longName( *option ) == name ) {
+      if ( option->check_name( name ) ) {
          return option;
       }
    }
@@ -38,7 +38,7 @@ Line lineOf( CLI::App const & verb, std::vector< std::string > const & words ) {
    Line line;
    for ( std::size_t at = 2; at + 1 < words.size(); ++at ) {
       std::string const & word = words[at];
-      if ( !word.starts_with( "--" ) ) {
+      if ( !word.starts_with( "-" ) || word == "-" ) {
          if ( !line.waiting ) {
             line.values.push_back( word );
          } else if ( !takesMany( *line.waiting ) ) {
@@ -48,7 +48,7 @@ Line lineOf( CLI::App const & verb, std::vector< std::string > const & words ) {
       }
       std::string const name = word.substr( 0, word.find( '=' ) );
       auto const * const option = optionNamed( verb, name );
-      line.given.push_back( name );
+      line.given.push_back( option ? longName( *option ) : name );
       line.waiting = option && takesValue( *option ) && name == word ? option : nullptr;
    }
    return line;
@@ -62,7 +62,7 @@ Candidates optionNames( CLI::App const & verb, std::string const & typed, Line c
    Candidates all;
    for ( auto const * option : optionsOf( verb ) ) {
       std::string const name = longName( *option );
-      bool const isRepeated = takesValue( *option ) && option->get_items_expected_max() > 1;
+      bool const isRepeated = option->get_multi_option_policy() == CLI::MultiOptionPolicy::TakeAll;
       bool const isGiven = std::ranges::find( line.given, name ) != line.given.end() && !isRepeated;
       if ( name.starts_with( typed ) && !isGiven ) {
          all.list.push_back( { name, option->get_description() } );

@@ -54,7 +54,9 @@ TEST( Completion, knowsWhatCanStandInThePlaceOfEveryValue ) {
 
 TEST( Completion, offersAnOptionOnceUnlessItMayBeRepeated ) {
    EXPECT_FALSE( completions( { "l3sm", "run", "--quiet", "--q" } ).contains( "--quiet" ) );
+   EXPECT_FALSE( completions( { "l3sm", "report", "j", "-o", "p", "--o" } ).contains( "--out" ) );
    EXPECT_TRUE( completions( { "l3sm", "catalogue", "--journal", "j", "--j" } ).contains( "--journal" ) );
+   EXPECT_TRUE( completions( { "l3sm", "run", "--toggle", "t", "--to" } ).contains( "--toggle" ) );
 }
 
 TEST( Completion, goesOnBehindAnOptionWithItsValue ) {

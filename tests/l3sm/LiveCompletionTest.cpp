@@ -32,6 +32,10 @@ TEST( LiveCompletion, offersWhatAnAgentTakes ) {
    EXPECT_EQ( completions( { "l3sm", "ctl", "s" } ), ( Names{ "show", "state", "status" } ) );
    EXPECT_EQ( completions( { "l3sm", "ctl", "--agent", "Linecard3", "fre" } ), Names{ "freeze" } );
    EXPECT_EQ( completions( { "l3sm", "ctl", "--json", "th" } ), Names{ "thaw" } );
+   EXPECT_EQ( completions( { "l3sm", "ctl", "-t", "Linecard3", "fre" } ), Names{ "freeze" } );
+   EXPECT_EQ( completions( { "l3sm", "ctl", "-tLinecard3", "fre" } ), Names{ "freeze" } );
+   EXPECT_EQ( completions( { "l3sm", "ctl", "-t", "Linecard3", "--timeout", "5", "state", "set", "evpn/" } ),
+              Names{ "evpn/status" } );
    EXPECT_EQ( completions( { "l3sm", "ctl", "freeze", "" } ), Names{} );
    EXPECT_EQ( completions( { "l3sm", "ctl", "" } ),
               ( Names{ "list",
@@ -74,6 +78,7 @@ TEST( LiveCompletion, offersTheAgentsThatHaveASocket ) {
    auto const slices = Live::slicesThere();
    Names const there( slices.begin(), slices.end() );
    EXPECT_EQ( completions( { "l3sm", "ctl", "--agent", "" } ), there );
+   EXPECT_EQ( completions( { "l3sm", "ctl", "-t", "" } ), there );
    EXPECT_EQ( completions( { "l3sm", "show", "--agent", "" } ), there );
    EXPECT_EQ( completions( { "l3sm", "show", "--agent", "/no/slice/has/this/name" } ), Names{} );
 }
