@@ -5,13 +5,13 @@
 #include "inspection/files/FileKind.h"
 #include "inspection/files/JournalReader.h"
 #include "inspection/files/Json.h"
+#include "inspection/files/OutputFile.h"
 #include "inspection/views/CoverageText.h"
 #include "inspection/views/Progress.h"
 #include "inspection/views/ReplayText.h"
 #include "l3sm/ScenarioToPlay.h"
 #include "l3sm/verbs/Verbs.h"
 
-#include <fstream>
 #include <iostream>
 #include <memory>
 
@@ -57,30 +57,33 @@ int answer( CoverageOptions const & options ) {
    if ( options.files.empty() && !options.random ) {
       throw InputError( "name a journal or a scenario, or give --random" );
    }
+   OutputFile const page( options.page );
+   eachAlone( { options.page }, options.files );
    Coverage coverage;
    std::vector< std::string > remarks;
    Progress progress( "covering" );
    std::size_t const all = options.files.size() + options.random.value_or( 0 );
    std::size_t done = 0;
+   // What is wrong with a file is told before anything is played, which is what takes long.
+   std::vector< Scenario > scenarios;
    for ( std::string const & file : options.files ) {
       if ( kindOfFile( file ) == FileKind::scenario ) {
-         play( coverage, scenarioToPlay( file, {}, options.plugin ), options );
+         scenarios.push_back( scenarioToPlay( file, {}, options.plugin ) );
       } else {
          read( coverage, file, remarks );
+         progress.stands( ++done, all );
       }
+   }
+   for ( Scenario const & scenario : scenarios ) {
+      play( coverage, scenario, options );
       progress.stands( ++done, all );
    }
    for ( U32 number = 0; number < options.random.value_or( 0 ); ++number ) {
       play( coverage, randomScenario( chanceOf( U64{ options.seed.value_or( 1 ) } + number ) ), options );
       progress.stands( ++done, all );
    }
-   if ( !options.page.empty() ) {
-      std::ofstream page( options.page );
-      page << coveragePage( coverage );
-      page.close();
-      if ( !page ) {
-         throw InputError( options.page, "can't be written" );
-      }
+   if ( page.isWanted() ) {
+      page.write( coveragePage( coverage ) );
    }
    if ( options.json ) {
       Rex::Value value = coverageValue( coverage );

@@ -128,6 +128,13 @@ TEST( AnswersForPrograms, areNoneWhereThePageCannotBeWritten ) {
    EXPECT_TRUE( l3sm.errors.starts_with( "l3sm: no/where: can't be written" ) ) << l3sm.errors;
 }
 
+TEST( AnswersForPrograms, areRefusedBeforeAnythingIsPlayed ) {
+   std::string const years = "coverage --random 1000000000 --page no/where";
+   Command const l3sm( "--version >/dev/null; timeout 30 '" + buildFolder() + "/bin/l3sm' " + years );
+   EXPECT_EQ( l3sm.status, 2 );
+   EXPECT_EQ( l3sm.errors, "l3sm: no/where: can't be written: No such file or directory\n" );
+}
+
 TEST( AnswersForPrograms, tellOfNoFap ) {
    Command::Files const files{ { "c", "{\"faps\": {}}" } };
    Command const text( "show c", files );

@@ -42,18 +42,22 @@ TEST( WrongOptions, ofTheVerbsThatPlayAScenario ) {
       { "its begin without a second build", "compare --seed 3", {}, "--random and --seed are for --against" },
       { "several scenarios by chip", "compare a.json b.json", {}, "one scenario at a time, but with --against" },
       { "coverage of nothing", "coverage", {}, "name a journal or a scenario, or give --random" },
+      { "coverage on a page that is read",
+        "coverage a.json b.jsonl --page b.jsonl",
+        {},
+        "b.jsonl: is named twice; give each file a name of its own" },
    } );
 }
 
 TEST( WrongOptions, ofTheVerbsThatReadFiles ) {
    expectTold( {
       { "nothing to show", "show", {}, "FILE is required, or --agent SLICE; l3sm show --help tells what there is" },
+      { "words in brackets", "coverage [a,b]", {}, "[a,b]: can't be read: No such file or directory" },
       { "nothing to compare", "diff", {}, "A is required, or --agent SLICE; l3sm diff --help tells what there is" },
       { "an event that is none",
         "diff a b --at last",
         {},
         "--at last: is no event; events have numbers, 0 for the start" },
-      { "words in brackets", "coverage [a,b]", {}, "[a,b]: can't be read: No such file or directory" },
       { "an event too many", "diff a b --at 1 --at 2 --at 3", {}, "--at is given 3 times; there are two sides" },
       { "no journal", "why", {}, "JOURNAL is required, or --agent SLICE; l3sm why --help tells what there is" },
       { "no subject", "why j", {}, "SUBJECT is required; l3sm why --help tells what there is" },
