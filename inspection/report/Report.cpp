@@ -1,19 +1,11 @@
 #include "inspection/report/Report.h"
 
 #include "inspection/report/ReportPage.h"
+#include "inspection/views/Html.h"
 
 namespace Inspection {
 
 namespace {
-
-// Text in HTML: it can't end the element that it stands in.
-std::string inHtml( std::string_view text ) {
-   std::string out;
-   for ( char const letter : text ) {
-      out += letter == '<' ? "&lt;" : letter == '&' ? "&amp;" : std::string( 1, letter );
-   }
-   return out;
-}
 
 void appendData( std::string & page, std::string const & name, std::string_view deflatedBytes ) {
    page += "<script type=\"application/octet-stream\" id=\"" + name + "\">";

@@ -1,5 +1,6 @@
 #include "inspection/views/CoverageText.h"
 
+#include "inspection/views/Html.h"
 #include "inspection/views/Lines.h"
 
 #include <array>
@@ -65,14 +66,6 @@ std::string headOf( Coverage const & coverage ) {
           std::to_string( pairs.writable ) + " pairs of table and chip that the plug-in can write, " +
           std::to_string( pairs.changed ) + " with a change; " + std::to_string( whole ) + " of " +
           std::to_string( Catalogue::tables().size() - unwritable ) + " tables on every chip that has them";
-}
-
-std::string inHtmlAttribute( std::string const & text ) {
-   std::string out;
-   for ( char const letter : text ) {
-      out += letter == '<' ? "&lt;" : letter == '&' ? "&amp;" : letter == '"' ? "&quot;" : std::string( 1, letter );
-   }
-   return out;
 }
 
 } // namespace
@@ -171,7 +164,7 @@ std::string coveragePage( Coverage const & coverage ) {
           ":root{color-scheme:light dark}body{font:14px system-ui;margin:2em}table{border-collapse:collapse}"
           "th,td{padding:.2em .7em;text-align:right;border-bottom:1px solid #8884}th:first-child,td:first-child"
           "{text-align:left}.no{background:#d334;font-weight:600}.all{background:#3a34}.out{opacity:.5}</style>"
-       << "<h1>Coverage</h1><p>" << inHtmlAttribute( headOf( coverage ) )
+       << "<h1>Coverage</h1><p>" << inHtml( headOf( coverage ) )
        << ".</p><table><caption>Fields that were changed, of those that the table has</caption><thead><tr><th "
           "scope=\"col\">table</th>";
    for ( ChipType const chipType : allChipTypes ) {
@@ -179,7 +172,7 @@ std::string coveragePage( Coverage const & coverage ) {
    }
    out << "</tr></thead><tbody>";
    for ( Catalogue::Table const & table : Catalogue::tables() ) {
-      out << "<tr><td>" << inHtmlAttribute( table.name ) << "</td>";
+      out << "<tr><td>" << inHtml( table.name ) << "</td>";
       for ( ChipType const chipType : allChipTypes ) {
          std::string const text = cellText( coverage, table, chipType );
          auto const * const cell = coverage.cell( table, chipType );
@@ -197,7 +190,7 @@ std::string coveragePage( Coverage const & coverage ) {
                   : text == "-" ? "out"
                   : isAll       ? "all"
                                 : "" )
-             << "\" title=\"" << inHtmlAttribute( title ) << "\">" << text << "</td>";
+             << "\" title=\"" << inHtml( title ) << "\">" << text << "</td>";
       }
       out << "</tr>";
    }
