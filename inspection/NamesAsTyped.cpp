@@ -224,6 +224,9 @@ std::string placeText( Catalogue::Table const & table, Catalogue::Layout const &
 }
 
 std::string readable( std::string const & value ) {
+   if ( !value.starts_with( "0x" ) || value.find( ' ' ) != std::string::npos ) {
+      return value;
+   }
    constexpr std::size_t prefix = 2; // "0x"
    constexpr std::size_t group = 8;
    std::size_t const digits = value.size() - prefix;

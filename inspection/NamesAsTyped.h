@@ -68,7 +68,8 @@ bool hasVariants( Catalogue::Table const & table );
 bool isArrayed( Catalogue::Layout const & layout );
 
 // A field's value, from how a dump has it, for people: digits in groups of eight, and from 10 on, where it isn't too
-// long to read, decimal beside it: "0x5", "0xeb (235)", "0x1'00000000".
+// long to read, decimal beside it: "0x5", "0xeb (235)", "0x1'00000000". What is no such value, or several, stays as it
+// is.
 std::string readable( std::string const & value );
 
 // Bits as "[7:4]", "[0]".

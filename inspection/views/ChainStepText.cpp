@@ -84,17 +84,13 @@ std::string bitsThatDiffer( std::string const & before, std::string const & afte
           ( set.empty() || cleared.empty() ? "" : ", " ) + second;
 }
 
-std::string numberText( std::string const & value ) {
-   return value.starts_with( "0x" ) ? readable( value ) : value;
-}
-
 std::string changeText( ChainStep::Change const & change, Style const & style ) {
    std::string before;
    for ( std::string const & one : change.befores ) {
-      before += ( before.empty() ? "" : " or " ) + numberText( one );
+      before += ( before.empty() ? "" : " or " ) + readable( one );
    }
    before = change.hasMoreBefores ? "various" : before.empty() ? "?" : before;
-   std::string const after = numberText( change.after );
+   std::string const after = readable( change.after );
    std::string const bits = change.width > mostBitsInWhole && change.befores.size() == 1 && !change.hasMoreBefores
                                ? bitsThatDiffer( change.befores.front(), change.after, change.width )
                                : "";

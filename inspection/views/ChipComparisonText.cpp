@@ -27,7 +27,7 @@ std::string valueText( std::optional< std::string > const & value ) {
    if ( slash != std::string::npos ) {
       return readable( value->substr( 0, slash ) ) + " of " + readable( value->substr( slash + 1 ) );
    }
-   return value->starts_with( "0x" ) ? readable( *value ) : *value;
+   return readable( *value );
 }
 
 std::vector< std::string > heading( Style const & style, std::vector< std::string > cells ) {

@@ -12,11 +12,7 @@ constexpr std::size_t fewEntries = 30; // that are shown in full
 constexpr std::size_t fewLetters = 60; // of a value of the state
 
 std::string sideText( std::optional< std::string > const & value ) {
-   if ( !value ) {
-      return "-";
-   }
-   bool const isNumber = value->starts_with( "0x" ) && value->find( ' ' ) == std::string::npos;
-   return isNumber ? readable( *value ) : *value;
+   return value ? readable( *value ) : "-";
 }
 
 // "0, 2-5"

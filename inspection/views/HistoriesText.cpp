@@ -17,7 +17,7 @@ constexpr std::size_t fewSteps = 12;
 constexpr std::size_t longestEnd = 40; // for a value
 
 std::string endText( std::string const & value ) {
-   return shortened( value.starts_with( "0x" ) ? readable( value ) : value, longestEnd );
+   return shortened( readable( value ), longestEnd );
 }
 
 // The reasons of all of it, once each; an empty one among them where none is listed.

@@ -48,15 +48,10 @@ std::string counts( std::size_t entries, std::size_t controls ) {
    return controls == 0 ? text : text + " and " + counted( controls, "control", "controls" );
 }
 
-// One value; of several, as they are.
-std::string plannedText( std::string const & value ) {
-   return value.starts_with( "0x" ) && value.find( ' ' ) == std::string::npos ? readable( value ) : value;
-}
-
 // What would change of one entry: "cpuStrengthN 0x5 → 0x0".
 std::string fieldText( GroupField const & field, Style const & style ) {
-   return field.name + " " + style.before( plannedText( field.before ) ) + style.faint( " → " ) +
-          style.after( plannedText( field.after ) );
+   return field.name + " " + style.before( readable( field.before ) ) + style.faint( " → " ) +
+          style.after( readable( field.after ) );
 }
 
 void showGroups( std::ostream & out, std::vector< WriteGroup > const & groups, bool all, Style const & style ) {

@@ -39,7 +39,7 @@ struct Found {
 
 std::string effectText( std::string const & value ) {
    constexpr std::size_t longestEffect = 36;
-   return value.empty() ? "unknown" : shortened( value.starts_with( "0x" ) ? readable( value ) : value, longestEffect );
+   return value.empty() ? "unknown" : shortened( readable( value ), longestEffect );
 }
 
 std::string nameOf( RunDifferences const & run ) {

@@ -36,7 +36,7 @@ struct Ways {
 
 std::string passingText( std::string const & value ) {
    constexpr std::size_t most = 30;
-   return shortened( value.starts_with( "0x" ) ? readable( value ) : value, most );
+   return shortened( readable( value ), most );
 }
 
 // The values in between, one that many places pass through told once: "0x40", "9 values, 0x40 first".
