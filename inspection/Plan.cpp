@@ -65,11 +65,14 @@ bool Plan::isEmpty() const {
    return std::ranges::all_of( events, []( PlannedEvent const & event ) { return event.changes.empty(); } );
 }
 
-Plan planOn( Simulator::SimulatedSwitch & sw, std::string const & name, std::vector< Event > const & events ) {
+Plan planOn( Simulator::SimulatedSwitch & sw,
+             std::string const & name,
+             std::vector< Event > const & events,
+             std::optional< U16 > fap ) {
    Plan plan{ .name = name, .events = {} };
    auto & under = *DaceSal::schanDriver();
    StagedDriver staged( under );
-   Planner planner( plan, events, staged, sw.event() );
+   Planner planner( plan, events, staged, fap, sw.event() );
    Staging const staging( sw, staged, under, planner );
    for ( Event const & event : events ) {
       Rex::below( std::to_string( event.number - 1 ), [&] {
@@ -99,7 +102,7 @@ Plan planOf( Scenario const & scenario, std::string const & plugin, PlanOptions 
    }
    StagedDriver staged( sw.driver() );
    DaceSal::schanDriverIs( &staged );
-   Planner planner( plan, scenario.events, staged );
+   Planner planner( plan, scenario.events, staged, options.fap );
    sw.journal().readerAdd( planner );
    for ( auto * const other : options.others ) {
       sw.journal().readerAdd( *other );

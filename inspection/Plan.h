@@ -46,11 +46,15 @@ struct PlanOptions {
    std::vector< Simulator::RowReader * > others = {}; // that read along
    // What stands on the chips on top of what the scenario tells.
    std::vector< Simulator::StagedDriver::Change > chips = {};
+   std::optional< U16 > fap = {}; // this one alone is planned, and counted
 };
 
 // What events would change on a switch that runs, one after the other. They are played on it: this is for a copy of the
 // process (agent/control/AnsweringCopies.h). Rex::ValueError where one doesn't fit, its place seen from their list.
-Plan planOn( Simulator::SimulatedSwitch & sw, std::string const & name, std::vector< Event > const & events );
+Plan planOn( Simulator::SimulatedSwitch & sw,
+             std::string const & name,
+             std::vector< Event > const & events,
+             std::optional< U16 > fap = std::nullopt );
 
 // Plays the scenario. InputError where it doesn't fit, or the library can't be loaded.
 Plan planOf( Scenario const & scenario, std::string const & plugin, PlanOptions const & options = {} );

@@ -42,6 +42,9 @@ void Planner::eventBegins( U32 number, Rex::Value const & ) {
 }
 
 void Planner::row( Row const & row ) {
+   if ( !isPlanned( row.fap ) ) {
+      return;
+   }
    PlannedEvent & event = plan_.events.back();
    event.operations += row.isOperation();
    event.writes += row.kind == Row::Kind::write;
@@ -68,7 +71,11 @@ void Planner::row( Row const & row ) {
 
 void Planner::eventEnds( U32 ) {
    plan_.events.back().changes.reserve( staged_.placeCount() );
-   staged_.eachChange( [this]( StagedDriver::ChangeView const & change ) { take( change ); } );
+   staged_.eachChange( [this]( StagedDriver::ChangeView const & change ) {
+      if ( isPlanned( change.chip.value ) ) {
+         take( change );
+      }
+   } );
    staged_.commit();
 }
 

@@ -1,7 +1,7 @@
 // Works out what an event of a plan would change: reads the rows that play it, finds what differs in what was staged,
 // and whose write each difference is.
 //
-//    Planner planner( plan, events, staged );
+//    Planner planner( plan, events, staged, fap );
 //    sw.journal().readerAdd( planner );      // adds an event to the plan for each that is played, and commits it
 //
 // Threading: the agent's scheduler thread.
@@ -15,9 +15,14 @@ namespace Inspection {
 
 class Planner final : public Simulator::RowReader {
  public:
-   // `before`: how many events the switch has had. All of them outlive this.
-   Planner( Plan & plan, std::vector< Event > const & events, Simulator::StagedDriver & staged, U32 before = 0 )
-      : plan_( plan ), events_( events ), staged_( staged ), before_( before ) {}
+   // `only`: the FAP that is planned; none: all. `before`: how many events the switch has had. All of them outlive
+   // this.
+   Planner( Plan & plan,
+            std::vector< Event > const & events,
+            Simulator::StagedDriver & staged,
+            std::optional< U16 > only,
+            U32 before = 0 )
+      : plan_( plan ), events_( events ), staged_( staged ), only_( only ), before_( before ) {}
 
    void eventBegins( U32 number, Rex::Value const & what ) override;
    void row( Simulator::Row const & row ) override;
@@ -59,6 +64,7 @@ class Planner final : public Simulator::RowReader {
       U32 * words;
    };
 
+   bool isPlanned( U16 fap ) const { return !only_ || *only_ == fap; }
    void keep( Simulator::Row const & row );
    // What was kept last.
    void wrote( U32 number, U32 copy );
@@ -74,6 +80,7 @@ class Planner final : public Simulator::RowReader {
    Plan & plan_;
    std::vector< Event > const & events_;
    Simulator::StagedDriver & staged_;
+   std::optional< U16 > only_;
    U32 before_;
    // Of the event under way: what was written where, by whom.
    std::vector< Place > places_; // by the number of what is staged

@@ -1,7 +1,5 @@
 #include "l3sm/RunEvents.h"
 
-#include "inspection/FoldedWrites.h"
-
 #include <charconv>
 #include <sstream>
 
@@ -43,16 +41,8 @@ wantedOf( std::string const & events, std::optional< U16 > fap, bool isForProgra
          wanted.events.insert( eventNumber( part, scenario.events.size() ) );
       }
    }
-   if ( fap ) {
-      std::vector< U32 > known;
-      for ( auto const & one : scenario.description.faps ) {
-         known.push_back( one.fapId.value() );
-      }
-      if ( std::ranges::find( known, *fap ) == known.end() ) {
-         throw InputError( "--fap " + std::to_string( *fap ), "the switch has no such FAP; it has " + ranges( known ) );
-      }
-      wanted.fap = fap;
-   }
+   checkHasFap( scenario.description, fap );
+   wanted.fap = fap;
    return wanted;
 }
 

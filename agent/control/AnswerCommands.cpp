@@ -30,6 +30,7 @@ void writeWanted( std::ostream & out, Simulator::SimulatedSwitch const & sw, Wan
       writeChipsOf( sw, out );
       return;
    }
+   checkHasFap( sw.description(), wanted.fap );
    ChipsFile chips;
    for ( auto const & fap : sw.description().faps ) {
       if ( wanted.fap && *wanted.fap != fap.fapId.value() ) {
@@ -41,9 +42,6 @@ void writeWanted( std::ostream & out, Simulator::SimulatedSwitch const & sw, Wan
       std::erase_if( kept.contents.tables, [&]( auto const & table ) {
          return !wanted.tables.empty() && std::ranges::find( wanted.tables, table.first ) == wanted.tables.end();
       } );
-   }
-   if ( wanted.fap && chips.empty() ) {
-      throw InputError( "fap", "there is no FAP " + std::to_string( *wanted.fap ) );
    }
    writeChips( out, chips );
 }
@@ -69,6 +67,7 @@ void writeRows( std::ostream & out, AgentSubjects const & subjects ) {
 
 // As long as the plan is told.
 struct PlanShown : PlanTextOptions {
+   std::optional< U16 > fap;
    std::optional< U32 > width;
    bool colour = false;
 };
@@ -81,14 +80,14 @@ void writePlan( std::ostream & out,
    if ( !agent.isStarted() ) {
       throw CommandError( CommandError::refused, "nothing is on the chips yet: " + agent.reason() );
    }
-   Plan const plan = planOn( agent.sw(), name, events );
+   Plan const plan = planOn( agent.sw(), name, events, shown.fap );
    if ( shown.width ) {
       ::setenv( "COLUMNS", std::to_string( *shown.width ).c_str(), 1 );
    }
    std::ostringstream text;
    showPlan( text, plan, shown, Style( shown.colour ) );
    Value const answer =
-      Value::Object{ { "isEmpty", plan.isEmpty() }, { "plan", planValue( plan, shown.fap ) }, { "text", text.str() } };
+      Value::Object{ { "isEmpty", plan.isEmpty() }, { "plan", planValue( plan ) }, { "text", text.str() } };
    out << toJson( answer, 0 );
 }
 
@@ -127,9 +126,7 @@ void addAnswerCommands( Commands & commands, AgentSubjects const & subjects ) {
            shown.all = given.flag( "all" );
            shown.width = given.optional< U32 >( "width" );
            shown.colour = given.flag( "colour" );
-           if ( shown.fap ) {
-              agent.scenario().fap( *shown.fap ); // InputError
-           }
+           checkHasFap( agent.scenario().description, shown.fap );
            auto const name = given.optional< std::string >( "name" ).value_or( "" );
            return LongAnswer{ [&agent, shown, name, events = given.value( "events" )]( std::ostream & out ) {
               writePlan( out, agent, name, eventsOf( events ), shown );

@@ -1,5 +1,6 @@
 #include "inspection/files/Scenario.h"
 
+#include "inspection/FoldedWrites.h"
 #include "inspection/files/ChipsFile.h"
 #include "inspection/views/Terminal.h"
 
@@ -71,6 +72,16 @@ Simulator::FapDescription const & Scenario::fap( U16 number ) const {
       }
    }
    throw InputError( file + ": /chips/" + std::to_string( number ), "the switch has no such FAP" );
+}
+
+void checkHasFap( Simulator::SwitchDescription const & description, std::optional< U16 > asked ) {
+   std::vector< U32 > known;
+   for ( auto const & fap : description.faps ) {
+      known.push_back( fap.fapId.value() );
+   }
+   if ( asked && std::ranges::find( known, *asked ) == known.end() ) {
+      throw InputError( "--fap " + std::to_string( *asked ), "the switch has no such FAP; it has " + ranges( known ) );
+   }
 }
 
 void Scenario::fillChips( Simulator::ChipDriver & driver ) const {

@@ -83,6 +83,9 @@ enum class Parts : U8 { all, withoutEvents };
 Rex::Value valueOf( Scenario const & scenario, Parts parts = Parts::all );
 Rex::Value valueOf( Event const & event );
 
+// InputError where a FAP is asked for, as by --fap, that the switch doesn't have.
+void checkHasFap( Simulator::SwitchDescription const & description, std::optional< U16 > asked );
+
 // Sets what stands at a path before the start: its attributes, or null to leave the path out. Throws Rex::ValueError,
 // its place seen from the value; a wrong path is a wrong key.
 void stateIs( Simulator::StateTree & state, std::string const & path, Rex::Value const & attributes );

@@ -17,10 +17,6 @@ using Rows = std::vector< Row const * >;
 constexpr std::size_t fewGroups = 12;    // of one FAP in one event
 constexpr std::size_t manyChanges = 200; // of one event: its tables are told, not its fields
 
-bool isOf( Row const & row, std::optional< U16 > fap ) {
-   return !fap || row.fap == *fap;
-}
-
 Rows rowsOf( PlannedEvent const & event, U16 fap, Row::Kind kind ) {
    Rows rows;
    for ( Row const & row : event.changes ) {
@@ -31,11 +27,11 @@ Rows rowsOf( PlannedEvent const & event, U16 fap, Row::Kind kind ) {
    return rows;
 }
 
-std::set< U16 > fapsOf( PlannedEvent const & event, std::optional< U16 > wanted ) {
+std::set< U16 > fapsOf( PlannedEvent const & event ) {
    std::set< U16 > faps;
    std::optional< U16 > latest; // changes of one FAP mostly stand together
    for ( Row const & row : event.changes ) {
-      if ( row.fap != latest && isOf( row, wanted ) ) {
+      if ( row.fap != latest ) {
          faps.insert( row.fap );
          latest = row.fap;
       }
@@ -85,7 +81,7 @@ void showGroups( std::ostream & out, std::vector< WriteGroup > const & groups, b
 }
 
 void showEvent( std::ostream & out, PlannedEvent const & event, PlanTextOptions const & options, Style const & style ) {
-   for ( U16 const fap : fapsOf( event, options.fap ) ) {
+   for ( U16 const fap : fapsOf( event ) ) {
       out << "  FAP " << fap << '\n';
       showGroups( out, groupsOf( rowsOf( event, fap, Row::Kind::write ) ), options.all, style );
       for ( Row const * row : rowsOf( event, fap, Row::Kind::control ) ) {
@@ -97,17 +93,12 @@ void showEvent( std::ostream & out, PlannedEvent const & event, PlanTextOptions 
    }
 }
 
-void showTables( std::ostream & out,
-                 PlannedEvent const & event,
-                 PlanTextOptions const & options,
-                 Style const & style ) {
+void showTables( std::ostream & out, PlannedEvent const & event, Style const & style ) {
    std::map< std::string, std::map< U16, std::size_t > > tables;
    for ( Row const & row : event.changes ) {
-      if ( isOf( row, options.fap ) ) {
-         ++tables[row.kind == Row::Kind::control ? "controls" : std::string( row.table )][row.fap];
-      }
+      ++tables[row.kind == Row::Kind::control ? "controls" : std::string( row.table )][row.fap];
    }
-   auto const faps = fapsOf( event, options.fap );
+   auto const faps = fapsOf( event );
    Columns columns;
    for ( auto const & [table, counts] : tables ) {
       std::vector< std::string > cells{ table };
@@ -124,9 +115,9 @@ void showTables( std::ostream & out,
 
 // Of all events.
 struct Totals {
-   Totals( Plan const & plan, std::optional< U16 > fap ) {
+   explicit Totals( Plan const & plan ) {
       for ( PlannedEvent const & event : plan.events ) {
-         bool const changes = !fapsOf( event, fap ).empty();
+         bool const changes = !event.changes.empty();
          entries += event.entries();
          controls += event.controls();
          changing += changes;
@@ -179,7 +170,7 @@ Value changeValue( Row const & row ) {
 } // namespace
 
 void showPlan( std::ostream & out, Plan const & plan, PlanTextOptions const & options, Style const & style ) {
-   Totals const totals( plan, options.fap );
+   Totals const totals( plan );
    out << style.title( printable( plan.name ) ) << "\n\n";
    if ( totals.changing == 0 ) {
       out << "Nothing would change: the chips hold what " << ( totals.hasStart ? "the start and " : "" )
@@ -190,7 +181,7 @@ void showPlan( std::ostream & out, Plan const & plan, PlanTextOptions const & op
        << ". No chip was touched.\n";
    bool isShort = false;
    for ( PlannedEvent const & event : plan.events ) {
-      if ( fapsOf( event, options.fap ).empty() ) {
+      if ( event.changes.empty() ) {
          continue;
       }
       out << '\n'
@@ -200,7 +191,7 @@ void showPlan( std::ostream & out, Plan const & plan, PlanTextOptions const & op
       bool const isLarge = event.changes.size() > manyChanges && !options.all;
       isShort = isShort || isLarge;
       if ( options.stat || isLarge ) {
-         showTables( out, event, options, style );
+         showTables( out, event, style );
       } else {
          showEvent( out, event, options, style );
       }
@@ -210,14 +201,12 @@ void showPlan( std::ostream & out, Plan const & plan, PlanTextOptions const & op
    }
 }
 
-Value planValue( Plan const & plan, std::optional< U16 > fap ) {
+Value planValue( Plan const & plan ) {
    Value::List events;
    for ( PlannedEvent const & event : plan.events ) {
       Value::List changes;
       for ( Row const & row : event.changes ) {
-         if ( isOf( row, fap ) ) {
-            changes.push_back( changeValue( row ) );
-         }
+         changes.push_back( changeValue( row ) );
       }
       events.push_back( Value::Object{ { "event", event.event },
                                        { "what", event.what },

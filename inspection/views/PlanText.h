@@ -7,12 +7,11 @@
 namespace Inspection {
 
 struct PlanTextOptions {
-   bool stat = false;             // tables alone
-   std::optional< U16 > fap = {}; // only this one
-   bool all = false;              // every place, else the first few of each kind
+   bool stat = false; // tables alone
+   bool all = false;  // every place, else the first few of each kind
 };
 
 void showPlan( std::ostream & out, Plan const & plan, PlanTextOptions const & options, Style const & style );
-Rex::Value planValue( Plan const & plan, std::optional< U16 > fap );
+Rex::Value planValue( Plan const & plan );
 
 } // namespace Inspection

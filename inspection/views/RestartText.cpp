@@ -61,7 +61,7 @@ Rex::Value restartValue( Restart const & restart ) {
                               { "changingWrites", start.changingWrites },
                               { "entriesThatDiffer", start.entries() },
                               { "controlsThatDiffer", start.controls() },
-                              { "differences", planValue( restart.plan, std::nullopt ) },
+                              { "differences", planValue( restart.plan ) },
                               { "known", known },
                               { "entriesWrongInBetween", restart.entriesWithWindows() },
                               { "windows", windowsValue( restart.windows ) } };

@@ -26,12 +26,13 @@ struct PlanVerbOptions : PlanTextOptions {
    AgentOptions agent;
    std::string plugin;
    std::vector< std::string > toggles;
+   std::optional< U16 > fap;
    bool json = false;
 };
 
 int shown( Plan const & plan, PlanVerbOptions const & options ) {
    if ( options.json ) {
-      std::cout << toJson( planValue( plan, options.fap ), 4 ) << '\n';
+      std::cout << toJson( planValue( plan ), 4 ) << '\n';
    } else {
       showPlan( std::cout, plan, options, Style::of( std::cout ) );
    }
@@ -48,13 +49,11 @@ int planUpgrade( PlanVerbOptions const & options ) {
    ( *begun.object() )["state"] = Live::stateIn( options.agent.state() );
    Scenario scenario = scenarioOf( std::move( begun ), options.agent.name );
    scenario.name = options.agent.name + " with " + options.plugin;
-   if ( options.fap ) {
-      scenario.fap( *options.fap );
-   }
+   checkHasFap( scenario.description, options.fap );
    for ( auto & [fap, it] : readChips( options.agent.chips( {} ) ) ) {
       scenario.chips[fap] = it.contents;
    }
-   return shown( planOf( scenario, options.plugin ), options );
+   return shown( planOf( scenario, options.plugin, { .fap = options.fap } ), options );
 }
 
 // The agent plans on a copy of itself, and tells it as text and as a value.
@@ -96,10 +95,8 @@ int answer( PlanVerbOptions const & options ) {
       return askAgent( options );
    }
    Scenario const scenario = scenarioToPlay( options.scenario, options.toggles, options.plugin );
-   if ( options.fap ) {
-      scenario.fap( *options.fap );
-   }
-   return shown( planOf( scenario, options.plugin ), options );
+   checkHasFap( scenario.description, options.fap );
+   return shown( planOf( scenario, options.plugin, { .fap = options.fap } ), options );
 }
 
 } // namespace

@@ -146,7 +146,7 @@ TEST_F( AgentCommandsTest, showTheChipsOrAPartOfThem ) {
    auto const text = Inspection::toJson( one, 0 );
    EXPECT_THAT( text, HasSubstr( "\"IppdFerTrapCfg\"" ) );
    EXPECT_LT( text.size(), Inspection::toJson( all, 0 ).size() );
-   EXPECT_EQ( refusalOf( "show", Value::Object{ { "fap", 7 } } ), "fap: there is no FAP 7" );
+   EXPECT_EQ( refusalOf( "show", Value::Object{ { "fap", 7 } } ), "--fap 7: the switch has no such FAP; it has 0" );
 }
 
 TEST_F( AgentCommandsTest, tellRowsOfTheJournalWithoutAStateThatItWasntTold ) {

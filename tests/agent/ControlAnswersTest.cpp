@@ -153,7 +153,8 @@ TEST( ControlAnswers, RefuseWhatDoesNotFit ) {
    EXPECT_EQ( agent.ask( "ctl --socket a.ctl state set evpn/status vxlanEnabled '[1, true]'" ),
               "l3sm: agent ./a.ctl: /value: expected true or false, got a list\n" );
    EXPECT_EQ( agent.ask( "ctl --socket a.ctl freeze now" ), "l3sm: now: is one argument too many for freeze\n" );
-   EXPECT_EQ( agent.ask( "show --agent ./a.ctl --fap 7" ), "l3sm: agent ./a.ctl: fap: there is no FAP 7\n" );
+   EXPECT_EQ( agent.ask( "show --agent ./a.ctl --fap 7" ),
+              "l3sm: agent ./a.ctl: --fap 7: the switch has no such FAP; it has 0-1\n" );
    EXPECT_EQ( agent.ask( "show --agent ./b.ctl" ), "l3sm: ./b.ctl: no agent listens there; `l3sm serve` starts one\n" );
    EXPECT_EQ( agent.status, 2 );
 }

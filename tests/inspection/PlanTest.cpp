@@ -4,6 +4,7 @@
 #include "inspection/AnyScenario.h"
 #include "inspection/ChipDifferences.h"
 #include "inspection/Play.h"
+#include "inspection/files/Json.h"
 #include "l3sm/Command.h"
 #include "simulator/TableMap.h"
 
@@ -109,6 +110,31 @@ TEST( Plan, tellsTheFunctionAndTheCauseOfAChange ) {
    EXPECT_EQ( change.cause, "routing/hardware/config urpfLooseFailForward" );
    EXPECT_EQ( change.scope, Row::Scope::all );
    EXPECT_EQ( plan.events[1].entries(), 2u );
+}
+
+TEST( Plan, ofOneFapCountsWhatItShows ) {
+   std::string const example = "plan '" L3SM_SOURCE_DIR "/examples/urpf-and-ip-traps.json' --stat --fap 0";
+   Command const text( example );
+   EXPECT_EQ( text.status, 1 );
+   EXPECT_NE( text.output.find( "\n\nEvent 1: set routing/hardware/config urpfLooseFailForward = true  would change "
+                                "1 entry  (2 operations)\n  IppdFerTrapCfg  FAP 0 1\n" ),
+              std::string::npos )
+      << text.output;
+   Command const forPrograms( example + " --json" );
+   auto const value = parseJson( forPrograms.output, "plan" );
+   std::size_t entries = 0;
+   std::size_t controls = 0;
+   for ( auto const & event : *value.object()->at( "events" ).list() ) {
+      auto const & fields = *event.object();
+      auto const entriesOfEvent = static_cast< std::size_t >( *fields.at( "entries" ).integer() );
+      auto const controlsOfEvent = static_cast< std::size_t >( *fields.at( "controls" ).integer() );
+      EXPECT_GE( fields.at( "changes" ).list()->size(), entriesOfEvent + controlsOfEvent );
+      entries += entriesOfEvent;
+      controls += controlsOfEvent;
+   }
+   auto const totals = std::to_string( entries ) + " entries and " + std::to_string( controls ) + " controls ";
+   EXPECT_NE( text.output.find( "\n\n" + totals + "would change: by the start and 3 of 3 events." ), std::string::npos )
+      << text.output;
 }
 
 // To the bit: the whole chips are compared.

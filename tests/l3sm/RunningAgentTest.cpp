@@ -37,14 +37,14 @@ TEST_F( RunningAgent, tellsWhatEventsWouldChangeOnOneFap ) {
    EXPECT_THAT( plan( events + " --fap 1" ), AllOf( HasSubstr( "\n  FAP 1\n" ), Not( HasSubstr( "FAP 0" ) ) ) );
    EXPECT_THAT( plan( events + " --fap 0 --stat" ),
                 AllOf( HasSubstr( "\n  IppdFerTrapCfg  FAP 0 1\n" ), Not( HasSubstr( "FAP 1" ) ) ) );
-   EXPECT_THAT( plan( events + " --fap 7" ), HasSubstr( "/chips/7: the switch has no such FAP\n" ) );
+   EXPECT_THAT( plan( events + " --fap 7" ), HasSubstr( ": --fap 7: the switch has no such FAP; it has 0-1\n" ) );
 }
 
 TEST_F( RunningAgent, wouldBeChangedInNothingByItsOwnBuild ) {
    std::string const own = "--plugin '" + buildFolder() + "/lib/libL3SmPlugin.so'";
    std::string const nothing = "\nNothing would change: the chips hold what the start and 0 events would write.\n";
    EXPECT_THAT( plan( own + " --fap 1" ), HasSubstr( nothing ) );
-   EXPECT_EQ( plan( own + " --fap 7" ), "l3sm: " + agent->socket() + ": /chips/7: the switch has no such FAP\n" );
+   EXPECT_EQ( plan( own + " --fap 7" ), "l3sm: --fap 7: the switch has no such FAP; it has 0-1\n" );
 }
 
 TEST_F( RunningAgent, isAskedByCtlWithTheOptionsOfTheVerb ) {

@@ -46,6 +46,7 @@ TEST( WrongOptions, ofTheVerbsThatPlayAScenario ) {
         "coverage a.json b.jsonl --page b.jsonl",
         {},
         "b.jsonl: is named twice; give each file a name of its own" },
+      { "a plan of a FAP that isn't there", "plan --fap 7", {}, "--fap 7: the switch has no such FAP; it has 0-1" },
    } );
 }
 
