@@ -1,5 +1,7 @@
 #include "agent/Door.h"
 
+#include "inspection/views/Terminal.h"
+
 namespace Live {
 
 namespace {
@@ -16,7 +18,7 @@ Rex::Value Door::told() const {
          told["..."] = std::to_string( rejected_.size() - mostTold ) + " more";
          break;
       }
-      told[place] = what;
+      told[Inspection::printable( place )] = what; // of two that are written alike one: no answer has a key twice
    }
    return told;
 }
