@@ -233,8 +233,7 @@ Action defineState( VerbOptions & verb ) {
       "VALUE is JSON; a bare word is a text. `load` begins a new life of the state, with that of a scenario or "
       "of a file of `l3sm run --state`; the others need one. `apply` writes the events of a scenario, one "
       "transaction each. The password of a Redis comes from the environment, L3SM_REDIS_PASSWORD. Exit status: 1 "
-      "nothing "
-      "stands there, or an agent is late." );
+      "nothing stands there, or an agent is late." );
    return [options] { return answer( *options ); };
 }
 
