@@ -52,7 +52,7 @@ std::string programFor( std::string const & plugin ) {
 // One build of the plug-in, and what plays it.
 class Side {
  public:
-   Side( std::string plugin, Folder const & folder, std::string const & name )
+   Side( std::string const & plugin, Folder const & folder, std::string const & name )
       : plugin_( fs::absolute( plugin ) ), program_( programFor( plugin_ ) ),
         journal_( folder.file( name + ".jsonl" ) ), said_( folder.file( name + ".said" ) ) {
       if ( !fs::exists( plugin_ ) ) {

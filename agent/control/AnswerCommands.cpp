@@ -48,7 +48,7 @@ void writeWanted( std::ostream & out, Simulator::SimulatedSwitch const & sw, Wan
 
 // A list of the lines of a journal. What the run began with is known where nobody else has told the agent of a state.
 void writeRows( std::ostream & out, AgentSubjects const & subjects ) {
-   MemoryFile file( "rows" );
+   MemoryFile const file( "rows" );
    Value scenario = valueOf( subjects.agent.scenario(), Parts::withoutEvents );
    if ( !subjects.embedded ) {
       scenario.object()->erase( "state" );

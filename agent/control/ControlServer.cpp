@@ -103,7 +103,7 @@ void ControlServer::call( Place client, Request const & request ) {
    }
 }
 
-void ControlServer::begin( Place client, Value id, LongAnswer answer ) {
+void ControlServer::begin( Place client, Value const & id, LongAnswer answer ) {
    LongCall call{ .socket = client->connection->socket(), .id = id, .answer = std::move( answer ) };
    client->copy = copies_.begin( std::move( call ), [this, client, id]( CopyEnd const & end ) {
       client->copy.reset();

@@ -56,7 +56,7 @@ class ControlServer {
    bool makeRoom();
    void served( Place client, std::string const & line );
    void call( Place client, Request const & request );
-   void begin( Place client, Rex::Value id, LongAnswer answer );
+   void begin( Place client, Rex::Value const & id, LongAnswer answer );
    void drop( Place client, std::string const & why );
    bool mayChange( Peer const & peer ) const;
 

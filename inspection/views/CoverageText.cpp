@@ -128,10 +128,8 @@ Value coverageValue( Coverage const & coverage ) {
          if ( cell ) {
             one["writes"] = cell->writes;
             one["changes"] = cell->changes;
-            Value::List variants( cell->variants.begin(), cell->variants.end() );
-            Value::List arrays( cell->arrays.begin(), cell->arrays.end() );
-            one["variants"] = variants;
-            one["arrays"] = arrays;
+            one["variants"] = Value::List( cell->variants.begin(), cell->variants.end() );
+            one["arrays"] = Value::List( cell->arrays.begin(), cell->arrays.end() );
             Value::Object fields;
             for ( std::string const & name : Coverage::fieldsOf( table, chipType ) ) {
                auto const field = cell->fields.find( name );

@@ -40,7 +40,7 @@ std::set< U16 > fapsOf( PlannedEvent const & event ) {
 }
 
 std::string counts( std::size_t entries, std::size_t controls ) {
-   std::string text = counted( entries, "entry", "entries" );
+   std::string const text = counted( entries, "entry", "entries" );
    return controls == 0 ? text : text + " and " + counted( controls, "control", "controls" );
 }
 
