@@ -167,8 +167,9 @@ PluginComparison comparePlugins( std::vector< Scenario > const & scenarios, Plug
          Scenario const played = options.everyChip ? onChip( scenario, chipType ) : scenario;
          auto & run = it.runs.emplace_back( RunDifferences{
             .scenario = scenario.file, .chip = options.everyChip ? Hardware::chipTypeName( chipType ) : "" } );
-         // Where it doesn't fit on the chip, the sides would tell places of a file that is gone.
-         scenarioOf( valueOf( played ), run.chip.empty() ? run.scenario : run.scenario + " on " + run.chip );
+         if ( options.everyChip ) { // where it may not fit, of which the sides would tell places of a file that is gone
+            scenarioOf( valueOf( played ), run.scenario + " on " + run.chip );
+         }
          std::string const file = folder.file( "scenario.json" );
          std::ofstream text( file );
          writeScenario( text, played );

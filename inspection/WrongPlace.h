@@ -1,8 +1,7 @@
 // A place of a chip that doesn't hold what was written to it, as people and programs read it.
 //
 //    audit.finish( [&]( Simulator::Mismatch const & it ) {
-//       wrongPlaceOf( sw.description(), it ).text();   // "FAP 0 IppdFerTrapCfg[3] copy 1: cpuSnoopCodeN is 0x195, not
-//       …"
+//       wrongPlaceOf( sw.description(), it ).text();   // "FAP 0 IppdFerTrapCfg[3] copy 1: cpuSnoopCodeN is 0x195, …"
 //    } );
 //
 // Threading: the agent's scheduler thread.

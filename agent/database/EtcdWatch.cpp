@@ -43,24 +43,21 @@ void EtcdWatch::begin() {
                                  reader_->more( read_ );
                               },
                            .gap = [this]( std::string const & reason ) { gap_ = reason; },
-                           .without =
-                              [this]( std::string const & reason ) {
-                                 without_ = { reason, Clock::now() };
-                              } } );
+                           .without = [this]( std::string const & ) { goneSince_ = Clock::now(); } } );
 }
 
 void EtcdWatch::lookForNext() {
    if ( session_.ask( "kv/range", EtcdRange{ .key = layout_.epoch() }.text() ).only() ) {
-      without_.reset();
+      goneSince_.reset();
       gap_ = anotherStateText;
-   } else if ( Clock::now() - without_->since > longestLoad ) {
-      session_.refuse( without_->reason );
+   } else if ( Clock::now() - *goneSince_ > longestLoad ) {
+      session_.refuse( noStateText );
    }
 }
 
 void EtcdWatch::turn() {
-   session_.loop().turn( without_ ? betweenLooks : pauseBeforeAnother );
-   if ( without_ ) {
+   session_.loop().turn( goneSince_ ? betweenLooks : pauseBeforeAnother );
+   if ( goneSince_ ) {
       lookForNext();
    }
    if ( gap_ ) {

@@ -28,11 +28,7 @@ class EtcdWatch final : public StateWatch {
    std::size_t failures_ = 0; // since somebody told something
    std::unique_ptr< EtcdClient > client_;
    std::unique_ptr< EtcdReader > reader_;
-   struct Without {
-      std::string reason;
-      std::chrono::steady_clock::time_point since;
-   };
-   std::optional< Without > without_;
+   std::optional< std::chrono::steady_clock::time_point > goneSince_; // the state
    std::optional< std::string > lost_;
    std::optional< std::string > gap_;
 };

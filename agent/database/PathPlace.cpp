@@ -87,15 +87,14 @@ PathPlace placeOf( std::string const & path ) {
    while ( at < path.size() ) {
       std::size_t const from = at + 1;
       std::string const owner = path.substr( 0, at );
+      at = std::min( path.find( '/', from ), path.size() );
+      std::string const step = path.substr( from, at - from );
       if ( place.entries ) {
-         at = std::min( path.find( '/', from ), path.size() );
-         if ( at == from ) {
+         if ( step.empty() ) {
             refuse( "\"" + path + "\" has an empty key" );
          }
-         place = { place.entries, nullptr, owner, {}, path.substr( from, at - from ) };
+         place = { place.entries, nullptr, owner, {}, step };
       } else {
-         at = std::min( path.find( '/', from ), path.size() );
-         std::string const step = path.substr( from, at - from );
          auto const * attribute = place.type->attribute( step );
          if ( !attribute || !holdsEntities( *attribute ) ) {
             refuse( owner + " holds nothing at \"" + path.substr( from ) + "\"" );

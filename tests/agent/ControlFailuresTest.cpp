@@ -214,6 +214,7 @@ TEST( ControlCopies, ThatCannotBeginLeaveTheirClientToBeServed ) {
          EXPECT_EQ( failureOf( [&] { client.call( "long" ); } ), "-32603 timer: Too many open files" );
       }
       EXPECT_EQ( client.call( "long" ).text(), "[1, 2]" );
+      EXPECT_EQ( client.call( "echo", Value::List{ "b" } ).text(), "\"b\"" ) << "answered once";
    } );
 }
 

@@ -1,6 +1,7 @@
 // Names of tables, fields and bits, as a person types them.
 #include "inspection/NamesAsTyped.h"
 #include "inspection/files/InputError.h"
+#include "inspection/views/Html.h"
 
 #include <gtest/gtest.h>
 
@@ -53,6 +54,21 @@ TEST( NamesAsTyped, ofChipsAreListedWhereNoneIsNear ) {
                     "no chip has the name \"nothing\"; there is BCM88690_B0, BCM88800_A0, BCM88850_A0, BCM88859_A2, "
                     "BCM88480_A0, BCM88480_B0" );
    }
+}
+
+TEST( Readable, groupsTheDigitsOfOneValueAndLeavesTheRest ) {
+   EXPECT_EQ( readable( "0x9" ), "0x9" );
+   EXPECT_EQ( readable( "0xa" ), "0xa (10)" );
+   EXPECT_EQ( readable( "0xffff" ), "0xffff (65535)" );
+   EXPECT_EQ( readable( "0x10000" ), "0x10000" );
+   EXPECT_EQ( readable( "0x100000000" ), "0x1'00000000" );
+   EXPECT_EQ( readable( "0xa 0xb" ), "0xa 0xb" );
+   EXPECT_EQ( readable( "17" ), "17" );
+   EXPECT_EQ( readable( "" ), "" );
+}
+
+TEST( InHtml, endsNeitherAnElementNorAnAttribute ) {
+   EXPECT_EQ( inHtml( "a <b> & \"c\"" ), "a &lt;b> &amp; &quot;c&quot;" );
 }
 
 } // namespace
