@@ -203,19 +203,18 @@ TEST( CompletionInFish, offersWhatTheProgramSays ) {
 }
 
 // A terminal of its own, in which a tab is typed: zsh completes on a line that is edited, and nowhere else. What the
-// line has become stands there once the next command of the editor answers.
+// line has become is asked of the editor, behind a second key: on the screen an echo can stand beside it.
 std::string inZsh( std::string const & line, Command::Files const & files = {} ) {
    auto const lines = inShell( "zsh -f",
                                R"(zmodload zsh/zpty
 zpty shell zsh -f -i
 typed() { zpty -w shell "$1" }
-typed 'PROMPT= RPROMPT=; stty -echo columns 200; fpath=('$1' $fpath); autoload -Uz compinit; compinit -u -d ./dump'
-typed "bindkey '^I' complete-word; print -r -- re''ady"
+typed 'fpath=('$1' $fpath); autoload -Uz compinit; compinit -u -d ./dump; bindkey "^I" complete-word'
+typed 'tell() { print -r -- $BUFFER > ./line; print to""ld }; zle -N tell; bindkey "^T" tell; print re""ady'
 zpty -r shell out '*ready*'
-zpty -n -w shell "$2"$'\t'
-zpty -n -w shell $'\x1bx'
-zpty -r shell out '*execute*'
-print -r -- "$out" | tr -d '\r\a' | sed -n 's/\x1b\[[0-9;?]*[a-zA-Z]//g; s/ *$//; s/.*  *l*\(l3sm .*\)/\1/p')",
+zpty -n -w shell "$2"$'\t\x14'
+zpty -r shell out '*told*'
+sed 's/ *$//' ./line)",
                                line,
                                files );
    return lines.empty() ? "" : *lines.begin();
