@@ -124,9 +124,7 @@ TEST_P( CentralLease, givesTheSliceOfAKilledProcessOfThisMachineAtOnce ) {
       follower.untilFollowing();
       ::pause();
    }
-   while ( !server->isServed( "Linecard3" ) ) {
-      ::usleep( 1000 );
-   }
+   ASSERT_TRUE( soon( [&] { return server->isServed( "Linecard3" ); } ) );
    DatabaseFollower follower( server->url() );
    ASSERT_TRUE( follower.untilTold( "refused: slice Linecard3 is served by process " + std::to_string( agent ) ) );
    ::kill( agent, SIGKILL );

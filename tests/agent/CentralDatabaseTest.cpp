@@ -69,7 +69,7 @@ TEST_P( CentralDatabase, tellsAsMuchAsIsTakenAndTheRestLater ) {
    DatabaseFollower follower( server->url() );
    ASSERT_TRUE( follower.untilFollowing() );
    server->writeMany( 1500 ); // while it doesn't look
-   ASSERT_TRUE( follower.until( [&] { return follower.position.entry == server->lastEntry(); } ) );
+   ASSERT_TRUE( follower.untilAt( server->lastEntry() ) );
    EXPECT_EQ( follower.count, 1500 );
    EXPECT_EQ( follower.paths, server->state() );
    EXPECT_EQ( follower.told, std::vector< std::string >{ "snapshot" } );
@@ -97,7 +97,7 @@ TEST_P( CentralDatabase, tellsNoMoreThanIsAskedFor ) {
 
    follower.rests = false;
    follower.database.since( follower.position );
-   ASSERT_TRUE( follower.until( [&] { return follower.position.entry == server->lastEntry(); } ) );
+   ASSERT_TRUE( follower.untilAt( server->lastEntry() ) );
    EXPECT_EQ( follower.count, many + some + 1 );
    EXPECT_EQ( follower.paths, server->state() );
    EXPECT_EQ( follower.told, std::vector< std::string >{ "snapshot" } );
@@ -216,8 +216,7 @@ TEST_P( CentralDatabase, losesNothingByBrokenConnections ) {
          follower.loop.turn( 0.002 );
       }
    }
-   ASSERT_TRUE(
-      follower.until( [&] { return follower.isFollowing && follower.position.entry == server->lastEntry(); } ) );
+   ASSERT_TRUE( follower.untilAt( server->lastEntry() ) );
    EXPECT_EQ( follower.paths, server->state() );
    EXPECT_GT( follower.timesTold( "unreachable" ), disconnects / 4 );
 }

@@ -1,6 +1,7 @@
 // A real agent, asked as a person would: it answers as the files do that a run of the same scenario writes.
 #include "BuildFolder.h"
 #include "ControlWorld.h"
+#include "Soon.h"
 #include "inspection/files/Json.h"
 
 #include <algorithm>
@@ -57,10 +58,14 @@ class ServedExample {
    void play() {
       EXPECT_EQ( ask( "ctl --socket a.ctl state apply events.json" ),
                  std::to_string( events_.size() ) + ( events_.size() == 1 ? " event\n" : " events\n" ) );
-      auto const count = "\"events\": " + std::to_string( events_.size() ) + ",";
-      until( [&] { return ask( "ctl --socket a.ctl status --json" ).find( count ) != std::string::npos; } );
+      hasPlayed( events_.size() );
       EXPECT_EQ( ask( "run whole.json --quiet --chips chips.json --journal run.jsonl --state state.json" ), "" );
       EXPECT_EQ( ask( "run switch.json --quiet --chips before.json" ), "" );
+   }
+   // Waits until it has.
+   void hasPlayed( std::size_t events ) {
+      auto const count = "\"events\": " + std::to_string( events ) + ",";
+      until( [&] { return ask( "ctl --socket a.ctl status --json" ).find( count ) != std::string::npos; } );
    }
    int wait() {
       int ended = 0;
@@ -74,10 +79,7 @@ class ServedExample {
  private:
    template< class Condition >
    void until( Condition const & holds ) {
-      for ( int tries = 0; !holds(); ++tries ) {
-         ASSERT_LT( tries, 1000 ) << folder.text( ".out" ) << folder.text( "log" );
-         ::usleep( 10'000 );
-      }
+      ASSERT_TRUE( soon( holds ) ) << folder.text( ".out" ) << folder.text( "log" );
    }
    Value::List events_;
    pid_t agent_ = 0;
@@ -196,11 +198,7 @@ TEST( ControlAnswers, FollowWhatTheAgentIsTold ) {
    EXPECT_NE( agent.ask( "ctl --socket a.ctl state evpn/status" ).find( "vxlanEnabled    no" ), std::string::npos )
       << agent.folder.text( ".out" );
    EXPECT_EQ( agent.ask( "ctl --socket a.ctl thaw" ), "running\n" );
-   for ( int tries = 0;
-         tries < 500 && agent.ask( "ctl --socket a.ctl status --json" ).find( "\"events\": 1," ) == std::string::npos;
-         ++tries ) {
-      ::usleep( 10'000 );
-   }
+   agent.hasPlayed( 1 );
    EXPECT_NE( agent.ask( "ctl --socket a.ctl state evpn/status --json" ).find( "\"vxlanEnabled\": true" ),
               std::string::npos );
    EXPECT_NE( agent.ask( "ctl --socket a.ctl trace set DaceFapNiL3Sm 9" ).find( "DaceFapNiL3Sm" ), std::string::npos );
@@ -215,11 +213,7 @@ TEST( ControlAnswers, PlayATransactionOfAScenarioAsOneEvent ) {
       {"set": {"path": "evpn/status", "attribute": "vxlanEnabled", "value": true}},
       {"set": {"path": "evpn/status", "attribute": "evpnDciEnabled", "value": true}}]}]})" );
    EXPECT_EQ( agent.ask( "ctl --socket a.ctl state apply transaction.json" ), "1 event\n" );
-   for ( int tries = 0;
-         tries < 500 && agent.ask( "ctl --socket a.ctl status --json" ).find( "\"events\": 1," ) == std::string::npos;
-         ++tries ) {
-      ::usleep( 10'000 );
-   }
+   agent.hasPlayed( 1 );
    auto const state = agent.ask( "ctl --socket a.ctl state evpn/status --json" );
    EXPECT_NE( state.find( "\"vxlanEnabled\": true" ), std::string::npos ) << state;
    EXPECT_NE( state.find( "\"evpnDciEnabled\": true" ), std::string::npos ) << state;

@@ -7,6 +7,7 @@
 #pragma once
 
 #include "Folder.h"
+#include "Soon.h"
 #include "agent/control/ControlClient.h"
 #include "agent/control/ControlServer.h"
 #include "inspection/files/Json.h"
@@ -37,7 +38,7 @@ class RawClient {
       }
       return done;
    }
-   // A line; what came before the end or 10 s of silence where there is none.
+   // A line; what came before the end, or before a long silence, where there is none.
    std::string line() {
       while ( in_.find( '\n' ) == std::string::npos && receive() ) {
       }
@@ -56,13 +57,20 @@ class RawClient {
       }
       return hasEnded_;
    }
+   // The same, while it reads nothing.
+   bool endsUnread() const {
+      pollfd end{ number(), 0, 0 }; // told of a hang-up whatever one asks for
+      return ::poll( &end, 1, longestMilliseconds ) == 1;
+   }
    void sendsNoMore() const { ::shutdown( number(), SHUT_WR ); }
    int number() const { return socket_.number(); }
 
  private:
+   static constexpr int longestMilliseconds = std::chrono::milliseconds( longestWait ).count();
+
    bool receive() {
       pollfd readable{ number(), POLLIN, 0 };
-      if ( ::poll( &readable, 1, 10000 ) <= 0 ) {
+      if ( ::poll( &readable, 1, longestMilliseconds ) <= 0 ) {
          return false;
       }
       std::vector< char > some( 1 << 20 );
@@ -104,7 +112,7 @@ class ControlWorld {
    }
 
    RawClient raw() const { return RawClient( options.path ); }
-   Live::ControlClient client( int timeout = 10 ) const {
+   Live::ControlClient client( int timeout = longestWait.count() ) const {
       return Live::ControlClient( { .path = options.path, .timeout = timeout } );
    }
 
@@ -132,10 +140,10 @@ class ControlWorld {
    // Until it is so; the server has still to hear of what clients have done.
    template< class Condition >
    bool turnsUntil( Condition const & holds ) {
-      for ( int turn = 0; turn < 5000 && !holds(); ++turn ) {
+      return soon( [&] {
          loop.turn( 0.002 );
-      }
-      return holds();
+         return holds();
+      } );
    }
 
    Folder const folder;

@@ -6,6 +6,7 @@
 //    follower.told;             // "snapshot", "gap: another state was loaded", …
 #pragma once
 
+#include "Soon.h"
 #include "agent/database/Databases.h"
 
 #include <algorithm>
@@ -42,14 +43,12 @@ class DatabaseFollower : public Live::Database::Follower {
    DatabaseFollower & operator=( DatabaseFollower const & ) = delete;
    ~DatabaseFollower() override { database.stop(); }
 
-   std::chrono::seconds patience{ 10 };
-
-   // Turns the loop until it is so; false where that takes longer.
+   // Turns the loop until it is so.
    template< class Condition >
    bool until( Condition const & holds ) {
       auto const start = std::chrono::steady_clock::now();
       while ( !holds() ) {
-         if ( std::chrono::steady_clock::now() - start > patience ) {
+         if ( std::chrono::steady_clock::now() - start > longestWait ) {
             return false;
          }
          loop.turn( 0.01 );
@@ -58,6 +57,9 @@ class DatabaseFollower : public Live::Database::Follower {
    }
    bool untilFollowing() {
       return until( [this] { return isFollowing; } );
+   }
+   bool untilAt( std::string const & entry ) {
+      return until( [&] { return isFollowing && position.entry == entry; } );
    }
    bool untilTold( std::string const & what ) {
       return until( [&] { return hasBeenTold( what ); } );

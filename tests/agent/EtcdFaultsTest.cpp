@@ -38,7 +38,6 @@ struct EtcdFaults : testing::Test {
    std::unique_ptr< DatabaseFollower > following( std::string const & slice ) const {
       auto it = std::make_unique< DatabaseFollower >( cluster.url(), slice );
       it->takesUpWhereItWas = true;
-      it->patience = std::chrono::seconds( 60 ); // a busy machine, and members that are silent for some seconds
       EXPECT_TRUE( it->until( [&] { return it->hasBegun; } ) );
       return it;
    }

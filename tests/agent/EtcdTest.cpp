@@ -140,11 +140,8 @@ TEST( EtcdLease, isLostByWhoStandsStillAndTakenAgain ) {
    DatabaseFollower follower( [&]( Live::EventLoop & loop ) { return shortLived( loop, etcd.server ); } );
    follower.takesUpWhereItWas = true;
    ASSERT_TRUE( follower.until( [&] { return follower.hasBegun; } ) );
-   for ( int tries = 0; etcd.isServed( "Linecard3" ) && tries < 1500; ++tries ) {
-      ::usleep( 10'000 ); // and nobody turns its loop
-   }
-   ASSERT_FALSE( etcd.isServed( "Linecard3" ) );
-   EXPECT_FALSE( etcd.server.under( "l3sm:1#agents:" ).empty() ); // an agent is expected here
+   ASSERT_TRUE( soon( [&] { return !etcd.isServed( "Linecard3" ); } ) ); // while nobody turns its loop
+   EXPECT_FALSE( etcd.server.under( "l3sm:1#agents:" ).empty() );        // an agent is expected here
    etcd.write( "mplsEnabled", "true" );
    ASSERT_TRUE( follower.untilTold( "the right to serve slice Linecard3 has run out" ) );
    ASSERT_TRUE( follower.until( [&] { return follower.paths == etcd.state(); } ) );
@@ -165,15 +162,12 @@ TEST( EtcdLease, isLostByAnAgentThatIsStoppedAndCatchesUpWhenItGoesOn ) {
    auto const before = agent.ctl( "show" );
    ::kill( agent.process(), SIGSTOP );
    etcd.write( "evpnDciEnabled", "true" );
-   for ( int tries = 0; etcd.isServed( "Linecard3" ) && tries < 3000; ++tries ) {
-      ::usleep( 10'000 );
-   }
-   EXPECT_FALSE( etcd.isServed( "Linecard3" ) );
+   EXPECT_TRUE( soon( [&] { return !etcd.isServed( "Linecard3" ); } ) );
    if ( std::getenv( "L3SM_LONG_TESTS" ) ) {
       ::usleep( 50'000'000 );
    }
    ::kill( agent.process(), SIGCONT );
-   SCOPED_TRACE( agent.output( "state wait --timeout 30 --database " + etcd.server.url() ) );
+   SCOPED_TRACE( agent.output( "state wait --timeout 60 --database " + etcd.server.url() ) );
    ASSERT_TRUE( agent.isSoon( "running" ) ) << agent.log();
    EXPECT_TRUE( etcd.isServed( "Linecard3" ) );
    EXPECT_NE( agent.ctl( "show" ), before );

@@ -37,7 +37,7 @@ TEST( KilledAgent, endsWithTheChipsOfOneThatWasNeverKilled ) {
       }
    }
    EXPECT_GE( count, kills / 2 );
-   SCOPED_TRACE( other.output( "state wait --timeout 30 --database " + server.url() ) );
+   SCOPED_TRACE( other.output( "state wait --timeout 60 --database " + server.url() ) );
    ASSERT_TRUE( killed.isSoon( "running" ) ) << killed.log();
    EXPECT_EQ( unknownDifferences( folder, killed.ctl( "show" ), other.ctl( "show" ) ), "" ) << killed.log();
    EXPECT_NE( killed.ctl( "audit run" ).find( "\"mismatches\": 0" ), std::string::npos ) << killed.log();
@@ -66,7 +66,7 @@ TEST_P( RestartedAgent, changesNothingOnItsChipsButWhatIsKnownToRemember ) {
          writer.write( event );
       }
    }
-   agent.output( "state wait --timeout 30 --database " + server.url() );
+   agent.output( "state wait --timeout 60 --database " + server.url() );
    auto const before = agent.ctl( "show" );
    agent.dies();
    agent.starts();

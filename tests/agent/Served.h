@@ -10,6 +10,7 @@
 #include "BuildFolder.h"
 #include "ChildProgram.h"
 #include "Folder.h"
+#include "Soon.h"
 
 class ServedAgent : public ChildProgram {
  public:
@@ -20,15 +21,13 @@ class ServedAgent : public ChildProgram {
       folder_.file( slice_ + ".json", theSwitch );
       starts();
    }
-   // It ends as whoever runs it ends it. What doesn't within 10 s is killed.
+   // It ends as whoever runs it ends it. What doesn't is killed.
    ~ServedAgent() {
       if ( isRunning() ) {
          goesOn();
          ::kill( process(), SIGTERM );
       }
-      for ( int tries = 0; tries < 1000 && isRunning(); ++tries ) {
-         ::usleep( 10'000 );
-      }
+      soon( [this] { return !isRunning(); } );
    }
    ServedAgent( ServedAgent const & ) = delete;
    ServedAgent & operator=( ServedAgent const & ) = delete;
@@ -58,15 +57,8 @@ class ServedAgent : public ChildProgram {
                 ? std::string()
                 : text.substr( at + key.size(), text.find( '"', at + key.size() ) - at - key.size() );
    }
-   // Within 10 s.
    bool isSoon( std::string const & wanted ) const {
-      for ( int tries = 0; tries < 1000; ++tries ) {
-         if ( phase() == wanted ) {
-            return true;
-         }
-         ::usleep( 10'000 );
-      }
-      return false;
+      return soon( [&] { return phase() == wanted; } );
    }
    std::string output( std::string const & arguments ) const {
       std::string const file = folder_ / ".output";

@@ -14,18 +14,6 @@ bool has( std::string const & text, std::string const & part ) {
    return text.find( part ) != std::string::npos;
 }
 
-// Turns until it is so; false after 10 s.
-template< class Condition >
-bool soon( Condition const & holds ) {
-   for ( int tries = 0; tries < 1000; ++tries ) {
-      if ( holds() ) {
-         return true;
-      }
-      ::usleep( 10'000 );
-   }
-   return false;
-}
-
 TEST( ServedLife, endsCleanlyWhenItIsToldTo ) {
    Folder const folder;
    ServedAgent agent( folder, "Linecard3", oneFap, "" );

@@ -45,7 +45,7 @@ TEST_P( ServedSoak, endsWithTheChipsOfAFreshStart ) {
          store = Live::stateStoreAt( server->url(), {}, 1 );
       }
    }
-   std::string const waited = agents.begin()->second->output( "state wait --timeout 30 --database " + server->url() );
+   std::string const waited = agents.begin()->second->output( "state wait --timeout 60 --database " + server->url() );
    SCOPED_TRACE( waited );
    for ( auto & [slice, agent] : agents ) {
       EXPECT_EQ( agent->phase(), "running" ) << slice << agent->log();

@@ -1,5 +1,6 @@
 // `l3sm state`, as a person types it.
 #include "BuildFolder.h"
+#include "Soon.h"
 #include "agent/CentralServer.h"
 #include "agent/DatabaseFollower.h"
 #include "l3sm/Running.h"
@@ -10,15 +11,6 @@ namespace {
 
 using testing::HasSubstr;
 using testing::StartsWith;
-
-// Within 10 s.
-bool isSoSoon( std::function< bool() > const & holds ) {
-   auto const end = std::chrono::steady_clock::now() + std::chrono::seconds( 10 );
-   while ( !holds() && std::chrono::steady_clock::now() < end ) {
-      ::usleep( 1000 );
-   }
-   return holds();
-}
 
 struct StateVerb : testing::TestWithParam< char const * > {
    std::unique_ptr< CentralServer > server = serverOf( GetParam() );
@@ -113,10 +105,10 @@ TEST_P( StateVerb, loadsWhatARunHasLeft ) {
 
 TEST_P( StateVerb, watchesEachChangeUntilItIsInterrupted ) {
    Running watch( "state watch evpn --database " + server->url(), {} );
-   ASSERT_TRUE( isSoSoon( [&] { return server->isWatched(); } ) ) << "it waits for the next entry";
+   ASSERT_TRUE( soon( [&] { return server->isWatched(); } ) ) << "it waits for the next entry";
    l3sm( "set routing/hardware/config urpfLooseFailForward true" );
    l3sm( "set evpn/status mplsEnabled true" );
-   ASSERT_TRUE( isSoSoon( [&] { return watch.output().find( '\n' ) != std::string::npos; } ) );
+   ASSERT_TRUE( soon( [&] { return watch.output().find( '\n' ) != std::string::npos; } ) );
    watch.kill( SIGINT );
    EXPECT_EQ( watch.wait(), 128 + SIGINT );
    EXPECT_EQ( watch.output().substr( 12 ), "  set evpn/status mplsEnabled = true\n" );
@@ -124,13 +116,13 @@ TEST_P( StateVerb, watchesEachChangeUntilItIsInterrupted ) {
 
 TEST_P( StateVerb, watchesOnInTheStateThatIsLoadedNext ) {
    Running watch( "state watch evpn --database " + server->url(), {} );
-   ASSERT_TRUE( isSoSoon( [&] { return server->isWatched(); } ) );
+   ASSERT_TRUE( soon( [&] { return server->isWatched(); } ) );
    ASSERT_EQ( l3sm( "load s.json", { { "s.json", scenarioWith( R"(, "state": {"evpn/status": {}})" ) } } ).status, 0 );
-   ASSERT_TRUE( isSoSoon( [&] { return watch.errors().find( '\n' ) != std::string::npos; } ) );
+   ASSERT_TRUE( soon( [&] { return watch.errors().find( '\n' ) != std::string::npos; } ) );
    EXPECT_EQ( watch.errors(), "l3sm: another state was loaded; going on with it\n" );
-   ASSERT_TRUE( isSoSoon( [&] { return server->isWatched(); } ) );
+   ASSERT_TRUE( soon( [&] { return server->isWatched(); } ) );
    l3sm( "set evpn/status mplsEnabled true" );
-   ASSERT_TRUE( isSoSoon( [&] { return watch.output().find( '\n' ) != std::string::npos; } ) ) << watch.errors();
+   ASSERT_TRUE( soon( [&] { return watch.output().find( '\n' ) != std::string::npos; } ) ) << watch.errors();
    EXPECT_EQ( watch.output().substr( 12 ), "  set evpn/status mplsEnabled = true\n" );
    watch.kill( SIGINT );
    EXPECT_EQ( watch.wait(), 128 + SIGINT );
@@ -141,7 +133,7 @@ TEST_P( StateVerb, endsItsWatchWhereNoStateIsLoadedForAWhile ) {
       GTEST_SKIP() << "it only takes its time";
    }
    Running watch( "state watch --database " + server->url(), {} );
-   ASSERT_TRUE( isSoSoon( [&] { return server->isWatched(); } ) );
+   ASSERT_TRUE( soon( [&] { return server->isWatched(); } ) );
    server->epochIs( "" );
    EXPECT_EQ( watch.wait(), 2 );
    EXPECT_EQ( watch.errors(),
@@ -166,7 +158,7 @@ TEST_P( StateVerb, waitsForAgents ) {
    EXPECT_EQ( late.output, "Linecard3  reconciling, at " + before + " of " + server->lastEntry() + "\n" );
 
    Running waiting( "state wait --database " + server->url(), {} );
-   ASSERT_TRUE( agent.until( [&] { return agent.position.entry == server->lastEntry(); } ) );
+   ASSERT_TRUE( agent.untilAt( server->lastEntry() ) );
    agent.database.publish( { .applied = agent.position, .fields = { { "phase", "running" } } } );
    ASSERT_TRUE( agent.until( [&] { return server->agentHash( "Linecard3" )["phase"] == "running"; } ) );
    EXPECT_EQ( waiting.wait(), 0 );

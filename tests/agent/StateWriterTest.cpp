@@ -131,7 +131,7 @@ TEST_P( StateWriterTest, takesTurnsWithOthers ) {
                   { { "events.json", changesText( eventsOf( "Vxlan" ) ) } } );
    writer.writeEach( eventsOf( "Other" ), "other" );
    EXPECT_EQ( other.wait(), 0 ) << other.errors();
-   ASSERT_TRUE( follower.until( [&] { return follower.position.entry == server->lastEntry(); } ) );
+   ASSERT_TRUE( follower.untilAt( server->lastEntry() ) );
    EXPECT_EQ( follower.count, 2 * each );
    EXPECT_EQ( follower.paths, server->state() );
    EXPECT_EQ( follower.paths.size(), 3 + 14 );
@@ -150,7 +150,7 @@ TEST_P( StateWriterTest, writesMoreThanADatabaseTakesAtOnce ) {
    EXPECT_EQ( server->state().size(), 302 );
    bool const isSplit = std::string( GetParam() ) == "etcd";
    EXPECT_EQ( store->takeNotes().size(), isSplit ? 1 : 0 );
-   ASSERT_TRUE( follower.until( [&] { return follower.position.entry == server->lastEntry(); } ) );
+   ASSERT_TRUE( follower.untilAt( server->lastEntry() ) );
    EXPECT_EQ( follower.count, isSplit ? 3 : 1 );
    EXPECT_EQ( follower.paths, server->state() );
 

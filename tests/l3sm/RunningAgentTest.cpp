@@ -54,8 +54,8 @@ TEST_F( RunningAgent, isAskedByCtlWithTheOptionsOfTheVerb ) {
    auto const asked = plan( "'" + folder / "events.json" + "' --fap 1 --stat" );
    EXPECT_THAT( asked, HasSubstr( "IppdFerTrapCfg  FAP 1 1\n" ) );
    EXPECT_EQ( ctl( "--socket '" + agent->socket() + "' plan" ), asked );
-   EXPECT_EQ( ctl( "--timeout=5 --socket='" + agent->socket() + "' plan" ), asked );
-   EXPECT_EQ( ctl( "--timeout 5 --agent '" + agent->socket() + "' plan" ), asked );
+   EXPECT_EQ( ctl( "--timeout=60 --socket='" + agent->socket() + "' plan" ), asked );
+   EXPECT_EQ( ctl( "--timeout 60 --agent '" + agent->socket() + "' plan" ), asked );
 }
 
 std::string withoutCompression( std::string const & path ) {
@@ -73,10 +73,7 @@ TEST_F( RunningAgent, leavesARecordingThatBecomesAScenarioWithRemarks ) {
    auto const ctl = [&]( std::string const & command ) { return agent->ctl( command ); };
    ctl( "record start '" + folder / "" + "'" );
    ctl( "state apply '" + folder / "events.json" + "'" );
-   auto const hasPlayed = [&] { return ctl( "status" ).find( "\"events\": 3," ) != std::string::npos; };
-   for ( int tries = 0; tries < 1000 && !hasPlayed(); ++tries ) {
-      ::usleep( 10'000 );
-   }
+   ASSERT_TRUE( soon( [&] { return ctl( "status" ).find( "\"events\": 3," ) != std::string::npos; } ) );
    EXPECT_THAT( ctl( "record stop" ), HasSubstr( "\"recording\": false" ) );
    std::string const segment = "Linecard3-1.rec.jsonl";
    auto const text = withoutCompression( folder / ( segment + ".zst" ) );

@@ -1,4 +1,5 @@
 // What `l3sm state` answers programs, and what it shows of a state at its defaults.
+#include "Soon.h"
 #include "agent/RedisServer.h"
 #include "l3sm/Running.h"
 
@@ -103,19 +104,13 @@ TEST_F( StateAnswers, tellHowFarEachAgentIs ) {
 TEST_F( StateAnswers, tellOfAnEntryThatCannotBeReadAndGoOn ) {
    EXPECT_EQ( state( "load s.json", { { "s.json", some } } ).status, 0 );
    Running watch( "state watch --json --database " + server.url(), {} );
-   auto const until = [&]( auto const & holds ) {
-      for ( int tries = 0; tries < 10'000 && !holds(); ++tries ) {
-         ::usleep( 1000 );
-      }
-      return holds();
-   };
-   ASSERT_TRUE( until( [&] { return server.served( "xread" ) > 0; } ) );
+   ASSERT_TRUE( soon( [&] { return server.served( "xread" ) > 0; } ) );
    std::string const wrong( server.ask( { "XADD", "l3sm:{1}#log", "*", "something", "else" } ).text() );
-   ASSERT_TRUE( until( [&] { return watch.errors().ends_with( '\n' ); } ) );
+   ASSERT_TRUE( soon( [&] { return watch.errors().ends_with( '\n' ); } ) );
    EXPECT_EQ( watch.errors(), "l3sm: " + wrong + ": there is no field \"changes\"\n" );
    EXPECT_EQ( watch.output(), "" );
    EXPECT_EQ( state( "set evpn/status mplsEnabled true" ).status, 0 );
-   ASSERT_TRUE( until( [&] { return watch.output().ends_with( '\n' ); } ) );
+   ASSERT_TRUE( soon( [&] { return watch.output().ends_with( '\n' ); } ) );
    EXPECT_EQ( watch.output(),
               R"({"change": {"set": {"attribute": "mplsEnabled", "path": "evpn/status", "value": true}}, "entry": ")" +
                  lastEntry() + "\"}\n" );
