@@ -127,9 +127,10 @@ TEST_F( PagerTest, isLeftOutWhereTheProcessFails ) {
       Pager const held;
       writeLines( 6 );
       Pager::letThrough();
+      std::cout << "behind" << std::endl;
       out << screen.textUpTo( "behind" );
    } );
-   EXPECT_EQ( child.output, "line 1\r\nline 2\r\nline 3\r\nline 4\r\nline 5\r\nline 6\r\n" );
+   EXPECT_EQ( child.output, "line 1\r\nline 2\r\nline 3\r\nline 4\r\nline 5\r\nline 6\r\nbehind\r\n" );
 }
 
 TEST_F( PagerTest, isOfATerminalWhoseWidthIsThatOfLines ) {
