@@ -29,6 +29,16 @@ U32 wordFromValue( Value const & value ) {
    Rex::throwWrongKind( "a word like \"0x00000a00\"", value );
 }
 
+// An object whose keys are numbers.
+template< class Read >
+auto numbered( Value const & value, Read const & read ) {
+   std::map< U32, decltype( read( value ) ) > all;
+   forEachMember( value, [&]( std::string const & key, Value const & part ) {
+      all.emplace( Rex::Codec< U32 >::fromKey( key ), read( part ) );
+   } );
+   return all;
+}
+
 EntryContents entryFromValue( Value const & value ) {
    Fields fields( value );
    fields.find( "fields" ); // said once more, in other words
@@ -39,28 +49,10 @@ EntryContents entryFromValue( Value const & value ) {
    }
    fields.with( "words", [&]( Value const & words ) { contents.copies.push_back( wordsFromValue( words ) ); } );
    fields.with( "instances", [&]( Value const & instances ) {
-      forEachMember( instances, [&]( std::string const & instance, Value const & words ) {
-         if ( instance != std::to_string( contents.copies.size() ) ) {
-            throw ValueError( "", "expected instance " + std::to_string( contents.copies.size() ) );
-         }
-         contents.copies.push_back( wordsFromValue( words ) );
-      } );
-      if ( contents.copies.size() < 2 ) {
-         throw ValueError( "", "instances are two or more: give \"words\" where all hold the same" );
-      }
+      contents.copies = copiesOf( numbered( instances, wordsFromValue ) );
    } );
    fields.end();
    return contents;
-}
-
-// An object whose keys are numbers.
-template< class Read >
-auto numbered( Value const & value, Read const & read ) {
-   std::map< U32, decltype( read( value ) ) > all;
-   forEachMember( value, [&]( std::string const & key, Value const & part ) {
-      all.emplace( Rex::Codec< U32 >::fromKey( key ), read( part ) );
-   } );
-   return all;
 }
 
 Simulator::Contents contentsOf( Fields & fields ) {
@@ -190,6 +182,20 @@ Hardware::ChipType chipTypeFromValue( Value const & value ) {
    } catch ( ValueError const & error ) {
       throw ValueError( "", error.what() ); // the object is made here: its key is no place of the file
    }
+}
+
+std::vector< Simulator::Words > copiesOf( std::map< U32, Simulator::Words > instances ) {
+   std::vector< Simulator::Words > copies;
+   for ( auto & [instance, words] : instances ) {
+      if ( instance != copies.size() ) {
+         throw ValueError( "/" + std::to_string( instance ), "expected instance " + std::to_string( copies.size() ) );
+      }
+      copies.push_back( std::move( words ) );
+   }
+   if ( copies.size() < 2 ) {
+      throw ValueError( "", "instances are two or more: give \"words\" where all hold the same" );
+   }
+   return copies;
 }
 
 Simulator::TablesContents tablesFromValue( Value const & value ) {

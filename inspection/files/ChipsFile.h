@@ -43,6 +43,9 @@ Rex::Value valueOf( Simulator::Contents const & contents );
 
 // The words of one entry, as files have them. Throws Rex::ValueError.
 Simulator::Words wordsFromValue( Rex::Value const & value );
+// The copies of an entry, which files number from zero on, in whatever order. Throws Rex::ValueError where one is
+// missing, or there are no two.
+std::vector< Simulator::Words > copiesOf( std::map< U32, Simulator::Words > instances );
 // The chip of a name; throws Rex::ValueError.
 Hardware::ChipType chipTypeFromValue( Rex::Value const & value );
 

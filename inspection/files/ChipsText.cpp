@@ -52,6 +52,12 @@ auto numbered( element value, Read const & read ) {
    return all;
 }
 
+Simulator::Words wordsOf( element value ) {
+   Simulator::Words words;
+   JsonElements::wordsInto( words, value );
+   return words;
+}
+
 EntryContents entryOf( element value ) {
    EntryContents contents;
    bool isRead = false;
@@ -61,18 +67,9 @@ EntryContents entryOf( element value ) {
          refuse();
       }
       if ( key == "words" ) {
-         JsonElements::wordsInto( contents.copies.emplace_back(), part, "words" );
+         contents.copies.push_back( Rex::below( "words", [&] { return wordsOf( part ); } ) );
       } else if ( key == "instances" ) {
-         for ( auto const [instance, words] : objectIn( part ) ) {
-            auto const expected = std::to_string( contents.copies.size() );
-            if ( instance != expected ) {
-               throw ValueError( "/instances/" + std::string( instance ), "expected instance " + expected );
-            }
-            JsonElements::wordsInto( contents.copies.emplace_back(), words, "instances" );
-         }
-         if ( contents.copies.size() < 2 ) {
-            throw ValueError( "/instances", "instances are two or more: give \"words\" where all hold the same" );
-         }
+         contents.copies = Rex::below( "instances", [&] { return copiesOf( numbered( part, wordsOf ) ); } );
       } else if ( key != "fields" ) { // said once more, in other words
          throw ValueError( "", "an entry has \"words\" or \"instances\", no \"" + std::string( key ) + "\"" );
       }

@@ -200,11 +200,11 @@ void JournalLineParser::access( dom::object const & object, Row & row ) {
    }
    row.scope = oneOf< Row::Scope >( text( object, "scope" ), "scope", scopeNames );
    row.core = row.scope == Row::Scope::core ? number< U8 >( object, "core" ) : U8{ 0 };
-   wordsInto( words_, member( object, "words" ), "words" );
+   Rex::below( "words", [&] { wordsInto( words_, member( object, "words" ) ); } );
    row.words = words_;
    dom::element before;
    if ( !object["before"].get( before ) ) {
-      wordsInto( before_, before, "before" );
+      Rex::below( "before", [&] { wordsInto( before_, before ); } );
       row.before = before_;
       if ( before_.size() != words_.size() ) {
          throw ValueError( "/before", "expected as many words as were written, " + std::to_string( words_.size() ) );

@@ -61,25 +61,25 @@ Value valueOf( dom::element element ) {
    return {};
 }
 
-static U32 wordOf( dom::element element, char const * key ) {
+static U32 wordOf( dom::element element ) {
    std::string_view digits;
    U32 word = 0;
    if ( element.get( digits ) || digits.size() < 3 || digits.size() > 10 || !digits.starts_with( "0x" ) ||
         std::from_chars( digits.data() + 2, digits.data() + digits.size(), word, 16 ).ptr !=
            digits.data() + digits.size() ) {
-      throw ValueError( Rex::pointerStep( key ), "expected words such as \"0x00000a00\"" );
+      throw ValueError( "", "expected words such as \"0x00000a00\"" );
    }
    return word;
 }
 
-void wordsInto( std::vector< U32 > & words, dom::element element, char const * key ) {
+void wordsInto( std::vector< U32 > & words, dom::element element ) {
    dom::array list;
    if ( element.get( list ) ) {
-      throw ValueError( Rex::pointerStep( key ), "expected a list of words" );
+      throw ValueError( "", "expected a list of words" );
    }
    words.clear();
    for ( dom::element const word : list ) {
-      words.push_back( wordOf( word, key ) );
+      words.push_back( wordOf( word ) );
    }
 }
 

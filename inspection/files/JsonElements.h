@@ -24,7 +24,7 @@ dom::element member( dom::object const & object, char const * key );
 bool boolean( dom::object const & object, char const * key );
 std::string_view text( dom::object const & object, char const * key );
 Rex::Value valueOf( dom::element element );
-void wordsInto( std::vector< U32 > & words, dom::element element, char const * key );
+void wordsInto( std::vector< U32 > & words, dom::element element );
 
 template< class T >
 T number( dom::element element, char const * key ) {

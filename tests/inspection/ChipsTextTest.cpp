@@ -64,6 +64,28 @@ TEST( ChipsText, refusesInstancesThatAreNotCountedFromZero ) {
               R"(/0/3/0/instances: instances are two or more: give "words" where all hold the same)" );
 }
 
+TEST( ChipsText, takesInstancesInAnyOrder ) {
+   std::vector< Simulator::Words > expected;
+   std::string text;
+   for ( U32 instance = 0; instance < 12; ++instance ) {
+      expected.push_back( { instance } );
+      text = "\"" + std::to_string( instance ) + "\": [\"" + wordText( instance ) + "\"]" +
+             ( text.empty() ? "" : ", " ) + text;
+   }
+   std::string const entry = "{\"instances\": {" + text + "}}";
+   EXPECT_EQ( tableFromText( R"({"0": {"3": {"0": )" + entry + "}}}" ).at( 0 ).at( 3 ).at( 0 ).copies, expected );
+   auto const value = parseJson( R"({"IppdFerTrapCfg": {"0": {"3": {"0": )" + entry + "}}}}", "" );
+   EXPECT_EQ( tablesFromValue( value ).at( "IppdFerTrapCfg" ).at( 0 ).at( 3 ).at( 0 ).copies, expected );
+}
+
+TEST( ChipsText, tellsTheInstanceWhoseWordsAreNone ) {
+   EXPECT_EQ( entryRefusal( R"({"instances": {"1": ["0x00000a00"], "0": ["no"]}})" ),
+              R"(/0/3/0/instances/0: expected words such as "0x00000a00")" );
+   EXPECT_EQ( entryRefusal( R"({"instances": {"1": ["0x00000a00"], "1": ["0x00000a00"]}})" ),
+              "/0/3/0/instances/1: stands twice" );
+   EXPECT_EQ( entryRefusal( R"({"words": 7})" ), "/0/3/0/words: expected a list of words" );
+}
+
 TEST( ChipsText, refusesANumberThatStandsTwice ) {
    EXPECT_EQ( tableTextRefusal( R"({"0": {"3": {}, "3": {}}})" ), "/0/3: stands twice" );
    EXPECT_EQ( tableTextRefusal( R"({"0": []})" ), "/0: expected an object" );
