@@ -1,6 +1,7 @@
 #include "l3sm/Completion.h"
 
 #include "l3sm/Candidates.h"
+#include "l3sm/verbs/Verbs.h"
 
 #include <CLI/CLI.hpp>
 #include <algorithm>
@@ -31,7 +32,10 @@ CLI::Option const * optionNamed( CLI::App const & verb, std::string const & name
 struct Line {
    CLI::Option const * waiting = nullptr; // an option whose value comes next
    std::vector< std::string > values;     // in the places
+   std::size_t firstAt = 0;               // the word that is the first of them
    std::vector< std::string > given;      // options
+
+   bool has( std::string const & option ) const { return std::ranges::find( given, option ) != given.end(); }
 };
 
 Line lineOf( CLI::App const & verb, std::vector< std::string > const & words ) {
@@ -40,6 +44,7 @@ Line lineOf( CLI::App const & verb, std::vector< std::string > const & words ) {
       std::string const & word = words[at];
       if ( !word.starts_with( "-" ) || word == "-" ) {
          if ( !line.waiting ) {
+            line.firstAt = line.values.empty() ? at : line.firstAt;
             line.values.push_back( word );
          } else if ( !takesMany( *line.waiting ) ) {
             line.waiting = nullptr;
@@ -63,8 +68,7 @@ Candidates optionNames( CLI::App const & verb, std::string const & typed, Line c
    for ( auto const * option : optionsOf( verb ) ) {
       std::string const name = longName( *option );
       bool const isRepeated = option->get_multi_option_policy() == CLI::MultiOptionPolicy::TakeAll;
-      bool const isGiven = std::ranges::find( line.given, name ) != line.given.end() && !isRepeated;
-      if ( name.starts_with( typed ) && !isGiven ) {
+      if ( name.starts_with( typed ) && ( isRepeated || !line.has( name ) ) ) {
          all.list.push_back( { name, option->get_description() } );
       }
    }
@@ -102,13 +106,28 @@ Candidates ofVerb( CLI::App const & verb, std::vector< std::string > const & wor
    if ( line.waiting ) {
       return valuesOf( *line.waiting, typed, line );
    }
-   auto const places = placesOf( verb );
+   auto places = placesOf( verb );
+   if ( places.size() > 1 && line.has( "--agent" ) ) { // which stands for the file that comes first
+      places.erase( places.begin() );
+   }
    std::size_t const at = line.values.size();
    if ( at < places.size() ) {
       return valuesOf( *places[at], typed, line );
    }
    bool const goesOn = !places.empty() && places.back()->get_items_expected_max() > 1;
    return goesOn ? valuesOf( *places.back(), typed, line ) : Candidates{};
+}
+
+// As the verb that `ctl` asks an agent by, where it is one.
+std::vector< std::string > withoutCtlIn( CLI::App const & app, std::vector< std::string > words ) {
+   auto const * const ctl = app.get_subcommand( words[1] );
+   Line const line = lineOf( *ctl, words );
+   if ( line.values.empty() || !isOfAgentsToo( line.values[0] ) ) {
+      return words;
+   }
+   std::vector< std::string > verb{ words[0], line.values[0], "--agent", "" };
+   verb.insert( verb.end(), words.begin() + static_cast< std::ptrdiff_t >( line.firstAt ) + 1, words.end() );
+   return verb;
 }
 
 } // namespace
@@ -143,10 +162,11 @@ std::string placeOf( CLI::Option const & option ) {
    return {};
 }
 
-void writeCompletion( std::ostream & out, CLI::App const & app, std::vector< std::string > const & words ) {
-   if ( words.size() < 2 ) {
+void writeCompletion( std::ostream & out, CLI::App const & app, std::vector< std::string > const & typed ) {
+   if ( typed.size() < 2 ) {
       return;
    }
+   auto const words = typed.size() > 2 && typed[1] == "ctl" ? withoutCtlIn( app, typed ) : typed;
    Candidates all;
    if ( words.size() == 2 ) {
       all = verbNames( app, words[1] );

@@ -21,7 +21,7 @@ class Option;
 
 namespace Cli {
 
-void writeCompletion( std::ostream & out, CLI::App const & app, std::vector< std::string > const & words );
+void writeCompletion( std::ostream & out, CLI::App const & app, std::vector< std::string > const & typed );
 
 // The name under which Candidates.h knows what an option or a place takes; empty for a flag, and where it isn't known.
 std::string placeOf( CLI::Option const & option );

@@ -42,7 +42,7 @@ Candidates ofStateAction( std::string const & typed, Before const & before ) {
 Candidates ofAgentCommand( std::string const & typed, Before const & before ) {
    if ( !before.empty() ) {
       bool const isState = before[0] == "state";
-      bool const isOfFile = before[0] == "plan" || ( isState && before.size() > 1 && before[1] == "apply" );
+      bool const isOfFile = isState && before.size() > 1 && before[1] == "apply";
       bool const isBegun = before.size() == 1;
       return isOfFile                           ? Candidates{ .files = true }
              : isState && isBegun               ? Candidates{ .list = { { "set" }, { "delete" }, { "apply" } } }

@@ -226,8 +226,12 @@ std::vector< std::string > withCommandLast( std::vector< std::string > const & w
 
 } // namespace
 
-std::vector< std::string > withoutCtl( std::vector< std::string > const & words ) {
+bool isOfAgentsToo( std::string const & verb ) {
    static constexpr std::string_view verbs[] = { "show", "why", "diff", "plan" };
+   return std::ranges::find( verbs, verb ) != std::end( verbs );
+}
+
+std::vector< std::string > withoutCtl( std::vector< std::string > const & words ) {
    if ( words.size() < 2 || words[1] != "ctl" ) {
       return words;
    }
@@ -260,7 +264,7 @@ std::vector< std::string > withoutCtl( std::vector< std::string > const & words 
    if ( at == words.size() ) {
       return words;
    }
-   if ( std::ranges::find( verbs, words[at] ) == std::end( verbs ) ) {
+   if ( !isOfAgentsToo( words[at] ) ) {
       return withCommandLast( words, at );
    }
    std::vector< std::string > verb{ words[0], words[at], "--agent", agent.empty() ? theOnlyAgent() : agent };

@@ -35,6 +35,8 @@ Action defineServe( VerbOptions & verb );
 Action defineState( VerbOptions & verb );
 Action defineCtl( VerbOptions & verb );
 
+// Whether a running agent answers the verb as files do: `l3sm show --agent`.
+bool isOfAgentsToo( std::string const & verb );
 // `l3sm ctl … show …` is `l3sm show --agent … …`, and so with the other verbs that a running agent answers.
 // InputError where no agent is named and there isn't one alone.
 std::vector< std::string > withoutCtl( std::vector< std::string > const & words );

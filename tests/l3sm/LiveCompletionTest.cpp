@@ -73,6 +73,20 @@ TEST( LiveCompletion, offersWhatAnAgentsCommandIsAbout ) {
    EXPECT_EQ( completions( { "l3sm", "ctl", "plan", "" } ), Names{ ":files" } );
 }
 
+TEST( LiveCompletion, offersOfAVerbThatAnAgentAnswersWhatItTakes ) {
+   EXPECT_EQ( completions( { "l3sm", "show", "--agent", "Linecard3", "IppdFer" } ), Names{ "IppdFerTrapCfg" } );
+   EXPECT_EQ( completions( { "l3sm", "why", "--agent=Linecard3", "IppdFerTrapCfg.cpuStr" } ),
+              Names{ "IppdFerTrapCfg.cpuStrengthN" } );
+   EXPECT_EQ( completions( { "l3sm", "diff", "--agent", "Linecard3", "" } ), Names{ ":files" } );
+   EXPECT_EQ( completions( { "l3sm", "diff", "--agent", "Linecard3", "chips.json", "" } ), Names{} );
+   EXPECT_EQ( completions( { "l3sm", "ctl", "-t", "Linecard3", "show", "IppdFer" } ), Names{ "IppdFerTrapCfg" } );
+   EXPECT_EQ( completions( { "l3sm", "ctl", "show", "IppdFerTrapCfg", "--fa" } ), Names{ "--fap" } );
+   EXPECT_EQ( completions( { "l3sm", "ctl", "--timeout", "5", "why", "--ga" } ), Names{ "--gates" } );
+   EXPECT_EQ( completions( { "l3sm", "ctl", "diff", "--ag" } ), Names{ "--agent" } ); // a second one
+   EXPECT_EQ( completions( { "l3sm", "ctl", "show", "--ag" } ), Names{} );
+   EXPECT_EQ( completions( { "l3sm", "ctl", "status", "--js" } ), Names{ "--json" } );
+}
+
 // Whichever run on this machine.
 TEST( LiveCompletion, offersTheAgentsThatHaveASocket ) {
    auto const slices = Live::slicesThere();
