@@ -48,6 +48,9 @@ int answerAgainst( CompareOptions const & options ) {
    if ( options.toggles || !options.tables.empty() ) {
       throw InputError( "--against compares all that two builds do; leave out --toggles and --table" );
    }
+   if ( options.seed && !options.random ) {
+      throw InputError( "--seed is for --random" );
+   }
    PluginComparison const comparison =
       comparePlugins( scenariosOf( options ), { .plugin = options.plugin, .against = options.against } );
    if ( options.json ) {

@@ -22,6 +22,7 @@ using namespace Inspection;
 namespace {
 
 constexpr int isMissed = 1;
+constexpr U8 wholePercent = 100;
 
 struct CoverageOptions {
    std::vector< std::string > files;
@@ -56,6 +57,12 @@ void read( Coverage & coverage, std::string const & path, std::vector< std::stri
 int answer( CoverageOptions const & options ) {
    if ( options.files.empty() && !options.random ) {
       throw InputError( "name a journal or a scenario, or give --random" );
+   }
+   if ( options.seed && !options.random ) {
+      throw InputError( "--seed is for --random" );
+   }
+   if ( options.least > wholePercent ) {
+      throw InputError( "--min " + std::to_string( *options.least ), "expected a percentage, up to 100" );
    }
    OutputFile const page( options.page );
    eachAlone( { options.page }, options.files );
