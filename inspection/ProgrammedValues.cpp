@@ -13,7 +13,6 @@ namespace Inspection {
 namespace {
 
 using Simulator::BootNoise;
-using Simulator::Row;
 using Simulator::SimulatedSwitch;
 using Simulator::Words;
 

@@ -92,11 +92,11 @@ std::vector< EndDifference > ShorterRoad::differences( Road const & road ) const
    };
    for ( std::string fap = line(); !fap.empty(); fap = line() ) {
       EndDifference it{ static_cast< U16 >( std::stoul( fap ) ), {}, {}, {}, {}, {} };
-      for ( std::string EndDifference::*part : { &EndDifference::table,
-                                                 &EndDifference::place,
-                                                 &EndDifference::field,
-                                                 &EndDifference::own,
-                                                 &EndDifference::here } ) {
+      for ( std::string EndDifference::*const part : { &EndDifference::table,
+                                                       &EndDifference::place,
+                                                       &EndDifference::field,
+                                                       &EndDifference::own,
+                                                       &EndDifference::here } ) {
          it.*part = line();
       }
       all.push_back( std::move( it ) );
@@ -131,7 +131,7 @@ Road ShorterRoad::cut( Road road, Shows const & shows ) const {
       return isShorter;
    };
    // Simple begins, alone and with the detours.
-   Road own = ownRoad( scenario_ );
+   Road const own = ownRoad( scenario_ );
    Road again = own;
    again.push_back( RoadStep::start() );
    Road const fresh = freshStart( scenario_ );

@@ -115,15 +115,15 @@ void ControlConnection::goOn() {
    }
 }
 
-void ControlConnection::answer( std::string line ) {
+void ControlConnection::answer( std::string const & line ) {
    out_ += line;
    send();
 }
 
-void ControlConnection::lastAnswer( std::string line, std::string why ) {
+void ControlConnection::lastAnswer( std::string const & line, std::string why ) {
    isLast_ = true;
    why_ = std::move( why );
-   answer( std::move( line ) );
+   answer( line );
 }
 
 void ControlConnection::busyIs( bool busy ) {

@@ -35,9 +35,9 @@ class ControlConnection {
    Peer const & peer() const { return peer_; }
    int socket() const { return socket_.number(); }
    // The line goes to the client; nothing for nobody.
-   void answer( std::string line );
+   void answer( std::string const & line );
    // The same, and then the connection ends.
-   void lastAnswer( std::string line, std::string why );
+   void lastAnswer( std::string const & line, std::string why );
    // Somebody else writes the answer; the client's next request waits until that is over.
    void busyIs( bool busy );
    // Nothing is asked, nothing under way, since then.

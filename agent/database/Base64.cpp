@@ -15,8 +15,8 @@ constexpr unsigned bits = 6; // of a letter
 constexpr auto valuesOfLetters = [] {
    std::array< U8, 256 > values{};
    values.fill( none );
-   for ( U8 at = 0; at < letters.size(); ++at ) {
-      values[static_cast< unsigned char >( letters[at] )] = at;
+   for ( std::size_t at = 0; at < letters.size(); ++at ) {
+      values[static_cast< unsigned char >( letters[at] )] = static_cast< U8 >( at );
    }
    return values;
 }();

@@ -29,6 +29,7 @@ bool readQuickly( Json::dom::element element, Event & event ) {
       return false;
    }
    event.kind = isSet ? Event::Kind::set : Event::Kind::remove;
+   bool isKnown = true;
    bool hasValue = false;
    for ( auto const [name, part] : of ) {
       std::string_view text;
@@ -44,10 +45,10 @@ bool readQuickly( Json::dom::element element, Event & event ) {
       } else if ( name == "key" ) {
          event.key = text;
       } else {
-         return false;
+         isKnown = false;
       }
    }
-   return !event.path.empty() &&
+   return isKnown && !event.path.empty() &&
           ( isSet ? hasValue && event.attribute : event.attribute.has_value() == event.key.has_value() );
 }
 

@@ -126,7 +126,7 @@ std::string withRemedy( std::string const & error ) {
 
 // What was asked, and of which of our keys: nothing else of it is told, it may be a password.
 std::string aboutOf( RedisConnection::Words const & words ) {
-   std::string about( words[0] );
+   std::string const about( words[0] );
    auto const key = std::ranges::find_if( words, []( std::string_view word ) { return word.starts_with( "l3sm:{" ); } );
    return key == words.end() ? about : about + " " + std::string( *key );
 }

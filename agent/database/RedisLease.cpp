@@ -25,8 +25,8 @@ RedisLease::RedisLease( RedisLayout const & layout, std::string const & slice )
      token_( LeaseHolder::thisProcess().text() ) {}
 
 void RedisLease::take( RedisConnection & connection,
-                       std::function< void() > ours,
-                       std::function< void( std::string const & who ) > others ) {
+                       std::function< void() > const & ours,
+                       std::function< void( std::string const & who ) > const & others ) {
    takeFrom( connection, "", ours, others );
 }
 

@@ -20,8 +20,8 @@ class RedisLease {
 
    // Takes it, or renews it. One of the two is called, unless the connection is lost.
    void take( RedisConnection & connection,
-              std::function< void() > ours,
-              std::function< void( std::string const & who ) > others );
+              std::function< void() > const & ours,
+              std::function< void( std::string const & who ) > const & others );
    // Gives it up, where it is ours: nobody needs to wait, and nobody expects an agent here.
    void release( RedisConnection & connection );
 

@@ -20,9 +20,12 @@ class RedisSession {
 
    EventLoop & loop() { return loop_; }
    RedisConnection & connection() { return connection_; }
-   void ask(
-      RedisConnection::Words const & words, RedisConnection::Answer answer = []( RedisReply ) {} ) {
+   void ask( RedisConnection::Words const & words, RedisConnection::Answer answer ) {
       connection_.ask( words, std::move( answer ) );
+   }
+   // Whatever the answer is.
+   void ask( RedisConnection::Words const & words ) {
+      ask( words, []( RedisReply ) {} );
    }
    // Until everything that was asked is answered.
    void wait();

@@ -148,7 +148,7 @@ struct ByteSource::Decompressor {
    bool isInFrame = false;
 };
 
-ByteSource::ByteSource( std::string path, Use use )
+ByteSource::ByteSource( std::string const & path, Use use )
    : path_( inputName( path ) ), isStandardInput_( path == "-" ), isLook_( use == Use::look ),
      file_( isStandardInput_ ? ::dup( STDIN_FILENO ) : ::open( path.c_str(), O_RDONLY | O_CLOEXEC ) ) {
    if ( file_ < 0 ) {

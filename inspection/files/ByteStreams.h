@@ -61,7 +61,7 @@ class ByteSource {
  public:
    // `look`: what is read of standard input is there for the next source, too.
    enum class Use : U8 { read, look };
-   explicit ByteSource( std::string path, Use use = Use::read );
+   explicit ByteSource( std::string const & path, Use use = Use::read );
    ~ByteSource();
    ByteSource( ByteSource const & ) = delete;
    ByteSource & operator=( ByteSource const & ) = delete;

@@ -184,13 +184,13 @@ Hardware::ChipType chipTypeFromValue( Value const & value ) {
    }
 }
 
-std::vector< Simulator::Words > copiesOf( std::map< U32, Simulator::Words > instances ) {
+std::vector< Simulator::Words > copiesOf( std::map< U32, Simulator::Words > const & instances ) {
    std::vector< Simulator::Words > copies;
-   for ( auto & [instance, words] : instances ) {
+   for ( auto const & [instance, words] : instances ) {
       if ( instance != copies.size() ) {
          throw ValueError( "/" + std::to_string( instance ), "expected instance " + std::to_string( copies.size() ) );
       }
-      copies.push_back( std::move( words ) );
+      copies.push_back( words );
    }
    if ( copies.size() < 2 ) {
       throw ValueError( "", "instances are two or more: give \"words\" where all hold the same" );

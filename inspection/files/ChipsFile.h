@@ -45,7 +45,7 @@ Rex::Value valueOf( Simulator::Contents const & contents );
 Simulator::Words wordsFromValue( Rex::Value const & value );
 // The copies of an entry, which files number from zero on, in whatever order. Throws Rex::ValueError where one is
 // missing, or there are no two.
-std::vector< Simulator::Words > copiesOf( std::map< U32, Simulator::Words > instances );
+std::vector< Simulator::Words > copiesOf( std::map< U32, Simulator::Words > const & instances );
 // The chip of a name; throws Rex::ValueError.
 Hardware::ChipType chipTypeFromValue( Rex::Value const & value );
 

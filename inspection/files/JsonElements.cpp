@@ -61,7 +61,9 @@ Value valueOf( dom::element element ) {
    return {};
 }
 
-static U32 wordOf( dom::element element ) {
+namespace {
+
+U32 wordOf( dom::element element ) {
    std::string_view digits;
    U32 word = 0;
    if ( element.get( digits ) || digits.size() < 3 || digits.size() > 10 || !digits.starts_with( "0x" ) ||
@@ -71,6 +73,8 @@ static U32 wordOf( dom::element element ) {
    }
    return word;
 }
+
+} // namespace
 
 void wordsInto( std::vector< U32 > & words, dom::element element ) {
    dom::array list;

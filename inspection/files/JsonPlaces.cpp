@@ -31,11 +31,10 @@ void JsonPlaces::value( std::string const & pointer ) {
    if ( auto const found = wanted_.find( pointer ); found != wanted_.end() && found->second.value == nowhere ) {
       found->second.value = at_;
    }
-   if ( !isAboveWanted( pointer ) ) {
-      skipValue();
-   } else if ( next( '{' ) ) {
+   bool const isAbove = isAboveWanted( pointer );
+   if ( isAbove && next( '{' ) ) {
       members( pointer );
-   } else if ( next( '[' ) ) {
+   } else if ( isAbove && next( '[' ) ) {
       elements( pointer );
    } else {
       skipValue();

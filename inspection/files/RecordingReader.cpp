@@ -5,6 +5,7 @@
 #include "inspection/files/Json.h"
 
 #include <charconv>
+#include <utility>
 
 namespace Inspection {
 
@@ -33,7 +34,7 @@ RecordedPosition positionOf( Value const & value ) {
 
 } // namespace
 
-RecordingReader::RecordingReader( std::string path ) : path_( inputName( path ) ), source_( std::move( path ) ) {
+RecordingReader::RecordingReader( std::string const & path ) : path_( inputName( path ) ), source_( path ) {
    std::string line;
    bool isWhole = false;
    if ( !nextLine( line, isWhole ) ) {

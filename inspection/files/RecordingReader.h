@@ -46,7 +46,7 @@ struct RecordedEvent {
 
 class RecordingReader {
  public:
-   explicit RecordingReader( std::string path );
+   explicit RecordingReader( std::string const & path );
 
    std::string const & path() const { return path_; }
    RecordingBegin const & begun() const { return begun_; }

@@ -15,7 +15,6 @@ namespace Inspection {
 
 namespace {
 
-using Rex::Attribute;
 using Rex::Codec;
 using Rex::Value;
 using Object = Rex::Value::Object;

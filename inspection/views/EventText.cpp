@@ -53,7 +53,7 @@ class EventText {
          Block block = blockOf( rows );
          auto const known = std::ranges::find_if( alike, [&]( auto const & one ) { return one.first == block; } );
          if ( known == alike.end() ) {
-            alike.push_back( { std::move( block ), { fap } } );
+            alike.emplace_back( std::move( block ), std::set< U16 >{ fap } );
          } else {
             known->second.insert( fap );
          }

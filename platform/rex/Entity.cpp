@@ -119,7 +119,9 @@ Attribute const * TypeData::holderOf( Entity const & of, Entity const & child ) 
    return base_ ? base_->holderOf( of, child ) : nullptr;
 }
 
-static std::string unknownAttribute( TypeData const & type, std::string const & name ) {
+namespace {
+
+std::string unknownAttribute( TypeData const & type, std::string const & name ) {
    std::vector< std::string > names;
    std::string all;
    for ( auto const * attribute : type.attributes() ) {
@@ -130,6 +132,8 @@ static std::string unknownAttribute( TypeData const & type, std::string const & 
    return type.name() + " has no attribute \"" + name + "\"" + near + ( near.empty() ? "; it has " : " It has " ) +
           ( all.empty() ? "none" : all );
 }
+
+} // namespace
 
 Attribute const & attributeOf( TypeData const & type, std::string const & name ) {
    if ( auto const * attribute = type.attribute( name ) ) {
