@@ -11,13 +11,15 @@ struct CentralDatabase : testing::TestWithParam< char const * > {
    std::unique_ptr< CentralServer > server = serverOf( GetParam() );
 
    // Its right to serve outlasts a loop that stands still, for as long as a busy machine takes to write much.
-   std::unique_ptr< Live::Database > patient( Live::EventLoop & loop ) const {
-      constexpr U32 leaseSeconds = 600;
-      if ( Live::EtcdAddress::isOne( server->url() ) ) {
-         return std::make_unique< Live::EtcdDatabase >(
-            loop, Live::EtcdAddress::of( server->url(), {} ), 1, "Linecard3", leaseSeconds );
-      }
-      return Live::databaseAt( loop, server->url(), {}, 1, "Linecard3" );
+   DatabaseFollower::Make patient() const {
+      return [url = server->url()]( Live::EventLoop & loop ) -> std::unique_ptr< Live::Database > {
+         constexpr U32 leaseSeconds = 600;
+         if ( Live::EtcdAddress::isOne( url ) ) {
+            return std::make_unique< Live::EtcdDatabase >(
+               loop, Live::EtcdAddress::of( url, {} ), 1, "Linecard3", leaseSeconds );
+         }
+         return Live::databaseAt( loop, url, {}, 1, "Linecard3" );
+      };
    }
 };
 
@@ -77,7 +79,7 @@ TEST_P( CentralDatabase, cannotBeReachedWhereNobodyListens ) {
 
 TEST_P( CentralDatabase, tellsAsMuchAsIsTakenAndTheRestLater ) {
    server->load();
-   DatabaseFollower follower( [this]( Live::EventLoop & loop ) { return patient( loop ); } );
+   DatabaseFollower follower( patient() );
    ASSERT_TRUE( follower.until( [&] { return follower.hasBegun; } ) );
    server->writeMany( 1500 ); // while it doesn't look
    ASSERT_TRUE( follower.untilAt( server->lastEntry() ) );
@@ -91,7 +93,7 @@ TEST_P( CentralDatabase, tellsNoMoreThanIsAskedFor ) {
    constexpr std::size_t many = 1200;
    constexpr std::size_t some = 300;
    server->load();
-   DatabaseFollower follower( [this]( Live::EventLoop & loop ) { return patient( loop ); } );
+   DatabaseFollower follower( patient() );
    follower.rests = true;
    ASSERT_TRUE( follower.until( [&] { return follower.hasBegun; } ) );
    server->write( "vxlanEnabled", "true" );

@@ -58,12 +58,11 @@ class ServedExample {
    void play() {
       EXPECT_EQ( ask( "ctl --socket a.ctl state apply events.json" ),
                  std::to_string( events_.size() ) + ( events_.size() == 1 ? " event\n" : " events\n" ) );
-      hasPlayed( events_.size() );
+      waitsUntilPlayed( events_.size() );
       EXPECT_EQ( ask( "run whole.json --quiet --chips chips.json --journal run.jsonl --state state.json" ), "" );
       EXPECT_EQ( ask( "run switch.json --quiet --chips before.json" ), "" );
    }
-   // Waits until it has.
-   void hasPlayed( std::size_t events ) {
+   void waitsUntilPlayed( std::size_t events ) {
       auto const count = "\"events\": " + std::to_string( events ) + ",";
       until( [&] { return ask( "ctl --socket a.ctl status --json" ).find( count ) != std::string::npos; } );
    }
@@ -198,7 +197,7 @@ TEST( ControlAnswers, FollowWhatTheAgentIsTold ) {
    EXPECT_NE( agent.ask( "ctl --socket a.ctl state evpn/status" ).find( "vxlanEnabled    no" ), std::string::npos )
       << agent.folder.text( ".out" );
    EXPECT_EQ( agent.ask( "ctl --socket a.ctl thaw" ), "running\n" );
-   agent.hasPlayed( 1 );
+   agent.waitsUntilPlayed( 1 );
    EXPECT_NE( agent.ask( "ctl --socket a.ctl state evpn/status --json" ).find( "\"vxlanEnabled\": true" ),
               std::string::npos );
    EXPECT_NE( agent.ask( "ctl --socket a.ctl trace set DaceFapNiL3Sm 9" ).find( "DaceFapNiL3Sm" ), std::string::npos );
@@ -213,7 +212,7 @@ TEST( ControlAnswers, PlayATransactionOfAScenarioAsOneEvent ) {
       {"set": {"path": "evpn/status", "attribute": "vxlanEnabled", "value": true}},
       {"set": {"path": "evpn/status", "attribute": "evpnDciEnabled", "value": true}}]}]})" );
    EXPECT_EQ( agent.ask( "ctl --socket a.ctl state apply transaction.json" ), "1 event\n" );
-   agent.hasPlayed( 1 );
+   agent.waitsUntilPlayed( 1 );
    auto const state = agent.ask( "ctl --socket a.ctl state evpn/status --json" );
    EXPECT_NE( state.find( "\"vxlanEnabled\": true" ), std::string::npos ) << state;
    EXPECT_NE( state.find( "\"evpnDciEnabled\": true" ), std::string::npos ) << state;

@@ -140,10 +140,7 @@ class ControlWorld {
    // Until it is so; the server has still to hear of what clients have done.
    template< class Condition >
    bool turnsUntil( Condition const & holds ) {
-      return soon( [&] {
-         loop.turn( 0.002 );
-         return holds();
-      } );
+      return soon( holds, [this] { loop.turn( 0.002 ); } );
    }
 
    Folder const folder;

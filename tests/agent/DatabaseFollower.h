@@ -46,14 +46,7 @@ class DatabaseFollower : public Live::Database::Follower {
    // Turns the loop until it is so.
    template< class Condition >
    bool until( Condition const & holds ) {
-      auto const start = std::chrono::steady_clock::now();
-      while ( !holds() ) {
-         if ( std::chrono::steady_clock::now() - start > longestWait ) {
-            return false;
-         }
-         loop.turn( 0.01 );
-      }
-      return true;
+      return soon( holds, [this] { loop.turn( 0.01 ); } );
    }
    bool untilFollowing() {
       return until( [this] { return isFollowing; } );
